@@ -1,0 +1,20 @@
+# One target that carries the language level, the warnings and the sanitizers of every target of ours.
+add_library(tessaly_flags INTERFACE)
+target_compile_features(tessaly_flags INTERFACE cxx_std_20)
+target_compile_options(
+  tessaly_flags
+  INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion -Wnon-virtual-dtor
+            -Wold-style-cast -Woverloaded-virtual -Wnull-dereference -Wimplicit-fallthrough)
+if(TESSALY_SANITIZE)
+  target_compile_options(tessaly_flags INTERFACE -fsanitize=${TESSALY_SANITIZE}
+                                                 -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(tessaly_flags INTERFACE -fsanitize=${TESSALY_SANITIZE})
+endif()
+
+# What every target that sees Qt has besides: no silent conversion of bytes to text.
+add_library(tessaly_qt_flags INTERFACE)
+target_compile_definitions(
+  tessaly_qt_flags
+  INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY
+            QT_NO_URL_CAST_FROM_STRING QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_NO_KEYWORDS
+            QT_USE_QSTRINGBUILDER QT_DISABLE_DEPRECATED_BEFORE=0x060400)

@@ -1,0 +1,14 @@
+include(GoogleTest)
+find_package(GTest REQUIRED)
+
+# Adds a test program made of GoogleTest files; every test of it becomes one of CTest's.
+function(tessaly_add_test name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES;PROPERTIES" ${ARGN})
+  add_executable(${name} ${ARG_SOURCES})
+  target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
+  target_compile_definitions(
+    ${name} PRIVATE TESSALY_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data"
+                    TESSALY_DATA="${PROJECT_SOURCE_DIR}/data")
+  target_link_libraries(${name} PRIVATE tessaly_flags ${ARG_LIBRARIES})
+  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST PROPERTIES TIMEOUT 300 ${ARG_PROPERTIES})
+endfunction()
