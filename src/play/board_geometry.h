@@ -183,11 +183,10 @@ constexpr Point marksCentre(CellId cell) {
 /// wide. Three quarters of the triangle lie in it, and a wider one would take more from a neighbour
 /// than it gives. Together the rectangles cover the board without a gap:
 ///
-///          ___________                 ___________
-///         /\    |    /\               |   |   |   |
-///        /  \ 2 | 2  /  \     drawn:   | 1 | 2 | 3 |   :answering
-///       / 1  \  |  / 3  \             |___|___|___|
-///      /______\ | /______\            | 6 | 5 | 4 |
+///         _______            ___________
+///        / \ 2 / \          |   |   |   |
+///       / 1 \ / 3 \         | 1 | 2 | 3 |
+///      /_____V_____\        |___|___|___|
 ///
 constexpr Rect hitRectangle(CellId cell) {
     const bool upperHalf = cell.position <= CellCount / 2;

@@ -1,0 +1,193 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "play/board_renderer.h"
+
+#include "board/tables.h"
+#include "play/board_geometry.h"
+#include "play/entry_layout.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace tessaly {
+namespace {
+
+QPointF toQt(Point p) {
+    return {p.x, p.y};
+}
+
+QPolygonF outlineOf(int hexagon) {
+    QPolygonF outline;
+    for (Point corner : hexagonCorners(hexagon))
+        outline << toQt(corner);
+    return outline;
+}
+
+/// Keeps the painter's state and gives it back at the end of its life.
+class PainterState {
+public:
+    explicit PainterState(QPainter& painter)
+        : m_painter(painter) {
+        m_painter.save();
+        m_painter.setRenderHint(QPainter::Antialiasing);
+    }
+    ~PainterState() { m_painter.restore(); }
+    PainterState(const PainterState&) = delete;
+    PainterState& operator=(const PainterState&) = delete;
+
+private:
+    QPainter& m_painter;
+};
+
+/// The width of the lines between cells. Borders are at least as wide.
+constexpr double CellLineWidth = 1;
+
+/// A line's width in pixels. A wider border stays wider in the smallest picture.
+double wholePixels(double width, double scale) {
+    const double least = width > CellLineWidth ? 2 : 1;
+    return std::max(least, std::round(width * scale));
+}
+
+/// Gives the painter a pen. A line of a whole number of pixels is sharp when its middle lies on a
+/// pixel's edge (an even width) or in a pixel's middle (an odd one), so with `Fit::ToPixels` the
+/// painter is moved by half a pixel for an odd width.
+void takePen(QPainter& painter, Colour colour, double width, Fit fit) {
+    if (fit == Fit::ToPixels) {
+        const QTransform toDevice = painter.deviceTransform();
+        const double pixels = wholePixels(width, toDevice.m22());
+        width = pixels / toDevice.m22();
+        if (std::fmod(pixels, 2) != 0)
+            painter.translate(0.5 / toDevice.m11(), 0.5 / toDevice.m22());
+    }
+    painter.setPen(QPen(toQColor(colour), width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+}
+
+} // namespace
+
+QColor toQColor(Colour colour) {
+    return {RedOf(colour), GreenOf(colour), BlueOf(colour)};
+}
+
+BoardRenderer::BoardRenderer(QPainter& painter, const Board& board, const Appearance& appearance,
+                             Fit lines)
+    : m_painter(painter)
+    , m_board(board)
+    , m_style(boardStyle(appearance))
+    , m_lines(lines)
+    , m_font(appearance.NumberFont)
+    , m_face(m_font)
+    , m_numerals(m_face, {}, Fit::Exact) {}
+
+void BoardRenderer::DrawHexagon(int hexagon) {
+    if (!isHexagon(hexagon))
+        return;
+    const PainterState state(m_painter);
+    fillHexagon(hexagon);
+    drawCellLines(hexagon);
+    {
+        const PainterState border(m_painter);
+        takePen(m_painter, m_style.border, m_style.borderWidth, m_lines);
+        m_painter.setBrush(Qt::NoBrush);
+        m_painter.drawPolygon(outlineOf(hexagon));
+    }
+    drawEntries(hexagon);
+}
+
+void BoardRenderer::DrawBoard() {
+    const PainterState state(m_painter);
+    for (int hexagon = 1; hexagon <= HexagonCount; ++hexagon) {
+        fillHexagon(hexagon);
+        drawCellLines(hexagon);
+    }
+    drawSharedBorders();
+    for (int hexagon = 1; hexagon <= HexagonCount; ++hexagon)
+        drawEntries(hexagon);
+}
+
+void BoardRenderer::fillHexagon(int hexagon) {
+    m_painter.setPen(Qt::NoPen);
+    m_painter.setBrush(toQColor(m_board.isBlank(hexagon) ? m_style.solid : m_style.fill));
+    m_painter.drawPolygon(outlineOf(hexagon));
+}
+
+void BoardRenderer::drawCellLines(int hexagon) {
+    if (m_board.isBlank(hexagon))
+        return;
+    const PainterState state(m_painter);
+    takePen(m_painter, m_style.line, CellLineWidth, m_lines);
+    const auto corners = hexagonCorners(hexagon);
+    for (std::size_t i = 0; i < corners.size() / 2; ++i)
+        m_painter.drawLine(toQt(corners[i]), toQt(corners[i + corners.size() / 2]));
+}
+
+void BoardRenderer::drawSharedBorders() {
+    QPainterPath borders;
+    for (CellId cell : AllCells) {
+        const CellId across = SideLink[cell];
+        if (across && across.hexagon < cell.hexagon)
+            continue;
+        const auto triangle = cellTriangle(cell);
+        borders.moveTo(toQt(triangle[1]));
+        borders.lineTo(toQt(triangle[2]));
+    }
+    const PainterState state(m_painter);
+    takePen(m_painter, m_style.border, m_style.borderWidth, m_lines);
+    m_painter.setBrush(Qt::NoBrush);
+    m_painter.drawPath(borders);
+}
+
+void BoardRenderer::drawEntries(int hexagon) {
+    if (m_board.isBlank(hexagon))
+        return;
+    for (int position = 1; position <= CellCount; ++position)
+        drawEntry({hexagon, position});
+}
+
+template <class Draw>
+void BoardRenderer::forEachDigit(CellId cell, Draw draw) const {
+    layOutEntry(
+        m_board.CellNum[cell],
+        [&](int digit) {
+            const QPointF pen = toQt(numberCentre(cell)) + m_numerals.numberPen();
+            draw(m_numerals.number(digit).translated(pen));
+        },
+        [&](int digit, int place) {
+            const QPointF pen = toQt(marksCentre(cell)) + m_numerals.markPen(place);
+            draw(m_numerals.mark(digit).translated(pen));
+        });
+}
+
+void BoardRenderer::drawEntry(CellId cell) {
+    const Colour colour = m_board.FixedCell[cell] ? m_style.fixedNumber : m_style.userNumber;
+    forEachDigit(cell,
+                 [&](const QPainterPath& digit) { m_painter.fillPath(digit, toQColor(colour)); });
+}
+
+void BoardRenderer::eraseEntry(CellId cell) {
+    constexpr double Rim = 0.5; // where smoothed edges fade out
+    forEachDigit(cell, [&](const QPainterPath& digit) {
+        m_painter.fillRect(digit.boundingRect().adjusted(-Rim, -Rim, Rim, Rim),
+                           toQColor(m_style.fill));
+    });
+}
+
+void BoardRenderer::DrawSolution(Colour colour) {
+    const DigitFace bold(m_font, true);
+    const Numerals numerals(bold, {}, Fit::Exact);
+    const PainterState state(m_painter);
+    for (CellId cell : AllCells) {
+        if (m_board.isBlank(cell.hexagon) || m_board.FixedCell[cell])
+            continue;
+        eraseEntry(cell);
+        const auto write = [&](int digit) {
+            const QPointF pen = toQt(numberCentre(cell)) + numerals.numberPen();
+            m_painter.fillPath(numerals.number(digit).translated(pen), toQColor(colour));
+        };
+        layOutEntry(m_board.SolNum[cell], write, [](int, int) {});
+    }
+}
+
+} // namespace tessaly

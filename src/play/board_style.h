@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "options/appearance.h"
+
+namespace tessaly {
+
+/// The colours and the border that the board is drawn with.
+struct BoardStyle {
+    Colour background;
+    Colour border;
+    /// The lines that part the cells of a hexagon.
+    Colour line;
+    Colour fill;
+    /// The fill of the blank hexagon.
+    Colour solid;
+    Colour fixedNumber;
+    Colour userNumber;
+    /// In board units.
+    double borderWidth;
+};
+
+/// Spaced hexagons have a border in the background's colour, somewhat wider than the plain one.
+/// Their cells' lines and the blank hexagon keep the border colour, for in the background's they
+/// would vanish.
+BoardStyle boardStyle(const Appearance& appearance);
+
+/// `share` (0 to 1) of `over` mixed into `under`.
+Colour mixed(Colour under, Colour over, double share);
+
+} // namespace tessaly

@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "play/hexagon_tag.h"
+
+#include "play/board_geometry.h"
+#include "play/board_renderer.h"
+#include "play/numerals.h"
+
+#include <QPainter>
+#include <QString>
+
+namespace tessaly {
+namespace {
+
+struct TagColours {
+    Colour face;
+    Colour text;
+};
+
+/// Quieter than the numbers of the game, and inverted while the tag is held down.
+TagColours tagColours(Colour fill, TagState state) {
+    const Colour text = mixed(fill, readableOn(fill), 0.7);
+    switch (state) {
+    case TagState::Hovered:
+        return {mixed(fill, text, 0.15), readableOn(fill)};
+    case TagState::Pressed:
+        return {text, fill};
+    case TagState::Plain:
+        break;
+    }
+    return {fill, text};
+}
+
+/// The digits of a hexagon's number side by side, centred on the origin.
+QPainterPath tagText(const DigitFace& face, int hexagon, double size) {
+    QPainterPath text;
+    double pen = 0;
+    for (const QChar digit : QString::number(hexagon)) {
+        text.addPath(face.outline(digit.digitValue()).translated(pen, 0));
+        pen += face.advance(digit.digitValue());
+    }
+    text = QTransform::fromScale(size, size).map(text);
+    return text.translated(-text.boundingRect().center().x(), size * face.height() / 2);
+}
+
+} // namespace
+
+void drawTag(QPainter& painter, const QRectF& area, int hexagon, const Appearance& appearance,
+             TagState state) {
+    const double unit = area.height() / TagHeight;
+    const TagColours colours = tagColours(appearance.HexaFillColour, state);
+    const DigitFace face(appearance.NumberFont);
+    const QRectF frame = area.adjusted(unit, unit, -unit, -unit);
+    const double radius = frame.height() / 2;
+
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(toQColor(colours.face));
+    painter.setPen(appearance.NumBorder ? QPen(toQColor(appearance.HexaBorderColour), unit)
+                                        : QPen(Qt::NoPen));
+    painter.drawRoundedRect(frame, radius, radius);
+    painter.fillPath(tagText(face, hexagon, MarkSize * unit).translated(frame.center()),
+                     toQColor(colours.text));
+    painter.restore();
+}
+
+} // namespace tessaly
