@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "board/file_descriptor.h"
+
+#include <string>
+
+namespace tessaly {
+
+/// Where a file lies that is to be written, all symbolic links followed: its open folder and its
+/// name in there. The file itself need not exist.
+struct FilePlace {
+    /// As the user named it, for messages.
+    std::filesystem::path path;
+    FileDescriptor folder;
+    std::string name;
+
+    static Outcome find(const std::filesystem::path& path, FilePlace& place);
+};
+
+/// A file that no other instance of this program writes while this object lives. A file that does
+/// not exist yet is locked by its folder.
+class LockedFile {
+public:
+    /// Waits ten seconds at most for another instance. Refuses what is no regular file, and a file
+    /// that may not be written.
+    Outcome lock(const std::filesystem::path& path);
+
+    bool exists() const { return m_file.isOpen(); }
+    const FileDescriptor& file() const { return m_file; }
+    const FilePlace& place() const { return m_place; }
+    const FileState& state() const { return m_state; }
+
+    /// Fails when a program that knows nothing of the lock has changed the file since.
+    Outcome checkUnchanged() const;
+    /// Takes the file's state anew, after writing to it.
+    Outcome refresh();
+
+private:
+    bool attempt(Outcome& outcome);
+    bool attemptFile(Outcome& outcome);
+    bool attemptFolder(Outcome& outcome);
+
+    FilePlace m_place;
+    FileDescriptor m_file;
+    FileState m_state;
+};
+
+} // namespace tessaly
