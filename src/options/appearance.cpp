@@ -20,11 +20,16 @@ double luminanceOf(Colour colour) {
 
 } // namespace
 
+double contrastRatio(Colour one, Colour other) {
+    const double first = luminanceOf(one) + 0.05;
+    const double second = luminanceOf(other) + 0.05;
+    return first > second ? first / second : second / first;
+}
+
 Colour readableOn(Colour background) {
-    const double luminance = luminanceOf(background);
-    const double againstWhite = 1.05 / (luminance + 0.05);
-    const double againstBlack = (luminance + 0.05) / 0.05;
-    return againstBlack >= againstWhite ? Black : White;
+    const bool blackReadsBetter =
+        contrastRatio(Black, background) >= contrastRatio(White, background);
+    return blackReadsBetter ? Black : White;
 }
 
 } // namespace tessaly
