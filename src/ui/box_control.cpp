@@ -1,0 +1,206 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "ui/box_control.h"
+
+#include "ui/box_face.h"
+#include "ui/qt_colour.h"
+
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QMetaMethod>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPointer>
+
+#include <algorithm>
+
+namespace tessaly {
+namespace {
+
+constexpr int PaddingBesideCaption = 14;
+constexpr int PaddingBesidePicture = 7;
+constexpr int PaddingAbove = 7;
+constexpr int Gap = 7;
+constexpr int PictureSize = 24;
+
+bool isEnter(const QKeyEvent& event) {
+    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+} // namespace
+
+BoxControl::BoxControl(QWidget* parent)
+    : QAbstractButton(parent) {
+    setAttribute(Qt::WA_Hover);
+    // A click leaves the focus where it is: on the board, mostly.
+    setFocusPolicy(Qt::TabFocus);
+    setIconSize({PictureSize, PictureSize});
+    setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
+}
+
+BoxControl::BoxControl(const QString& caption, QWidget* parent)
+    : BoxControl(parent) {
+    setText(caption);
+}
+
+BoxControl::BoxControl(Picture picture, const QString& toolTip, QWidget* parent)
+    : BoxControl(parent) {
+    setPicture(picture);
+    setToolTip(toolTip);
+}
+
+void BoxControl::setPicture(Picture picture) {
+    m_picture = picture;
+    updateGeometry();
+    update();
+}
+
+QColor BoxControl::faceColour() const {
+    return m_face.isValid() ? m_face : palette().color(QPalette::Active, QPalette::Button);
+}
+
+void BoxControl::setFaceColour(const QColor& colour) {
+    m_face = colour;
+    update();
+}
+
+QColor BoxControl::textColour() const {
+    if (!isEnabled())
+        return fadedOn(faceColour());
+    return m_text.isValid() ? m_text : readableOn(faceColour());
+}
+
+void BoxControl::setTextColour(const QColor& colour) {
+    m_text = colour;
+    update();
+}
+
+void BoxControl::setLatched(bool latched) {
+    setCheckable(true);
+    setChecked(latched);
+}
+
+QSize BoxControl::sizeHint() const {
+    ensurePolished();
+    const bool pictured = m_picture != Picture::None;
+    const QSize caption =
+        text().isEmpty() ? QSize() : fontMetrics().size(Qt::TextShowMnemonic, text());
+    int width = 2 * (text().isEmpty() ? PaddingBesidePicture : PaddingBesideCaption);
+    int height = 0;
+    if (pictured) {
+        width += iconSize().width();
+        height = iconSize().height();
+    }
+    if (!text().isEmpty()) {
+        width += caption.width() + (pictured ? Gap : 0);
+        height = std::max(height, caption.height());
+    }
+    return {width, height + 2 * PaddingAbove};
+}
+
+bool BoxControl::event(QEvent* event) {
+    if (event->type() == QEvent::ToolTipChange)
+        nameAfterToolTip();
+    return QAbstractButton::event(event);
+}
+
+void BoxControl::nameAfterToolTip() {
+    if (!text().isEmpty() || accessibleName() != m_nameFromToolTip)
+        return;
+    m_nameFromToolTip = toolTip();
+    setAccessibleName(m_nameFromToolTip);
+}
+
+bool BoxControl::answersAlternateClicks() const {
+    return isSignalConnected(QMetaMethod::fromSignal(&BoxControl::alternateClicked));
+}
+
+void BoxControl::mousePressEvent(QMouseEvent* event) {
+    QAbstractButton::mousePressEvent(event);
+    if (event->button() == Qt::RightButton && answersAlternateClicks()) {
+        m_alternateDown = true;
+        update();
+    }
+    event->accept();
+    Q_EMIT mousePressed(event);
+}
+
+void BoxControl::mouseMoveEvent(QMouseEvent* event) {
+    QAbstractButton::mouseMoveEvent(event);
+    Q_EMIT mouseMoved(event);
+}
+
+void BoxControl::mouseReleaseEvent(QMouseEvent* event) {
+    const QPointer<BoxControl> self(this);
+    QAbstractButton::mouseReleaseEvent(event);
+    event->accept();
+    if (self)
+        Q_EMIT mouseReleased(event);
+    if (!self || event->button() != Qt::RightButton || !m_alternateDown)
+        return;
+    m_alternateDown = false;
+    update();
+    if (hitButton(event->position().toPoint()))
+        Q_EMIT alternateClicked();
+}
+
+void BoxControl::keyPressEvent(QKeyEvent* event) {
+    const QPointer<BoxControl> self(this);
+    if (!isEnter(*event))
+        QAbstractButton::keyPressEvent(event);
+    else if (!event->isAutoRepeat())
+        click();
+    if (self)
+        Q_EMIT keyPressed(event);
+}
+
+void BoxControl::keyReleaseEvent(QKeyEvent* event) {
+    const QPointer<BoxControl> self(this);
+    QAbstractButton::keyReleaseEvent(event);
+    if (self)
+        Q_EMIT keyReleased(event);
+}
+
+void BoxControl::focusOutEvent(QFocusEvent* event) {
+    m_alternateDown = false;
+    QAbstractButton::focusOutEvent(event);
+}
+
+void BoxControl::contextMenuEvent(QContextMenuEvent* event) {
+    if (event->reason() == QContextMenuEvent::Keyboard)
+        Q_EMIT alternateClicked();
+}
+
+void BoxControl::paintEvent(QPaintEvent*) {
+    const bool sunk = isDown() || isLatched() || m_alternateDown;
+    QPainter painter(this);
+    drawBoxFace(painter, rect(),
+                {.colour = faceColour(),
+                 .sunk = sunk,
+                 .hovered = underMouse(),
+                 .focused = hasFocus(),
+                 .enabled = isEnabled()});
+    drawContents(painter, QRectF(rect()).translated(sunk ? 1 : 0, sunk ? 1 : 0));
+}
+
+void BoxControl::drawContents(QPainter& painter, const QRectF& area) const {
+    const bool pictured = m_picture != Picture::None;
+    const bool captioned = !text().isEmpty();
+    const QSizeF caption =
+        captioned ? QSizeF(fontMetrics().size(Qt::TextShowMnemonic, text())) : QSizeF(0, 0);
+    const QSizeF picture = pictured ? QSizeF(iconSize()) : QSizeF(0, 0);
+    const double gap = pictured && captioned ? Gap : 0;
+    QRectF contents(0, 0, picture.width() + gap + caption.width(), area.height());
+    contents.moveCenter(area.center());
+
+    QRectF place(contents.topLeft(), QSizeF(picture.width(), area.height()));
+    place.moveTop(std::round(area.center().y() - picture.height() / 2));
+    place.setHeight(picture.height());
+    drawPicture(painter, place, m_picture, textColour());
+    painter.setPen(textColour());
+    painter.drawText(contents.adjusted(picture.width() + gap, 0, 0, 0),
+                     Qt::AlignCenter | Qt::TextShowMnemonic, text());
+}
+
+} // namespace tessaly

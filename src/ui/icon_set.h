@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QColor>
+#include <QIcon>
+#include <QPixmap>
+
+class QPainter;
+
+namespace tessaly {
+
+/// The pictures of the program. Those for buttons are line drawings that take whatever colour they
+/// are drawn in; the others have colours of their own.
+enum class Picture {
+    None,
+    // Line drawings.
+    Load,
+    Previous,
+    Next,
+    Create,
+    Undo,
+    Reset,
+    ShowSolution,
+    PencilMarks,
+    SetPairs,
+    SetSingles,
+    Eraser,
+    CopySides,
+    SingleCandidate,
+    Close,
+    Save,
+    Delete,
+    Print,
+    // Coloured drawings.
+    Question,
+    Exclamation,
+    Information,
+    Error,
+    Critical,
+    Happy,
+    TrashCan,
+    Printer,
+    Light,
+    Product,
+};
+
+/// Draws a picture as large as fits into the middle of `area`; a line drawing in `colour`.
+void drawPicture(QPainter& painter, const QRectF& area, Picture picture, const QColor& colour);
+
+/// A square pixmap of `size` logical pixels, sharp at the given device-pixel ratio.
+QPixmap pixmapOf(Picture picture, int size, const QColor& colour, double devicePixelRatio = 1);
+
+/// The program's own icon, in the sizes that window systems ask for.
+QIcon productIcon();
+
+} // namespace tessaly
