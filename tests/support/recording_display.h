@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "play/board_input.h"
+#include "play/display.h"
+
+#include <string>
+#include <vector>
+
+namespace tessaly {
+
+/// A window that only remembers what it was asked to show.
+struct RecordingDisplay : Display, InputDisplay {
+    void DrawHexagon(int hexagon) override { drawn.push_back(hexagon); }
+    void DrawBoard() override { ++boardsDrawn; }
+    void DrawSolution(Colour) override { ++solutionsDrawn; }
+    void showMessage(std::string_view text) override { message = text; }
+    void focusBoard() override { ++focused; }
+    void yield() override { ++yields; }
+
+    void showSelection(CellId cell) override { marker = cell; }
+    void showPopup(Point corner, bool upwards) override {
+        popupShown = true;
+        popupCorner = corner;
+        popupUpwards = upwards;
+    }
+    void hidePopup() override { popupShown = false; }
+    void showPalette(int pressedItem) override { palette = pressedItem; }
+
+    std::vector<int> drawn;
+    int boardsDrawn = 0;
+    int solutionsDrawn = 0;
+    int focused = 0;
+    int yields = 0;
+    std::string message;
+    CellId marker;
+    bool popupShown = false;
+    bool popupUpwards = false;
+    Point popupCorner;
+    int palette = BoardInput::NoPaletteItem;
+};
+
+} // namespace tessaly
