@@ -177,6 +177,11 @@ void BoardInput::openPopupAtSelection() {
         Picture2_MouseDown(PointerButton::Right, numberCentre(m_selection));
 }
 
+void BoardInput::pointerLeft() {
+    if (!m_busy.creating)
+        select({});
+}
+
 void BoardInput::forgetSelection() {
     m_selection = {};
     m_popupTarget = {};

@@ -63,6 +63,9 @@ public:
     /// Opens the pop-up at the selected cell, as a right press there would.
     void openPopupAtSelection();
 
+    /// The pointer is no longer over the board.
+    void pointerLeft();
+
     /// Another puzzle is on the board: nothing is selected any more.
     void forgetSelection();
 

@@ -13,7 +13,8 @@ std::string NumText(int number) {
 }
 
 bool Game::isSelectable(CellId cell) const {
-    return cell && !board.FixedCell[cell] && !board.isBlank(cell.hexagon);
+    const bool hasPuzzle = cell && !board.SolNum[cell].empty();
+    return hasPuzzle && !board.FixedCell[cell] && !board.isBlank(cell.hexagon);
 }
 
 void Game::startPuzzle() {

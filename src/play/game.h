@@ -28,7 +28,7 @@ public:
     Grid<bool> TouchedCell;
     UndoList undoList;
 
-    /// Whether the player may enter anything in the cell.
+    /// Whether the player may enter anything in the cell: never while no puzzle is loaded.
     bool isSelectable(CellId cell) const;
 
     /// Forgets the play of the puzzle before: call after another puzzle was put on the board.

@@ -19,6 +19,8 @@ namespace {
 
 class BoardInputTest : public testing::Test {
 protected:
+    BoardInputTest() { game.board = puzzleWithoutGivens(); }
+
     void pointAt(CellId cell) { input.Picture2_MouseMove(numberCentre(cell)); }
     void click(PointerButton button = PointerButton::Left) {
         input.Picture2_MouseDown(button, numberCentre(input.selection()));
@@ -184,7 +186,7 @@ TEST_F(BoardInputTest, NothingIsEnteredWhilePuzzlesAreCreated) {
     input.digt_MouseUp(3, PointerButton::Left);
     EXPECT_EQ(prompts.shown.size(), 1u);
     EXPECT_EQ(display.palette, BoardInput::NoPaletteItem);
-    EXPECT_EQ(game.board, Board{});
+    EXPECT_EQ(game.board, puzzleWithoutGivens());
 }
 
 /// The cells that the arrow keys reach from the first one.

@@ -111,6 +111,8 @@ TEST(Game, ResetKeepsTheGivensAndForgetsTheRest) {
 
 TEST(Game, GivensAndTheBlankHexagonCannotBeSelected) {
     Game game;
+    EXPECT_FALSE(game.isSelectable({1, 2})) << "no puzzle";
+    game.board = puzzleWithoutGivens();
     game.board.BlankHex = 5;
     game.board.FixedCell[1][1] = true;
     EXPECT_FALSE(game.isSelectable({1, 1}));

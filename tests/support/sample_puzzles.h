@@ -33,4 +33,12 @@ inline Board boardOf(const std::string& record) {
     return board;
 }
 
+/// A puzzle of which nothing is given and nothing known, so that every cell may be filled.
+inline Board puzzleWithoutGivens() {
+    Board board;
+    for (CellId cell : AllCells)
+        board.SolNum[cell] = "0";
+    return board;
+}
+
 } // namespace tessaly
