@@ -67,7 +67,7 @@ QColor faceShade(const BoxFace& face) {
 void drawFocusRing(QPainter& painter, const QRectF& area, const QColor& face) {
     const double width = 2 * borderWidth(painter);
     const double inset = 1.5 * width;
-    painter.setPen(QPen(blended(face, readableOn(face), 0.6), width));
+    painter.setPen(QPen(blended(face, readableOn(face), 0.5), width));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(area.adjusted(inset, inset, -inset, -inset), CornerRadius - 2,
                             CornerRadius - 2);

@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "ui/scheme_palette.h"
+
+#include "ui/qt_colour.h"
+
+namespace tessaly {
+namespace {
+
+QColor slotColour(const Appearance& appearance, std::size_t slot) {
+    return toQColor(appearance.SchemeColours[slot]);
+}
+
+/// What is selected on `ground`: the menu's colour where it stands out there.
+QColor highlightOn(const QColor& ground, const QColor& menu) {
+    constexpr double LeastDifference = 1.5;
+    if (contrast(toColour(menu), toColour(ground)) >= LeastDifference)
+        return menu;
+    return blended(ground, readableOn(ground), 0.35);
+}
+
+/// A blue that reads on `ground`: on a middle tone little of the blue remains.
+QColor linkOn(const QColor& ground) {
+    constexpr double LeastContrast = 4.5; // of WCAG 2, for text
+    const QColor text = readableOn(ground);
+    const QColor blue = text == QColor(Qt::black) ? QColor(11, 80, 190) : QColor(140, 185, 255);
+    for (int tenths = 0; tenths < 10; ++tenths) {
+        const QColor link = blended(blue, text, tenths / 10.0);
+        if (contrast(toColour(link), toColour(ground)) >= LeastContrast)
+            return link;
+    }
+    return text;
+}
+
+/// Sets a ground in every state, and the text on it with its fading while disabled.
+void setPair(QPalette& palette, QPalette::ColorRole groundRole, const QColor& ground,
+             QPalette::ColorRole textRole) {
+    palette.setColor(groundRole, ground);
+    palette.setColor(textRole, readableOn(ground));
+    palette.setColor(QPalette::Disabled, textRole, fadedOn(ground));
+}
+
+} // namespace
+
+QPalette schemePalette(const Appearance& appearance) {
+    const QColor ground = slotColour(appearance, slot::Background);
+    const QColor button = slotColour(appearance, slot::Button);
+    const QColor highlight = highlightOn(ground, slotColour(appearance, slot::Menu));
+    QPalette palette(button, ground);
+    setPair(palette, QPalette::Window, ground, QPalette::WindowText);
+    setPair(palette, QPalette::Base, ground, QPalette::Text);
+    setPair(palette, QPalette::Button, button, QPalette::ButtonText);
+    setPair(palette, QPalette::ToolTipBase, ground, QPalette::ToolTipText);
+    setPair(palette, QPalette::Highlight, highlight, QPalette::HighlightedText);
+    palette.setColor(QPalette::AlternateBase, blended(ground, readableOn(ground), 0.06));
+    palette.setColor(QPalette::BrightText, readableOn(ground));
+    palette.setColor(QPalette::PlaceholderText, fadedOn(ground));
+    palette.setColor(QPalette::Link, linkOn(ground));
+    palette.setColor(QPalette::LinkVisited, linkOn(ground));
+    return palette;
+}
+
+QString menuStyleSheet(const Appearance& appearance) {
+    const QColor ground = slotColour(appearance, slot::Menu);
+    const QColor text = readableOn(ground);
+    const QColor selected = blended(ground, text, 0.18);
+    const QString sheet = QStringLiteral(
+        "QMenuBar, QMenu { background: %1; color: %2; }"
+        "QMenuBar { padding: 2px 6px; }"
+        "QMenuBar::item { background: transparent; padding: 5px 10px; border-radius: 4px; }"
+        "QMenuBar::item:selected, QMenu::item:selected { background: %3; color: %4; }"
+        "QMenu { border: 1px solid %3; padding: 4px; }"
+        "QMenu::item { padding: 6px 28px 6px 20px; border-radius: 4px; }"
+        "QMenu::item:disabled { background: transparent; color: %5; }"
+        "QMenu::separator { height: 1px; background: %3; margin: 4px 10px; }");
+    return sheet.arg(ground.name(), text.name(), selected.name(), readableOn(selected).name(),
+                     fadedOn(ground).name());
+}
+
+} // namespace tessaly

@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "options/appearance.h"
+
+#include <QPalette>
+#include <QString>
+
+namespace tessaly {
+
+/// The scheme in force for windows, dialogs and their controls. Text is black or white, whichever
+/// reads better on what lies under it.
+QPalette schemePalette(const Appearance& appearance);
+
+/// The scheme in force for the menu bar and all of its menus, as a style sheet.
+QString menuStyleSheet(const Appearance& appearance);
+
+} // namespace tessaly
