@@ -7,17 +7,26 @@
 
 namespace tessaly {
 
-/// Asks and tells the user: the message box, as commands see it.
+/// What a message box answers: the number of the button that closed it.
+namespace answer {
+inline constexpr int None = 0;
+inline constexpr int Ok = 1;
+inline constexpr int Cancel = 2;
+inline constexpr int Abort = 3;
+inline constexpr int Retry = 4;
+inline constexpr int Ignore = 5;
+inline constexpr int Yes = 6;
+inline constexpr int No = 7;
+} // namespace answer
+
+/// Whom a command asks when it needs a word from the player.
 class Prompts {
 public:
     virtual ~Prompts() = default;
 
-    /// Shows a text with the icon and the buttons that a style such as "vbyesno+vbquestion" names,
-    /// and returns the number of the button that closed the box; 0 when none did.
+    /// Shows `text` (UTF-8) in a message box and waits for the answer; `style` names its buttons
+    /// and its icon ("vbyesno+vbquestion").
     virtual int message(std::string_view text, std::string_view style) = 0;
 };
-
-/// What the button "Yes" answers.
-inline constexpr int AnswerYes = 6;
 
 } // namespace tessaly

@@ -34,7 +34,7 @@ bool PlayCommands::refusedWhileBusy() {
 }
 
 bool PlayCommands::confirmed(std::string_view question) {
-    return m_prompts.message(question, "vbyesno+vbquestion") == AnswerYes;
+    return m_prompts.message(question, "vbyesno+vbquestion") == answer::Yes;
 }
 
 void PlayCommands::cmdundo() {

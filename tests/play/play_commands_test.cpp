@@ -66,7 +66,7 @@ TEST_F(PlayCommandsTest, AssistsCountWhatTheyDid) {
 
 TEST_F(PlayCommandsTest, PencilMarksAskFirst) {
     const Board before = game.board;
-    prompts.answers = {7, AnswerYes, AnswerYes};
+    prompts.answers = {7, answer::Yes, answer::Yes};
     commands.cmdallpencil();
     EXPECT_EQ(game.board, before);
     commands.cmdallpencil();
@@ -83,7 +83,7 @@ TEST_F(PlayCommandsTest, PencilMarksAskFirst) {
 TEST_F(PlayCommandsTest, ResetAnsweredNoChangesNothing) {
     game.place({1, 1}, "2");
     const Board before = game.board;
-    prompts.answers = {0, AnswerYes};
+    prompts.answers = {0, answer::Yes};
     commands.cmdreset();
     EXPECT_EQ(game.board, before);
     EXPECT_EQ(game.undoList.size(), 1u);
