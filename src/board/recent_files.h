@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace tessaly {
+
+/// The puzzle files used last, up to five, the most recent first.
+class RecentFiles {
+public:
+    static constexpr std::size_t Capacity = 5;
+
+    /// Puts `path` at the head, where the oldest may fall off the end. A path that is listed
+    /// already (compared byte by byte) keeps its place.
+    void AddRecentFile(const std::string& path);
+
+    /// Puts `path` behind the others, as when a stored list is read; a full list stays as it is.
+    void append(std::string path);
+
+    const std::vector<std::string>& paths() const { return m_paths; }
+
+    friend bool operator==(const RecentFiles&, const RecentFiles&) = default;
+
+private:
+    std::vector<std::string> m_paths;
+};
+
+} // namespace tessaly

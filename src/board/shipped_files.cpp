@@ -1,0 +1,120 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "board/shipped_files.h"
+
+#include "board/data_files.h"
+#include "board/file_access.h"
+#include "board/file_lock.h"
+
+#include <array>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace tessaly {
+namespace {
+
+namespace fs = std::filesystem;
+
+enum class Owner { Program, User };
+
+struct ShippedFile {
+    const char* name;
+    Owner owner;
+    /// Whether the program cannot run without it.
+    bool isNeeded;
+};
+
+constexpr std::array<ShippedFile, 5> ShippedFiles{{
+    {SchemeLibraryFile, Owner::User, true},
+    {ArrangementFile, Owner::Program, true},
+    {HelpPageFile, Owner::Program, false},
+    {EasyLibraryFile, Owner::User, false},
+    {HardLibraryFile, Owner::User, false},
+}};
+
+FileDescriptor openFolder(const fs::path& folder) {
+    return FileDescriptor(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+}
+
+/// The copy keeps the time of the original, so that a later original is told from it however late
+/// the copy was made.
+Outcome copyShipped(const fs::path& from, const fs::path& to) {
+    constexpr std::size_t Limit = 256 * 1024 * 1024;
+    std::string content;
+    if (Outcome read = readSmallFile(from, Limit, content); !read.ok())
+        return read;
+    if (Outcome written = replaceFile(to, content); !written.ok())
+        return written;
+    std::error_code error;
+    fs::last_write_time(to, fs::last_write_time(from, error), error);
+    return Outcome::done();
+}
+
+Outcome copyAll(const fs::path& share, const fs::path& folder) {
+    for (const ShippedFile& file : ShippedFiles) {
+        if (!file.isNeeded && !FileExists(share / file.name))
+            continue;
+        const fs::path copy = folder / file.name;
+        std::error_code error;
+        if (fs::create_directories(copy.parent_path(), error); error)
+            return fileProblem(copy.parent_path(), "cannot be created", error.value());
+        if (Outcome copied = copyShipped(share / file.name, copy); !copied.ok())
+            return copied;
+    }
+    return Outcome::done();
+}
+
+Outcome moveIntoPlace(const fs::path& filled, const fs::path& folder,
+                      const FileDescriptor& parent) {
+    if (::fsync(openFolder(filled).get()) != 0)
+        return fileProblem(filled, "cannot be written");
+    if (::rename(filled.c_str(), folder.c_str()) != 0)
+        return fileProblem(folder, "cannot be created");
+    if (::fsync(parent.get()) != 0)
+        return fileProblem(folder, "cannot be written");
+    return Outcome::done();
+}
+
+bool isFilled(const fs::path& folder) {
+    std::error_code error;
+    return fs::exists(folder, error) && !fs::is_empty(folder, error);
+}
+
+} // namespace
+
+Outcome installShippedFiles(const fs::path& share, const fs::path& folder) {
+    const fs::path parentPath = folder.parent_path();
+    std::error_code error;
+    if (fs::create_directories(parentPath, error); error)
+        return fileProblem(parentPath, "cannot be created", error.value());
+    const FileDescriptor parent = openFolder(parentPath);
+    if (!parent.isOpen())
+        return fileProblem(parentPath, "cannot be read");
+    if (!patiently([&] { return takeLock(parent) != LockAnswer::Busy; }))
+        return Outcome::failed(folder.native() + ": another program is busy with it");
+    if (isFilled(folder))
+        return Outcome::done();
+    const fs::path filling = parentPath / ("." + folder.filename().native() + ".new");
+    fs::remove_all(filling, error);
+    Outcome outcome = copyAll(share, filling);
+    if (outcome.ok())
+        outcome = moveIntoPlace(filling, folder, parent);
+    fs::remove_all(filling, error);
+    return outcome;
+}
+
+void renewShippedFiles(const fs::path& share, const fs::path& folder) {
+    for (const ShippedFile& file : ShippedFiles) {
+        std::error_code noOriginal;
+        std::error_code noCopy;
+        const auto shipped = fs::last_write_time(share / file.name, noOriginal);
+        const auto copied = fs::last_write_time(folder / file.name, noCopy);
+        if (file.owner != Owner::Program || noOriginal)
+            continue;
+        if (noCopy || shipped > copied)
+            static_cast<void>(copyShipped(share / file.name, folder / file.name));
+    }
+}
+
+} // namespace tessaly
