@@ -7,9 +7,7 @@
 #include "ui/qt_colour.h"
 
 #include <QContextMenuEvent>
-#include <QKeyEvent>
 #include <QMetaMethod>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
 

@@ -7,6 +7,8 @@
 
 #include <QAbstractButton>
 #include <QColor>
+#include <QKeyEvent>
+#include <QMouseEvent>
 
 namespace tessaly {
 

@@ -12,7 +12,6 @@
 #include <QAccessible>
 #include <QGuiApplication>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 
 namespace tessaly {
 namespace {

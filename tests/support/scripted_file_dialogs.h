@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "ui/file_dialogs.h"
+
+#include <gtest/gtest.h>
+
+#include <QList>
+
+#include <functional>
+
+namespace tessaly {
+
+/// Answers with the names that the test wrote beforehand; "" is a dialog that the user cancels.
+class ScriptedFileDialogs : public FileDialogs {
+public:
+    struct Asked {
+        FileQuestion question;
+        bool saving = false;
+    };
+
+    ScriptedFileDialogs(std::initializer_list<QString> names = {})
+        : m_names(names) {}
+    ScriptedFileDialogs(const ScriptedFileDialogs&) = delete;
+    ScriptedFileDialogs& operator=(const ScriptedFileDialogs&) = delete;
+    ~ScriptedFileDialogs() override { EXPECT_TRUE(m_names.isEmpty()) << "not every name was used"; }
+
+    void add(const QString& name) { m_names << name; }
+
+    QString nameToOpen(const FileQuestion& question, QWidget*) override {
+        return answer(question, false);
+    }
+    QString nameToSave(const FileQuestion& question, QWidget*) override {
+        return answer(question, true);
+    }
+
+    /// Every question, in order.
+    QList<Asked> asked;
+    /// What the user does in the dialog before it closes.
+    std::function<void()> meanwhile;
+
+private:
+    QString answer(const FileQuestion& question, bool saving) {
+        asked << Asked{question, saving};
+        if (meanwhile)
+            meanwhile();
+        if (!m_names.isEmpty())
+            return m_names.takeFirst();
+        ADD_FAILURE() << "unexpected file dialog: " << question.title.toStdString();
+        return {};
+    }
+
+    QList<QString> m_names;
+};
+
+} // namespace tessaly
