@@ -148,7 +148,7 @@ void Configuration::applyTo(Appearance& appearance) const {
 }
 
 Configuration ReadcfgFile(const std::string& path) {
-    constexpr std::size_t Limit = 1024 * 1024;
+    constexpr std::size_t Limit = std::size_t{1} << 20;
     std::string content;
     // Nobody is waiting for an answer here: what cannot be read counts as not there.
     if (!readSmallFile(path, Limit, content).ok())

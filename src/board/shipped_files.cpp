@@ -40,7 +40,7 @@ FileDescriptor openFolder(const fs::path& folder) {
 /// The copy keeps the time of the original, so that a later original is told from it however late
 /// the copy was made.
 Outcome copyShipped(const fs::path& from, const fs::path& to) {
-    constexpr std::size_t Limit = 256 * 1024 * 1024;
+    constexpr std::size_t Limit = std::size_t{256} << 20;
     std::string content;
     if (Outcome read = readSmallFile(from, Limit, content); !read.ok())
         return read;

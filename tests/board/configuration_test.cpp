@@ -78,7 +78,7 @@ TEST_F(ConfigurationTest, EachValueFallsBackAlone) {
         {2, {"0", "6", "0x3"}, [](auto& c) { c.HexaBorderWidth = 2; }},
         {3, {"-1", "16777216", "red"}, [](auto& c) { c.FixedNumberColour.reset(); }},
         {4, {"-1", "16777216", ""}, [](auto& c) { c.UserNumberColour.reset(); }},
-        {5, {"-1", "16777216", "\0"}, [](auto& c) { c.HexaBorderColour.reset(); }},
+        {5, {"-1", "16777216", "1 2"}, [](auto& c) { c.HexaBorderColour.reset(); }},
         {6, {"-1", "2", "yes"}, [](auto& c) { c.SplitHexas = false; }},
         {7, {"-1", "16777216", "1e3"}, [](auto& c) { c.HexaFillColour.reset(); }},
         {8, {"-1", "2", "1;"}, [](auto& c) { c.NumBorder = false; }},
