@@ -7,6 +7,8 @@
 #include "play/board_geometry.h"
 #include "play/entry_layout.h"
 
+#include <QLineF>
+#include <QList>
 #include <QPainter>
 
 #include <algorithm>
@@ -124,19 +126,17 @@ void BoardRenderer::drawCellLines(int hexagon) {
 }
 
 void BoardRenderer::drawSharedBorders() {
-    QPainterPath borders;
+    QList<QLineF> borders;
     for (CellId cell : AllCells) {
         const CellId across = SideLink[cell];
         if (across && across.hexagon < cell.hexagon)
             continue;
         const auto triangle = cellTriangle(cell);
-        borders.moveTo(toQt(triangle[1]));
-        borders.lineTo(toQt(triangle[2]));
+        borders << QLineF(toQt(triangle[1]), toQt(triangle[2]));
     }
     const PainterState state(m_painter);
     takePen(m_painter, m_style.border, m_style.borderWidth, m_lines);
-    m_painter.setBrush(Qt::NoBrush);
-    m_painter.drawPath(borders);
+    m_painter.drawLines(borders); // one by one: as a single path they take 15 times as long
 }
 
 void BoardRenderer::drawEntries(int hexagon) {
@@ -167,7 +167,7 @@ void BoardRenderer::drawEntry(CellId cell) {
 }
 
 void BoardRenderer::eraseEntry(CellId cell) {
-    constexpr double Rim = 0.5; // where smoothed edges fade out
+    constexpr double Rim = 1; // where smoothed edges fade out
     forEachDigit(cell, [&](const QPainterPath& digit) {
         m_painter.fillRect(digit.boundingRect().adjusted(-Rim, -Rim, Rim, Rim),
                            toQColor(m_style.fill));

@@ -28,6 +28,8 @@ public:
     /// them, which needs a transform that brings the hexagons' corners onto pixels.
     BoardRenderer(QPainter& painter, const Board& board, const Appearance& appearance,
                   Fit lines = Fit::Exact);
+    BoardRenderer(const BoardRenderer&) = delete;
+    BoardRenderer& operator=(const BoardRenderer&) = delete;
 
     /// Draws one hexagon with its border, its cells and what they hold; nothing when there is no
     /// such hexagon. The blank hexagon is solid.

@@ -20,9 +20,8 @@ namespace {
 /// Outlines are taken at this size and scaled down, so that no device's hinting shows in them.
 constexpr double OutlineSize = 512;
 
-const QString& allDigits() {
-    static const QString digits = QStringLiteral("0123456789");
-    return digits;
+QString allDigits() {
+    return QStringLiteral("0123456789");
 }
 
 bool hasDigits(const QRawFont& font) {
