@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "board/puzzle_record.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+
+namespace tessaly {
+
+/// A puzzle with hexagon 7 blank, for tests that look at pictures: it never changes.
+inline Board sampleBoard() {
+    Board board;
+    const Outcome read = readRecord("E0700TRV531RV14535RV431VU342Q4S15624QUS26TURSVQ536142T2136U362"
+                                    "15412VT35364125Q45263R653TQ15"
+                                    "32T623VQU43261TU264QU3143VRU",
+                                    board);
+    EXPECT_TRUE(read.ok()) << read.problem;
+    return board;
+}
+
+/// The sample in the middle of a play: numbers, cells of one to six marks, empty cells.
+inline Board sampleBoardInPlay() {
+    constexpr std::array Marks{"12", "135", "1246", "23456", "123456", "35"};
+    Board board = sampleBoard();
+    std::size_t open = 0;
+    for (CellId cell : AllCells) {
+        if (board.FixedCell[cell])
+            continue;
+        if (open % 3 == 0)
+            board.CellNum[cell] = board.SolNum[cell];
+        else if (open % 3 == 1)
+            board.CellNum[cell] = Marks[open / 3 % Marks.size()];
+        ++open;
+    }
+    return board;
+}
+
+} // namespace tessaly
