@@ -6,6 +6,7 @@
 #include "board/tables.h"
 #include "play/board_geometry.h"
 #include "play/entry_layout.h"
+#include "ui/qt_colour.h"
 
 #include <QLineF>
 #include <QList>
@@ -68,10 +69,6 @@ void takePen(QPainter& painter, Colour colour, double width, Fit fit) {
 }
 
 } // namespace
-
-QColor toQColor(Colour colour) {
-    return {RedOf(colour), GreenOf(colour), BlueOf(colour)};
-}
 
 BoardRenderer::BoardRenderer(QPainter& painter, const Board& board, const Appearance& appearance,
                              Fit lines)

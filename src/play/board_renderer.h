@@ -8,7 +8,6 @@
 #include "play/board_style.h"
 #include "play/numerals.h"
 
-#include <QColor>
 #include <QPainterPath>
 
 #include <string>
@@ -16,8 +15,6 @@
 class QPainter;
 
 namespace tessaly {
-
-QColor toQColor(Colour colour);
 
 /// Draws a board with a painter, in board units, under whatever transform the painter has: on a
 /// picture, a printer page or a vector file. The background is the caller's. The board, the

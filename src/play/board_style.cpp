@@ -3,8 +3,6 @@
 
 #include "play/board_style.h"
 
-#include <cmath>
-
 namespace tessaly {
 
 BoardStyle boardStyle(const Appearance& appearance) {
@@ -21,14 +19,6 @@ BoardStyle boardStyle(const Appearance& appearance) {
         .userNumber = appearance.UserNumberColour,
         .borderWidth = appearance.HexaBorderWidth + (split ? WiderWhenSplit : 0),
     };
-}
-
-Colour mixed(Colour under, Colour over, double share) {
-    const auto channel = [share](int from, int to) {
-        return static_cast<int>(std::lround(from + (to - from) * share));
-    };
-    return RGB(channel(RedOf(under), RedOf(over)), channel(GreenOf(under), GreenOf(over)),
-               channel(BlueOf(under), BlueOf(over)));
 }
 
 } // namespace tessaly

@@ -27,7 +27,4 @@ struct BoardStyle {
 /// would vanish.
 BoardStyle boardStyle(const Appearance& appearance);
 
-/// `share` (0 to 1) of `over` mixed into `under`.
-Colour mixed(Colour under, Colour over, double share);
-
 } // namespace tessaly

@@ -4,6 +4,7 @@
 #include "play/board_surface.h"
 
 #include "play/board_renderer.h"
+#include "ui/qt_colour.h"
 
 #include <QPainter>
 

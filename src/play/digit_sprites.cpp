@@ -3,7 +3,7 @@
 
 #include "play/digit_sprites.h"
 
-#include "play/board_renderer.h"
+#include "ui/qt_colour.h"
 
 #include <QPainter>
 

@@ -4,8 +4,8 @@
 #include "play/hexagon_tag.h"
 
 #include "play/board_geometry.h"
-#include "play/board_renderer.h"
 #include "play/numerals.h"
+#include "ui/qt_colour.h"
 
 #include <QPainter>
 #include <QString>
@@ -14,16 +14,16 @@ namespace tessaly {
 namespace {
 
 struct TagColours {
-    Colour face;
-    Colour text;
+    QColor face;
+    QColor text;
 };
 
 /// Quieter than the numbers of the game, and inverted while the tag is held down.
-TagColours tagColours(Colour fill, TagState state) {
-    const Colour text = mixed(fill, readableOn(fill), 0.7);
+TagColours tagColours(const QColor& fill, TagState state) {
+    const QColor text = blended(fill, readableOn(fill), 0.7);
     switch (state) {
     case TagState::Hovered:
-        return {mixed(fill, text, 0.15), readableOn(fill)};
+        return {blended(fill, text, 0.15), readableOn(fill)};
     case TagState::Pressed:
         return {text, fill};
     case TagState::Plain:
@@ -49,19 +49,19 @@ QPainterPath tagText(const DigitFace& face, int hexagon, double size) {
 void drawTag(QPainter& painter, const QRectF& area, int hexagon, const Appearance& appearance,
              TagState state) {
     const double unit = area.height() / TagHeight;
-    const TagColours colours = tagColours(appearance.HexaFillColour, state);
+    const TagColours colours = tagColours(toQColor(appearance.HexaFillColour), state);
     const DigitFace face(appearance.NumberFont);
     const QRectF frame = area.adjusted(unit, unit, -unit, -unit);
     const double radius = frame.height() / 2;
 
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setBrush(toQColor(colours.face));
+    painter.setBrush(colours.face);
     painter.setPen(appearance.NumBorder ? QPen(toQColor(appearance.HexaBorderColour), unit)
                                         : QPen(Qt::NoPen));
     painter.drawRoundedRect(frame, radius, radius);
     painter.fillPath(tagText(face, hexagon, MarkSize * unit).translated(frame.center()),
-                     toQColor(colours.text));
+                     colours.text);
     painter.restore();
 }
 

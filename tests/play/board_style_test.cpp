@@ -50,11 +50,5 @@ TEST(BoardStyle, SpacedHexagonsAreBorderedByTheBackground) {
     EXPECT_EQ(split.solid, RGB(1, 2, 3));
 }
 
-TEST(BoardStyle, ColoursAreMixedChannelByChannel) {
-    EXPECT_EQ(mixed(RGB(0, 100, 255), RGB(10, 200, 0), 0.5), RGB(5, 150, 128));
-    EXPECT_EQ(mixed(White, Black, 0), White);
-    EXPECT_EQ(mixed(White, Black, 1), Black);
-}
-
 } // namespace
 } // namespace tessaly
