@@ -15,9 +15,20 @@ QColor slotColour(const Appearance& appearance, std::size_t slot) {
 /// What is selected on `ground`: the menu's colour where it stands out there.
 QColor highlightOn(const QColor& ground, const QColor& menu) {
     constexpr double LeastDifference = 1.5;
-    if (contrast(toColour(menu), toColour(ground)) >= LeastDifference)
+    if (contrastRatio(toColour(menu), toColour(ground)) >= LeastDifference)
         return menu;
-    return blended(ground, readableOn(ground), 0.35);
+    return blended(ground, readableOn(ground), 0.25);
+}
+
+/// The item under the pointer: away from the text's colour, so that the text stays as it is, or,
+/// where the ground leaves no room for that, a little towards it.
+QColor selectedOn(const QColor& ground) {
+    constexpr double LeastDifference = 1.2;
+    const QColor text = readableOn(ground);
+    const QColor away = blended(ground, readableOn(text), 0.3);
+    if (contrastRatio(toColour(away), toColour(ground)) >= LeastDifference)
+        return away;
+    return blended(ground, text, 0.18);
 }
 
 /// A blue that reads on `ground`: on a middle tone little of the blue remains.
@@ -27,7 +38,7 @@ QColor linkOn(const QColor& ground) {
     const QColor blue = text == QColor(Qt::black) ? QColor(11, 80, 190) : QColor(140, 185, 255);
     for (int tenths = 0; tenths < 10; ++tenths) {
         const QColor link = blended(blue, text, tenths / 10.0);
-        if (contrast(toColour(link), toColour(ground)) >= LeastContrast)
+        if (contrastRatio(toColour(link), toColour(ground)) >= LeastContrast)
             return link;
     }
     return text;
@@ -64,17 +75,17 @@ QPalette schemePalette(const Appearance& appearance) {
 QString menuStyleSheet(const Appearance& appearance) {
     const QColor ground = slotColour(appearance, slot::Menu);
     const QColor text = readableOn(ground);
-    const QColor selected = blended(ground, text, 0.18);
+    const QColor line = blended(ground, text, 0.2);
     const QString sheet = QStringLiteral(
         "QMenuBar, QMenu { background: %1; color: %2; }"
         "QMenuBar { padding: 2px 6px; }"
         "QMenuBar::item { background: transparent; padding: 5px 10px; border-radius: 4px; }"
-        "QMenuBar::item:selected, QMenu::item:selected { background: %3; color: %4; }"
-        "QMenu { border: 1px solid %3; padding: 4px; }"
+        "QMenuBar::item:selected, QMenu::item:selected { background: %3; }"
+        "QMenu { border: 1px solid %4; padding: 4px; }"
         "QMenu::item { padding: 6px 28px 6px 20px; border-radius: 4px; }"
-        "QMenu::item:disabled { background: transparent; color: %5; }"
-        "QMenu::separator { height: 1px; background: %3; margin: 4px 10px; }");
-    return sheet.arg(ground.name(), text.name(), selected.name(), readableOn(selected).name(),
+        "QMenuBar::item:disabled, QMenu::item:disabled { background: transparent; color: %5; }"
+        "QMenu::separator { height: 1px; background: %4; margin: 4px 10px; }");
+    return sheet.arg(ground.name(), text.name(), selectedOn(ground).name(), line.name(),
                      fadedOn(ground).name());
 }
 
