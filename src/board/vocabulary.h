@@ -79,7 +79,8 @@ public:
     friend constexpr bool operator==(const Grid&, const Grid&) = default;
 
 private:
-    std::array<Row, HexagonCount + 1> m_rows{};
+    // Not "{}": clang 14 crashes on it when T is std::string.
+    std::array<Row, HexagonCount + 1> m_rows = std::array<Row, HexagonCount + 1>();
 };
 
 namespace detail {
