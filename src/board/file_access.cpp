@@ -4,6 +4,7 @@
 #include "board/file_access.h"
 
 #include "board/locked_writing.h"
+#include "board/scratch_file.h"
 
 #include <csignal>
 

@@ -4,6 +4,7 @@
 #include "board/locked_writing.h"
 
 #include "board/line_reader.h"
+#include "board/scratch_file.h"
 
 #include <algorithm>
 #include <array>
@@ -38,13 +39,13 @@ Outcome takeBack(const LockedFile& file, Outcome problem) {
 
 } // namespace
 
-Outcome replaceLocked(const LockedFile& file, const ContentWriter& writer, Flush flush) {
+Outcome replaceLocked(const LockedFile& file, const ContentWriter& writer) {
     ScratchFile scratch(file);
     if (Outcome created = scratch.create(); !created.ok())
         return created;
     if (Outcome written = writer(scratch.sink()); !written.ok())
         return written;
-    return scratch.takePlace(flush);
+    return scratch.takePlace();
 }
 
 Outcome appendLocked(LockedFile& file, std::string_view wholeLines) {

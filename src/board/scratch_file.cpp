@@ -129,13 +129,13 @@ Outcome ScratchFile::flushFolder() const {
     return fileProblem(place.path, "its folder cannot be flushed to the disk");
 }
 
-Outcome ScratchFile::takePlace(Flush flush) {
+Outcome ScratchFile::takePlace() {
     const FilePlace& place = m_target.place();
     const int folder = place.folder.get();
     if (m_target.exists())
         if (Outcome kept = copyPermissions(); !kept.ok())
             return kept;
-    if (flush == Flush::ToDisk && retried([&] { return ::fsync(m_file.get()); }) != 0)
+    if (retried([&] { return ::fsync(m_file.get()); }) != 0)
         return fileProblem(place.path, "cannot be flushed to the disk");
     if (Outcome same = m_target.checkUnchanged(); !same.ok())
         return same;
@@ -144,7 +144,7 @@ Outcome ScratchFile::takePlace(Flush flush) {
     if (retried([&] { return ::renameat(folder, m_name.c_str(), folder, place.name.c_str()); }) !=
         0)
         return fileProblem(place.path, "cannot be replaced");
-    Outcome flushed = flush == Flush::ToDisk ? flushFolder() : Outcome::done();
+    Outcome flushed = flushFolder();
     m_file.close();
     return flushed;
 }

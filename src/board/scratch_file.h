@@ -8,9 +8,6 @@
 
 namespace tessaly {
 
-/// Whether new content must be on the disk before it counts, or may be lost with the power.
-enum class Flush { ToDisk, Later };
-
 /// The new content of a file while it is being written: a hidden file beside the old one, locked
 /// for as long as its writer lives, so that what a killed process left is told from what another
 /// instance is writing.
@@ -25,8 +22,9 @@ public:
 
     Outcome create();
     ContentSink sink() const { return {m_file, m_target.place().path}; }
-    /// Puts the content in the target's place, whole, with the target's permissions.
-    Outcome takePlace(Flush flush);
+    /// Puts the content in the target's place, whole, with the target's permissions, and on the
+    /// disk.
+    Outcome takePlace();
 
 private:
     bool attempt(Outcome& outcome);
