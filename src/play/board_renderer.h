@@ -8,7 +8,8 @@
 #include "play/board_style.h"
 #include "play/numerals.h"
 
-#include <QPainterPath>
+#include <QLineF>
+#include <QList>
 
 #include <string>
 
@@ -43,6 +44,7 @@ private:
     void fillHexagon(int hexagon);
     void drawCellLines(int hexagon);
     void drawSharedBorders();
+    void drawBorders(const QList<QLineF>& lines, Qt::PenCapStyle cap);
     void drawEntries(int hexagon);
     void drawEntry(CellId cell);
     void eraseEntry(CellId cell);

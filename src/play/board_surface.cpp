@@ -72,21 +72,23 @@ void BoardSurface::prepare() {
 
 void BoardSurface::makeEmptyForms() {
     const QRect middle = pixelBounds(MiddleHexagon);
-    const auto draw = [this](QImage& image, QPoint origin, const Board& board) {
+    const auto draw = [this](QImage& image, QPoint origin, const Board& board, auto what) {
         image.fill(toQColor(m_appearance.SchemeColours[slot::Background]));
         QPainter painter(&image);
         painter.translate(-origin);
         painter.setTransform(boardToDevice(), true);
-        BoardRenderer(painter, board, m_appearance, Fit::ToPixels).DrawBoard();
+        BoardRenderer renderer(painter, board, m_appearance, Fit::ToPixels);
+        what(renderer);
     };
     Board board;
     m_image = QImage(m_size, QImage::Format_RGB32);
-    draw(m_image, {}, board);
+    draw(m_image, {}, board, [](BoardRenderer& renderer) { renderer.DrawBoard(); });
     m_openForm = m_image.copy(middle);
 
     board.BlankHex = MiddleHexagon;
     m_solidForm = QImage(middle.size(), QImage::Format_RGB32);
-    draw(m_solidForm, middle.topLeft(), board);
+    draw(m_solidForm, middle.topLeft(), board,
+         [](BoardRenderer& renderer) { renderer.DrawHexagon(MiddleHexagon); });
 }
 
 /// A pixel is the hexagon's when its middle lies between the sides; a quarter of the width slants

@@ -4,8 +4,8 @@
 #include "play/board_geometry.h"
 #include "play/board_surface.h"
 #include "play/hexagon_tag.h"
+#include "support/sample_board.h"
 #include "ui/golden_picture.h"
-#include "ui/sample_board.h"
 
 #include <gtest/gtest.h>
 

@@ -5,7 +5,7 @@
 
 #include "play/board_geometry.h"
 #include "play/board_renderer.h"
-#include "ui/sample_board.h"
+#include "support/sample_board.h"
 
 #include <gtest/gtest.h>
 
