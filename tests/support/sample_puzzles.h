@@ -6,6 +6,7 @@
 #include "board/puzzle_record.h"
 
 #include <fstream>
+#include <ostream>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -31,6 +32,11 @@ inline Board boardOf(const std::string& record) {
     if (const Outcome read = readRecord(record, board); !read.ok())
         throw std::runtime_error(read.problem);
     return board;
+}
+
+/// How a failing test shows a board.
+inline void PrintTo(const Board& board, std::ostream* out) {
+    *out << PuzzleRecord(board);
 }
 
 /// A puzzle of which nothing is given and nothing known, so that every cell may be filled.

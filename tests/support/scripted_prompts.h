@@ -8,13 +8,15 @@
 #include <gtest/gtest.h>
 
 #include <deque>
+#include <initializer_list>
 #include <string>
 #include <vector>
 
 namespace tessaly {
 
-/// Message boxes that a test answers: each text and style is remembered, and a question that no
-/// answer was queued for fails the test. Boxes that only tell ("vbok") need no answer.
+/// Message boxes that a test answers: each text and style is remembered. A question that no answer
+/// was queued for fails the test, and so does an answer that nobody asked for. Boxes that only tell
+/// ("vbok") need no answer.
 struct ScriptedPrompts : Prompts {
     struct Message {
         std::string text;
@@ -22,11 +24,17 @@ struct ScriptedPrompts : Prompts {
         friend bool operator==(const Message&, const Message&) = default;
     };
 
+    ScriptedPrompts(std::initializer_list<int> firstAnswers = {})
+        : answers(firstAnswers) {}
+    ScriptedPrompts(const ScriptedPrompts&) = delete;
+    ScriptedPrompts& operator=(const ScriptedPrompts&) = delete;
+    ~ScriptedPrompts() override { EXPECT_TRUE(answers.empty()) << "not every answer was used"; }
+
     int message(std::string_view text, std::string_view style) override {
         shown.push_back({std::string(text), std::string(style)});
         if (answers.empty()) {
             EXPECT_NE(style.find("ok"), std::string_view::npos) << "unexpected question: " << text;
-            return 1;
+            return answer::Ok;
         }
         const int answer = answers.front();
         answers.pop_front();

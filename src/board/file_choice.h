@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tessaly {
+
+/// Lets the user choose a puzzle file: the file picker, as commands see it.
+class FileChoice {
+public:
+    virtual ~FileChoice() = default;
+
+    /// The full path of the chosen file; empty when none was chosen.
+    virtual std::string chooseToOpen(std::string_view title) = 0;
+    virtual std::string chooseToSave(std::string_view title) = 0;
+};
+
+} // namespace tessaly

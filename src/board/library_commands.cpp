@@ -1,0 +1,204 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "board/library_commands.h"
+
+#include "board/file_access.h"
+#include "board/puzzle_record.h"
+
+namespace tessaly {
+namespace {
+
+constexpr std::string_view Information = "vbok+vbinformation";
+constexpr std::string_view Critical = "vbcritical+vbok";
+
+std::string trimmed(const std::string& text) {
+    const auto first = text.find_first_not_of(" \t");
+    return first == std::string::npos ? std::string()
+                                      : text.substr(first, text.find_last_not_of(" \t") - first + 1);
+}
+
+/// Shows the busy pointer for as long as it lives.
+class BusyPointer {
+public:
+    explicit BusyPointer(LibraryDisplay& display)
+        : m_display(display) {
+        m_display.showBusy(true);
+    }
+    ~BusyPointer() { m_display.showBusy(false); }
+    BusyPointer(const BusyPointer&) = delete;
+    BusyPointer& operator=(const BusyPointer&) = delete;
+
+private:
+    LibraryDisplay& m_display;
+};
+
+} // namespace
+
+LibraryCommands::LibraryCommands(Session& session, Display& display, LibraryDisplay& libraryDisplay,
+                                 Prompts& prompts, FileChoice& fileChoice)
+    : m_session(session)
+    , m_display(display)
+    , m_libraryDisplay(libraryDisplay)
+    , m_prompts(prompts)
+    , m_fileChoice(fileChoice) {}
+
+void LibraryCommands::tellCritical(const std::string& text) {
+    m_prompts.message(text, Critical);
+}
+
+PuzzleRead LibraryCommands::ReadPuzzle(const std::string& path, int number) {
+    const BusyPointer busy(m_libraryDisplay);
+    PuzzleRead read = m_session.files.ReadPuzzle(path, number, m_session.game.board);
+    if (!read.ok()) {
+        m_display.showMessage("Error reading p# " + std::to_string(number));
+        return read;
+    }
+    m_session.game.startPuzzle();
+    m_session.puzzle = {path, number, read.count, read.record};
+    m_session.difficulty = m_session.game.board.difficulty;
+    m_libraryDisplay.showPuzzle(m_session.puzzle);
+    m_display.showMessage("");
+    return read;
+}
+
+void LibraryCommands::mnuload() {
+    if (m_session.busy.refuses(m_prompts))
+        return;
+    const std::string path = m_fileChoice.chooseToOpen("Select a Puzzle file to open");
+    if (!path.empty())
+        load(path);
+}
+
+void LibraryCommands::load(const std::string& path, int number) {
+    if (m_session.busy.refuses(m_prompts))
+        return;
+    if (!ReadPuzzle(path, number).ok()) {
+        tellCritical("Error reading file:\r\n" + path);
+        return;
+    }
+    setSaveTarget(path);
+    m_session.recentFiles.AddRecentFile(path);
+    m_libraryDisplay.showRecentFiles(m_session.recentFiles);
+}
+
+void LibraryCommands::step(int number) {
+    const PuzzleRead read = ReadPuzzle(m_session.puzzle.PuzPath, number);
+    if (read.status == PuzzleRead::Status::CannotRead)
+        tellCritical(read.reason);
+}
+
+void LibraryCommands::cmdarrow(int item) {
+    if (m_session.busy.refuses(m_prompts))
+        return;
+    const auto& [path, number, count, record] = m_session.puzzle;
+    if (number == 0 || count == 1)
+        return;
+    if (item == 0)
+        step(number > 1 ? number - 1 : count);
+    else
+        step(number < count ? number + 1 : 1);
+}
+
+void LibraryCommands::goTo(int number) {
+    if (m_session.busy.refuses(m_prompts))
+        return;
+    if (number >= 1 && number <= m_session.puzzle.PuzCount)
+        step(number);
+}
+
+void LibraryCommands::setSaveTarget(const std::string& path) {
+    m_session.saveTarget = path;
+    m_libraryDisplay.showSaveTarget(path);
+}
+
+bool LibraryCommands::appendTo(const std::string& path) {
+    int number = 0;
+    const std::string record = PuzzleRecord(m_session.game.board);
+    if (const Outcome saved = m_session.files.appendPuzzle(path, record, number); !saved.ok()) {
+        tellCritical(saved.problem);
+        return false;
+    }
+    if (const PuzzleRead read = ReadPuzzle(path, number); !read.ok()) {
+        tellCritical(read.reason);
+        return false;
+    }
+    m_prompts.message("Puzzle# " + std::to_string(number) + " added to file " + path, Information);
+    return true;
+}
+
+void LibraryCommands::mnusavex() {
+    if (m_session.busy.refuses(m_prompts) || m_session.puzzle.PuzNum == 0)
+        return;
+    const std::string path = m_fileChoice.chooseToSave("Select an output Puzzle file");
+    if (path.empty())
+        return;
+    if (appendTo(path))
+        setSaveTarget(path);
+}
+
+void LibraryCommands::mnusaveto() {
+    if (m_session.busy.refuses(m_prompts))
+        return;
+    if (FileExists(m_session.saveTarget))
+        appendTo(m_session.saveTarget);
+}
+
+void LibraryCommands::mnudelete() {
+    if (m_session.busy.refuses(m_prompts))
+        return;
+    const CurrentPuzzle puzzle = m_session.puzzle;
+    if (puzzle.PuzNum == 0)
+        return;
+    if (m_prompts.message("Delete current puzzle from file?", "vbyesno+vbquestion") != answer::Yes)
+        return;
+    const Outcome deleted = m_session.files.DeletePuzzle(puzzle.PuzPath, puzzle.PuzNum,
+                                                         puzzle.record, m_session.ProgramFolder);
+    if (!deleted.ok()) {
+        tellCritical(deleted.problem);
+        return;
+    }
+    if (!ReadPuzzle(puzzle.PuzPath, 1).ok())
+        m_session.puzzle.PuzCount = 0;
+    m_prompts.message("Done", "vbinformation+vbok");
+}
+
+void LibraryCommands::oldfiles_Click(int item) {
+    if (m_session.busy.creating) {
+        tellCritical("Cancel Puzzle Creation first");
+        return;
+    }
+    const std::string path = m_session.recentFiles.paths().at(static_cast<std::size_t>(item));
+    if (!FileExists(path)) {
+        tellCritical("File not found:\r\n" + path);
+        return;
+    }
+    if (const PuzzleRead read = ReadPuzzle(path, 1); read.ok())
+        setSaveTarget(path);
+    else
+        tellCritical("Error reading file:\r\n" + path);
+}
+
+void LibraryCommands::reopen(const std::string& path, int number) {
+    const std::string temporary = m_session.ProgramFolder + std::string(TemporaryPuzzleFile);
+    int count = 0;
+    if (trimmed(path).empty() || path == temporary || !FileExists(path) ||
+        !m_session.files.CountLines(path, count).ok()) {
+        showEmptyBoard();
+        return;
+    }
+    if (ReadPuzzle(path, number > count ? 1 : number).ok())
+        setSaveTarget(path);
+    else
+        showEmptyBoard();
+    m_display.showMessage("");
+    m_display.focusBoard();
+}
+
+void LibraryCommands::showEmptyBoard() {
+    setSaveTarget({});
+    m_libraryDisplay.showNoPuzzle();
+    m_display.focusBoard();
+}
+
+} // namespace tessaly

@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "board/arrangements.h"
+#include "board/difficulty.h"
+#include "board/library_display.h"
+#include "board/puzzle_file.h"
+#include "board/recent_files.h"
+#include "options/appearance.h"
+#include "play/busy.h"
+#include "play/game.h"
+
+#include <string>
+
+namespace tessaly {
+
+/// All that lives for the whole run of the game, owned once and handed on by reference.
+struct Session {
+    /// Where the program's data files lie; ends in "/".
+    std::string ProgramFolder;
+    ArrangementTable arrangements;
+    Appearance appearance;
+
+    PuzzleFiles files;
+    RecentFiles recentFiles;
+    /// The file that "Save to" offers; empty for none.
+    std::string saveTarget;
+
+    CurrentPuzzle puzzle;
+    Game game;
+    /// What the difficulty label shows, and so what the next puzzle will be.
+    DifficultyChoice difficulty;
+    BusyState busy;
+};
+
+} // namespace tessaly
