@@ -176,6 +176,7 @@ void BoxControl::paintEvent(QPaintEvent*) {
     drawBoxFace(painter, rect(),
                 {.colour = faceColour(),
                  .sunk = sunk,
+                 .latched = isLatched(),
                  .hovered = underMouse(),
                  .focused = hasFocus(),
                  .enabled = isEnabled()});

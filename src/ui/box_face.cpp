@@ -64,13 +64,13 @@ QColor faceShade(const BoxFace& face) {
     return face.colour;
 }
 
-void drawFocusRing(QPainter& painter, const QRectF& area, const QColor& face) {
+void drawRing(QPainter& painter, const QRectF& area, const QColor& colour, double inset) {
     const double width = 2 * borderWidth(painter);
-    const double inset = 1.5 * width;
-    painter.setPen(QPen(blended(face, readableOn(face), 0.5), width));
+    inset += width / 2;
+    painter.setPen(QPen(colour, width));
     painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(area.adjusted(inset, inset, -inset, -inset), CornerRadius - 2,
-                            CornerRadius - 2);
+    painter.drawRoundedRect(area.adjusted(inset, inset, -inset, -inset), CornerRadius - inset / 2,
+                            CornerRadius - inset / 2);
 }
 
 } // namespace
@@ -87,8 +87,10 @@ void drawBoxFace(QPainter& painter, const QRectF& area, const BoxFace& face) {
     painter.setBrush(shade);
     painter.drawRoundedRect(outer.adjusted(border, border, -border, -border), CornerRadius - border,
                             CornerRadius - border);
+    if (face.latched)
+        drawRing(painter, outer, readableOn(shade), 0);
     if (face.focused)
-        drawFocusRing(painter, outer, shade);
+        drawRing(painter, outer, blended(shade, readableOn(shade), 0.5), 2 * border);
     painter.restore();
 }
 

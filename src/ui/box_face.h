@@ -14,6 +14,8 @@ namespace tessaly {
 struct BoxFace {
     QColor colour;
     bool sunk = false;
+    /// Stays down until it is let up again, and says so by a line around it.
+    bool latched = false;
     bool hovered = false;
     bool focused = false;
     bool enabled = true;

@@ -195,10 +195,10 @@ TEST_F(BoxControlTest, ItsTextReadsOnEveryFaceAlsoWhileDisabled) {
         m_button.setFaceColour(face);
         m_button.setEnabled(true);
         const QColor text = m_button.textColour();
-        EXPECT_GE(contrast(toColour(text), toColour(face)), 4.5) << level;
+        EXPECT_GE(contrastRatio(toColour(text), toColour(face)), 4.5) << level;
         m_button.setEnabled(false);
         EXPECT_NE(m_button.textColour(), text) << level;
-        EXPECT_GE(contrast(toColour(m_button.textColour()), toColour(face)), 3.0) << level;
+        EXPECT_GE(contrastRatio(toColour(m_button.textColour()), toColour(face)), 3.0) << level;
     }
 }
 

@@ -83,10 +83,10 @@ TEST_F(FileNamePickerTest, NamesThatWouldNameAnotherFileAreRefusedWithTheReason)
                              QStringLiteral("/cut") + QChar(0) + QStringLiteral("off")};
     for (const QString& name : others) {
         m_dialogs.add(name);
-        m_prompts.add(answer::Ok);
+        m_prompts.answers.push_back(answer::Ok);
         EXPECT_EQ(m_picker.GetFileName({}), QString());
-        EXPECT_NE(m_prompts.asked.back().text.find("not valid UTF-8"), std::string::npos);
-        EXPECT_EQ(m_prompts.asked.back().style, "vbok+vbcritical");
+        EXPECT_NE(m_prompts.shown.back().text.find("not valid UTF-8"), std::string::npos);
+        EXPECT_EQ(m_prompts.shown.back().style, "vbok+vbcritical");
     }
     for (const QString& name :
          {QStringLiteral("/puzzles/café 日本.txt"), QStringLiteral("/ends ")}) {
@@ -100,9 +100,9 @@ TEST_F(FileNamePickerTest, APathOf254CharactersIsTheLongest) {
     m_dialogs.add(longest);
     EXPECT_EQ(m_picker.GetFileName({}), longest);
     m_dialogs.add(longest % QChar(u'x'));
-    m_prompts.add(answer::Ok);
+    m_prompts.answers.push_back(answer::Ok);
     EXPECT_EQ(m_picker.GetFileName({}), QString());
-    EXPECT_NE(m_prompts.asked.back().text.find("longer than 254"), std::string::npos);
+    EXPECT_NE(m_prompts.shown.back().text.find("longer than 254"), std::string::npos);
 }
 
 TEST_F(FileNamePickerTest, ItsButtonFillsItAndItsEventsArePassedOn) {

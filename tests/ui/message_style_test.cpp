@@ -71,9 +71,9 @@ TEST(MessageStyleTest, WithoutAButtonThereIsOk) {
 TEST(ScriptedPromptsTest, FailsOnAQuestionTooManyAndOnAnAnswerLeftOver) {
     ScriptedPrompts prompts{answer::Yes};
     EXPECT_EQ(prompts.message("Exit?", "vbYesNo"), answer::Yes);
-    ASSERT_EQ(prompts.asked.size(), 1U);
-    EXPECT_EQ(prompts.asked[0].text, "Exit?");
-    EXPECT_EQ(prompts.asked[0].style, "vbYesNo");
+    ASSERT_EQ(prompts.shown.size(), 1U);
+    EXPECT_EQ(prompts.shown[0].text, "Exit?");
+    EXPECT_EQ(prompts.shown[0].style, "vbYesNo");
     EXPECT_NONFATAL_FAILURE(prompts.message("Again?", ""), "unexpected question");
     EXPECT_NONFATAL_FAILURE({ const ScriptedPrompts unused{answer::Ok}; }, "not every answer");
 }

@@ -24,7 +24,8 @@ Appearance schemeOf(Colour background, Colour menu, Colour button) {
 
 double contrastOf(const QPalette& palette, QPalette::ColorGroup group, QPalette::ColorRole text,
                   QPalette::ColorRole ground) {
-    return contrast(toColour(palette.color(group, text)), toColour(palette.color(group, ground)));
+    return contrastRatio(toColour(palette.color(group, text)),
+                         toColour(palette.color(group, ground)));
 }
 
 TEST(SchemePalette, TakesItsColoursFromTheSlots) {

@@ -1,0 +1,244 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "play/board_view.h"
+
+#include "play/key_codes.h"
+#include "ui/qt_colour.h"
+
+#include <QEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <cmath>
+
+namespace tessaly {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr double SmallestScale = 0.6;
+
+PointerButton pointerButton(Qt::MouseButton button) {
+    switch (button) {
+    case Qt::LeftButton:
+        return PointerButton::Left;
+    case Qt::RightButton:
+        return PointerButton::Right;
+    default:
+        return PointerButton::Other;
+    }
+}
+
+} // namespace
+
+BoardView::BoardView(const Board& board, const Appearance& appearance, QWidget* parent)
+    : QWidget(parent)
+    , m_board(board)
+    , m_appearance(appearance)
+    , m_marker(this)
+    , m_popup(this) {
+    setObjectName(u"Picture2"_s);
+    setAccessibleName(tr("Board"));
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setMinimumSize(static_cast<int>(std::ceil(SmallestScale * PictureWidth)),
+                   static_cast<int>(std::ceil(SmallestScale * PictureHeight)));
+    for (int hexagon = 1; hexagon <= HexagonCount; ++hexagon)
+        m_tags[static_cast<std::size_t>(hexagon)] = new HexagonTagWidget(hexagon, appearance, this);
+    applyAppearance();
+}
+
+void BoardView::setInput(BoardInput& input) {
+    m_input = &input;
+    for (HexagonTagWidget* tag : m_tags) {
+        if (tag == nullptr)
+            continue;
+        connect(tag, &HexagonTagWidget::pressed, this,
+                [this](int hexagon) { m_input->Celltags_MouseDown(hexagon); });
+        connect(tag, &HexagonTagWidget::released, this, [this] { m_input->Celltags_MouseUp(); });
+    }
+    connect(&m_popup, &NumberPopup::clicked, this,
+            [this](int button) { m_input->Num16_Click(button); });
+    connect(&m_popup, &NumberPopup::timedOut, this, [this] { m_input->Timer1_Timer(); });
+}
+
+QSize BoardView::sizeHint() const {
+    return {static_cast<int>(PictureWidth), static_cast<int>(PictureHeight)};
+}
+
+void BoardView::DrawHexagon(int hexagon) {
+    if (!isHexagon(hexagon))
+        return;
+    const QRect changed = m_surface.DrawHexagon(m_board, hexagon);
+    showTag(hexagon);
+    const double ratio = devicePixelRatioF();
+    update(QRectF(changed.x() / ratio, changed.y() / ratio, changed.width() / ratio,
+                  changed.height() / ratio)
+               .toAlignedRect());
+}
+
+void BoardView::DrawBoard() {
+    m_solutionColour.reset();
+    m_surface.DrawBoard(m_board);
+    for (int hexagon = 1; hexagon <= HexagonCount; ++hexagon)
+        showTag(hexagon);
+    update();
+}
+
+void BoardView::DrawSolution(Colour colour) {
+    m_solutionColour = colour;
+    m_surface.DrawSolution(m_board, colour);
+    update();
+}
+
+void BoardView::applyAppearance() {
+    m_surface.setAppearance(m_appearance);
+    m_marker.setColour(toQColor(m_appearance.SchemeColours[slot::Red]));
+    DrawBoard();
+}
+
+void BoardView::showTag(int hexagon) {
+    m_tags[static_cast<std::size_t>(hexagon)]->setVisible(!m_board.isBlank(hexagon));
+}
+
+void BoardView::showSelection(CellId cell) {
+    m_markedCell = cell;
+    if (cell)
+        m_marker.setGeometry(onWidget(markerRectangle(cell)));
+    m_marker.setVisible(static_cast<bool>(cell));
+}
+
+void BoardView::showPopup(Point corner, bool upwards) {
+    m_popup.open(boardToWidget().map(QPointF(corner.x, corner.y)).toPoint(), upwards);
+}
+
+void BoardView::hidePopup() {
+    m_popup.close();
+}
+
+QTransform BoardView::boardToWidget() const {
+    const double ratio = devicePixelRatioF();
+    return m_surface.boardToDevice() * QTransform::fromScale(1 / ratio, 1 / ratio);
+}
+
+QRect BoardView::onWidget(const Rect& rectangle) const {
+    const QRectF onBoard(rectangle.left, rectangle.top, rectangle.width(), rectangle.height());
+    return boardToWidget().mapRect(onBoard).toAlignedRect();
+}
+
+Point BoardView::onBoard(QPointF position) const {
+    const QPointF point = boardToWidget().inverted().map(position);
+    return {point.x(), point.y()};
+}
+
+void BoardView::updateSurface() {
+    m_surface.setSize((QSizeF(size()) * devicePixelRatioF()).toSize());
+    m_surface.DrawBoard(m_board);
+    if (m_solutionColour)
+        m_surface.DrawSolution(m_board, *m_solutionColour);
+    placeChildren();
+    update();
+}
+
+void BoardView::placeChildren() {
+    for (HexagonTagWidget* tag : m_tags)
+        if (tag != nullptr)
+            tag->setGeometry(onWidget(tagRectangle(tag->hexagon())));
+    showSelection(m_markedCell);
+}
+
+void BoardView::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    const double ratio = devicePixelRatioF();
+    const QRect target = event->rect();
+    const QRectF source(target.x() * ratio, target.y() * ratio, target.width() * ratio,
+                        target.height() * ratio);
+    painter.drawImage(QRectF(target), m_surface.image(), source);
+}
+
+void BoardView::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    hidePopup();
+    updateSurface();
+}
+
+bool BoardView::event(QEvent* event) {
+    if (event->type() == QEvent::ScreenChangeInternal)
+        updateSurface();
+    return QWidget::event(event);
+}
+
+void BoardView::mouseMoveEvent(QMouseEvent* event) {
+    if (m_input != nullptr)
+        m_input->Picture2_MouseMove(onBoard(event->position()));
+}
+
+void BoardView::mousePressEvent(QMouseEvent* event) {
+    if (m_input != nullptr)
+        m_input->Picture2_MouseDown(pointerButton(event->button()), onBoard(event->position()));
+}
+
+void BoardView::mouseReleaseEvent(QMouseEvent* event) {
+    if (m_input != nullptr)
+        m_input->Picture2_MouseUp(pointerButton(event->button()));
+}
+
+void BoardView::leaveEvent(QEvent* event) {
+    QWidget::leaveEvent(event);
+    if (m_input != nullptr)
+        m_input->pointerLeft();
+}
+
+bool BoardView::movesSelection(const QKeyEvent& event) {
+    switch (event.key()) {
+    case Qt::Key_Left:
+        m_input->moveSelection(-1, 0);
+        return true;
+    case Qt::Key_Right:
+        m_input->moveSelection(1, 0);
+        return true;
+    case Qt::Key_Up:
+        m_input->moveSelection(0, -1);
+        return true;
+    case Qt::Key_Down:
+        m_input->moveSelection(0, 1);
+        return true;
+    case Qt::Key_Home:
+        m_input->selectFirst();
+        return true;
+    case Qt::Key_End:
+        m_input->selectLast();
+        return true;
+    default:
+        return false;
+    }
+}
+
+void BoardView::forwardKey(const QKeyEvent& event) {
+    int code = keyCodeOf(event);
+    m_input->Picture2_KeyDown(code);
+    if (int character = characterCodeOf(event); character != 0)
+        m_input->Picture2_KeyPress(character);
+}
+
+void BoardView::keyPressEvent(QKeyEvent* event) {
+    if (m_input == nullptr || movesSelection(*event))
+        return;
+    const bool asksForMenu =
+        event->key() == Qt::Key_Menu ||
+        (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier);
+    if (asksForMenu) {
+        m_input->openPopupAtSelection();
+        if (m_popup.isVisible())
+            m_popup.setFocus();
+    } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter ||
+               event->key() == Qt::Key_Space) {
+        m_input->Picture2_MouseUp(PointerButton::Left);
+    } else {
+        forwardKey(*event);
+    }
+}
+
+} // namespace tessaly

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "play/key_codes.h"
+
+#include <QKeyEvent>
+
+namespace tessaly {
+
+int keyCodeOf(const QKeyEvent& event) {
+    switch (event.key()) {
+    case Qt::Key_Backspace:
+        return 8;
+    case Qt::Key_Escape:
+        return 27;
+    case Qt::Key_Delete:
+        return 46;
+    default:
+        break;
+    }
+    const bool isDigit = event.key() >= Qt::Key_0 && event.key() <= Qt::Key_9;
+    const bool onNumericPad = event.modifiers().testFlag(Qt::KeypadModifier);
+    return isDigit && !onNumericPad ? event.key() - Qt::Key_0 + '0' : 0;
+}
+
+int characterCodeOf(const QKeyEvent& event) {
+    const QString text = event.text();
+    return text.size() == 1 ? text.front().unicode() : 0;
+}
+
+} // namespace tessaly

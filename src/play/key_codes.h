@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+class QKeyEvent;
+
+namespace tessaly {
+
+/// The classic key code of a key, as `BoardInput` takes it: 8, 27, 46 and, for the digits of the
+/// main keyboard, 48..57. 0 for keys that the board has no use for, the numeric pad's among them.
+int keyCodeOf(const QKeyEvent& event);
+
+/// The code of the character that a key gives; 0 for none.
+int characterCodeOf(const QKeyEvent& event);
+
+} // namespace tessaly

@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QAction>
+#include <QMenu>
+#include <QMenuBar>
+
+#include <array>
+#include <string>
+#include <vector>
+
+namespace tessaly {
+
+/// The menus of the main window. Each action and menu carries its name as object name; a command
+/// that nothing is connected to yet is disabled.
+class MainMenu {
+public:
+    static constexpr int RecentFileCount = 5;
+
+    explicit MainMenu(QMenuBar& bar);
+
+    /// Shows the recently used puzzle files, most recent first.
+    void showRecentFiles(const std::vector<std::string>& paths);
+    /// Offers saving to the current file; an empty path takes the offer away.
+    void showCurrentFile(const std::string& path);
+
+    QAction* mnuload;
+    QMenu* mnucopyclip;
+    QAction* mnuclippuz;
+    QAction* mnuclipsol;
+    QAction* mnuopts;
+    QAction* mnuhelp;
+    QAction* mnuabout;
+    /// Five paths and the separator beneath them.
+    std::array<QAction*, RecentFileCount + 1> oldfiles;
+    QAction* cmdexit;
+
+    QAction* createSingle;   // mnucreaten, item 0
+    QAction* createMultiple; // mnucreaten, item 1
+
+    QMenu* mnusavez;
+    QAction* mnusavex;
+    QAction* mnusaveto;
+    QAction* mnucapwin;
+    QAction* mnudelete;
+
+    QAction* printPuzzle;   // mnuprintx, item 0
+    QAction* printSolution; // mnuprintx, item 1
+    QAction* printBoth;     // mnuprintx, item 2
+    QAction* printMultiple; // mnuprintx, item 4
+
+private:
+    void buildFileMenu(QMenu& menu);
+    void buildCreateMenu(QMenu& menu);
+    void buildSaveMenu(QMenu& menu);
+    void buildPrintMenu(QMenu& menu);
+};
+
+} // namespace tessaly

@@ -1,0 +1,127 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "ui/main_window.h"
+
+#include "board/session.h"
+#include "board/session_memory.h"
+#include "play/board_view.h"
+#include "play/palette_panel.h"
+#include "play/play_area.h"
+#include "ui/box_control.h"
+#include "ui/file_name_picker.h"
+#include "ui/icon_set.h"
+#include "ui/scheme_palette.h"
+#include "ui/status_line.h"
+#include "ui/tool_row.h"
+
+#include <QApplication>
+#include <QVBoxLayout>
+
+namespace tessaly {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr int Margin = 12;
+constexpr int Spacing = 12;
+constexpr QSize FirstSize(690, 690);
+
+} // namespace
+
+Form1::Form1(Session& session, Prompts& prompts, FileDialogs& fileDialogs)
+    : m_session(session)
+    , m_prompts(prompts)
+    , m_menu(*menuBar())
+    , m_tools(new ToolRow)
+    , m_board(new BoardView(session.game.board, session.appearance))
+    , m_palette(new PalettePanel(session.appearance))
+    , m_status(new StatusLine)
+    , m_picker(new FNDialog(fileDialogs, prompts, this))
+    , m_puzzleFiles(*m_picker, session.ProgramFolder)
+    , m_display(session, {m_menu, *m_tools, *m_board, *m_palette, *m_status})
+    , m_play(session.game, session.busy, session.appearance, m_display, prompts)
+    , m_input(session.game, session.busy, m_play, m_display, m_display, prompts)
+    , m_library(session, m_display, m_display, prompts, m_puzzleFiles) {
+    setObjectName(u"Form1"_s);
+    setWindowTitle(u"Tessaly"_s);
+    setWindowIcon(productIcon());
+    setContextMenuPolicy(Qt::NoContextMenu);
+    m_picker->setObjectName(u"gf1"_s);
+    m_picker->hide();
+    setCentralWidget(arrangeRegions());
+    m_board->setInput(m_input);
+    connectMenu();
+    connectTools();
+    connectPalette();
+    connectStatusLine();
+    applyAppearance();
+    resize(FirstSize);
+}
+
+QWidget* Form1::arrangeRegions() {
+    auto* centre = new QWidget;
+    auto* rows = new QVBoxLayout(centre);
+    rows->setContentsMargins(Margin, Margin, Margin, Margin);
+    rows->setSpacing(Spacing);
+    rows->addWidget(m_tools);
+    rows->addWidget(new PlayArea(m_board, m_palette), 1);
+    rows->addWidget(m_status);
+    return centre;
+}
+
+void Form1::applyAppearance() {
+    setPalette(schemePalette(m_session.appearance));
+    menuBar()->setStyleSheet(menuStyleSheet(m_session.appearance));
+    m_palette->applyAppearance();
+    m_board->applyAppearance();
+}
+
+void Form1::connectMenu() {
+    connect(m_menu.mnuload, &QAction::triggered, this, [this] { m_library.mnuload(); });
+    connect(m_menu.mnusavex, &QAction::triggered, this, [this] { m_library.mnusavex(); });
+    connect(m_menu.mnusaveto, &QAction::triggered, this, [this] { m_library.mnusaveto(); });
+    connect(m_menu.mnudelete, &QAction::triggered, this, [this] { m_library.mnudelete(); });
+    connect(m_menu.cmdexit, &QAction::triggered, this, &Form1::cmdexit);
+    for (int item = 0; item < MainMenu::RecentFileCount; ++item)
+        connect(m_menu.oldfiles[static_cast<std::size_t>(item)], &QAction::triggered, this,
+                [this, item] { m_library.oldfiles_Click(item); });
+}
+
+void Form1::connectTools() {
+    connect(m_tools->cmdload, &BoxControl::clicked, this, [this] { m_library.mnuload(); });
+    for (int item : {0, 1})
+        connect(m_tools->cmdarrow[static_cast<std::size_t>(item)], &BoxControl::clicked, this,
+                [this, item] { m_library.cmdarrow(item); });
+    connect(m_tools, &ToolRow::numberEntered, this, [this](int number) { m_library.goTo(number); });
+    connect(m_tools->cmdundo, &BoxControl::clicked, this, [this] { m_play.cmdundo(); });
+    connect(m_tools->cmdreset, &BoxControl::clicked, this, [this] { m_play.cmdreset(); });
+    connect(m_tools->cmdshowsol, &BoxControl::pressed, this,
+            [this] { m_play.cmdshowsolPressed(); });
+    connect(m_tools->cmdshowsol, &BoxControl::released, this,
+            [this] { m_play.cmdshowsolReleased(); });
+}
+
+void Form1::connectPalette() {
+    connect(m_palette, &PalettePanel::itemReleased, this,
+            [this](int item, PointerButton button) { m_input.digt_MouseUp(item, button); });
+    connect(m_palette->cmdallpencil, &BoxControl::clicked, this, [this] { m_play.cmdallpencil(); });
+    connect(m_palette->cmdallpencil, &BoxControl::alternateClicked, this,
+            [this] { m_play.cmdallpencilClear(); });
+    connect(m_palette->cmdsetpairs, &BoxControl::clicked, this, [this] { m_play.cmdsetpairs(); });
+    connect(m_palette->cmdset1s, &BoxControl::clicked, this, [this] { m_play.cmdset1s(); });
+}
+
+void Form1::connectStatusLine() {
+    connect(m_status->StatLab, &BoxControl::clicked, this, [this] { m_play.StatLab(); });
+}
+
+void Form1::cmdexit() {
+    if (m_prompts.message("Exit?", "vbYesNo+vbquestion") != answer::Yes)
+        return;
+    SavecfgFile(m_session);
+    QApplication::closeAllWindows();
+    QApplication::quit();
+}
+
+} // namespace tessaly

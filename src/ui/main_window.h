@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "board/library_commands.h"
+#include "play/board_input.h"
+#include "play/play_commands.h"
+#include "ui/main_menu.h"
+#include "ui/puzzle_file_choice.h"
+#include "ui/window_display.h"
+
+#include <QMainWindow>
+
+namespace tessaly {
+
+class FileDialogs;
+
+/// The main window: builds its regions and connects their controls to the commands.
+class Form1 : public QMainWindow {
+    Q_OBJECT
+
+public:
+    Form1(Session& session, Prompts& prompts, FileDialogs& fileDialogs);
+
+    LibraryCommands& library() { return m_library; }
+
+    /// Wears the scheme and the settings that are in force.
+    void applyAppearance();
+
+private:
+    QWidget* arrangeRegions();
+    void connectMenu();
+    void connectTools();
+    void connectPalette();
+    void connectStatusLine();
+    void cmdexit();
+
+    Session& m_session;
+    Prompts& m_prompts;
+
+    MainMenu m_menu;
+    ToolRow* m_tools;
+    BoardView* m_board;
+    PalettePanel* m_palette;
+    StatusLine* m_status;
+    FNDialog* m_picker; // gf1
+
+    PuzzleFileChoice m_puzzleFiles;
+    WindowDisplay m_display;
+    PlayCommands m_play;
+    BoardInput m_input;
+    LibraryCommands m_library;
+};
+
+} // namespace tessaly

@@ -1,0 +1,92 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "ui/tool_row.h"
+
+#include "ui/box_control.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+
+namespace tessaly {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr int ButtonSize = 40;
+constexpr int PictureSize = 24;
+constexpr int Spacing = 6;
+constexpr int GroupSpacing = 18;
+/// Room for the numbers of a library of a million puzzles.
+constexpr QLatin1String WidestNumber("1000000");
+
+} // namespace
+
+ToolRow::ToolRow(QWidget* parent)
+    : QWidget(parent)
+    , m_row(new QHBoxLayout(this)) {
+    m_row->setContentsMargins(0, 0, 0, 0);
+    m_row->setSpacing(Spacing);
+    cmdload = addButton(Picture::Load, u"Load a Puzzle File"_s, u"cmdload"_s);
+    cmdarrow[0] = addButton(Picture::Previous, u"Previous Puzzle"_s, u"cmdarrow_0"_s);
+    addNumberBox();
+    cmdarrow[1] = addButton(Picture::Next, u"Next Puzzle"_s, u"cmdarrow_1"_s);
+    m_row->addSpacing(GroupSpacing);
+    cmdcreate = addButton(Picture::Create, u"Create a New Puzzle"_s, u"cmdcreate"_s);
+    DifLab = addDifficultyLabel();
+    m_row->addStretch();
+    m_row->addSpacing(GroupSpacing);
+    cmdundo = addButton(Picture::Undo, u"Undo"_s, u"cmdundo"_s);
+    cmdreset = addButton(Picture::Reset, u"Reset Puzzle"_s, u"cmdreset"_s);
+    cmdshowsol = addButton(Picture::ShowSolution, u"Show Solution"_s, u"cmdshowsol"_s);
+}
+
+BoxControl* ToolRow::addButton(Picture picture, const QString& toolTip, const QString& name) {
+    auto* button = new BoxControl(picture, toolTip, this);
+    button->setObjectName(name);
+    button->setFixedSize(ButtonSize, ButtonSize);
+    button->setIconSize({PictureSize, PictureSize});
+    m_row->addWidget(button);
+    return button;
+}
+
+void ToolRow::addNumberBox() {
+    m_puzNumNow = new QLineEdit(this);
+    m_puzNumNow->setObjectName(u"PuzNumNow"_s);
+    m_puzNumNow->setAccessibleName(tr("Puzzle number"));
+    m_puzNumNow->setToolTip(tr("Puzzle number; Enter goes there"));
+    m_puzNumNow->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    m_puzNumNow->setMaxLength(WidestNumber.size());
+    m_puzNumNow->setFixedSize(fontMetrics().horizontalAdvance(WidestNumber) + 2 * Spacing,
+                              ButtonSize);
+    connect(m_puzNumNow, &QLineEdit::returnPressed, this,
+            [this] { Q_EMIT numberEntered(m_puzNumNow->text().trimmed().toInt()); });
+    m_puzNumber = new QLabel(this);
+    m_puzNumber->setObjectName(u"puznumber"_s);
+    m_puzNumber->setTextFormat(Qt::PlainText);
+    m_puzNumber->setMinimumWidth(fontMetrics().horizontalAdvance(u" of 1000"_s));
+    m_row->addWidget(m_puzNumNow);
+    m_row->addWidget(m_puzNumber);
+}
+
+BoxControl* ToolRow::addDifficultyLabel() {
+    auto* label = new BoxControl(this);
+    label->setObjectName(u"DifLab"_s);
+    label->setToolTip(u"Difficulty Level"_s);
+    label->setFixedSize(fontMetrics().horizontalAdvance(u"Random"_s) + 4 * Spacing, ButtonSize);
+    m_row->addWidget(label);
+    return label;
+}
+
+void ToolRow::showPuzzleNumber(int number, int count) {
+    m_puzNumNow->setText(count > 0 ? QString::number(number) : QString());
+    m_puzNumber->setText(count > 0 ? u" of %1"_s.arg(count) : QString());
+}
+
+void ToolRow::showDifficulty(DifficultyChoice difficulty) {
+    const std::string_view name = nameOf(difficulty);
+    DifLab->setText(QLatin1String(name.data(), static_cast<qsizetype>(name.size())));
+}
+
+} // namespace tessaly

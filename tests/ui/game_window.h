@@ -1,0 +1,86 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "board/session_memory.h"
+#include "play/board_view.h"
+#include "support/scripted_file_dialogs.h"
+#include "support/scripted_prompts.h"
+#include "support/temporary_folder.h"
+#include "ui/main_window.h"
+
+#include <QLabel>
+#include <QTest>
+
+#include <filesystem>
+#include <memory>
+
+namespace tessaly {
+
+/// A program folder of its own with the data files in it.
+class DataFolder {
+public:
+    DataFolder() {
+        for (const char* name : {"all.col", "hexabinx.txt"})
+            std::filesystem::copy_file(std::filesystem::path(TESSALY_DATA) / name, path() + name);
+    }
+    std::string path() const { return m_folder.path().string() + "/"; }
+
+    /// A copy of one of the sample puzzle files.
+    std::string puzzles(const std::string& name) const {
+        const std::string copy = path() + name;
+        std::filesystem::copy_file(std::filesystem::path(TESSALY_TEST_DATA) / "puzzles" / name, copy);
+        return copy;
+    }
+
+private:
+    test::TemporaryFolder m_folder;
+};
+
+/// The main window as a test uses it: shown offscreen, its questions answered by the test.
+class GameWindow {
+public:
+    explicit GameWindow(Prompts* otherPrompts = nullptr) {
+        session.ProgramFolder = folder.path();
+        const LoadedSession loaded = loadSession(session);
+        EXPECT_TRUE(loaded.outcome.ok()) << loaded.outcome.problem;
+        Prompts& asked = otherPrompts != nullptr ? *otherPrompts : prompts;
+        window = std::make_unique<Form1>(session, asked, fileDialogs);
+        window->show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+        window->library().reopen({}, 1);
+    }
+
+    /// Finds a control by its name.
+    template <class Widget = QWidget>
+    Widget& find(const QString& name) {
+        auto* found = window->findChild<Widget*>(name);
+        if (found == nullptr)
+            throw std::runtime_error("no such control: " + name.toStdString());
+        return *found;
+    }
+
+    QString message() { return find<QLabel>(QStringLiteral("MsgLab")).text(); }
+    BoardView& board() { return find<BoardView>(QStringLiteral("Picture2")); }
+
+    /// Where a cell lies on the board's widget.
+    QPoint pointOf(CellId cell) {
+        const Point centre = numberCentre(cell);
+        return board().boardToWidget().map(QPointF(centre.x, centre.y)).toPoint();
+    }
+
+    void pointAt(CellId cell) {
+        // A move is an event only when the pointer was elsewhere before.
+        QTest::mouseMove(&board(), QPoint(1, 1));
+        QTest::mouseMove(&board(), pointOf(cell));
+    }
+
+    DataFolder folder;
+    Session session;
+    ScriptedPrompts prompts;
+    ScriptedFileDialogs fileDialogs;
+    std::unique_ptr<Form1> window;
+};
+
+} // namespace tessaly
