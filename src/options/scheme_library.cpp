@@ -3,9 +3,9 @@
 
 #include "options/scheme_library.h"
 
+#include "board/data_files.h"
 #include "board/file_access.h"
 #include "board/line_reader.h"
-#include "board/data_files.h"
 #include "board/text_lines.h"
 #include "options/scheme_messages.h"
 #include "options/scheme_record.h"

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <iosfwd>
+#include <optional>
+#include <string>
+
+namespace tessaly {
+
+/// What the game is asked for on its command line. Empty texts were not given.
+struct GameOptions {
+    /// The puzzle file to open in the place of the remembered one.
+    std::string file;
+    /// The number of the puzzle in the file, from 1; 0 was not given.
+    int puzzle = 0;
+    std::string folder;
+    /// Where to write the picture of the window as it first appears, and end.
+    std::string screenshot;
+    bool developer = false;
+};
+
+/// The options, or the exit status when the command line says all that there is to do (--help,
+/// --version) or is wrong; what is to be told goes to `out` or `err`.
+struct GameCommandLine {
+    GameOptions options;
+    std::optional<int> exitStatus;
+};
+
+GameCommandLine parseGameOptions(int argc, const char* const* argv, std::ostream& out,
+                                 std::ostream& err);
+
+} // namespace tessaly

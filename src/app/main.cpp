@@ -1,0 +1,102 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "app/game_options.h"
+#include "app/product.h"
+#include "app/screenshot.h"
+#include "board/file_access.h"
+#include "board/program_folder.h"
+#include "board/session_memory.h"
+#include "ui/file_dialogs.h"
+#include "ui/main_window.h"
+#include "ui/message_box.h"
+
+#include <QApplication>
+
+#include <filesystem>
+#include <iostream>
+
+namespace {
+
+using namespace tessaly;
+
+constexpr const char* Critical = "vbok+vbcritical";
+
+bool hasDisplay() {
+    return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
+           qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+}
+
+/// Without a display only a picture can be made.
+bool choosePlatform(const GameOptions& options) {
+    if (hasDisplay())
+        return true;
+    if (options.screenshot.empty()) {
+        std::cerr << "tessaly: there is no display to open a window on\n";
+        return false;
+    }
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    return true;
+}
+
+/// Finds the data files and reads them; tells the user when the game cannot start.
+bool start(const GameOptions& options, Session& session, Prompts& prompts, LoadedSession& loaded) {
+    auto sources = ProgramFolderSources::ofThisProcess();
+    sources.given = options.folder;
+    loaded.outcome = findProgramFolder(sources, session.ProgramFolder);
+    if (loaded.outcome.ok())
+        loaded = loadSession(session);
+    if (!loaded.outcome.ok())
+        prompts.message(loaded.outcome.problem, Critical);
+    return loaded.outcome.ok();
+}
+
+void openPuzzle(const GameOptions& options, const LastPuzzle& last, LibraryCommands& library) {
+    if (options.file.empty()) {
+        library.reopen(last.path, options.puzzle > 0 ? options.puzzle : last.number);
+        return;
+    }
+    library.reopen({}, 1);
+    library.load(std::filesystem::absolute(options.file).lexically_normal().string(),
+                 std::max(options.puzzle, 1));
+}
+
+int run(const GameOptions& options) {
+    Session session;
+    MsgForm messageBox(session.appearance);
+    PrintedPrompts printed(std::cerr);
+    const bool toPicture = !options.screenshot.empty();
+    Prompts& prompts = toPicture ? static_cast<Prompts&>(printed) : messageBox;
+
+    LoadedSession loaded;
+    if (!start(options, session, prompts, loaded))
+        return EXIT_FAILURE;
+    PlatformFileDialogs fileDialogs;
+    Form1 window(session, prompts, fileDialogs);
+    window.show();
+    if (!loaded.notice.empty())
+        prompts.message(loaded.notice, Critical);
+    openPuzzle(options, loaded.last, window.library());
+    if (!toPicture)
+        return QApplication::exec();
+    const Outcome written = writeScreenshot(window, options.screenshot);
+    if (!written.ok())
+        prompts.message(written.problem, Critical);
+    return printed.saidAnything() ? EXIT_FAILURE : EXIT_SUCCESS;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const GameCommandLine line = parseGameOptions(argc, argv, std::cout, std::cerr);
+    if (line.exitStatus)
+        return *line.exitStatus;
+    if (!choosePlatform(line.options))
+        return EXIT_FAILURE;
+    surviveFileSizeLimit();
+    const QApplication application(argc, argv);
+    QApplication::setApplicationName(QString::fromLatin1(Product::Name));
+    QApplication::setApplicationVersion(QString::fromLatin1(Product::Version));
+    QApplication::setDesktopFileName(QStringLiteral("tessaly"));
+    return run(line.options);
+}

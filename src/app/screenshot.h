@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "board/outcome.h"
+#include "board/prompts.h"
+
+#include <iosfwd>
+#include <string>
+
+class QWidget;
+
+namespace tessaly {
+
+/// Says on a stream what a message box would say, and waits for nobody.
+class PrintedPrompts : public Prompts {
+public:
+    explicit PrintedPrompts(std::ostream& out)
+        : m_out(out) {}
+
+    int message(std::string_view text, std::string_view style) override;
+    bool saidAnything() const { return m_saidAnything; }
+
+private:
+    std::ostream& m_out;
+    bool m_saidAnything = false;
+};
+
+/// Writes the picture of a window to a PNG file.
+Outcome writeScreenshot(QWidget& window, const std::string& path);
+
+} // namespace tessaly
