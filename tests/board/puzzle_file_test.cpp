@@ -155,8 +155,9 @@ TEST_F(PuzzleFile, DeletingTakesOneLineAndKeepsEveryOtherByte) {
     const std::string b = recordNumbered(2) + "  \r\n";
     const std::string c = recordNumbered(3);
     const std::vector<std::string> rests{Mark + b + c, Mark + a + c, Mark + a + b};
+    const std::string whole = Mark + a + b + c;
     for (int number = 1; number <= 3; ++number) {
-        put(path(), Mark + a + b + c);
+        put(path(), whole);
         const std::string record = m_files.ReadPuzzle(path(), number, m_board).record;
         EXPECT_EQ(remove(number, record).problem, "");
         EXPECT_EQ(contentOf(path()), rests[static_cast<std::size_t>(number - 1)]);
