@@ -10,6 +10,9 @@
 #include <QPainter>
 #include <QString>
 
+#include <algorithm>
+#include <cmath>
+
 namespace tessaly {
 namespace {
 
@@ -32,16 +35,25 @@ TagColours tagColours(const QColor& fill, TagState state) {
     return {fill, text};
 }
 
-/// The digits of a hexagon's number side by side, centred on the origin.
-QPainterPath tagText(const DigitFace& face, int hexagon, double size) {
+/// The digits of a hexagon's number side by side about `centre`, `size` units of text high. They
+/// stand on a row of pixels and are a whole number of rows high, for at this size a smoothed edge
+/// is half of the digit.
+QPainterPath tagText(const DigitFace& face, int hexagon, double size, QPointF centre,
+                     const QTransform& toDevice) {
     QPainterPath text;
     double pen = 0;
     for (const QChar digit : QString::number(hexagon)) {
         text.addPath(face.outline(digit.digitValue()).translated(pen, 0));
         pen += face.advance(digit.digitValue());
     }
-    text = QTransform::fromScale(size, size).map(text);
-    return text.translated(-text.boundingRect().center().x(), size * face.height() / 2);
+    double height = size * face.height();
+    double baseline = centre.y() + height / 2;
+    if (const double rows = toDevice.m22(); rows > 0) {
+        height = std::max(std::round(height * rows), 1.0) / rows;
+        baseline = (std::round(baseline * rows + toDevice.dy()) - toDevice.dy()) / rows;
+    }
+    text = QTransform::fromScale(size, height / face.height()).map(text);
+    return text.translated(centre.x() - text.boundingRect().center().x(), baseline);
 }
 
 } // namespace
@@ -60,8 +72,9 @@ void drawTag(QPainter& painter, const QRectF& area, int hexagon, const Appearanc
     painter.setPen(appearance.NumBorder ? QPen(toQColor(appearance.HexaBorderColour), unit)
                                         : QPen(Qt::NoPen));
     painter.drawRoundedRect(frame, radius, radius);
-    painter.fillPath(tagText(face, hexagon, MarkSize * unit).translated(frame.center()),
-                     colours.text);
+    painter.fillPath(
+        tagText(face, hexagon, MarkSize * unit, frame.center(), painter.deviceTransform()),
+        colours.text);
     painter.restore();
 }
 

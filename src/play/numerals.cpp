@@ -68,14 +68,17 @@ Numerals::Numerals(const DigitFace& face, Scale scale, Fit fit)
 }
 
 /// A digit set `size` board units high, or smaller when it would be wider or higher than its cell
-/// has room for.
+/// has room for. Fitted to pixels it rather grows than shrinks, for the smallest marks are hard
+/// enough to read.
 Numerals::Size Numerals::sized(double size, double widest, double highest, Scale scale) const {
+    constexpr double TowardsLarger = 0.25;
     const double em = std::min({size, widest / m_face->columnWidth(), highest / m_face->height()});
     const double exact = em * m_face->height() * scale.y;
-    const double height = std::max(fitted(exact), 1.0);
-    return {{em * scale.x, height / m_face->height()},
-            fitted(em * m_face->columnWidth() * scale.x),
-            height};
+    const double height =
+        m_fit == Fit::ToPixels ? std::max(std::round(exact + TowardsLarger), 1.0) : exact;
+    const double emDown = height / m_face->height();
+    const double emAcross = emDown * scale.x / scale.y;
+    return {{emAcross, emDown}, fitted(emAcross * m_face->columnWidth()), height};
 }
 
 double Numerals::fitted(double value) const {
