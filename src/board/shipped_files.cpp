@@ -53,10 +53,13 @@ Outcome copyShipped(const fs::path& from, const fs::path& to) {
 
 Outcome copyAll(const fs::path& share, const fs::path& folder) {
     for (const ShippedFile& file : ShippedFiles) {
-        if (!file.isNeeded && !FileExists(share / file.name))
-            continue;
         const fs::path copy = folder / file.name;
         std::error_code error;
+        // What is there but cannot be examined must not be left out for good: copying it says why.
+        const bool isThere =
+            fs::status(share / file.name, error).type() != fs::file_type::not_found;
+        if (!file.isNeeded && !isThere)
+            continue;
         if (fs::create_directories(copy.parent_path(), error); error)
             return fileProblem(copy.parent_path(), "cannot be created", error.value());
         if (Outcome copied = copyShipped(share / file.name, copy); !copied.ok())

@@ -89,7 +89,7 @@ TEST_F(ProgramFolderTest, TheDataHomeIsUnderHomeUnlessAnAbsoluteOneIsNamed) {
 TEST_F(ProgramFolderTest, TheFirstStartCopiesWhatIsShippedAndLeavesNothingElse) {
     // A start that was killed while it filled the folder.
     fs::create_directories(data / ".tessaly.new/puzzles");
-    put(data / ".tessaly.new/all.col", "half");
+    put(data / ".tessaly.new/puzzles/half-written", "");
     fs::create_directory(userFolder);
 
     ASSERT_EQ(found(), userFolder.native() + "/") << problem;
@@ -140,8 +140,14 @@ TEST_F(ProgramFolderTest, AFirstStartThatFailsLeavesNothingBehind) {
     EXPECT_EQ(found(), "");
     EXPECT_EQ(problem.find((share / "hexabinx.txt").native()), 0U) << problem;
     EXPECT_EQ(namesIn(data), Names{});
-
     put(share / "hexabinx.txt", "repaired");
+
+    // Even a file that the program could do without is not left out when it is only in trouble.
+    fs::create_directory(share / "tessaly.htm");
+    EXPECT_EQ(found(), "");
+    EXPECT_EQ(problem.find((share / "tessaly.htm").native()), 0U) << problem;
+    EXPECT_EQ(namesIn(data), Names{});
+    fs::remove(share / "tessaly.htm");
     EXPECT_NE(found(), "") << problem;
 }
 
