@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "solver/packed_board.h"
+
+#include "board/digit_set.h"
+
+#include <algorithm>
+#include <functional>
+
+namespace tessaly {
+namespace {
+
+bool isAscending(const std::string& entry) {
+    return std::adjacent_find(entry.begin(), entry.end(), std::greater_equal<>()) == entry.end();
+}
+
+} // namespace
+
+unsigned packEntry(const std::string& entry) {
+    const unsigned digits = DigitSet::fromText(entry).bits();
+    if (entry.size() <= 1)
+        return digits == 0 && !entry.empty() ? word::ZeroBit : digits;
+    const bool onlyDigits = entry.front() >= '1' && entry.back() <= '6';
+    return onlyDigits && isAscending(entry) ? digits : digits | word::UnusualBits;
+}
+
+void unpackEntry(unsigned byte, std::string& entry) {
+    std::array<char, CellCount> digits{};
+    std::size_t count = 0;
+    for (DigitSet rest = DigitSet::fromBits(byte); !rest.empty(); rest = rest.withoutFirst())
+        digits[count++] = static_cast<char>('0' + rest.first());
+    entry.assign(digits.data(), count);
+    if (byte == word::ZeroBit)
+        entry = "0";
+}
+
+HexagonWords packEntries(const Grid<std::string>& entries) {
+    HexagonWords cells{};
+    for (CellId cell : AllCells)
+        cells[static_cast<std::size_t>(cell.hexagon)] |= HexagonWord{packEntry(entries[cell])}
+                                                         << word::shiftOf(cell.position);
+    return cells;
+}
+
+void unpackChanges(const HexagonWords& before, const HexagonWords& now,
+                   Grid<std::string>& entries) {
+    for (int hexagon = 1; hexagon <= HexagonCount; ++hexagon) {
+        const HexagonWord cells = now[static_cast<std::size_t>(hexagon)];
+        const HexagonWord changed = cells ^ before[static_cast<std::size_t>(hexagon)];
+        for (int position = 1; changed != 0 && position <= CellCount; ++position)
+            if (word::byteAt(changed, position) != 0)
+                unpackEntry(word::byteAt(cells, position), entries[{hexagon, position}]);
+    }
+}
+
+PackedBoard::PackedBoard(const HexagonWords& cells) {
+    m_openFlags.fill(word::Flags);
+    for (int hexagon = 1; hexagon <= HexagonCount; ++hexagon)
+        set(hexagon, cells[index(hexagon)]);
+}
+
+bool PackedBoard::everyCellIsSettled() const {
+    return std::all_of(m_openFlags.begin() + 1, m_openFlags.end(),
+                       [](HexagonWord flags) { return flags == 0; });
+}
+
+bool PackedBoard::hasOpenCell() const {
+    return std::any_of(m_cells.begin() + 1, m_cells.end(),
+                       [](HexagonWord cells) { return word::flagSeveral(cells) != 0; });
+}
+
+} // namespace tessaly

@@ -1,0 +1,101 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "support/sample_boards.h"
+
+#include "board/tables.h"
+#include "solver/packed_board.h"
+
+#include <algorithm>
+#include <array>
+
+namespace tessaly {
+namespace {
+
+constexpr std::array<CellId, 10> PlanCells{
+    {{7, 4}, {5, 5}, {8, 6}, {12, 3}, {13, 1}, {15, 2}, {1, 5}, {5, 2}, {15, 5}, {19, 2}}};
+
+void givePuzzleCells(Board& board) {
+    for (CellId cell : AllCells)
+        board.FixedCell[cell] = !SideLink[cell];
+    for (CellId cell : PlanCells)
+        board.FixedCell[cell] = true;
+}
+
+void giveRandomCells(Board& board, Chance& chance) {
+    const std::uint32_t percent = 20 + chance.below(75);
+    for (CellId cell : AllCells)
+        board.FixedCell[cell] = chance.below(100) < percent;
+}
+
+int randomHexagon(Chance& chance) {
+    return static_cast<int>(1 + chance.below(HexagonCount));
+}
+
+void spoilGivens(Board& board, Chance& chance) {
+    for (std::uint32_t n = 1 + chance.below(4); n > 0; --n)
+        board.CellNum[AllCells[chance.below(BoardCellCount)]] =
+            std::string(1, static_cast<char>('1' + chance.below(6)));
+}
+
+/// One half settled digits (now and then a 0), else ascending candidates, else any text.
+std::string randomText(Chance& chance) {
+    std::string text;
+    const std::uint32_t form = chance.below(8);
+    if (form < 3)
+        return std::string(
+            1, static_cast<char>('0' + (chance.below(9) == 0 ? 0 : 1 + chance.below(6))));
+    for (std::uint32_t n = chance.below(form < 5 ? 4 : 7); n > 0; --n)
+        text += static_cast<char>('1' + chance.below(6));
+    if (form < 7) {
+        std::sort(text.begin(), text.end());
+        text.erase(std::unique(text.begin(), text.end()), text.end());
+    } else if (chance.below(4) == 0) {
+        text += '0';
+    }
+    return text;
+}
+
+void writeTexts(Board& board, Chance& chance, std::uint32_t percent) {
+    for (CellId cell : AllCells)
+        if (chance.below(100) < percent)
+            board.CellNum[cell] = randomText(chance);
+}
+
+} // namespace
+
+const SearchFill& completeFill() {
+    static const SearchFill fill(allArrangements());
+    return fill;
+}
+
+Board filledBoard(Chance& chance) {
+    HexagonWords cells{};
+    completeFill().fill(cells, chance);
+    Board board;
+    unpackChanges({}, cells, board.SolNum);
+    board.CellNum = board.SolNum;
+    return board;
+}
+
+Board sampleBoard(Sample kind, Chance& chance) {
+    Board board = filledBoard(chance);
+    const bool givensAreRandom = kind == Sample::RandomGivens || kind == Sample::WrongGivens;
+    if (givensAreRandom)
+        giveRandomCells(board, chance);
+    else
+        givePuzzleCells(board);
+    if (kind != Sample::HalfTexts)
+        board.ResetToGivens();
+    if (kind == Sample::WrongGivens)
+        spoilGivens(board, chance);
+    if (kind == Sample::EmptiedHexagon)
+        board.CellNum[randomHexagon(chance)].fill({});
+    if (kind == Sample::RandomTexts || kind == Sample::HalfTexts)
+        writeTexts(board, chance, kind == Sample::RandomTexts ? 100 : 10 + chance.below(40));
+    board.BlankHex = chance.below(2) == 0 ? randomHexagon(chance) : NoHexagon;
+    board.SkipHex = chance.below(4) == 0 ? randomHexagon(chance) : NoHexagon;
+    return board;
+}
+
+} // namespace tessaly
