@@ -5,7 +5,7 @@
 
 #include <array>
 #include <cstdint>
-#include <span>
+#include <iterator>
 #include <utility>
 
 namespace tessaly {
@@ -43,9 +43,9 @@ public:
     std::uint32_t below(std::uint32_t bound);
 
     /// Puts the items into random order, each order equally likely (Fisher and Yates).
-    template <class T>
-    void shuffle(std::span<T> items) {
-        for (std::size_t left = items.size(); left > 1; --left)
+    template <class Range>
+    void shuffle(Range&& items) {
+        for (std::size_t left = std::size(items); left > 1; --left)
             std::swap(items[left - 1], items[below(static_cast<std::uint32_t>(left))]);
     }
 

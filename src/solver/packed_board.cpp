@@ -26,13 +26,11 @@ unsigned packEntry(const std::string& entry) {
 }
 
 void unpackEntry(unsigned byte, std::string& entry) {
-    std::array<char, CellCount> digits{};
-    std::size_t count = 0;
-    for (DigitSet rest = DigitSet::fromBits(byte); !rest.empty(); rest = rest.withoutFirst())
-        digits[count++] = static_cast<char>('0' + rest.first());
-    entry.assign(digits.data(), count);
-    if (byte == word::ZeroBit)
-        entry = "0";
+    const DigitSet digits = DigitSet::fromBits(byte);
+    if (std::has_single_bit(byte))
+        entry.assign(1, digits.empty() ? '0' : static_cast<char>('0' + digits.first()));
+    else
+        entry = digits.text();
 }
 
 HexagonWords packEntries(const Grid<std::string>& entries) {
@@ -54,10 +52,10 @@ void unpackChanges(const HexagonWords& before, const HexagonWords& now,
     }
 }
 
-PackedBoard::PackedBoard(const HexagonWords& cells) {
-    m_openFlags.fill(word::Flags);
-    for (int hexagon = 1; hexagon <= HexagonCount; ++hexagon)
-        set(hexagon, cells[index(hexagon)]);
+PackedBoard::PackedBoard(const HexagonWords& cells)
+    : m_cells(cells) {
+    for (std::size_t at = 1; at < m_cells.size(); ++at)
+        settle(at, word::flagSettled(m_cells[at]));
 }
 
 bool PackedBoard::everyCellIsSettled() const {

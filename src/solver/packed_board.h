@@ -65,24 +65,36 @@ constexpr std::array<std::uint32_t, HexagonCount + 1> makeXcellsOf() {
     return xcellsOf;
 }
 
-/// The hexagons across any set of a hexagon's sides (bit 0 is side 1).
-using AcrossSides = std::array<std::uint32_t, std::size_t{1} << CellCount>;
+/// For each hexagon, something for any set of its cells (bit 0 is cell 1).
+using CellSetTable =
+    std::array<std::array<std::uint32_t, std::size_t{1} << CellCount>, HexagonCount + 1>;
 
-constexpr std::array<AcrossSides, HexagonCount + 1> makeAcross() {
-    std::array<AcrossSides, HexagonCount + 1> table{};
+constexpr void addForSetsWith(CellSetTable& table, CellId cell, std::uint32_t bits) {
+    auto& row = table[static_cast<std::size_t>(cell.hexagon)];
+    for (std::size_t set = 0; set < row.size(); ++set)
+        if (((set >> (cell.position - 1)) & 1U) != 0)
+            row[set] |= bits;
+}
+
+constexpr CellSetTable makeHexagonsAcross() {
+    CellSetTable table{};
     for (CellId cell : AllCells)
-        for (unsigned sides = 0; sides < table[0].size(); ++sides)
-            if (SideLink[cell] && ((sides >> (cell.position - 1)) & 1U) != 0)
-                table[static_cast<std::size_t>(cell.hexagon)][sides] |= 1U
-                                                                        << SideLink[cell].hexagon;
+        if (SideLink[cell])
+            addForSetsWith(table, cell, 1U << SideLink[cell].hexagon);
     return table;
 }
 
-inline constexpr std::array<AcrossSides, HexagonCount + 1> AcrossTable = makeAcross();
+constexpr CellSetTable makeXcellsTouched() {
+    CellSetTable table{};
+    for (std::size_t xcell = 1; xcell <= XcellCount; ++xcell)
+        for (CellId cell : XcellTable[xcell])
+            addForSetsWith(table, cell, 1U << xcell);
+    return table;
+}
 
-/// The hexagons around each hexagon, and the xcells that it has a part in, a bit for each.
-inline constexpr std::array<std::uint32_t, HexagonCount + 1> AroundTable = makeAround();
-inline constexpr std::array<std::uint32_t, HexagonCount + 1> XcellsOfTable = makeXcellsOf();
+/// The hexagons across the sides of the cells, and the xcells that the cells touch: a bit for each.
+inline constexpr CellSetTable HexagonsAcross = makeHexagonsAcross();
+inline constexpr CellSetTable XcellsTouched = makeXcellsTouched();
 
 } // namespace detail
 
@@ -90,6 +102,11 @@ inline constexpr std::array<std::uint32_t, HexagonCount + 1> XcellsOfTable = mak
 /// each hexagon (or xcell) with its number.
 class Agenda {
 public:
+    static constexpr std::uint32_t allUpTo(int last) { return (2U << last) - 2; }
+
+    explicit Agenda(std::uint32_t bits)
+        : m_bits(bits) {}
+
     void add(std::uint32_t bits) { m_bits |= bits; }
 
     /// Takes every item off in ascending order and hands it to `visit`, until that answers false.
@@ -106,15 +123,15 @@ public:
     }
 
 private:
-    std::uint32_t m_bits = 0;
+    std::uint32_t m_bits;
 };
 
 /// An agenda for each of the four rules.
 struct RuleAgendas {
-    Agenda neighbours;
-    Agenda candidates;
-    Agenda singles;
-    Agenda xcells;
+    Agenda neighbours{Agenda::allUpTo(HexagonCount)};
+    Agenda candidates{Agenda::allUpTo(HexagonCount)};
+    Agenda singles{Agenda::allUpTo(HexagonCount)};
+    Agenda xcells{Agenda::allUpTo(XcellCount)};
 };
 
 /// The top bit of each cell of a hexagon (index 1..19) that has a cell across its side.
@@ -138,20 +155,19 @@ public:
     /// Replaces the cells of a hexagon; what is settled stays so.
     void set(int hexagon, HexagonWord cells) {
         const std::size_t at = index(hexagon);
-        const HexagonWord flags = word::flagSettled(cells);
-        const HexagonWord settled = cells & word::bytesOf(flags);
-        m_agendas.candidates.add(1U << hexagon);
+        const HexagonWord changed = word::flagNonZero(cells ^ m_cells[at]);
         m_agendas.singles.add(1U << hexagon);
-        m_agendas.xcells.add(detail::XcellsOfTable[at]);
+        m_agendas.xcells.add(detail::XcellsTouched[at][word::gatherFlags(changed)]);
         m_cells[at] = cells;
-        const HexagonWord newlySettled = flags & m_openFlags[at];
-        if (newlySettled == 0)
+        const HexagonWord settled = word::flagSettled(cells);
+        const HexagonWord wasOpen = m_openFlags[at];
+        if ((settled & wasOpen) == 0)
             return;
-        m_agendas.neighbours.add(detail::AcrossTable[at][word::gatherFlags(newlySettled)]);
-        m_agendas.candidates.add(detail::AroundTable[at]);
-        m_settled[at] = settled;
-        m_openFlags[at] = word::Flags & ~flags;
-        m_placed[at] = word::repeat(word::unite(settled & word::Digits));
+        // What is across a cell that was settled before takes no notice of this hexagon any more.
+        m_agendas.candidates.add((1U << hexagon) |
+                                 detail::HexagonsAcross[at][word::gatherFlags(wasOpen)]);
+        m_agendas.neighbours.add(detail::HexagonsAcross[at][word::gatherFlags(settled & wasOpen)]);
+        settle(at, settled);
     }
 
     RuleAgendas& agendas() { return m_agendas; }
@@ -177,12 +193,24 @@ public:
                (m_placed[next[4]] & word::maskOf(5)) | (m_placed[next[5]] & word::maskOf(6));
     }
 
-    bool everyCellIsSettled() const;
+    bool isSettled(CellId cell) const {
+        return (settled(cell.hexagon) & word::maskOf(cell.position)) != 0;
+    }
     /// Whether a cell has two or more candidates.
+    bool isOpen(CellId cell) const {
+        return (word::flagSeveral(hexagon(cell.hexagon)) & word::maskOf(cell.position)) != 0;
+    }
+    bool everyCellIsSettled() const;
     bool hasOpenCell() const;
 
 private:
     static constexpr std::size_t index(int hexagon) { return static_cast<std::size_t>(hexagon); }
+
+    void settle(std::size_t at, HexagonWord flags) {
+        m_settled[at] = m_cells[at] & word::bytesOf(flags);
+        m_openFlags[at] = word::Flags & ~flags;
+        m_placed[at] = word::repeat(word::unite(m_settled[at] & word::Digits));
+    }
 
     HexagonWords m_cells{};
     HexagonWords m_settled{};

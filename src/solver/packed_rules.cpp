@@ -106,6 +106,7 @@ bool PackedRules::fixCandidates(int hexagon) {
     const HexagonWord emptied = changed & ~word::flagNonZero(after);
     if (emptied != 0) {
         m_board.set(hexagon, upToFlag(emptied, after, before));
+        m_board.agendas().candidates.add(1U << hexagon);
         counter = -1;
         return false;
     }
@@ -201,16 +202,18 @@ int PackedRules::occurrences(CellId cell, int digit) const {
 }
 
 bool PackedRules::place(XcellPlacement placement) {
-    const auto [hexagon, position] = placement.cell;
-    const HexagonWord cells = m_board.hexagon(hexagon);
-    const HexagonWord mask = word::maskOf(position);
-    if ((word::flagSeveral(cells) & mask) == 0)
+    const HexagonWord mask = word::maskOf(placement.cell.position);
+    if ((word::flagSeveral(m_board.hexagon(placement.cell.hexagon)) & mask) == 0)
         return false;
-    const HexagonWord digit = HexagonWord{DigitSet::of(placement.digit).bits()}
-                              << word::shiftOf(position);
-    m_board.set(hexagon, (cells & ~mask) | digit);
+    settle(placement.cell, placement.digit);
     ++counter;
     return true;
+}
+
+void PackedRules::settle(CellId cell, int digit) {
+    const HexagonWord others = m_board.hexagon(cell.hexagon) & ~word::maskOf(cell.position);
+    const HexagonWord bit = DigitSet::of(digit).bits();
+    m_board.set(cell.hexagon, others | (bit << word::shiftOf(cell.position)));
 }
 
 int CheckHexagons(const PackedBoard& board, int leftOut) {

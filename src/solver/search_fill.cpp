@@ -141,11 +141,14 @@ std::vector<Arrangement> allArrangements() {
     return all;
 }
 
-Arrangement arrangementOfWord(std::string_view word) {
-    Arrangement digits{};
-    for (std::size_t i = 0; i < digits.size(); ++i)
-        digits[i] = static_cast<std::uint8_t>(word[i] - 'A' + 1);
-    return digits;
+std::vector<Arrangement> arrangementsOf(const ArrangementTable& table) {
+    std::vector<Arrangement> all;
+    for (std::size_t at = 1; at <= static_cast<std::size_t>(table.wordCount); ++at) {
+        Arrangement& digits = all.emplace_back();
+        std::transform(table.words[at].begin(), table.words[at].end(), digits.begin(),
+                       [](char letter) { return static_cast<std::uint8_t>(letter - 'A' + 1); });
+    }
+    return all;
 }
 
 SearchFill::SearchFill(std::span<const Arrangement> table) {

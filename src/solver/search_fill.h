@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "board/arrangements.h"
 #include "board/digit_set.h"
 #include "solver/chance.h"
 #include "solver/hexagon_word.h"
@@ -11,7 +12,6 @@
 #include <cstdint>
 #include <functional>
 #include <span>
-#include <string_view>
 #include <vector>
 
 namespace tessaly {
@@ -22,8 +22,8 @@ using Arrangement = std::array<std::uint8_t, CellCount>;
 /// All 720 arrangements in ascending order.
 std::vector<Arrangement> allArrangements();
 
-/// The arrangement of a word in which "A" to "F" stand for 1 to 6.
-Arrangement arrangementOfWord(std::string_view word);
+/// The arrangements that the words of a table stand for.
+std::vector<Arrangement> arrangementsOf(const ArrangementTable& table);
 
 /// How a search for a filling ended.
 struct FillResult {

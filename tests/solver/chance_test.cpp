@@ -50,7 +50,7 @@ TEST(Chance, EveryOrderIsEquallyLikely) {
     for (int i = 0; i < Draws; ++i) {
         std::vector<int> items(4);
         std::iota(items.begin(), items.end(), 0);
-        chance.shuffle(std::span(items));
+        chance.shuffle(items);
         ++orders[items];
     }
     ASSERT_EQ(orders.size(), 24U);

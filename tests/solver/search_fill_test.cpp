@@ -91,7 +91,15 @@ TEST(SearchFill, KnowsAllArrangementsInAscendingOrder) {
     EXPECT_EQ(all.size(), 720U);
     EXPECT_TRUE(std::is_sorted(all.begin(), all.end()));
     EXPECT_EQ(std::set<Arrangement>(all.begin(), all.end()).size(), 720U);
-    EXPECT_EQ(arrangementOfWord("BACDFE"), (Arrangement{2, 1, 3, 4, 6, 5}));
+}
+
+TEST(SearchFill, ReadsTheWordsOfATable) {
+    ArrangementTable table;
+    table.words[1] = "BACDFE";
+    table.words[2] = "FEDCBA";
+    table.wordCount = 2;
+    EXPECT_EQ(arrangementsOf(table),
+              (std::vector<Arrangement>{{2, 1, 3, 4, 6, 5}, {6, 5, 4, 3, 2, 1}}));
 }
 
 } // namespace

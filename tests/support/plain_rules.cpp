@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <array>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -26,16 +25,8 @@ CellId cellAt(const std::string& text, std::size_t at) {
     return {std::stoi(text.substr(at, 2)), std::stoi(text.substr(at + 2, 2))};
 }
 
-std::vector<CellId> cellsOfXcell(std::size_t xcell) {
-    std::vector<CellId> cells;
-    std::istringstream codes{std::string(XCells[xcell])};
-    for (std::string code; codes >> code;)
-        cells.push_back({std::stoi(code.substr(0, 2)), std::stoi(code.substr(2))});
-    return cells;
-}
-
 /// One item for each digit that occurs: " 3  0305 0802".
-std::vector<std::string> workList(const Board& board, const std::vector<CellId>& cells) {
+std::vector<std::string> workList(const Board& board, const XcellCells& cells) {
     std::array<std::string, 7> places;
     for (CellId cell : cells)
         for (char c : board.CellNum[cell])
@@ -137,7 +128,7 @@ void FixSingles(Board& board, std::int32_t& counter) {
 
 void FixXcellPairs(Board& board, std::int32_t& counter) {
     for (std::size_t xcell = 1; xcell <= XcellCount; ++xcell) {
-        const std::vector<CellId> cells = cellsOfXcell(xcell);
+        const XcellCells& cells = XcellTable[xcell];
         if (std::any_of(cells.begin(), cells.end(),
                         [&board](CellId cell) { return cell.hexagon == board.BlankHex; }))
             continue;

@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "board/board.h"
+#include "solver/chance.h"
+#include "solver/search_fill.h"
+
+namespace tessaly::plain {
+
+/// The generator read as plainly as possible, on texts and with the plain rules; it draws the same
+/// numbers in the same order as the fast one.
+void CreatePuzzle(Board& board, Difficulty difficulty, Chance& chance, const SearchFill& fill);
+bool ChooseBlankHexagon(Board& board, Difficulty difficulty, Chance& chance);
+
+} // namespace tessaly::plain
