@@ -68,6 +68,7 @@ int run(const GameOptions& options) {
     const bool toPicture = !options.screenshot.empty();
     Prompts& prompts = toPicture ? static_cast<Prompts&>(printed) : messageBox;
 
+    session.developer = options.developer;
     LoadedSession loaded;
     if (!start(options, session, prompts, loaded))
         return EXIT_FAILURE;

@@ -14,8 +14,9 @@ constexpr std::string_view Critical = "vbcritical+vbok";
 
 std::string trimmed(const std::string& text) {
     const auto first = text.find_first_not_of(" \t");
-    return first == std::string::npos ? std::string()
-                                      : text.substr(first, text.find_last_not_of(" \t") - first + 1);
+    return first == std::string::npos
+               ? std::string()
+               : text.substr(first, text.find_last_not_of(" \t") - first + 1);
 }
 
 /// Shows the busy pointer for as long as it lives.
@@ -164,10 +165,8 @@ void LibraryCommands::mnudelete() {
 }
 
 void LibraryCommands::oldfiles_Click(int item) {
-    if (m_session.busy.creating) {
-        tellCritical("Cancel Puzzle Creation first");
+    if (m_session.busy.refuses(m_prompts, "Cancel Puzzle Creation first"))
         return;
-    }
     const std::string path = m_session.recentFiles.paths().at(static_cast<std::size_t>(item));
     if (!FileExists(path)) {
         tellCritical("File not found:\r\n" + path);

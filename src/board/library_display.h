@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "board/difficulty.h"
 #include "board/recent_files.h"
 
 #include <string>
@@ -30,6 +31,8 @@ public:
     virtual void showPuzzle(const CurrentPuzzle& puzzle) = 0;
     /// There is none.
     virtual void showNoPuzzle() = 0;
+    /// What the difficulty label shows.
+    virtual void showDifficulty(DifficultyChoice difficulty) = 0;
     /// The file that "Save to" offers; empty for none.
     virtual void showSaveTarget(const std::string& path) = 0;
     virtual void showRecentFiles(const RecentFiles& files) = 0;

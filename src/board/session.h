@@ -33,6 +33,8 @@ struct Session {
     /// What the difficulty label shows, and so what the next puzzle will be.
     DifficultyChoice difficulty;
     BusyState busy;
+    /// Whether the developer's commands are shown.
+    bool developer = false;
 };
 
 } // namespace tessaly

@@ -59,12 +59,12 @@ void BoardInput::hidePopup() {
 }
 
 void BoardInput::Picture2_MouseMove(Point point) {
-    if (!m_busy.creating)
+    if (!m_busy.isBusy())
         select(cellAt(point));
 }
 
 void BoardInput::Picture2_MouseDown(PointerButton button, Point point) {
-    if (m_busy.creating)
+    if (m_busy.isBusy())
         return;
     if (button != PointerButton::Right || !m_selection) {
         hidePopup();
@@ -76,7 +76,7 @@ void BoardInput::Picture2_MouseDown(PointerButton button, Point point) {
 }
 
 void BoardInput::Picture2_MouseUp(PointerButton button) {
-    if (m_busy.creating)
+    if (m_busy.isBusy())
         return;
     if (!m_selection) {
         hidePopup();
@@ -94,7 +94,7 @@ void BoardInput::Picture2_KeyDown(int& keyCode) {
 }
 
 void BoardInput::Picture2_KeyPress(int& characterCode) {
-    if (m_busy.creating)
+    if (m_busy.isBusy())
         return;
     const int code = std::exchange(characterCode, 0);
     if (!m_selection)
@@ -117,7 +117,7 @@ void BoardInput::digt_MouseUp(int item, PointerButton button) {
 }
 
 void BoardInput::Num16_Click(int button) {
-    if (!m_popupTarget || m_busy.creating)
+    if (!m_popupTarget || m_busy.isBusy())
         return;
     hidePopup();
     switch (button) {
@@ -140,7 +140,7 @@ void BoardInput::Num16_Click(int button) {
 }
 
 void BoardInput::Celltags_MouseDown(int hexagon) {
-    if (m_busy.creating)
+    if (m_busy.isBusy())
         return;
     m_peek.begin(m_game.board, m_game.TouchedCell, hexagon);
     m_display.DrawHexagon(hexagon);
@@ -158,17 +158,17 @@ void BoardInput::Timer1_Timer() {
 }
 
 void BoardInput::moveSelection(int columns, int rows) {
-    if (!m_busy.creating)
+    if (!m_busy.isBusy())
         select(cellBeside(m_game, m_selection, columns, rows));
 }
 
 void BoardInput::selectFirst() {
-    if (!m_busy.creating)
+    if (!m_busy.isBusy())
         select(firstSelectable(m_game));
 }
 
 void BoardInput::selectLast() {
-    if (!m_busy.creating)
+    if (!m_busy.isBusy())
         select(lastSelectable(m_game));
 }
 
@@ -178,7 +178,7 @@ void BoardInput::openPopupAtSelection() {
 }
 
 void BoardInput::pointerLeft() {
-    if (!m_busy.creating)
+    if (!m_busy.isBusy())
         select({});
 }
 

@@ -69,8 +69,8 @@ private:
     BoardInput* m_input = nullptr;
     BoardSurface m_surface;
     std::array<HexagonTagWidget*, HexagonCount + 1> m_tags{}; // Celltags
-    SelectionMarker m_marker;                           // Shape1
-    NumberPopup m_popup;                                // Picture1
+    SelectionMarker m_marker;                                 // Shape1
+    NumberPopup m_popup;                                      // Picture1
     CellId m_markedCell;
     /// The colour of the solution while it is shown.
     std::optional<Colour> m_solutionColour;

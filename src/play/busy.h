@@ -9,19 +9,39 @@
 
 namespace tessaly {
 
-/// Whether puzzles are being created, so that every command that would touch the board or the
-/// puzzle file is refused.
+/// What is under way that keeps commands from touching the board or the puzzle file. One command
+/// runs at a time; another one can only arrive while it lets the window live.
 struct BusyState {
     static constexpr std::string_view Refusal = "Let AutoCreate finish first";
 
+    /// Many puzzles are being created; whoever wants something else is told so.
     bool creating = false;
+    /// A short command is at work; what arrives meanwhile is ignored.
+    bool commandRunning = false;
 
-    /// Says that the command has to wait when it has to, and whether it has.
-    bool refuses(Prompts& prompts) const {
+    bool isBusy() const { return creating || commandRunning; }
+
+    /// Whether a command has to wait; says so when that may take long.
+    bool refuses(Prompts& prompts, std::string_view refusal = Refusal) const {
         if (creating)
-            prompts.message(Refusal, "vbcritical+vbok");
-        return creating;
+            prompts.message(refusal, "vbcritical+vbok");
+        return isBusy();
     }
+};
+
+/// Sets a flag for as long as it lives.
+class WhileSet {
+public:
+    explicit WhileSet(bool& flag)
+        : m_flag(flag) {
+        m_flag = true;
+    }
+    ~WhileSet() { m_flag = false; }
+    WhileSet(const WhileSet&) = delete;
+    WhileSet& operator=(const WhileSet&) = delete;
+
+private:
+    bool& m_flag;
 };
 
 } // namespace tessaly

@@ -23,8 +23,7 @@ constexpr int ButtonCount = PalettePanel::ItemCount + AssistCount;
 constexpr int ButtonPart = 8;
 constexpr int SpacePart = 1;
 constexpr int GroupSpacePart = 3;
-constexpr int AllParts =
-    ButtonCount * ButtonPart + (ButtonCount - 2) * SpacePart + GroupSpacePart;
+constexpr int AllParts = ButtonCount * ButtonPart + (ButtonCount - 2) * SpacePart + GroupSpacePart;
 /// Sizes of what stands on a button, in parts of the button's.
 constexpr double PicturePart = 0.6;
 constexpr double DigitPart = 0.46;

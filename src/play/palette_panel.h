@@ -15,8 +15,9 @@ namespace tessaly {
 class BoxControl;
 enum class Picture;
 
-/// The palette beside the board (`digt`): the numbers 1 to 6 and the eraser, of which at most one is
-/// pressed; beneath it the three assists. The buttons are squares, as large as the height allows.
+/// The palette beside the board (`digt`): the numbers 1 to 6 and the eraser, of which at most one
+/// is pressed; beneath it the three assists. The buttons are squares, as large as the height
+/// allows.
 class PalettePanel : public QWidget {
     Q_OBJECT
 

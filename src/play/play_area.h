@@ -10,8 +10,8 @@ namespace tessaly {
 class BoardView;
 class PalettePanel;
 
-/// The middle of the main window: the board and, close at its right whatever the window's shape, the
-/// palette. Takes both as its children.
+/// The middle of the main window: the board and, close at its right whatever the window's shape,
+/// the palette. Takes both as its children.
 class PlayArea : public QWidget {
     Q_OBJECT
 

@@ -111,7 +111,7 @@ void PlayCommands::cmdshowsolPressed() {
 }
 
 void PlayCommands::cmdshowsolReleased() {
-    if (!m_busy.creating)
+    if (!m_busy.isBusy())
         m_display.DrawBoard();
 }
 

@@ -14,7 +14,7 @@
 namespace tessaly {
 
 /// The menus of the main window. Each action and menu carries its name as object name; a command
-/// that nothing is connected to yet is disabled.
+/// that is still to come is there, but disabled.
 class MainMenu {
 public:
     static constexpr int RecentFileCount = 5;
@@ -56,6 +56,7 @@ private:
     void buildCreateMenu(QMenu& menu);
     void buildSaveMenu(QMenu& menu);
     void buildPrintMenu(QMenu& menu);
+    void disableWhatIsToCome();
 };
 
 } // namespace tessaly

@@ -8,6 +8,7 @@
 #include "play/board_view.h"
 #include "play/palette_panel.h"
 #include "play/play_area.h"
+#include "solver/developer_row.h"
 #include "ui/box_control.h"
 #include "ui/file_name_picker.h"
 #include "ui/icon_set.h"
@@ -37,12 +38,19 @@ Form1::Form1(Session& session, Prompts& prompts, FileDialogs& fileDialogs)
     , m_board(new BoardView(session.game.board, session.appearance))
     , m_palette(new PalettePanel(session.appearance))
     , m_status(new StatusLine)
+    , m_developerRow(new DeveloperRow)
     , m_picker(new FNDialog(fileDialogs, prompts, this))
     , m_puzzleFiles(*m_picker, session.ProgramFolder)
     , m_display(session, {m_menu, *m_tools, *m_board, *m_palette, *m_status})
     , m_play(session.game, session.busy, session.appearance, m_display, prompts)
     , m_input(session.game, session.busy, m_play, m_display, m_display, prompts)
-    , m_library(session, m_display, m_display, prompts, m_puzzleFiles) {
+    , m_library(session, m_display, m_display, prompts, m_puzzleFiles)
+    , m_creation(session, m_library, m_display, m_display, prompts, Chance(Chance::freshSeed()))
+    , m_creationDialog(session.appearance, fileDialogs, prompts, session.ProgramFolder, this)
+    , m_multipleCreation(session, m_library,
+                         {m_display, m_display, m_display, prompts, m_creationDialog},
+                         Chance(Chance::freshSeed()))
+    , m_developer(session, m_display, prompts) {
     setObjectName(u"Form1"_s);
     setWindowTitle(u"Tessaly"_s);
     setWindowIcon(productIcon());
@@ -55,6 +63,8 @@ Form1::Form1(Session& session, Prompts& prompts, FileDialogs& fileDialogs)
     connectTools();
     connectPalette();
     connectStatusLine();
+    connectCreation();
+    connectDeveloperRow();
     applyAppearance();
     resize(FirstSize);
 }
@@ -65,6 +75,8 @@ QWidget* Form1::arrangeRegions() {
     rows->setContentsMargins(Margin, Margin, Margin, Margin);
     rows->setSpacing(Spacing);
     rows->addWidget(m_tools);
+    rows->addWidget(m_developerRow);
+    m_developerRow->setVisible(m_session.developer);
     rows->addWidget(new PlayArea(m_board, m_palette), 1);
     rows->addWidget(m_status);
     return centre;
@@ -114,6 +126,29 @@ void Form1::connectPalette() {
 
 void Form1::connectStatusLine() {
     connect(m_status->StatLab, &BoxControl::clicked, this, [this] { m_play.StatLab(); });
+}
+
+void Form1::connectCreation() {
+    const auto createOne = [this] {
+        m_creation.cmdcreate();
+        m_developerRow->showText(QString::fromStdString(developerText(m_session.game.board)));
+    };
+    connect(m_tools->DifLab, &BoxControl::clicked, this, [this] { m_creation.DifLab(); });
+    connect(m_tools->cmdcreate, &BoxControl::clicked, this, createOne);
+    connect(m_menu.createSingle, &QAction::triggered, this, createOne);
+    connect(m_menu.createMultiple, &QAction::triggered, this, [this] { m_multipleCreation.run(); });
+}
+
+void Form1::connectDeveloperRow() {
+    connect(m_developerRow->debugSolve, &BoxControl::clicked, this,
+            [this] { m_developer.solveInSteps(m_developerRow->debugs()); });
+    connect(m_developerRow->xcellRule, &BoxControl::clicked, this,
+            [this] { m_developer.applyXcellRule(); });
+}
+
+void Form1::closeEvent(QCloseEvent* event) {
+    m_multipleCreation.stop();
+    QMainWindow::closeEvent(event);
 }
 
 void Form1::cmdexit() {

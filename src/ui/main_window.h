@@ -6,6 +6,10 @@
 #include "board/library_commands.h"
 #include "play/board_input.h"
 #include "play/play_commands.h"
+#include "solver/creation_commands.h"
+#include "solver/developer_commands.h"
+#include "solver/multiple_creation.h"
+#include "solver/multiple_creation_dialog.h"
 #include "ui/main_menu.h"
 #include "ui/puzzle_file_choice.h"
 #include "ui/window_display.h"
@@ -14,6 +18,7 @@
 
 namespace tessaly {
 
+class DeveloperRow;
 class FileDialogs;
 
 /// The main window: builds its regions and connects their controls to the commands.
@@ -28,12 +33,17 @@ public:
     /// Wears the scheme and the settings that are in force.
     void applyAppearance();
 
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
 private:
     QWidget* arrangeRegions();
     void connectMenu();
     void connectTools();
     void connectPalette();
     void connectStatusLine();
+    void connectCreation();
+    void connectDeveloperRow();
     void cmdexit();
 
     Session& m_session;
@@ -44,6 +54,7 @@ private:
     BoardView* m_board;
     PalettePanel* m_palette;
     StatusLine* m_status;
+    DeveloperRow* m_developerRow;
     FNDialog* m_picker; // gf1
 
     PuzzleFileChoice m_puzzleFiles;
@@ -51,6 +62,10 @@ private:
     PlayCommands m_play;
     BoardInput m_input;
     LibraryCommands m_library;
+    CreationCommands m_creation;
+    Form3 m_creationDialog;
+    MultipleCreation m_multipleCreation;
+    DeveloperCommands m_developer;
 };
 
 } // namespace tessaly

@@ -3,6 +3,7 @@
 
 #include "ui/tool_row.h"
 
+#include "solver/creation_progress_bar.h"
 #include "ui/box_control.h"
 
 #include <QHBoxLayout>
@@ -35,7 +36,9 @@ ToolRow::ToolRow(QWidget* parent)
     m_row->addSpacing(GroupSpacing);
     cmdcreate = addButton(Picture::Create, u"Create a New Puzzle"_s, u"cmdcreate"_s);
     DifLab = addDifficultyLabel();
-    m_row->addStretch();
+    m_row->addSpacing(GroupSpacing);
+    progress = new CreationProgressBar(this);
+    m_row->addWidget(progress, 1);
     m_row->addSpacing(GroupSpacing);
     cmdundo = addButton(Picture::Undo, u"Undo"_s, u"cmdundo"_s);
     cmdreset = addButton(Picture::Reset, u"Reset Puzzle"_s, u"cmdreset"_s);

@@ -16,6 +16,7 @@ class QLineEdit;
 namespace tessaly {
 
 class BoxControl;
+class CreationProgressBar;
 enum class Picture;
 
 /// The row of commands above the board.
@@ -33,6 +34,7 @@ public:
     std::array<BoxControl*, 2> cmdarrow;
     BoxControl* cmdcreate;
     BoxControl* DifLab;
+    CreationProgressBar* progress;
     BoxControl* cmdundo;
     BoxControl* cmdreset;
     BoxControl* cmdshowsol;

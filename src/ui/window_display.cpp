@@ -6,6 +6,7 @@
 #include "board/session.h"
 #include "play/board_view.h"
 #include "play/palette_panel.h"
+#include "solver/creation_progress_bar.h"
 #include "ui/main_menu.h"
 #include "ui/status_line.h"
 #include "ui/tool_row.h"
@@ -62,16 +63,20 @@ void WindowDisplay::showPalette(int pressedItem) {
 
 void WindowDisplay::showPuzzle(const CurrentPuzzle& puzzle) {
     m_regions.tools.showPuzzleNumber(puzzle.PuzNum, puzzle.PuzCount);
-    m_regions.tools.showDifficulty(m_session.difficulty);
+    showDifficulty(m_session.difficulty);
     m_regions.status.showFile(puzzle.PuzPath);
     m_regions.board.DrawBoard();
 }
 
 void WindowDisplay::showNoPuzzle() {
     m_regions.tools.showPuzzleNumber(0, 0);
-    m_regions.tools.showDifficulty(m_session.difficulty);
+    showDifficulty(m_session.difficulty);
     m_regions.status.showFileText(u"Create a New Puzzle"_s);
     m_regions.board.DrawBoard();
+}
+
+void WindowDisplay::showDifficulty(DifficultyChoice difficulty) {
+    m_regions.tools.showDifficulty(difficulty);
 }
 
 void WindowDisplay::showSaveTarget(const std::string& path) {
@@ -87,6 +92,21 @@ void WindowDisplay::showBusy(bool busy) {
         QApplication::setOverrideCursor(Qt::BusyCursor);
     else
         QApplication::restoreOverrideCursor();
+}
+
+void WindowDisplay::beginProgress(const std::string& path) {
+    m_regions.status.showFile(path);
+    m_regions.tools.showPuzzleNumber(0, 0);
+    m_regions.tools.progress->begin();
+}
+
+void WindowDisplay::showProgress(const CreationProgress& progress) {
+    m_regions.tools.showPuzzleNumber(progress.made, progress.count);
+    m_regions.tools.progress->show(progress);
+}
+
+void WindowDisplay::endProgress() {
+    m_regions.tools.progress->end();
 }
 
 } // namespace tessaly

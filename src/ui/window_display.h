@@ -6,6 +6,7 @@
 #include "board/library_display.h"
 #include "play/board_input.h"
 #include "play/display.h"
+#include "solver/multiple_creation.h"
 
 namespace tessaly {
 
@@ -26,7 +27,10 @@ struct WindowRegions {
 };
 
 /// What the commands show, passed on to the region of the window that shows it.
-class WindowDisplay final : public Display, public InputDisplay, public LibraryDisplay {
+class WindowDisplay final : public Display,
+                            public InputDisplay,
+                            public LibraryDisplay,
+                            public CreationProgressDisplay {
 public:
     WindowDisplay(const Session& session, const WindowRegions& regions);
 
@@ -44,9 +48,14 @@ public:
 
     void showPuzzle(const CurrentPuzzle& puzzle) override;
     void showNoPuzzle() override;
+    void showDifficulty(DifficultyChoice difficulty) override;
     void showSaveTarget(const std::string& path) override;
     void showRecentFiles(const RecentFiles& files) override;
     void showBusy(bool busy) override;
+
+    void beginProgress(const std::string& path) override;
+    void showProgress(const CreationProgress& progress) override;
+    void endProgress() override;
 
 private:
     const Session& m_session;

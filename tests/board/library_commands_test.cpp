@@ -5,6 +5,7 @@
 
 #include "board/file_access.h"
 #include "support/recording_display.h"
+#include "support/recording_library_display.h"
 #include "support/sample_puzzles.h"
 #include "support/scripted_file_choice.h"
 #include "support/scripted_prompts.h"
@@ -16,19 +17,6 @@
 
 namespace tessaly {
 namespace {
-
-struct RecordingLibraryDisplay : LibraryDisplay {
-    void showPuzzle(const CurrentPuzzle& shown) override { puzzle = shown; }
-    void showNoPuzzle() override { puzzle = {}; }
-    void showSaveTarget(const std::string& path) override { saveTarget = path; }
-    void showRecentFiles(const RecentFiles& files) override { recent = files.paths(); }
-    void showBusy(bool busy) override { busyDepth += busy ? 1 : -1; }
-
-    CurrentPuzzle puzzle;
-    std::string saveTarget;
-    std::vector<std::string> recent;
-    int busyDepth = 0;
-};
 
 class LibraryCommandsTest : public testing::Test {
 protected:
@@ -81,15 +69,15 @@ TEST_F(LibraryCommandsTest, AFileThatHoldsNoPuzzleIsRefusedAndNothingChanges) {
     commands.load(fileOfPuzzles("a.txt", 2));
     session.game.place({1, 1}, "3");
     const Board before = session.game.board;
-    const std::vector<std::string> bad{
-        fileOf("empty.txt", ""),      fileOf("short.txt", records[0].substr(0, 118) + "\r\n"),
-        fileOf("header.txt", "EXX00" + records[0].substr(5)), folder.path().string(),
-        session.ProgramFolder + "gone.txt"};
+    const std::vector<std::string> bad{fileOf("empty.txt", ""),
+                                       fileOf("short.txt", records[0].substr(0, 118) + "\r\n"),
+                                       fileOf("header.txt", "EXX00" + records[0].substr(5)),
+                                       folder.path().string(), session.ProgramFolder + "gone.txt"};
     for (const std::string& path : bad) {
         prompts.shown.clear();
         commands.load(path);
-        EXPECT_EQ(prompts.shown, (std::vector<Message>{
-                                     {"Error reading file:\r\n" + path, "vbcritical+vbok"}}));
+        EXPECT_EQ(prompts.shown,
+                  (std::vector<Message>{{"Error reading file:\r\n" + path, "vbcritical+vbok"}}));
         EXPECT_EQ(board.message, "Error reading p# 1");
         EXPECT_EQ(session.game.board, before);
         EXPECT_EQ(session.game.undoList.size(), 1u);
@@ -136,8 +124,8 @@ TEST_F(LibraryCommandsTest, SavingAppendsThePlayAndShowsTheCopy) {
     choice.path = session.ProgramFolder + "new.txt";
     commands.mnusavex();
     EXPECT_EQ(choice.asked, std::vector<std::string>{"SAVE: Select an output Puzzle file"});
-    EXPECT_EQ(lastMessage(), (Message{"Puzzle# 1 added to file " + choice.path,
-                                      "vbok+vbinformation"}));
+    EXPECT_EQ(lastMessage(),
+              (Message{"Puzzle# 1 added to file " + choice.path, "vbok+vbinformation"}));
     EXPECT_EQ(display.saveTarget, choice.path);
     EXPECT_EQ(session.game.board.CellNum[1][5], "4");
     commands.mnusaveto();
@@ -236,8 +224,8 @@ TEST_F(LibraryCommandsTest, EverythingIsRefusedWhilePuzzlesAreCreated) {
     commands.mnusavex();
     commands.mnusaveto();
     commands.mnudelete();
-    EXPECT_EQ(prompts.shown, (std::vector<Message>(
-                                 7, {"Let AutoCreate finish first", "vbcritical+vbok"})));
+    EXPECT_EQ(prompts.shown,
+              (std::vector<Message>(7, {"Let AutoCreate finish first", "vbcritical+vbok"})));
     commands.oldfiles_Click(0);
     EXPECT_EQ(lastMessage(), (Message{"Cancel Puzzle Creation first", "vbcritical+vbok"}));
     EXPECT_EQ(display.puzzle.PuzNum, 1);

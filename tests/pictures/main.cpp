@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Tessaly developers
 // SPDX-License-Identifier: MIT
 
-// Draws the windows of the game in the states that a player sees them in, one PNG each, to be looked
-// at. Not a test: tessaly_pictures FOLDER; QT_SCALE_FACTOR=2 gives them at 200 %.
+// Draws the windows of the game in the states that a player sees them in, one PNG each, to be
+// looked at. Not a test: tessaly_pictures FOLDER; QT_SCALE_FACTOR=2 gives them at 200 %.
 
 #include "options/scheme_library.h"
 #include "ui/game_window.h"

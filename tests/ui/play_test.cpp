@@ -132,10 +132,8 @@ TEST_F(Play, ThePaletteFillsTheBoard) {
 /// The arrow keys that lead from one cell to every other.
 std::map<int, std::vector<Qt::Key>> walksFrom(const Game& game, CellId start) {
     const auto number = [](CellId cell) { return 10 * cell.hexagon + cell.position; };
-    const std::vector<std::tuple<Qt::Key, int, int>> arrows{{Qt::Key_Right, 1, 0},
-                                                            {Qt::Key_Left, -1, 0},
-                                                            {Qt::Key_Down, 0, 1},
-                                                            {Qt::Key_Up, 0, -1}};
+    const std::vector<std::tuple<Qt::Key, int, int>> arrows{
+        {Qt::Key_Right, 1, 0}, {Qt::Key_Left, -1, 0}, {Qt::Key_Down, 0, 1}, {Qt::Key_Up, 0, -1}};
     std::map<int, std::vector<Qt::Key>> walks{{number(start), {}}};
     std::queue<CellId> open;
     open.push(start);
@@ -257,8 +255,8 @@ TEST_F(Play, AKeyRepaintsOneHexagonOnly) {
     QTest::keyClick(&game.board(), solutionOf(cell));
     QApplication::processEvents();
     ASSERT_FALSE(painted.area.isEmpty());
-    const QRectF hexagon = game.board().boardToWidget().mapRect(
-        QRectF(0, 0, 2 * HexagonSide + 6, 2 * HalfHeight + 6));
+    const QRectF hexagon =
+        game.board().boardToWidget().mapRect(QRectF(0, 0, 2 * HexagonSide + 6, 2 * HalfHeight + 6));
     EXPECT_LE(painted.area.boundingRect().width(), hexagon.width() + 2);
     EXPECT_LE(painted.area.boundingRect().height(), hexagon.height() + 2);
 }

@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "solver/multiple_creation.h"
+
+#include <QProgressBar>
+
+namespace tessaly {
+
+/// How far a long creation is, with the time left; empty space while there is none.
+class CreationProgressBar : public QProgressBar {
+    Q_OBJECT
+
+public:
+    explicit CreationProgressBar(QWidget* parent = nullptr);
+
+    void begin();
+    void show(const CreationProgress& progress);
+    void end();
+};
+
+/// A time as people say it: "45 s", "2 min 5 s", "1 h 20 min".
+QString durationText(std::chrono::seconds duration);
+
+} // namespace tessaly

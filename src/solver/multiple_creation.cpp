@@ -1,0 +1,137 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "solver/multiple_creation.h"
+
+#include "board/file_access.h"
+#include "board/puzzle_record.h"
+#include "solver/generator.h"
+
+namespace tessaly {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+/// How long the window waits for its turn, and how much work a crash can lose.
+constexpr std::chrono::milliseconds ShortWhile{30};
+
+/// One in a hundred more hard ones than easy ones, unlike a single creation.
+Difficulty drawForEach(DifficultyChoice choice, Chance& chance) {
+    constexpr std::uint32_t LastOfHard = 50;
+    if (choice)
+        return *choice;
+    return chance.below(100) > LastOfHard ? Difficulty::Easy : Difficulty::Hard;
+}
+
+std::chrono::seconds timeLeft(Clock::time_point start, int made, int count) {
+    if (made == 0)
+        return {};
+    const auto perPuzzle = (Clock::now() - start) / made;
+    return std::chrono::ceil<std::chrono::seconds>(perPuzzle * (count - made));
+}
+
+} // namespace
+
+MultipleCreation::MultipleCreation(Session& session, LibraryCommands& library,
+                                   const MultipleCreationWindow& window, Chance chance)
+    : m_session(session)
+    , m_library(library)
+    , m_window(window)
+    , m_fill(arrangementsOf(session.arrangements))
+    , m_chance(chance) {}
+
+void MultipleCreation::run() {
+    if (m_session.busy.refuses(m_window.prompts))
+        return;
+    const std::optional<CreationOrder> order = m_window.orders.choose();
+    m_window.display.yield();
+    if (order && confirmed(*order))
+        carryOut(*order);
+}
+
+bool MultipleCreation::confirmed(const CreationOrder& order) {
+    const std::string question = "Create Multiple Puzzles:\r\nOutput File: " + order.path +
+                                 "\r\nDifficulty Level: " + std::string(nameOf(order.difficulty)) +
+                                 "\r\nNumber of Puzzles:" + std::to_string(order.count) +
+                                 "\r\n\r\nCreating Multiple Puzzle will take time...\r\nProceed?";
+    return m_window.prompts.message(question, "vbinformation+vbyesno") == answer::Yes;
+}
+
+void MultipleCreation::carryOut(const CreationOrder& order) {
+    int made = 0;
+    Outcome outcome;
+    {
+        const WhileSet creating(m_session.busy.creating);
+        m_window.progress.beginProgress(order.path);
+        outcome = createAll(order, made);
+        m_window.progress.endProgress();
+    }
+    if (m_stopped)
+        return;
+    showPuzzleAgain();
+    report(order, made, outcome);
+}
+
+Outcome MultipleCreation::createAll(const CreationOrder& order, int& made) {
+    const auto start = Clock::now();
+    m_known.clear();
+    m_stopped = false;
+    while (made < order.count && !m_stopped) {
+        int madeNow = made;
+        const std::string records = createSome(order, madeNow);
+        if (Outcome written = appendLines(order.path, records); !written.ok())
+            return written;
+        made = madeNow;
+        m_window.progress.showProgress({made, order.count, timeLeft(start, made, order.count)});
+        m_window.display.yield();
+    }
+    return Outcome::done();
+}
+
+std::string MultipleCreation::createSome(const CreationOrder& order, int& made) {
+    std::string records;
+    const auto end = Clock::now() + ShortWhile;
+    do {
+        ++made;
+        records += createOne(order, made) + "\r\n";
+    } while (made < order.count && Clock::now() < end);
+    return records;
+}
+
+std::string MultipleCreation::createOne(const CreationOrder& order, int number) {
+    Board board;
+    for (;;) {
+        const Difficulty difficulty = drawForEach(order.difficulty, m_chance);
+        m_window.display.showMessage("Creating " + std::string(nameOf(difficulty)) + " Puzzle " +
+                                     std::to_string(number) + " of " + std::to_string(order.count));
+        CreatePuzzle(board, difficulty, m_chance, m_fill);
+        std::string record = PuzzleRecord(board);
+        if (m_known.insert(record).second)
+            return record;
+    }
+}
+
+/// Reads the puzzle in play again, for its file may have grown, and keeps what the player entered.
+void MultipleCreation::showPuzzleAgain() {
+    const CurrentPuzzle before = m_session.puzzle;
+    if (before.PuzNum == 0) {
+        m_window.library.showNoPuzzle();
+        return;
+    }
+    const Game play = m_session.game;
+    if (m_library.ReadPuzzle(before.PuzPath, before.PuzNum).record != before.record)
+        return;
+    m_session.game = play;
+    m_window.display.DrawBoard();
+}
+
+void MultipleCreation::report(const CreationOrder& order, int made, const Outcome& outcome) {
+    const std::string count = std::to_string(made);
+    m_window.display.showMessage(count + " Puzles Created");
+    if (!outcome.ok())
+        m_window.prompts.message(outcome.problem, "vbok+vbcritical");
+    m_window.prompts.message(count + " Puzzles added to file:\r\n" + order.path,
+                             "vbinformation+vbok");
+}
+
+} // namespace tessaly

@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "board/library_display.h"
+
+#include <string>
+#include <vector>
+
+namespace tessaly {
+
+/// What a window would show of the puzzle file.
+struct RecordingLibraryDisplay : LibraryDisplay {
+    void showPuzzle(const CurrentPuzzle& shown) override { puzzle = shown; }
+    void showNoPuzzle() override { puzzle = {}; }
+    void showDifficulty(DifficultyChoice shown) override { difficulty = shown; }
+    void showSaveTarget(const std::string& path) override { saveTarget = path; }
+    void showRecentFiles(const RecentFiles& files) override { recent = files.paths(); }
+    void showBusy(bool busy) override { busyDepth += busy ? 1 : -1; }
+
+    CurrentPuzzle puzzle;
+    DifficultyChoice difficulty;
+    std::string saveTarget;
+    std::vector<std::string> recent;
+    int busyDepth = 0;
+};
+
+} // namespace tessaly
