@@ -17,8 +17,8 @@ public:
 
     /// Moves the difficulty label one step along Easy, Hard, Random.
     void DifLab();
-    /// Makes one puzzle of the difficulty that the label shows, appends it to the current puzzle file
-    /// (to the temporary one when there is none), and shows it there.
+    /// Makes one puzzle of the difficulty that the label shows, appends it to the current puzzle
+    /// file (to the temporary one when there is none), and shows it there.
     void cmdcreate();
 
 private:

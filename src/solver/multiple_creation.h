@@ -56,8 +56,8 @@ struct MultipleCreationWindow {
     CreationOrderChoice& orders;
 };
 
-/// Creates many puzzles in one go ("AutoCreate") and appends them to a puzzle file. The puzzles of a
-/// short while are written together, flushed to the disk, and only then counted as made.
+/// Creates many puzzles in one go ("AutoCreate") and appends them to a puzzle file. The puzzles of
+/// a short while are written together, flushed to the disk, and only then counted as made.
 class MultipleCreation {
 public:
     MultipleCreation(Session& session, LibraryCommands& library,
