@@ -13,7 +13,7 @@ CreationProgressBar::CreationProgressBar(QWidget* parent)
     QSizePolicy keepingItsPlace(QSizePolicy::Expanding, QSizePolicy::Fixed);
     keepingItsPlace.setRetainSizeWhenHidden(true);
     setSizePolicy(keepingItsPlace);
-    setMinimumWidth(0);
+    setMinimumWidth(1);
     setAccessibleName(tr("Progress of the creation"));
     hide();
 }
