@@ -4,6 +4,7 @@
 #include "board/session_memory.h"
 
 #include "board/configuration.h"
+#include "board/data_files.h"
 #include "board/file_access.h"
 #include "options/scheme_library.h"
 
@@ -12,17 +13,28 @@
 namespace tessaly {
 namespace {
 
-constexpr std::string_view BundledPuzzles = "puzzles/easy.txt";
-
 std::string configurationPath(const Session& session) {
-    return session.ProgramFolder + "tessaly.cfg";
+    return session.ProgramFolder + ConfigurationFile;
+}
+
+/// The schemes must be listed before anything can be coloured by them.
+Outcome checkSchemes(const std::string& folder) {
+    const std::string path = folder + SchemeLibraryFile;
+    SchemeLibrary schemes(folder);
+    if (Outcome read = schemes.RefreshSchemeList(); !read.ok())
+        return read;
+    if (schemes.names().empty())
+        return Outcome::failed(path + ": there is no colour scheme in it");
+    return Outcome::done();
 }
 
 /// The files that the game cannot run without.
 Outcome loadRequiredFiles(Session& session) {
-    if (!FileExists(session.ProgramFolder + "all.col"))
+    if (!FileExists(session.ProgramFolder + SchemeLibraryFile))
         return Outcome::failed("File: all.col is missing\r\nProgram cannot run without this file");
-    return Set6Combos(session.ProgramFolder + "hexabinx.txt", session.arrangements);
+    if (Outcome checked = checkSchemes(session.ProgramFolder); !checked.ok())
+        return checked;
+    return Set6Combos(session.ProgramFolder + ArrangementFile, session.arrangements);
 }
 
 Outcome applyConfiguration(const Configuration& configuration, Session& session) {
@@ -45,8 +57,13 @@ LoadedSession loadSession(Session& session) {
     const Configuration configuration = ReadcfgFile(path);
     loaded.last = {configuration.PuzPath, configuration.PuzNum};
     if (!FileExists(path))
-        loaded.last.path = session.ProgramFolder + std::string(BundledPuzzles);
-    loaded.notice = applyConfiguration(configuration, session).problem;
+        loaded.last.path = session.ProgramFolder + EasyLibraryFile;
+    const Outcome scheme = applyConfiguration(configuration, session);
+    // A scheme that is gone gives way to the built-in one; a broken library does not.
+    if (session.appearance.ActiveScheme == BuiltInScheme)
+        loaded.notice = scheme.problem;
+    else
+        loaded.outcome = scheme;
     return loaded;
 }
 

@@ -1,0 +1,84 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "board/session_memory.h"
+
+#include "board/configuration.h"
+#include "support/temporary_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+namespace tessaly {
+namespace {
+
+class SessionMemoryTest : public testing::Test {
+protected:
+    SessionMemoryTest() {
+        session.ProgramFolder = folder.path().string() + "/";
+        for (const char* name : {"all.col", "hexabinx.txt"})
+            std::filesystem::copy_file(std::filesystem::path(TESSALY_DATA) / name, folder / name);
+    }
+
+    test::TemporaryFolder folder;
+    Session session;
+};
+
+TEST_F(SessionMemoryTest, TheFirstStartOpensTheBundledPuzzlesInTheDefaultScheme) {
+    const LoadedSession loaded = loadSession(session);
+    EXPECT_TRUE(loaded.outcome.ok()) << loaded.outcome.problem;
+    EXPECT_EQ(loaded.notice, "");
+    EXPECT_EQ(loaded.last.path, session.ProgramFolder + "puzzles/easy.txt");
+    EXPECT_EQ(session.appearance.ActiveScheme, "xp.col");
+    EXPECT_EQ(session.appearance.HexaFillColour, session.appearance.SchemeColours[slot::Button]);
+    EXPECT_EQ(session.arrangements.wordCount, ArrangementCount);
+}
+
+TEST_F(SessionMemoryTest, WhatWasSetIsThereAgainAfterARestart) {
+    ASSERT_TRUE(loadSession(session).outcome.ok());
+    session.puzzle = {"/home/me/a.txt", 12, 40, ""};
+    session.recentFiles.AddRecentFile("/home/me/a.txt");
+    session.appearance.SplitHexas = true;
+    session.appearance.HexaBorderWidth = 4;
+    session.appearance.UserNumberColour = RGB(1, 2, 3);
+    SavecfgFile(session);
+
+    Session next;
+    next.ProgramFolder = session.ProgramFolder;
+    const LoadedSession loaded = loadSession(next);
+    EXPECT_EQ(loaded.last.path, "/home/me/a.txt");
+    EXPECT_EQ(loaded.last.number, 12);
+    EXPECT_EQ(next.recentFiles, session.recentFiles);
+    EXPECT_EQ(next.appearance, session.appearance);
+}
+
+TEST_F(SessionMemoryTest, AMissingOrGarbledDataFileStopsTheStart) {
+    for (const char* garbled : {"", "garbage", "255;255;255\r\n", "xp.col\r\n1;2\r\n"}) {
+        test::put(folder / "all.col", garbled);
+        EXPECT_NE(loadSession(session).outcome.problem.find("all.col"), std::string::npos);
+    }
+    std::filesystem::remove(folder / "all.col");
+    EXPECT_EQ(loadSession(session).outcome.problem,
+              "File: all.col is missing\r\nProgram cannot run without this file");
+
+    std::filesystem::copy_file(std::filesystem::path(TESSALY_DATA) / "all.col", folder / "all.col");
+    for (const char* garbled : {"", "garbage", "%%%"}) {
+        test::put(folder / "hexabinx.txt", garbled);
+        EXPECT_NE(loadSession(session).outcome.problem.find("hexabinx.txt"), std::string::npos);
+    }
+    std::filesystem::remove(folder / "hexabinx.txt");
+    EXPECT_NE(loadSession(session).outcome.problem.find("hexabinx.txt"), std::string::npos);
+}
+
+TEST_F(SessionMemoryTest, ASchemeThatIsGoneIsSaidAndTheBuiltInOneServes) {
+    session.appearance.ActiveScheme = "gone.col";
+    SavecfgFile(session);
+    const LoadedSession loaded = loadSession(session);
+    EXPECT_TRUE(loaded.outcome.ok());
+    EXPECT_EQ(loaded.notice, "Colour Scheme: gone.col not found");
+    EXPECT_EQ(session.appearance.ActiveScheme, "default.col");
+}
+
+} // namespace
+} // namespace tessaly
