@@ -46,8 +46,8 @@ Scale BoardSurface::scale() const {
 QTransform BoardSurface::boardToDevice() const {
     const auto [x, y] = scale();
     const Point middle = hexagonCentre(MiddleHexagon);
-    return QTransform(x, 0, 0, y, m_size.width() / 2 - middle.x * x,
-                      m_size.height() / 2 - middle.y * y);
+    const QPoint pixel(m_size.width() / 2, m_size.height() / 2);
+    return QTransform(x, 0, 0, y, pixel.x() - middle.x * x, pixel.y() - middle.y * y);
 }
 
 QPoint BoardSurface::toPixels(Point point) const {
