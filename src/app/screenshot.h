@@ -20,6 +20,7 @@ public:
         : m_out(out) {}
 
     int message(std::string_view text, std::string_view style) override;
+    std::string ask(std::string_view) override { return {}; }
     bool saidAnything() const { return m_saidAnything; }
 
 private:

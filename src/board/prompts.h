@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <string>
 #include <string_view>
 
 namespace tessaly {
@@ -27,6 +28,9 @@ public:
     /// Shows `text` (UTF-8) in a message box and waits for the answer; `style` names its buttons
     /// and its icon ("vbyesno+vbquestion").
     virtual int message(std::string_view text, std::string_view style) = 0;
+
+    /// Asks for one line of text (UTF-8); empty when the player gives none.
+    virtual std::string ask(std::string_view question) = 0;
 };
 
 } // namespace tessaly

@@ -8,6 +8,7 @@
 #include "ui/message_text.h"
 #include "ui/picture_view.h"
 #include "ui/scheme_palette.h"
+#include "ui/text_prompt.h"
 
 #include <QAccessible>
 #include <QGuiApplication>
@@ -114,6 +115,10 @@ int MsgForm::show(const QString& text, const QString& style) {
 
 int MsgForm::message(std::string_view text, std::string_view style) {
     return show(textOf(text), textOf(style));
+}
+
+std::string MsgForm::ask(std::string_view question) {
+    return TextPrompt(m_appearance, this).ask(textOf(question)).toStdString();
 }
 
 } // namespace tessaly

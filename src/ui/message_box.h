@@ -31,6 +31,7 @@ public:
     int show(const QString& text, const QString& style);
 
     int message(std::string_view text, std::string_view style) override;
+    std::string ask(std::string_view question) override;
 
 private:
     QWidget* makeMessage();

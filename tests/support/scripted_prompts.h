@@ -28,7 +28,9 @@ struct ScriptedPrompts : Prompts {
         : answers(firstAnswers) {}
     ScriptedPrompts(const ScriptedPrompts&) = delete;
     ScriptedPrompts& operator=(const ScriptedPrompts&) = delete;
-    ~ScriptedPrompts() override { EXPECT_TRUE(answers.empty()) << "not every answer was used"; }
+    ~ScriptedPrompts() override {
+        EXPECT_TRUE(answers.empty() && lines.empty()) << "not every answer was used";
+    }
 
     int message(std::string_view text, std::string_view style) override {
         shown.push_back({std::string(text), std::string(style)});
@@ -41,7 +43,21 @@ struct ScriptedPrompts : Prompts {
         return answer;
     }
 
+    std::string ask(std::string_view question) override {
+        asked.emplace_back(question);
+        if (lines.empty()) {
+            ADD_FAILURE() << "unexpected question: " << question;
+            return {};
+        }
+        std::string line = lines.front();
+        lines.pop_front();
+        return line;
+    }
+
     std::deque<int> answers;
+    /// What the player writes when asked for a line of text.
+    std::deque<std::string> lines;
+    std::vector<std::string> asked;
     std::vector<Message> shown;
 };
 
