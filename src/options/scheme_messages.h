@@ -12,6 +12,10 @@ namespace tessaly::scheme_messages {
 inline const std::string LibraryMissing =
     "File: all.col is missing\r\nProgram cannot run without this file";
 
+inline std::string caption(const std::string& scheme) {
+    return "Colour Scheme: " + scheme;
+}
+
 inline const std::string AskName = "Enter new Colour Scheme name";
 inline const std::string SelectToReplace = "Select a colour scheme to replace";
 inline const std::string SelectToDelete = "Select a colour scheme to delete";

@@ -33,6 +33,9 @@ enum class Picture {
     Save,
     Delete,
     Print,
+    View,
+    Replace,
+    Add,
     // Coloured drawings.
     Question,
     Exclamation,

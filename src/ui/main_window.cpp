@@ -5,6 +5,8 @@
 
 #include "board/session.h"
 #include "board/session_memory.h"
+#include "options/options_dialog.h"
+#include "options/scheme_library.h"
 #include "play/board_view.h"
 #include "play/palette_panel.h"
 #include "play/play_area.h"
@@ -33,13 +35,15 @@ constexpr QSize FirstSize(690, 690);
 Form1::Form1(Session& session, Prompts& prompts, FileDialogs& fileDialogs)
     : m_session(session)
     , m_prompts(prompts)
+    , m_worn(session.appearance)
     , m_menu(*menuBar())
     , m_tools(new ToolRow)
-    , m_board(new BoardView(session.game.board, session.appearance))
-    , m_palette(new PalettePanel(session.appearance))
+    , m_board(new BoardView(session.game.board, m_worn))
+    , m_palette(new PalettePanel(m_worn))
     , m_status(new StatusLine)
     , m_developerRow(new DeveloperRow)
     , m_picker(new FNDialog(fileDialogs, prompts, this))
+    , m_options(new Form2x(session.appearance, session.ProgramFolder, prompts, this))
     , m_puzzleFiles(*m_picker, session.ProgramFolder)
     , m_display(session, {m_menu, *m_tools, *m_board, *m_palette, *m_status})
     , m_play(session.game, session.busy, session.appearance, m_display, prompts)
@@ -65,6 +69,7 @@ Form1::Form1(Session& session, Prompts& prompts, FileDialogs& fileDialogs)
     connectStatusLine();
     connectCreation();
     connectDeveloperRow();
+    connectOptions();
     applyAppearance();
     resize(FirstSize);
 }
@@ -83,8 +88,9 @@ QWidget* Form1::arrangeRegions() {
 }
 
 void Form1::applyAppearance() {
-    setPalette(schemePalette(m_session.appearance));
-    menuBar()->setStyleSheet(menuStyleSheet(m_session.appearance));
+    m_worn = m_session.appearance;
+    setPalette(schemePalette(m_worn));
+    menuBar()->setStyleSheet(menuStyleSheet(m_worn));
     m_palette->applyAppearance();
     m_board->applyAppearance();
 }
@@ -149,6 +155,28 @@ void Form1::connectDeveloperRow() {
 void Form1::closeEvent(QCloseEvent* event) {
     m_multipleCreation.stop();
     QMainWindow::closeEvent(event);
+}
+
+void Form1::connectOptions() {
+    auto* redraw = new BoxControl(this);
+    redraw->setObjectName(u"Command2x"_s);
+    redraw->hide();
+    connect(redraw, &BoxControl::clicked, this, &Form1::ApplyScheme);
+    connect(m_options, &Form2x::applied, redraw, &BoxControl::click);
+    connect(m_menu.mnuopts, &QAction::triggered, this, [this] {
+        if (!m_session.busy.refuses(m_prompts))
+            m_options->showOptions();
+    });
+}
+
+void Form1::ApplyScheme() {
+    const std::string scheme = m_session.appearance.ActiveScheme;
+    const Outcome loaded =
+        SchemeLibrary(m_session.ProgramFolder).LoadScheme(scheme, m_session.appearance);
+    applyAppearance();
+    m_options->showSchemeInForce();
+    if (!loaded.ok())
+        m_prompts.message(loaded.problem, "vbok+vbcritical");
 }
 
 void Form1::cmdexit() {

@@ -20,6 +20,7 @@ namespace tessaly {
 
 class DeveloperRow;
 class FileDialogs;
+class Form2x;
 
 /// The main window: builds its regions and connects their controls to the commands.
 class Form1 : public QMainWindow {
@@ -44,11 +45,15 @@ private:
     void connectStatusLine();
     void connectCreation();
     void connectDeveloperRow();
+    void connectOptions();
+    void ApplyScheme();
     void cmdexit();
 
     Session& m_session;
     Prompts& m_prompts;
 
+    /// The settings as the window shows them; new ones only when they are applied.
+    Appearance m_worn;
     MainMenu m_menu;
     ToolRow* m_tools;
     BoardView* m_board;
@@ -56,6 +61,7 @@ private:
     StatusLine* m_status;
     DeveloperRow* m_developerRow;
     FNDialog* m_picker; // gf1
+    Form2x* m_options;
 
     PuzzleFileChoice m_puzzleFiles;
     WindowDisplay m_display;

@@ -14,7 +14,7 @@ namespace tessaly {
 namespace {
 
 constexpr int First = static_cast<int>(Picture::Load);
-constexpr int LastLineDrawing = static_cast<int>(Picture::Print);
+constexpr int LastLineDrawing = static_cast<int>(Picture::Add);
 constexpr int Last = static_cast<int>(Picture::Product);
 
 QImage drawn(int picture, int size, const QColor& colour, double ratio = 1) {
