@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tessaly developers
 // SPDX-License-Identifier: MIT
 
+#include "options/options_editor.h"
 #include "options/scheme_builder.h"
 #include "options/scheme_library.h"
 #include "options/scheme_record.h"
@@ -11,6 +12,8 @@
 #include <algorithm>
 #include <cmath>
 #include <utility>
+
+#include <unistd.h>
 
 namespace tessaly {
 namespace {
@@ -24,6 +27,12 @@ struct ShippedScheme {
     int contrast;
     SlotColours chosen;
 };
+
+/// A red and a green that read on middle tones as well as on light ones.
+const SlotColours& deepSignals() {
+    static const SlotColours Deep{{10, RGB(190, 0, 0)}, {11, RGB(0, 100, 0)}};
+    return Deep;
+}
 
 const std::vector<ShippedScheme>& shippedSchemes() {
     static const std::vector<ShippedScheme> Schemes{
@@ -40,31 +49,36 @@ const std::vector<ShippedScheme>& shippedSchemes() {
           {10, RGB(208, 48, 48)},
           {11, RGB(18, 122, 52)},
           {12, RGB(120, 200, 130)}}},
-        {"daylight", RGB(234, 234, 232), -30, {}},
-        {"stone", RGB(206, 205, 200), -70, {}},
-        {"sand", RGB(231, 215, 186), -45, {}},
-        {"apricot", RGB(240, 212, 188), -45, {}},
-        {"rose", RGB(236, 205, 211), -60, {}},
-        {"sky", RGB(190, 211, 236), -60, {}},
-        {"lagoon", RGB(180, 212, 212), -65, {}},
-        {"meadow", RGB(196, 216, 184), -60, {}},
-        {"lavender", RGB(214, 206, 235), -60, {}},
-        {"slate", RGB(186, 197, 210), -100, {}},
+        {"daylight", RGB(234, 234, 232), -30, deepSignals()},
+        {"stone", RGB(206, 205, 200), -70, deepSignals()},
+        {"sand", RGB(231, 215, 186), -45, deepSignals()},
+        {"apricot", RGB(244, 206, 174), -50, deepSignals()},
+        {"rose", RGB(236, 205, 211), -60, deepSignals()},
+        {"sky", RGB(194, 217, 238), -65, deepSignals()},
+        {"lagoon", RGB(176, 217, 216), -75, deepSignals()},
+        {"meadow", RGB(198, 221, 184), -70, deepSignals()},
+        {"lavender", RGB(214, 206, 235), -60, deepSignals()},
+        {"slate", RGB(186, 197, 210), -100, deepSignals()},
         {"dusk",
-         RGB(122, 132, 150),
-         70,
-         {{4, RGB(190, 199, 212)},
-          {5, RGB(150, 164, 188)},
-          {10, RGB(190, 0, 0)},
-          {11, RGB(0, 90, 0)}}},
+         RGB(74, 82, 100),
+         30,
+         {{3, RGB(54, 61, 76)},
+          {4, RGB(88, 97, 117)},
+          {5, RGB(150, 168, 204)},
+          {9, RGB(255, 216, 172)},
+          {10, RGB(255, 152, 152)},
+          {11, RGB(140, 232, 150)},
+          {12, RGB(190, 255, 190)}}},
         {"night",
          RGB(38, 43, 54),
          20,
          {{3, RGB(24, 27, 35)},
-          {4, RGB(196, 205, 217)},
+          {4, RGB(58, 64, 79)},
           {5, RGB(112, 146, 190)},
-          {10, RGB(200, 0, 0)},
-          {11, RGB(0, 96, 0)}}},
+          {9, RGB(255, 186, 120)},
+          {10, RGB(255, 112, 112)},
+          {11, RGB(110, 222, 132)},
+          {12, RGB(170, 255, 170)}}},
         {"high contrast",
          White,
          0,
@@ -151,7 +165,7 @@ TEST(ShippedSchemes, TheFileIsMadeFromTheTableAbove) {
     std::string expected;
     for (const ShippedScheme& scheme : shippedSchemes())
         expected += schemeRecord(schemeHeader(scheme.name), coloursOf(scheme));
-    const std::string made = testing::TempDir() + "all.col";
+    const std::string made = testing::TempDir() + "all.col-" + std::to_string(::getpid());
     const bool same = test::contentOf(TESSALY_DATA "/all.col") == expected;
     if (!same)
         test::put(made, expected);
@@ -168,15 +182,14 @@ TEST(ShippedSchemes, TheBoardReadsInEachOfThem) {
     constexpr double LargeTextOrSign = 3;
     for (const ShippedScheme& scheme : shippedSchemes()) {
         const SchemeColours colours = shipped(scheme.name);
-        const Colour fill = colours[slot::Button];
-        EXPECT_GE(contrastRatio(Black, fill), Text) << scheme.name;
-        EXPECT_GE(contrastRatio(colours[slot::DarkRed], fill), Text) << scheme.name;
-        EXPECT_GE(contrastRatio(colours[slot::Green], fill), LargeTextOrSign) << scheme.name;
-        EXPECT_GE(contrastRatio(colours[slot::Red], fill), LargeTextOrSign) << scheme.name;
-        // A fill in the background's colour is what the options start from; only the dark scheme
-        // cannot carry black numbers on it.
-        const bool readsOnBackground = contrastRatio(Black, colours[slot::Background]) >= Text;
-        EXPECT_EQ(readsOnBackground, scheme.name != "night") << scheme.name;
+        // The fills that the options start from.
+        for (const Colour fill : {colours[slot::Background], colours[slot::Button]}) {
+            EXPECT_GE(contrastRatio(neutralOn(colours[slot::Background]), fill), Text)
+                << scheme.name;
+            EXPECT_GE(contrastRatio(colours[slot::DarkRed], fill), Text) << scheme.name;
+            EXPECT_GE(contrastRatio(colours[slot::Green], fill), LargeTextOrSign) << scheme.name;
+            EXPECT_GE(contrastRatio(colours[slot::Red], fill), LargeTextOrSign) << scheme.name;
+        }
     }
 }
 

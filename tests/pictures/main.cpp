@@ -4,10 +4,10 @@
 // Draws the windows of the game in the states that a player sees them in, one PNG each, to be
 // looked at. Not a test: tessaly_pictures FOLDER; QT_SCALE_FACTOR=2 gives them at 200 %.
 
-#include "options/scheme_library.h"
 #include "ui/game_window.h"
 
 #include <QApplication>
+#include <QListWidget>
 
 #include <iostream>
 
@@ -80,17 +80,22 @@ void takeSchemes(Pictures& pictures) {
     playALittle(game);
     game.pointAt(firstOpenCell(game));
     QTest::mouseClick(&game.find(u"digt_3"_s), Qt::LeftButton);
-    SchemeLibrary schemes(game.session.ProgramFolder);
-    if (!schemes.RefreshSchemeList().ok())
-        return;
-    for (const std::string& name : schemes.names()) {
-        Appearance& appearance = game.session.appearance;
-        if (!schemes.LoadScheme(name + ".col", appearance).ok())
-            continue;
-        appearance.HexaFillColour = appearance.SchemeColours[slot::Button];
-        appearance.UserNumberColour = appearance.SchemeColours[slot::DarkRed];
-        game.window->applyAppearance();
-        pictures.take(*game.window, u"scheme-"_s + QString::fromStdString(name));
+    auto& options = game.find(u"Form2x"_s);
+    game.find<QAction>(u"mnuopts"_s).trigger();
+    pictures.take(options, u"options"_s);
+    auto& list = game.find<QListWidget>(u"List1"_s);
+    for (int row = 0; row < list.count(); ++row) {
+        game.find<QAction>(u"mnuopts"_s).trigger();
+        const QString name = list.item(row)->text();
+        list.scrollToItem(list.item(row));
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, {},
+                          list.visualItemRect(list.item(row)).center());
+        pictures.take(options, u"options-"_s + name);
+        QTest::mouseClick(options.findChild<QWidget*>(u"Command1"_s), Qt::LeftButton);
+        pictures.take(*game.window, u"scheme-"_s + name);
+        QTest::mousePress(&game.find(u"cmdshowsol"_s), Qt::LeftButton);
+        pictures.take(*game.window, u"solution-"_s + name);
+        QTest::mouseRelease(&game.find(u"cmdshowsol"_s), Qt::LeftButton);
     }
 }
 
