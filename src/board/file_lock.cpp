@@ -30,7 +30,8 @@ LockAnswer takeLock(const FileDescriptor& file) {
 }
 
 void releaseLock(const FileDescriptor& file) {
-    retried([&] { return ::flock(file.get(), LOCK_UN); });
+    if (file.isOpen())
+        retried([&] { return ::flock(file.get(), LOCK_UN); });
 }
 
 bool patiently(const std::function<bool()>& attempt) {

@@ -67,15 +67,21 @@ Outcome FilePlace::find(const std::filesystem::path& path, FilePlace& place) {
     return Outcome::done();
 }
 
-Outcome LockedFile::lock(const std::filesystem::path& path) {
+/// Closing alone would do, were the file not open in a forked child too.
+void LockedFile::unlock() {
+    releaseLock(m_file.isOpen() ? m_file : m_place.folder);
     m_file.close();
+}
+
+Outcome LockedFile::lock(const std::filesystem::path& path) {
+    unlock();
     if (Outcome found = FilePlace::find(path, m_place); !found.ok())
         return found;
     Outcome outcome;
     if (!patiently([&] { return attempt(outcome); }))
         outcome = Outcome::failed(path.native() + ": is being written by another program");
     if (!outcome.ok())
-        m_file.close();
+        unlock();
     return outcome;
 }
 
@@ -138,14 +144,6 @@ Outcome LockedFile::checkUnchanged() const {
         return Outcome::done();
     return Outcome::failed(m_place.path.native() +
                            ": was changed by another program at the same moment");
-}
-
-Outcome LockedFile::refresh() {
-    const auto now = FileState::of(m_file);
-    if (!now)
-        return fileProblem(m_place.path, "cannot be examined");
-    m_state = *now;
-    return Outcome::done();
 }
 
 } // namespace tessaly

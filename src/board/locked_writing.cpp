@@ -48,7 +48,7 @@ Outcome replaceLocked(const LockedFile& file, const ContentWriter& writer) {
     return scratch.takePlace();
 }
 
-Outcome appendLocked(LockedFile& file, std::string_view wholeLines) {
+Outcome appendLocked(const LockedFile& file, std::string_view wholeLines) {
     if (!file.exists())
         return replaceLocked(file, [&](const ContentSink& sink) { return sink.write(wholeLines); });
     std::string_view missing;
@@ -61,7 +61,7 @@ Outcome appendLocked(LockedFile& file, std::string_view wholeLines) {
         return takeBack(file, written);
     if (retried([&] { return ::fsync(file.file().get()); }) != 0)
         return takeBack(file, fileProblem(place.path, "cannot be flushed to the disk"));
-    return file.refresh();
+    return Outcome::done();
 }
 
 } // namespace tessaly

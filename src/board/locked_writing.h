@@ -13,6 +13,6 @@ Outcome replaceLocked(const LockedFile& file, const ContentWriter& writer);
 
 /// Appends lines, each with its line end, to a file that the caller has locked, or makes it. A last
 /// line without a line end is ended first. A failure leaves the file as it was.
-Outcome appendLocked(LockedFile& file, std::string_view wholeLines);
+Outcome appendLocked(const LockedFile& file, std::string_view wholeLines);
 
 } // namespace tessaly

@@ -124,7 +124,7 @@ Outcome PuzzleFiles::appendPuzzle(const fs::path& path, std::string_view record,
     return m_index.hasBlankTail() ? appendOverBlankTail(file, line) : appendInPlace(file, line);
 }
 
-Outcome PuzzleFiles::appendInPlace(LockedFile& file, const std::string& line) {
+Outcome PuzzleFiles::appendInPlace(const LockedFile& file, const std::string& line) {
     Outcome appended = appendLocked(file, line);
     // What the index misses it reads when it is asked next; the record is saved already.
     if (appended.ok())

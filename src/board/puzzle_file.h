@@ -67,7 +67,7 @@ private:
     Outcome updateIndex(const std::filesystem::path& path, const FileDescriptor& file);
     Outcome readLine(const std::filesystem::path& path, const FileDescriptor& file, int number,
                      LineSpan& span, std::string& line);
-    Outcome appendInPlace(LockedFile& file, const std::string& line);
+    Outcome appendInPlace(const LockedFile& file, const std::string& line);
     Outcome appendOverBlankTail(const LockedFile& file, const std::string& line);
 
     Yield m_yield;

@@ -24,10 +24,17 @@ std::uint64_t hashOf(std::string_view text) {
     return hash;
 }
 
-bool isNamed(const FileDescriptor& file, const FileDescriptor& folder, const std::string& name) {
+enum class Named { Yes, No, Unknown };
+
+/// Whether an open file is the one of that name; `Unknown` has `errno` set.
+Named isNamed(const FileDescriptor& file, const FileDescriptor& folder, const std::string& name) {
     const auto opened = FileState::of(file);
+    if (!opened)
+        return Named::Unknown;
     const auto named = FileState::of(folder, name);
-    return opened && named && named->isSameFile(*opened);
+    if (!named)
+        return errno == ENOENT ? Named::No : Named::Unknown;
+    return named->isSameFile(*opened) ? Named::Yes : Named::No;
 }
 
 } // namespace
@@ -54,8 +61,9 @@ Leftover removeLeftover(const FileDescriptor& folder, const std::string& name) {
     if (answer != LockAnswer::Taken)
         return answer == LockAnswer::Busy ? Leftover::InUse : Leftover::Stuck;
     // Its writer may have finished, and another one begun, between the opening and the lock.
-    if (!isNamed(file, folder, name))
-        return Leftover::InUse;
+    const Named named = isNamed(file, folder, name);
+    if (named != Named::Yes)
+        return named == Named::No ? Leftover::InUse : Leftover::Stuck;
     const int removed = retried([&] { return ::unlinkat(folder.get(), name.c_str(), 0); });
     return removed == 0 ? Leftover::Removed : Leftover::Stuck;
 }
@@ -93,10 +101,11 @@ bool ScratchFile::attempt(Outcome& outcome) {
         return true;
     }
     const LockAnswer answer = takeLock(file);
-    if (answer == LockAnswer::Failed)
-        outcome = fileProblem(place.path, "cannot be locked");
+    const Named named = isNamed(file, place.folder, m_name);
+    if (answer == LockAnswer::Failed || named == Named::Unknown)
+        outcome = fileProblem(place.path, "the new file beside it cannot be locked");
     // Another instance may have taken the file for a leftover before it was locked.
-    else if (answer == LockAnswer::Busy || !isNamed(file, place.folder, m_name))
+    else if (answer == LockAnswer::Busy || named == Named::No)
         return false;
     m_file = std::move(file);
     return true;
@@ -139,12 +148,13 @@ Outcome ScratchFile::takePlace() {
         return fileProblem(place.path, "cannot be flushed to the disk");
     if (Outcome same = m_target.checkUnchanged(); !same.ok())
         return same;
-    if (!isNamed(m_file, place.folder, m_name))
+    if (isNamed(m_file, place.folder, m_name) != Named::Yes)
         return Outcome::failed(place.path.native() + ": is being written by another program");
     if (retried([&] { return ::renameat(folder, m_name.c_str(), folder, place.name.c_str()); }) !=
         0)
         return fileProblem(place.path, "cannot be replaced");
     Outcome flushed = flushFolder();
+    releaseLock(m_file);
     m_file.close();
     return flushed;
 }

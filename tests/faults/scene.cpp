@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "faults/scene.h"
+
+#include "board/configuration.h"
+#include "board/file_access.h"
+#include "board/puzzle_file.h"
+
+#include "support/sample_records.h"
+
+#include <algorithm>
+#include <memory>
+#include <sys/uio.h>
+#include <unistd.h>
+
+namespace tessaly::faults {
+namespace {
+
+constexpr int NewSeed = 1'000'000;
+
+std::function<Outcome()> appendPuzzle(const Scene& scene) {
+    return [path = scene.puzzles()] {
+        int number = 0;
+        return PuzzleFiles().appendPuzzle(path, test::recordNumbered(NewSeed), number);
+    };
+}
+
+std::function<Outcome()> saveAsOnlyPuzzle(const Scene& scene) {
+    Board board;
+    static_cast<void>(readRecord(test::recordNumbered(NewSeed), board).ok());
+    return [path = scene.puzzles(), board] { return PuzzleFiles().WritePuzzle(path, 1, board); };
+}
+
+/// Deletes the puzzle in the middle of the file, after showing it.
+std::function<Outcome()> deletePuzzle(const Scene& scene) {
+    const auto files = std::make_shared<PuzzleFiles>();
+    int count = 0;
+    static_cast<void>(files->CountLines(scene.puzzles(), count).ok());
+    const int number = (count + 1) / 2;
+    Board board;
+    const std::string record = files->ReadPuzzle(scene.puzzles(), number, board).record;
+    return [scene, files, number, record] {
+        return files->DeletePuzzle(scene.puzzles(), number, record, scene.program());
+    };
+}
+
+Configuration configurationAt(int puzzle) {
+    Configuration configuration;
+    configuration.PuzNum = puzzle;
+    return configuration;
+}
+
+std::function<Outcome()> saveConfiguration(const Scene& scene) {
+    return [path = scene.configuration()] { return SavecfgFile(path, configurationAt(2)); };
+}
+
+/// Says after each puzzle how many are made.
+std::function<Outcome()> makeBatch(const Scene& scene) {
+    return [path = scene.puzzles()] {
+        PuzzleFiles files;
+        Outcome outcome;
+        for (int made = 1; made <= BatchSize && outcome.ok(); ++made) {
+            int number = 0;
+            outcome = files.appendPuzzle(path, test::recordNumbered(NewSeed + made), number);
+            if (outcome.ok())
+                say(STDOUT_FILENO, "made " + std::to_string(made));
+        }
+        return outcome;
+    };
+}
+
+} // namespace
+
+std::filesystem::path Scene::temporary() const {
+    return program() / TemporaryPuzzleFile;
+}
+
+Outcome Scene::make(int records) const {
+    std::filesystem::create_directories(program());
+    if (Outcome saved = SavecfgFile(configuration(), configurationAt(1)); !saved.ok())
+        return saved;
+    return records < 0 ? Outcome::done() : replaceFile(puzzles(), test::recordFile(records));
+}
+
+void say(int stream, std::string_view line) {
+    std::string text = std::string(line) + "\n";
+    const iovec piece{text.data(), text.size()};
+    static_cast<void>(::writev(stream, &piece, 1) == 0);
+}
+
+const std::vector<Operation>& operations() {
+    static const std::vector<Operation> all{
+        {"append", &Scene::puzzles, appendPuzzle},
+        {"replace", &Scene::puzzles, saveAsOnlyPuzzle},
+        {"delete", &Scene::puzzles, deletePuzzle},
+        {"configuration", &Scene::configuration, saveConfiguration},
+        {"batch", &Scene::puzzles, makeBatch},
+    };
+    return all;
+}
+
+} // namespace tessaly::faults
