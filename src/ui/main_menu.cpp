@@ -58,7 +58,7 @@ MainMenu::MainMenu(QMenuBar& bar) {
 
 void MainMenu::disableWhatIsToCome() {
     mnucopyclip->setEnabled(false);
-    for (QAction* action : {mnuclippuz, mnuclipsol, mnuopts, mnuhelp, mnuabout, mnucapwin,
+    for (QAction* action : {mnuclippuz, mnuclipsol, mnuhelp, mnuabout, mnucapwin,
                             printPuzzle, printSolution, printBoth, printMultiple})
         action->setEnabled(false);
 }
