@@ -4,14 +4,11 @@
 #pragma once
 
 #include "board/board.h"
+#include "board/yield.h"
 
 #include <cstdint>
-#include <functional>
 
 namespace tessaly {
-
-/// Gives the owner of the engine a turn between two steps; may be empty.
-using Yield = std::function<void()>;
 
 /// The rules and solving loops on a board's `CellNum`. A text of one character is a settled cell,
 /// two or more are candidates, an empty text is a contradiction. Entries may hold the digits 0 to 6

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "board/board.h"
+#include "board/yield.h"
 #include "solver/chance.h"
 #include "solver/search_fill.h"
 
@@ -15,8 +16,7 @@ namespace tessaly {
 /// What a generator tells the one who watches. Callbacks that are absent cost nothing; the board is
 /// up to date where one is called, as far as it is drawn.
 struct CreationObserver {
-    /// Gives the event loop a turn.
-    std::function<void()> yield;
+    Yield yield;
     /// Draws a hexagon, whose entries changed.
     std::function<void(int hexagon)> redraw;
     /// Shows a text in the message line.
