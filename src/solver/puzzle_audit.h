@@ -17,7 +17,7 @@ namespace tessaly {
 /// - it has exactly one solution with the blank hexagon withheld;
 /// - an easy puzzle falls to rules 1 to 3 with its blank hexagon emptied, while a hard one with its
 ///   hint in place does not, and does to all four rules;
-/// - the hint of a hard puzzle is the number of the cell that it speaks of, and an easy one has
+/// - the hint of a hard puzzle is the number of the cell that it speaks of; an easy one has
 /// none.
 std::vector<std::string> auditRecord(std::string_view line);
 

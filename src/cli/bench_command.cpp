@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "cli/bench_command.h"
+
+#include "board/puzzle_record.h"
+#include "solver/deduction.h"
+#include "solver/engine_signature.h"
+#include "solver/generator.h"
+#include "solver/puzzle_series.h"
+#include "solver/solution_counter.h"
+
+#include <CLI/CLI.hpp>
+
+#include <chrono>
+#include <cmath>
+#include <ostream>
+#include <vector>
+
+namespace tessaly {
+namespace {
+
+constexpr std::uint64_t Seed = 1;
+constexpr std::size_t PuzzleCount = 200;
+
+using Clock = std::chrono::steady_clock;
+
+/// How often a second `work` can be done; it gets the number of its turn.
+template <class Work>
+double rateOf(double seconds, const Work& work) {
+    const auto start = Clock::now();
+    std::chrono::duration<double> passed{0};
+    std::size_t turns = 0;
+    while (passed.count() < seconds) {
+        for (int i = 0; i < 10; ++i)
+            work(turns++);
+        passed = Clock::now() - start;
+    }
+    return static_cast<double>(turns) / passed.count();
+}
+
+/// Puzzles of both difficulties by turns.
+std::vector<Board> puzzles(const SearchFill& fill) {
+    std::vector<Board> boards(PuzzleCount);
+    for (std::size_t i = 0; i < boards.size(); ++i) {
+        Chance chance(Seed, i);
+        CreatePuzzle(boards[i], Difficulties[i % Difficulties.size()].difficulty, chance, fill);
+    }
+    return boards;
+}
+
+} // namespace
+
+CLI::App& BenchCommand::addTo(CLI::App& program) {
+    CLI::App& command = *program.add_subcommand(
+        "bench", "Show the engine's signature, the same on every machine, and its rates");
+    command.footer("Example: tessaly-cli bench --seconds 5");
+    command.add_option("--seconds", m_seconds, "How long to measure each rate")
+        ->check(CLI::Range(0.001, 3600.0).description(""))
+        ->type_name("S");
+    return command;
+}
+
+int BenchCommand::run(const Console& console) {
+    const SearchFill fill(allArrangements());
+    console.out << "signature " << engineSignature(fill) << std::endl;
+
+    const auto show = [&](const char* what, auto work) {
+        if (!console.isInterrupted())
+            console.out << what << ' ' << std::llround(rateOf(m_seconds, work)) << " a second"
+                        << std::endl;
+    };
+    Chance chance(Seed);
+    HexagonWords cells{};
+    show("fillings", [&](std::size_t) { fill.fill(cells, chance); });
+
+    const std::vector<Board> boards = puzzles(fill);
+    const auto boardAt = [&boards](std::size_t turn) -> const Board& {
+        return boards[turn % boards.size()];
+    };
+    Board board;
+    show("deductions", [&](std::size_t turn) {
+        board.CellNum = boardAt(turn).CellNum;
+        SolveByDeduction(board);
+    });
+    show("counts of solutions", [&](std::size_t turn) { countSolutions(boardAt(turn)); });
+    for (const DifficultyEntry& entry : Difficulties)
+        show((std::string(entry.name) + " puzzles").c_str(), [&](std::size_t turn) {
+            PuzzleSeries{entry.difficulty, Seed}.record(turn, fill);
+        });
+    if (const Outcome written = flushed(console.out); !written.ok())
+        return fail(console, written.problem);
+    return console.isInterrupted() ? exit_status::Interrupted : exit_status::Done;
+}
+
+} // namespace tessaly

@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "cli/console.h"
+
+#include "board/file_descriptor.h"
+
+#include <algorithm>
+#include <ostream>
+#include <string>
+
+namespace tessaly {
+
+int fail(const Console& console, std::string_view problem) {
+    std::string line(problem);
+    std::replace(line.begin(), line.end(), '\n', ' ');
+    console.err << "tessaly-cli: " << line << '\n';
+    return exit_status::Failed;
+}
+
+Outcome flushed(std::ostream& out) {
+    return out.flush() ? Outcome::done() : fileProblem("standard output", "cannot be written");
+}
+
+} // namespace tessaly

@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "cli/program.h"
+
+#include "app/product.h"
+#include "cli/bench_command.h"
+#include "cli/check_command.h"
+#include "cli/create_command.h"
+#include "cli/solve_command.h"
+
+#include <CLI/CLI.hpp>
+
+#include <memory>
+#include <ostream>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace tessaly {
+namespace {
+
+std::vector<std::unique_ptr<Command>> allCommands() {
+    std::vector<std::unique_ptr<Command>> commands;
+    commands.push_back(std::make_unique<CreateCommand>());
+    commands.push_back(std::make_unique<SolveCommand>());
+    commands.push_back(std::make_unique<CheckCommand>());
+    commands.push_back(std::make_unique<BenchCommand>());
+    return commands;
+}
+
+int tell(const CLI::App& program, const CLI::ParseError& said, const Console& console) {
+    if (said.get_exit_code() == 0)
+        return program.exit(said, console.out, console.err);
+    const std::vector<std::string> unknown = program.remaining();
+    const std::string problem = program.get_subcommands().empty() && !unknown.empty()
+                                    ? "there is no subcommand " + unknown.front()
+                                    : said.what();
+    fail(console, problem + " (try --help)");
+    return exit_status::WrongUsage;
+}
+
+} // namespace
+
+int runProgram(int argc, const char* const* argv, const Console& console) {
+    CLI::App program("Makes, solves and checks puzzles of nineteen hexagons.", "tessaly-cli");
+    program.set_version_flag("--version", std::string(Product::Name) + " " + Product::Version);
+    program.require_subcommand(1);
+    program.footer("Example: tessaly-cli create --difficulty hard --count 100 > hard.txt");
+
+    const std::vector<std::unique_ptr<Command>> commands = allCommands();
+    std::vector<std::pair<CLI::App*, Command*>> entries;
+    for (const auto& command : commands)
+        entries.emplace_back(&command->addTo(program), command.get());
+    try {
+        program.parse(argc, argv);
+    } catch (const CLI::ParseError& said) {
+        return tell(program, said, console);
+    }
+    for (const auto& [entry, command] : entries)
+        if (entry->parsed())
+            return command->run(console);
+    return exit_status::WrongUsage;
+}
+
+} // namespace tessaly

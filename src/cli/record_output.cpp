@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "cli/record_output.h"
+
+#include "board/file_access.h"
+#include "board/line_reader.h"
+#include "board/puzzle_record.h"
+#include "cli/console.h"
+#include "cli/record_lines.h"
+
+#include <functional>
+#include <ostream>
+#include <utility>
+
+namespace tessaly {
+namespace {
+
+constexpr std::size_t FileBatch = 1'000'000;
+constexpr std::size_t StreamBatch = 32'000;
+
+/// The puzzle that a record stands for, whatever progress the player made on it.
+std::size_t puzzleHash(std::string_view record) {
+    return std::hash<std::string_view>()(record.substr(0, RecordLength));
+}
+
+} // namespace
+
+RecordOutput::RecordOutput(std::ostream& stream, std::string path)
+    : m_stream(stream)
+    , m_path(std::move(path)) {}
+
+Outcome RecordOutput::open() {
+    if (m_path.empty() || !FileExists(m_path))
+        return Outcome::done();
+    return readRecordLines(m_path, [this](RecordLine line) {
+        m_known.insert(puzzleHash(line.text));
+        return true;
+    });
+}
+
+void RecordOutput::add(const std::string& record) {
+    if (!m_known.insert(puzzleHash(record)).second)
+        return;
+    m_lines += record;
+    m_lines += LineEnd;
+    ++m_count;
+}
+
+bool RecordOutput::isDue() const {
+    return m_lines.size() >= (m_path.empty() ? StreamBatch : FileBatch) ||
+           Clock::now() - m_lastFlush > std::chrono::seconds(1);
+}
+
+Outcome RecordOutput::flush() {
+    const std::string lines = std::exchange(m_lines, {});
+    m_lastFlush = Clock::now();
+    if (!m_path.empty())
+        return lines.empty() ? Outcome::done() : appendLines(m_path, lines);
+    m_stream << lines;
+    return flushed(m_stream);
+}
+
+} // namespace tessaly

@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "cli/standard_output.h"
+
+#include "board/file_descriptor.h"
+
+#include <string_view>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace tessaly {
+
+StandardOutput::StandardOutput(int fd)
+    : m_fd(fd)
+    , m_buffer(std::size_t{1} << 16) {
+    setp(m_buffer.data(), m_buffer.data() + m_buffer.size());
+}
+
+StandardOutput::~StandardOutput() {
+    writeOut();
+}
+
+StandardOutput::int_type StandardOutput::overflow(int_type c) {
+    if (!writeOut())
+        return traits_type::eof();
+    if (!traits_type::eq_int_type(c, traits_type::eof()))
+        sputc(traits_type::to_char_type(c));
+    return traits_type::not_eof(c);
+}
+
+int StandardOutput::sync() {
+    return writeOut() ? 0 : -1;
+}
+
+bool StandardOutput::writeOut() {
+    std::string_view rest(pbase(), static_cast<std::size_t>(pptr() - pbase()));
+    setp(m_buffer.data(), m_buffer.data() + m_buffer.size());
+    while (!rest.empty() && !m_failed) {
+        const auto written = retried([&] { return ::write(m_fd, rest.data(), rest.size()); });
+        if (written < 0) {
+            m_failed = true;
+            takeBackPartOfLine();
+            break;
+        }
+        const std::string_view done = rest.substr(0, static_cast<std::size_t>(written));
+        const std::size_t lineEnd = done.rfind('\n');
+        m_partOfLine = lineEnd == std::string_view::npos ? m_partOfLine + done.size()
+                                                         : done.size() - lineEnd - 1;
+        rest.remove_prefix(done.size());
+    }
+    return !m_failed;
+}
+
+void StandardOutput::takeBackPartOfLine() const {
+    struct stat state {};
+    const off_t end = ::lseek(m_fd, 0, SEEK_CUR);
+    const bool endsHere =
+        ::fstat(m_fd, &state) == 0 && S_ISREG(state.st_mode) && state.st_size == end;
+    if (endsHere && m_partOfLine > 0 &&
+        ::ftruncate(m_fd, end - static_cast<off_t>(m_partOfLine)) == 0)
+        ::lseek(m_fd, 0, SEEK_END);
+}
+
+} // namespace tessaly
