@@ -6,6 +6,7 @@
 #include "board/configuration.h"
 #include "board/file_access.h"
 #include "board/puzzle_file.h"
+#include "options/scheme_library.h"
 
 #include "support/sample_records.h"
 #include "support/temporary_folder.h"
@@ -60,8 +61,9 @@ Outcome judgeTarget(const Operation& operation, const Content& before, const Con
 
 /// Everything in the folder that is no file of the user's or the program's own.
 std::set<std::string> litterIn(const Scene& scene) {
-    const std::set<fs::path> known{scene.puzzles(), scene.configuration(), scene.temporary(),
-                                   scene.folder() / "program"};
+    const std::set<fs::path> known{scene.puzzles(),   scene.configuration(),
+                                   scene.temporary(), scene.folder() / "program",
+                                   scene.schemes(),   scene.schemesCopy()};
     std::set<std::string> litter;
     for (const auto& entry : fs::recursive_directory_iterator(scene.folder()))
         if (!known.contains(entry.path()))
@@ -86,6 +88,12 @@ Outcome startAgain(const Scene& scene) {
         return saved;
     if (number != count + 1 || contentOf(scene.puzzles()) != left.value_or("") + record + "\r\n")
         return Outcome::failed("a puzzle saved later does not stand where it should");
+    SchemeLibrary schemes(scene.program().string());
+    if (Outcome listed = schemes.RefreshSchemeList(); !listed.ok())
+        return listed;
+    for (const std::string& name : schemes.names())
+        if (Outcome saved = schemes.ReplaceScheme(name, SchemeColours{}); !saved.ok())
+            return saved;
     const Configuration configuration = ReadcfgFile(scene.configuration());
     if (Outcome saved = SavecfgFile(scene.configuration(), configuration); !saved.ok())
         return saved;
@@ -101,7 +109,7 @@ Outcome judge(const Operation& operation, const Scene& before, const Scene& afte
             judgeTarget(operation, content(before), content(after), content(work), said);
         !target.ok())
         return target;
-    for (const auto& other : {&Scene::puzzles, &Scene::configuration})
+    for (const auto& other : {&Scene::puzzles, &Scene::configuration, &Scene::schemes})
         if (other != operation.target && contentOf((work.*other)()) != contentOf((before.*other)()))
             return Outcome::failed("another file has changed");
     if (said.ends_with("done\n") && contentOf(work.temporary()) != contentOf(after.temporary()))

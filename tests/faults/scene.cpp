@@ -6,6 +6,8 @@
 #include "board/configuration.h"
 #include "board/file_access.h"
 #include "board/puzzle_file.h"
+#include "options/scheme_library.h"
+#include "options/scheme_record.h"
 
 #include "support/sample_records.h"
 
@@ -45,6 +47,38 @@ std::function<Outcome()> deletePuzzle(const Scene& scene) {
     };
 }
 
+/// Three schemes; the one in the middle is replaced and deleted.
+std::string schemeFile() {
+    std::string content;
+    for (const char* name : {"first", "middle", "last"})
+        content += schemeRecord(schemeHeader(name), SchemeColours{});
+    return content;
+}
+
+SchemeColours newColours() {
+    SchemeColours colours;
+    colours.fill(RGB(1, 2, 3));
+    return colours;
+}
+
+std::function<Outcome()> addScheme(const Scene& scene) {
+    return [folder = scene.program().string()] {
+        return SchemeLibrary(folder).AddScheme("added", newColours());
+    };
+}
+
+std::function<Outcome()> replaceScheme(const Scene& scene) {
+    return [folder = scene.program().string()] {
+        return SchemeLibrary(folder).ReplaceScheme("middle", newColours());
+    };
+}
+
+std::function<Outcome()> deleteScheme(const Scene& scene) {
+    return [folder = scene.program().string()] {
+        return SchemeLibrary(folder).DeleteScheme("middle");
+    };
+}
+
 Configuration configurationAt(int puzzle) {
     Configuration configuration;
     configuration.PuzNum = puzzle;
@@ -80,6 +114,8 @@ Outcome Scene::make(int records) const {
     std::filesystem::create_directories(program());
     if (Outcome saved = SavecfgFile(configuration(), configurationAt(1)); !saved.ok())
         return saved;
+    if (Outcome saved = replaceFile(schemes(), schemeFile()); !saved.ok())
+        return saved;
     return records < 0 ? Outcome::done() : replaceFile(puzzles(), test::recordFile(records));
 }
 
@@ -96,6 +132,9 @@ const std::vector<Operation>& operations() {
         {"delete", &Scene::puzzles, deletePuzzle},
         {"configuration", &Scene::configuration, saveConfiguration},
         {"batch", &Scene::puzzles, makeBatch},
+        {"addscheme", &Scene::schemes, addScheme},
+        {"replacescheme", &Scene::schemes, replaceScheme},
+        {"deletescheme", &Scene::schemes, deleteScheme},
     };
     return all;
 }

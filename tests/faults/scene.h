@@ -23,7 +23,10 @@ public:
     std::filesystem::path puzzles() const { return m_folder / "puzzles.txt"; }
     std::filesystem::path program() const { return m_folder / "program/"; }
     std::filesystem::path configuration() const { return program() / "tessaly.cfg"; }
+    std::filesystem::path schemes() const { return program() / "all.col"; }
     std::filesystem::path temporary() const;
+    /// Where the new schemes are written first, and stay.
+    std::filesystem::path schemesCopy() const { return program() / "newall.cox"; }
 
     /// Fills the folder. A count of -1 makes no puzzle file.
     Outcome make(int records) const;
