@@ -10,6 +10,7 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <charconv>
 #include <map>
 #include <thread>
 
@@ -35,10 +36,12 @@ std::vector<std::string> namesOf(const std::map<std::string, DifficultyChoice>& 
     return names;
 }
 
-/// The library's own conversion takes "-1" for the largest number.
+/// The command line library takes "-1" and what is too large for the largest number.
 std::string problemOfSeed(const std::string& text) {
-    const bool isNumber = text.find_first_not_of("0123456789") == std::string::npos;
-    return isNumber ? "" : text + " is no whole number";
+    std::uint64_t number = 0;
+    const char* end = text.data() + text.size();
+    const auto [rest, error] = std::from_chars(text.data(), end, number);
+    return error == std::errc() && rest == end ? "" : text + " is no number of 0 to 2^64 - 1";
 }
 
 int allProcessors() {

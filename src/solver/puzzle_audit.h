@@ -16,9 +16,9 @@ namespace tessaly {
 /// - every hexagon of its solution holds 1 to 6 and the cells across each side agree;
 /// - it has exactly one solution with the blank hexagon withheld;
 /// - an easy puzzle falls to rules 1 to 3 with its blank hexagon emptied, while a hard one with its
-///   hint in place does not, and does to all four rules;
+///   hint in place does not, but does to all four rules;
 /// - the hint of a hard puzzle is the number of the cell that it speaks of; an easy one has
-/// none.
+///   none.
 std::vector<std::string> auditRecord(std::string_view line);
 
 } // namespace tessaly
