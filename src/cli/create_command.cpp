@@ -31,6 +31,7 @@ std::map<std::string, DifficultyChoice> difficultyNames() {
 
 std::vector<std::string> namesOf(const std::map<std::string, DifficultyChoice>& choices) {
     std::vector<std::string> names;
+    names.reserve(choices.size());
     for (const auto& [name, choice] : choices)
         names.push_back(name);
     return names;

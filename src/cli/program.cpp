@@ -50,6 +50,7 @@ int runProgram(int argc, const char* const* argv, const Console& console) {
 
     const std::vector<std::unique_ptr<Command>> commands = allCommands();
     std::vector<std::pair<CLI::App*, Command*>> entries;
+    entries.reserve(commands.size());
     for (const auto& command : commands)
         entries.emplace_back(&command->addTo(program), command.get());
     try {

@@ -4,6 +4,7 @@
 #include "cli/progress_bar.h"
 
 #include <algorithm>
+#include <cmath>
 #include <ostream>
 #include <string>
 
@@ -31,7 +32,7 @@ void ProgressBar::show(std::int64_t done) {
     std::string bar(static_cast<std::size_t>(Width * done / m_total), '#');
     bar.resize(static_cast<std::size_t>(Width), '.');
     m_console.err << EmptyLine << '[' << bar << "] " << done << " of " << m_total << ", "
-                  << static_cast<std::int64_t>(left + 0.5) << " s left" << std::flush;
+                  << std::llround(left) << " s left" << std::flush;
 }
 
 void ProgressBar::clear() {

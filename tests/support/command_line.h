@@ -26,7 +26,7 @@ struct CommandSetting {
 };
 
 /// Runs "tessaly-cli" with these arguments in this process.
-inline CommandResult runCommand(std::vector<std::string> arguments,
+inline CommandResult runCommand(const std::vector<std::string>& arguments,
                                 const CommandSetting& setting = {}) {
     std::vector<const char*> argv{"tessaly-cli"};
     for (const std::string& argument : arguments)
