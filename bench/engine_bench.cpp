@@ -1,0 +1,203 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+// The engine beside two yardsticks: the plain reading of the rules and of the generator, and a
+// plain search with bit masks. Both sides do the same work by turns in one run, so that a busy
+// machine is busy for both; told is the best time of each ("ours", "plain", in microseconds of
+// processor time) and how many times faster ours is ("times").
+
+#include "bitmask_search.h"
+
+#include "solver/deduction.h"
+#include "solver/generator.h"
+#include "solver/puzzle_series.h"
+#include "solver/solution_counter.h"
+
+#include "support/plain_generator.h"
+#include "support/plain_rules.h"
+#include "support/sample_boards.h"
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <chrono>
+#include <ctime>
+#include <functional>
+#include <limits>
+#include <vector>
+
+namespace tessaly {
+namespace {
+
+constexpr std::uint64_t Seed = 1;
+
+/// The processor time of this thread.
+double processorSeconds() {
+    timespec now{};
+    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) / 1e9;
+}
+
+double wallSeconds() {
+    const auto now = std::chrono::steady_clock::now().time_since_epoch();
+    return std::chrono::duration<double>(now).count();
+}
+
+/// The shortest of several times of the same work.
+class Best {
+public:
+    void add(double seconds) { m_seconds = std::min(m_seconds, seconds); }
+    double seconds() const { return m_seconds; }
+
+private:
+    double m_seconds = std::numeric_limits<double>::infinity();
+};
+
+template <class Work>
+double timeOf(double (*clock)(), const Work& work) {
+    const double start = clock();
+    work();
+    return clock() - start;
+}
+
+/// Times two ways of doing the same `units` of work by turns. `prepare` comes before each.
+void compare(
+    benchmark::State& state, std::size_t units, const std::function<void()>& ours,
+    const std::function<void()>& plainly, const std::function<void()>& prepare = [] {}) {
+    Best best;
+    Best bestPlain;
+    while (state.KeepRunning()) {
+        prepare();
+        const double seconds = timeOf(processorSeconds, ours);
+        best.add(seconds);
+        prepare();
+        bestPlain.add(timeOf(processorSeconds, plainly));
+        state.SetIterationTime(seconds);
+    }
+    const double perUnit = 1e6 / static_cast<double>(units);
+    state.counters["ours"] = best.seconds() * perUnit;
+    state.counters["plain"] = bestPlain.seconds() * perUnit;
+    state.counters["times"] = bestPlain.seconds() / best.seconds();
+}
+
+std::vector<Board> createdPuzzles(std::size_t count) {
+    std::vector<Board> boards(count);
+    for (std::size_t i = 0; i < count; ++i) {
+        Chance chance(Seed, i);
+        CreatePuzzle(boards[i], Difficulties[i % Difficulties.size()].difficulty, chance,
+                     completeFill());
+    }
+    return boards;
+}
+
+void randomFilling(benchmark::State& state) {
+    constexpr std::size_t Fillings = 1000;
+    Chance chance(Seed);
+    Chance plainChance(Seed);
+    HexagonWords cells{};
+    compare(
+        state, Fillings,
+        [&] {
+            for (std::size_t i = 0; i < Fillings; ++i) {
+                completeFill().fill(cells, chance);
+                benchmark::DoNotOptimize(cells);
+            }
+        },
+        [&] {
+            for (std::size_t i = 0; i < Fillings; ++i) {
+                plain::BitmaskSearch search;
+                if (!search.fill(plainChance))
+                    state.SkipWithError("no filling was found");
+                benchmark::DoNotOptimize(search.digitAt({1, 1}));
+            }
+        });
+}
+BENCHMARK(randomFilling)->Unit(benchmark::kMicrosecond)->UseManualTime()->Iterations(200);
+
+void exactlyOneSolution(benchmark::State& state) {
+    const std::vector<Board> puzzles = createdPuzzles(500);
+    compare(
+        state, puzzles.size(),
+        [&] {
+            for (const Board& puzzle : puzzles)
+                if (countSolutions(puzzle).found != 1)
+                    state.SkipWithError("not exactly one solution");
+        },
+        [&] {
+            for (const Board& puzzle : puzzles)
+                if (plain::BitmaskSearch(puzzle).count(2) != 1)
+                    state.SkipWithError("not exactly one solution, plainly");
+        });
+}
+BENCHMARK(exactlyOneSolution)->Unit(benchmark::kMicrosecond)->UseManualTime()->Iterations(200);
+
+void solveByDeduction(benchmark::State& state) {
+    const std::vector<Board> puzzles = createdPuzzles(50);
+    std::vector<Board> boards;
+    compare(
+        state, puzzles.size(),
+        [&] {
+            for (Board& board : boards)
+                if (SolveByDeduction(board) != 0)
+                    state.SkipWithError("not solved");
+        },
+        [&] {
+            for (Board& board : boards)
+                if (plain::SolveByDeduction(board) != 0)
+                    state.SkipWithError("not solved, plainly");
+        },
+        [&] { boards = puzzles; });
+}
+BENCHMARK(solveByDeduction)->Unit(benchmark::kMicrosecond)->UseManualTime()->Iterations(100);
+
+void createdPuzzle(benchmark::State& state, Difficulty difficulty) {
+    constexpr std::size_t Puzzles = 20;
+    const auto createWith = [&](auto create) {
+        return [=] {
+            for (std::size_t i = 0; i < Puzzles; ++i) {
+                Board board;
+                Chance chance(Seed, i);
+                create(board, difficulty, chance, completeFill());
+                benchmark::DoNotOptimize(board);
+            }
+        };
+    };
+    compare(state, Puzzles, createWith([](auto&&... to) { CreatePuzzle(to...); }),
+            createWith([](auto&&... to) { plain::CreatePuzzle(to...); }));
+}
+BENCHMARK_CAPTURE(createdPuzzle, easy, Difficulty::Easy)
+    ->Unit(benchmark::kMicrosecond)
+    ->UseManualTime()
+    ->Iterations(12);
+BENCHMARK_CAPTURE(createdPuzzle, hard, Difficulty::Hard)
+    ->Unit(benchmark::kMicrosecond)
+    ->UseManualTime()
+    ->Iterations(12);
+
+/// How much sooner two threads are done than one, by the clock on the wall: of any use only where
+/// two processors are free.
+void secondThread(benchmark::State& state) {
+    constexpr int Puzzles = 2048;
+    const auto secondsWith = [](int jobs) {
+        int made = 0;
+        return timeOf(wallSeconds, [&] {
+            makeSeries({std::nullopt, Seed}, jobs, completeFill(),
+                       [&made](const std::string&) { return ++made < Puzzles; });
+        });
+    };
+    Best one;
+    Best two;
+    while (state.KeepRunning()) {
+        one.add(secondsWith(1));
+        const double seconds = secondsWith(2);
+        two.add(seconds);
+        state.SetIterationTime(seconds);
+    }
+    state.counters["times"] = one.seconds() / two.seconds();
+}
+BENCHMARK(secondThread)->Unit(benchmark::kMillisecond)->UseManualTime()->Iterations(20);
+
+} // namespace
+} // namespace tessaly
+
+BENCHMARK_MAIN();
