@@ -177,7 +177,7 @@ BENCHMARK_CAPTURE(createdPuzzle, hard, Difficulty::Hard)
 /// How much sooner two threads are done than one, by the clock on the wall: of any use only where
 /// two processors are free.
 void secondThread(benchmark::State& state) {
-    constexpr int Puzzles = 2048;
+    constexpr int Puzzles = 1024;
     const auto secondsWith = [](int jobs) {
         int made = 0;
         return timeOf(wallSeconds, [&] {
@@ -195,7 +195,7 @@ void secondThread(benchmark::State& state) {
     }
     state.counters["times"] = one.seconds() / two.seconds();
 }
-BENCHMARK(secondThread)->Unit(benchmark::kMillisecond)->UseManualTime()->Iterations(20);
+BENCHMARK(secondThread)->Unit(benchmark::kMillisecond)->UseManualTime()->Iterations(15);
 
 } // namespace
 } // namespace tessaly
