@@ -60,25 +60,38 @@ double timeOf(double (*clock)(), const Work& work) {
     return clock() - start;
 }
 
-/// Times two ways of doing the same `units` of work by turns. `prepare` comes before each.
-void compare(
-    benchmark::State& state, std::size_t units, const std::function<void()>& ours,
-    const std::function<void()>& plainly, const std::function<void()>& prepare = [] {}) {
-    Best best;
-    Best bestPlain;
-    while (state.KeepRunning()) {
-        prepare();
-        const double seconds = timeOf(processorSeconds, ours);
-        best.add(seconds);
-        prepare();
-        bestPlain.add(timeOf(processorSeconds, plainly));
-        state.SetIterationTime(seconds);
+/// Times two ways of doing the same `units` of work by turns, `rounds` times each in a turn, so
+/// that one does not always find the caches full of the other. `prepare` comes before each round.
+struct Comparison {
+    std::size_t units = 1;
+    std::function<void()> ours;
+    std::function<void()> plainly;
+    int rounds = 1;
+    std::function<void()> prepare = [] {};
+
+    double turn(const std::function<void()>& work, Best& best) const {
+        double seconds = 0;
+        for (int round = 0; round < rounds; ++round) {
+            prepare();
+            seconds = timeOf(processorSeconds, work);
+            best.add(seconds);
+        }
+        return seconds;
     }
-    const double perUnit = 1e6 / static_cast<double>(units);
-    state.counters["ours"] = best.seconds() * perUnit;
-    state.counters["plain"] = bestPlain.seconds() * perUnit;
-    state.counters["times"] = bestPlain.seconds() / best.seconds();
-}
+
+    void run(benchmark::State& state) const {
+        Best best;
+        Best bestPlain;
+        while (state.KeepRunning()) {
+            state.SetIterationTime(turn(ours, best));
+            turn(plainly, bestPlain);
+        }
+        const double perUnit = 1e6 / static_cast<double>(units);
+        state.counters["ours"] = best.seconds() * perUnit;
+        state.counters["plain"] = bestPlain.seconds() * perUnit;
+        state.counters["times"] = bestPlain.seconds() / best.seconds();
+    }
+};
 
 std::vector<Board> createdPuzzles(std::size_t count) {
     std::vector<Board> boards(count);
@@ -95,75 +108,75 @@ void randomFilling(benchmark::State& state) {
     Chance chance(Seed);
     Chance plainChance(Seed);
     HexagonWords cells{};
-    compare(
-        state, Fillings,
-        [&] {
-            for (std::size_t i = 0; i < Fillings; ++i) {
-                completeFill().fill(cells, chance);
-                benchmark::DoNotOptimize(cells);
-            }
-        },
-        [&] {
-            for (std::size_t i = 0; i < Fillings; ++i) {
-                plain::BitmaskSearch search;
-                if (!search.fill(plainChance))
-                    state.SkipWithError("no filling was found");
-                benchmark::DoNotOptimize(search.digitAt({1, 1}));
-            }
-        });
+    const auto ours = [&] {
+        for (std::size_t i = 0; i < Fillings; ++i) {
+            completeFill().fill(cells, chance);
+            benchmark::DoNotOptimize(cells);
+        }
+    };
+    const auto plainly = [&] {
+        for (std::size_t i = 0; i < Fillings; ++i) {
+            plain::BitmaskSearch search;
+            if (!search.fill(plainChance))
+                state.SkipWithError("no filling was found");
+            benchmark::DoNotOptimize(search.digitAt({1, 1}));
+        }
+    };
+    Comparison{Fillings, ours, plainly}.run(state);
 }
 BENCHMARK(randomFilling)->Unit(benchmark::kMicrosecond)->UseManualTime()->Iterations(200);
 
 void exactlyOneSolution(benchmark::State& state) {
-    const std::vector<Board> puzzles = createdPuzzles(500);
-    compare(
-        state, puzzles.size(),
-        [&] {
+    const std::vector<Board> puzzles = createdPuzzles(100);
+    const auto countAll = [&](const auto& count) {
+        return [&, count] {
             for (const Board& puzzle : puzzles)
-                if (countSolutions(puzzle).found != 1)
+                if (count(puzzle) != 1)
                     state.SkipWithError("not exactly one solution");
-        },
-        [&] {
-            for (const Board& puzzle : puzzles)
-                if (plain::BitmaskSearch(puzzle).count(2) != 1)
-                    state.SkipWithError("not exactly one solution, plainly");
-        });
+        };
+    };
+    const auto ours = countAll([](const Board& puzzle) { return countSolutions(puzzle).found; });
+    const auto plainly =
+        countAll([](const Board& puzzle) { return plain::BitmaskSearch(puzzle).count(2); });
+    Comparison{puzzles.size(), ours, plainly, 10}.run(state);
 }
-BENCHMARK(exactlyOneSolution)->Unit(benchmark::kMicrosecond)->UseManualTime()->Iterations(200);
+BENCHMARK(exactlyOneSolution)->Unit(benchmark::kMicrosecond)->UseManualTime()->Iterations(100);
 
 void solveByDeduction(benchmark::State& state) {
-    const std::vector<Board> puzzles = createdPuzzles(50);
+    const std::vector<Board> puzzles = createdPuzzles(20);
     std::vector<Board> boards;
-    compare(
-        state, puzzles.size(),
-        [&] {
+    const auto solveAll = [&](const auto& solve) {
+        return [&, solve] {
             for (Board& board : boards)
-                if (SolveByDeduction(board) != 0)
+                if (solve(board) != 0)
                     state.SkipWithError("not solved");
-        },
-        [&] {
-            for (Board& board : boards)
-                if (plain::SolveByDeduction(board) != 0)
-                    state.SkipWithError("not solved, plainly");
-        },
-        [&] { boards = puzzles; });
+        };
+    };
+    const auto ours = solveAll([](Board& board) { return SolveByDeduction(board); });
+    const auto plainly = solveAll([](Board& board) { return plain::SolveByDeduction(board); });
+    Comparison{puzzles.size(), ours, plainly, 10, [&] { boards = puzzles; }}.run(state);
 }
 BENCHMARK(solveByDeduction)->Unit(benchmark::kMicrosecond)->UseManualTime()->Iterations(100);
 
 void createdPuzzle(benchmark::State& state, Difficulty difficulty) {
     constexpr std::size_t Puzzles = 20;
-    const auto createWith = [&](auto create) {
+    const auto createAll = [&](const auto& create) {
         return [=] {
             for (std::size_t i = 0; i < Puzzles; ++i) {
                 Board board;
                 Chance chance(Seed, i);
-                create(board, difficulty, chance, completeFill());
+                create(board, chance);
                 benchmark::DoNotOptimize(board);
             }
         };
     };
-    compare(state, Puzzles, createWith([](auto&&... to) { CreatePuzzle(to...); }),
-            createWith([](auto&&... to) { plain::CreatePuzzle(to...); }));
+    const auto ours = createAll([=](Board& board, Chance& chance) {
+        CreatePuzzle(board, difficulty, chance, completeFill());
+    });
+    const auto plainly = createAll([=](Board& board, Chance& chance) {
+        plain::CreatePuzzle(board, difficulty, chance, completeFill());
+    });
+    Comparison{Puzzles, ours, plainly}.run(state);
 }
 BENCHMARK_CAPTURE(createdPuzzle, easy, Difficulty::Easy)
     ->Unit(benchmark::kMicrosecond)

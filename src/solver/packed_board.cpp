@@ -15,14 +15,21 @@ bool isAscending(const std::string& entry) {
     return std::adjacent_find(entry.begin(), entry.end(), std::greater_equal<>()) == entry.end();
 }
 
+unsigned packCandidates(const std::string& entry) {
+    const unsigned digits = DigitSet::fromText(entry).bits();
+    const bool onlyDigits = entry.front() >= '1' && entry.back() <= '6';
+    return onlyDigits && isAscending(entry) ? digits : digits | word::UnusualBits;
+}
+
 } // namespace
 
 unsigned packEntry(const std::string& entry) {
-    const unsigned digits = DigitSet::fromText(entry).bits();
-    if (entry.size() <= 1)
-        return digits == 0 && !entry.empty() ? word::ZeroBit : digits;
-    const bool onlyDigits = entry.front() >= '1' && entry.back() <= '6';
-    return onlyDigits && isAscending(entry) ? digits : digits | word::UnusualBits;
+    if (entry.size() > 1)
+        return packCandidates(entry);
+    if (entry.empty())
+        return 0;
+    const DigitSet digit = DigitSet::fromText(entry);
+    return digit.empty() ? word::ZeroBit : digit.bits();
 }
 
 void unpackEntry(unsigned byte, std::string& entry) {
@@ -35,9 +42,13 @@ void unpackEntry(unsigned byte, std::string& entry) {
 
 HexagonWords packEntries(const Grid<std::string>& entries) {
     HexagonWords cells{};
-    for (CellId cell : AllCells)
-        cells[static_cast<std::size_t>(cell.hexagon)] |= HexagonWord{packEntry(entries[cell])}
-                                                         << word::shiftOf(cell.position);
+    for (int hexagon = 1; hexagon <= HexagonCount; ++hexagon) {
+        HexagonWord packed = 0;
+        for (int position = 1; position <= CellCount; ++position)
+            packed |= HexagonWord{packEntry(entries[{hexagon, position}])}
+                      << word::shiftOf(position);
+        cells[static_cast<std::size_t>(hexagon)] = packed;
+    }
     return cells;
 }
 
