@@ -3,6 +3,7 @@
 
 #include "board/file_descriptor.h"
 
+#include <chrono>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <system_error>
@@ -11,13 +12,13 @@
 namespace tessaly {
 namespace {
 
-std::int64_t nanoseconds(const timespec& time) {
+std::int64_t inNanoseconds(const timespec& time) {
     return static_cast<std::int64_t>(time.tv_sec) * 1'000'000'000 + time.tv_nsec;
 }
 
 FileState stateFrom(const struct stat& status) {
-    return {status.st_dev, status.st_ino, status.st_size, nanoseconds(status.st_mtim),
-            nanoseconds(status.st_ctim)};
+    return {status.st_dev, status.st_ino, status.st_size, inNanoseconds(status.st_mtim),
+            inNanoseconds(status.st_ctim)};
 }
 
 } // namespace
@@ -34,6 +35,14 @@ void FileDescriptor::close() {
     // Linux has closed the file whatever it answers, and what counts was flushed before.
     if (isOpen())
         ::close(std::exchange(m_fd, -1));
+}
+
+bool FileState::wouldShowAChange() const {
+    using namespace std::chrono;
+    // The slowest clock that the kernel can be built with makes a hundred steps a second.
+    constexpr milliseconds Step{10};
+    const auto now = system_clock::now().time_since_epoch();
+    return nanoseconds(changed) + 2 * Step < now;
 }
 
 std::optional<FileState> FileState::of(const FileDescriptor& file) {

@@ -52,6 +52,10 @@ struct FileState {
     std::int64_t modified = 0;
     std::int64_t changed = 0;
 
+    /// Whether the next change would leave another state. The clock that file systems read goes in
+    /// steps, and two changes within one step look like one.
+    bool wouldShowAChange() const;
+
     static std::optional<FileState> of(const FileDescriptor& file);
     /// The state of what `name` is in `folder`; a symbolic link is not followed.
     static std::optional<FileState> of(const FileDescriptor& folder, const std::string& name);

@@ -6,6 +6,8 @@
 #include "board/file_access.h"
 #include "board/puzzle_record.h"
 
+#include <algorithm>
+
 namespace tessaly {
 namespace {
 
@@ -19,18 +21,20 @@ std::string trimmed(const std::string& text) {
                : text.substr(first, text.find_last_not_of(" \t") - first + 1);
 }
 
-/// Shows the busy pointer for as long as it lives.
-class BusyPointer {
+/// For as long as it lives the pointer is busy and other commands are refused.
+class WhileAtWork {
 public:
-    explicit BusyPointer(LibraryDisplay& display)
-        : m_display(display) {
+    WhileAtWork(Session& session, LibraryDisplay& display)
+        : m_running(session.busy.commandRunning)
+        , m_display(display) {
         m_display.showBusy(true);
     }
-    ~BusyPointer() { m_display.showBusy(false); }
-    BusyPointer(const BusyPointer&) = delete;
-    BusyPointer& operator=(const BusyPointer&) = delete;
+    ~WhileAtWork() { m_display.showBusy(false); }
+    WhileAtWork(const WhileAtWork&) = delete;
+    WhileAtWork& operator=(const WhileAtWork&) = delete;
 
 private:
+    WhileSet m_running;
     LibraryDisplay& m_display;
 };
 
@@ -42,14 +46,16 @@ LibraryCommands::LibraryCommands(Session& session, Display& display, LibraryDisp
     , m_display(display)
     , m_libraryDisplay(libraryDisplay)
     , m_prompts(prompts)
-    , m_fileChoice(fileChoice) {}
+    , m_fileChoice(fileChoice) {
+    m_session.files = PuzzleFiles([&display] { display.yield(); });
+}
 
 void LibraryCommands::tellCritical(const std::string& text) {
     m_prompts.message(text, Critical);
 }
 
 PuzzleRead LibraryCommands::ReadPuzzle(const std::string& path, int number) {
-    const BusyPointer busy(m_libraryDisplay);
+    const WhileAtWork atWork(m_session, m_libraryDisplay);
     PuzzleRead read = m_session.files.ReadPuzzle(path, number, m_session.game.board);
     if (!read.ok()) {
         m_display.showMessage("Error reading p# " + std::to_string(number));
@@ -92,19 +98,28 @@ void LibraryCommands::step(int number) {
 void LibraryCommands::cmdarrow(int item) {
     if (m_session.busy.refuses(m_prompts))
         return;
-    const auto& [path, number, count, record] = m_session.puzzle;
-    if (number == 0 || count == 1)
+    const int number = m_session.puzzle.PuzNum;
+    if (number == 0)
         return;
-    if (item == 0)
-        step(number > 1 ? number - 1 : count);
-    else
-        step(number < count ? number + 1 : 1);
+    const int count = recount();
+    if (count == 1 && number == 1)
+        return;
+    const int previous = number > 1 ? std::min(number - 1, count) : count;
+    const int next = number < count ? number + 1 : 1;
+    step(std::max(item == 0 ? previous : next, 1));
+}
+
+int LibraryCommands::recount() {
+    const WhileAtWork atWork(m_session, m_libraryDisplay);
+    CurrentPuzzle& puzzle = m_session.puzzle;
+    static_cast<void>(m_session.files.CountLines(puzzle.PuzPath, puzzle.PuzCount).ok());
+    return puzzle.PuzCount;
 }
 
 void LibraryCommands::goTo(int number) {
     if (m_session.busy.refuses(m_prompts))
         return;
-    if (number >= 1 && number <= m_session.puzzle.PuzCount)
+    if (m_session.puzzle.PuzNum > 0 && number >= 1 && number <= recount())
         step(number);
 }
 
@@ -113,15 +128,18 @@ void LibraryCommands::setSaveTarget(const std::string& path) {
     m_libraryDisplay.showSaveTarget(path);
 }
 
+Outcome LibraryCommands::appendAndShow(const std::string& path, int& number) {
+    const WhileAtWork atWork(m_session, m_libraryDisplay);
+    const std::string record = PuzzleRecord(m_session.game.board);
+    if (Outcome saved = m_session.files.appendPuzzle(path, record, number); !saved.ok())
+        return saved;
+    return {ReadPuzzle(path, number).reason};
+}
+
 bool LibraryCommands::appendTo(const std::string& path) {
     int number = 0;
-    const std::string record = PuzzleRecord(m_session.game.board);
-    if (const Outcome saved = m_session.files.appendPuzzle(path, record, number); !saved.ok()) {
+    if (const Outcome saved = appendAndShow(path, number); !saved.ok()) {
         tellCritical(saved.problem);
-        return false;
-    }
-    if (const PuzzleRead read = ReadPuzzle(path, number); !read.ok()) {
-        tellCritical(read.reason);
         return false;
     }
     m_prompts.message("Puzzle# " + std::to_string(number) + " added to file " + path, Information);
@@ -129,7 +147,7 @@ bool LibraryCommands::appendTo(const std::string& path) {
 }
 
 void LibraryCommands::mnusavex() {
-    if (m_session.busy.refuses(m_prompts) || m_session.puzzle.PuzNum == 0)
+    if (m_session.busy.refuses(m_prompts) || m_session.game.board == Board{})
         return;
     const std::string path = m_fileChoice.chooseToSave("Select an output Puzzle file");
     if (path.empty())
@@ -153,15 +171,19 @@ void LibraryCommands::mnudelete() {
         return;
     if (m_prompts.message("Delete current puzzle from file?", "vbyesno+vbquestion") != answer::Yes)
         return;
-    const Outcome deleted = m_session.files.DeletePuzzle(puzzle.PuzPath, puzzle.PuzNum,
-                                                         puzzle.record, m_session.ProgramFolder);
-    if (!deleted.ok()) {
+    if (const Outcome deleted = remove(puzzle); !deleted.ok()) {
         tellCritical(deleted.problem);
         return;
     }
     if (!ReadPuzzle(puzzle.PuzPath, 1).ok())
         m_session.puzzle.PuzCount = 0;
     m_prompts.message("Done", "vbinformation+vbok");
+}
+
+Outcome LibraryCommands::remove(const CurrentPuzzle& puzzle) {
+    const WhileAtWork atWork(m_session, m_libraryDisplay);
+    return m_session.files.DeletePuzzle(puzzle.PuzPath, puzzle.PuzNum, puzzle.record,
+                                        m_session.ProgramFolder);
 }
 
 void LibraryCommands::oldfiles_Click(int item) {

@@ -12,7 +12,8 @@
 namespace tessaly {
 
 /// The commands that move through puzzle files and change them, by the names of the controls that
-/// start them. Each is refused with a message while puzzles are being created.
+/// start them. Each is refused with a message while puzzles are being created. The window lives on
+/// while a large file is read or copied; what arrives meanwhile is ignored.
 class LibraryCommands {
 public:
     LibraryCommands(Session& session, Display& display, LibraryDisplay& libraryDisplay,
@@ -46,7 +47,11 @@ private:
     void showEmptyBoard();
     /// Reads a puzzle of the current file; tells the user when the file cannot be read.
     void step(int number);
+    /// How many puzzles the current file holds now; as many as before when it cannot be read.
+    int recount();
+    Outcome appendAndShow(const std::string& path, int& number);
     bool appendTo(const std::string& path);
+    Outcome remove(const CurrentPuzzle& puzzle);
     void setSaveTarget(const std::string& path);
     void tellCritical(const std::string& text);
 

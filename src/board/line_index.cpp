@@ -53,6 +53,7 @@ Outcome LineIndex::update(const FileDescriptor& file, const Yield& yield) {
         return Outcome::done();
     *this = LineIndex();
     m_state = *state;
+    m_settled = state->wouldShowAChange();
     return read(file, 0, yield);
 }
 
@@ -62,6 +63,7 @@ Outcome LineIndex::updateAppended(const FileDescriptor& file) {
     if (!m_valid || m_lineEndsBefore.empty())
         return update(file);
     m_state = *state;
+    m_settled = state->wouldShowAChange();
     // The last block was not full, so its lines are counted anew.
     m_lineEnds = m_lineEndsBefore.back();
     m_lineEndsBefore.pop_back();

@@ -18,7 +18,8 @@ struct LineSpan {
 };
 
 /// How many lines a file has and where each lies, found out in one pass and kept until the file
-/// changes. Blank lines at the end are no lines; a byte order mark is no part of line 1.
+/// changes; one that had changed the moment before it was read is read once more. Blank lines at
+/// the end are no lines; a byte order mark is no part of line 1.
 ///
 /// Kept is one number for each block of the file, how many line ends lie before it:
 ///
@@ -36,7 +37,7 @@ public:
     /// the new part only.
     Outcome updateAppended(const FileDescriptor& file);
     /// Whether `update` would have nothing to read.
-    bool isOf(const FileState& state) const { return m_valid && m_state == state; }
+    bool isOf(const FileState& state) const { return m_valid && m_settled && m_state == state; }
 
     int count() const { return static_cast<int>(m_count); }
     /// Whether the last line is followed by more than its line end.
@@ -54,6 +55,8 @@ private:
 
     bool m_valid = false;
     FileState m_state;
+    /// Whether the file, had it changed after it was read, would be in another state by now.
+    bool m_settled = false;
     std::vector<std::int64_t> m_lineEndsBefore;
     std::int64_t m_lineEnds = 0;
     std::int64_t m_count = 0;

@@ -50,6 +50,7 @@ Outcome applyConfiguration(const Configuration& configuration, Session& session)
 
 LoadedSession loadSession(Session& session) {
     LoadedSession loaded;
+    removeLeftovers(session.ProgramFolder);
     loaded.outcome = loadRequiredFiles(session);
     if (!loaded.outcome.ok())
         return loaded;

@@ -6,6 +6,7 @@
 #include "board/prompts.h"
 
 #include <string_view>
+#include <utility>
 
 namespace tessaly {
 
@@ -29,19 +30,19 @@ struct BusyState {
     }
 };
 
-/// Sets a flag for as long as it lives.
+/// Sets a flag for as long as it lives; one that was set before stays set.
 class WhileSet {
 public:
     explicit WhileSet(bool& flag)
-        : m_flag(flag) {
-        m_flag = true;
-    }
-    ~WhileSet() { m_flag = false; }
+        : m_flag(flag)
+        , m_before(std::exchange(flag, true)) {}
+    ~WhileSet() { m_flag = m_before; }
     WhileSet(const WhileSet&) = delete;
     WhileSet& operator=(const WhileSet&) = delete;
 
 private:
     bool& m_flag;
+    bool m_before;
 };
 
 } // namespace tessaly

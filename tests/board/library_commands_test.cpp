@@ -101,14 +101,36 @@ TEST_F(LibraryCommandsTest, SteppingWrapsAroundBothEnds) {
     EXPECT_TRUE(prompts.shown.empty());
 }
 
-TEST_F(LibraryCommandsTest, AFileThatVanishedOrShrankIsSaidAndTheBoardStays) {
+TEST_F(LibraryCommandsTest, CommandsWorkOnWhatTheFileHoldsNow) {
     const std::string path = fileOfPuzzles("a.txt", 3);
     commands.load(path);
     commands.goTo(3);
-    const Board before = session.game.board;
-    fileOfPuzzles("a.txt", 1);
+    fileOfPuzzles("a.txt", 5);
+    commands.cmdarrow(1);
+    EXPECT_EQ(display.puzzle.PuzNum, 4) << "the file has grown";
+    commands.goTo(5);
+    EXPECT_EQ(display.puzzle.PuzNum, 5);
+    fileOfPuzzles("a.txt", 2);
+    commands.goTo(3);
+    EXPECT_EQ(display.puzzle.PuzNum, 5) << "there is no puzzle 3 any more";
     commands.cmdarrow(0);
-    EXPECT_EQ(board.message, "Error reading p# 2");
+    EXPECT_EQ(display.puzzle.PuzNum, 2);
+    EXPECT_EQ(display.puzzle.PuzCount, 2);
+    fileOfPuzzles("a.txt", 1);
+    commands.cmdarrow(1);
+    EXPECT_EQ(display.puzzle.PuzNum, 1);
+    EXPECT_TRUE(prompts.shown.empty());
+}
+
+TEST_F(LibraryCommandsTest, AFileThatIsEmptyOrGoneIsSaidAndTheBoardStays) {
+    const std::string path = fileOfPuzzles("a.txt", 3);
+    commands.load(path, 3);
+    const Board before = session.game.board;
+    fileOf("a.txt", "");
+    for (int item : {0, 1}) {
+        commands.cmdarrow(item);
+        EXPECT_EQ(board.message, "Error reading p# 1");
+    }
     EXPECT_TRUE(prompts.shown.empty());
     std::filesystem::remove(path);
     commands.cmdarrow(0);
@@ -116,6 +138,41 @@ TEST_F(LibraryCommandsTest, AFileThatVanishedOrShrankIsSaidAndTheBoardStays) {
     EXPECT_NE(lastMessage().text.find(path), std::string::npos);
     EXPECT_EQ(session.game.board, before);
     EXPECT_EQ(display.puzzle.PuzNum, 3);
+}
+
+TEST_F(LibraryCommandsTest, WhatArrivesWhileALargeFileIsReadOrCopiedIsIgnored) {
+    std::string content;
+    while (content.size() < 500'000)
+        content += records[content.size() % 7] + "\r\n";
+    const std::string path = fileOf("large.txt", content);
+    int arrived = 0;
+    board.onYield = [&] {
+        ++arrived;
+        EXPECT_GT(display.busyDepth, 0);
+        commands.load(path, 3);
+        commands.cmdarrow(1);
+        commands.mnudelete();
+    };
+    commands.load(path);
+    EXPECT_EQ(display.puzzle.PuzNum, 1);
+    EXPECT_GE(arrived, 5);
+    prompts.answers = {answer::Yes, answer::Ok};
+    arrived = 0;
+    commands.mnudelete();
+    EXPECT_GE(arrived, 5);
+    EXPECT_EQ(test::contentOf(path), content.substr(RecordLength + 2));
+    EXPECT_EQ(prompts.shown.size(), 2u);
+    EXPECT_FALSE(session.busy.isBusy());
+}
+
+TEST_F(LibraryCommandsTest, APuzzleThatStandsInNoFileCanStillBeSaved) {
+    choice.path = session.ProgramFolder + "rescued.txt";
+    commands.mnusavex();
+    EXPECT_TRUE(choice.asked.empty()) << "there is no puzzle";
+    session.game.board = boardOf(records[0]);
+    commands.mnusavex();
+    EXPECT_EQ(test::contentOf(choice.path), records[0] + "\r\n");
+    EXPECT_EQ(display.puzzle.PuzNum, 1);
 }
 
 TEST_F(LibraryCommandsTest, SavingAppendsThePlayAndShowsTheCopy) {

@@ -4,6 +4,7 @@
 #include "board/session_memory.h"
 
 #include "board/configuration.h"
+#include "board/scratch_file.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -51,6 +52,13 @@ TEST_F(SessionMemoryTest, WhatWasSetIsThereAgainAfterARestart) {
     EXPECT_EQ(loaded.last.number, 12);
     EXPECT_EQ(next.recentFiles, session.recentFiles);
     EXPECT_EQ(next.appearance, session.appearance);
+}
+
+TEST_F(SessionMemoryTest, AStartClearsWhatAKilledProcessLeft) {
+    const std::string leftover = scratchNameOf("tessaly.cfg");
+    test::put(folder / leftover, "half a configuration");
+    ASSERT_TRUE(loadSession(session).outcome.ok());
+    EXPECT_EQ(folder.names(), (std::set<std::string>{"all.col", "hexabinx.txt"}));
 }
 
 TEST_F(SessionMemoryTest, AMissingOrGarbledDataFileStopsTheStart) {

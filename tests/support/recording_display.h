@@ -6,6 +6,7 @@
 #include "play/board_input.h"
 #include "play/display.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -18,7 +19,11 @@ struct RecordingDisplay : Display, InputDisplay {
     void DrawSolution(Colour) override { ++solutionsDrawn; }
     void showMessage(std::string_view text) override { message = text; }
     void focusBoard() override { ++focused; }
-    void yield() override { ++yields; }
+    void yield() override {
+        ++yields;
+        if (onYield)
+            onYield();
+    }
 
     void showSelection(CellId cell) override { marker = cell; }
     void showPopup(Point corner, bool upwards) override {
@@ -34,6 +39,8 @@ struct RecordingDisplay : Display, InputDisplay {
     int solutionsDrawn = 0;
     int focused = 0;
     int yields = 0;
+    /// What happens while a command lets the window live.
+    std::function<void()> onYield;
     std::string message;
     CellId marker;
     bool popupShown = false;
