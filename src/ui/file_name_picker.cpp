@@ -3,8 +3,9 @@
 
 #include "ui/file_name_picker.h"
 
+#include "ui/path_text.h"
+
 #include <QDir>
-#include <QFile>
 #include <QHBoxLayout>
 #include <QStandardPaths>
 
@@ -25,25 +26,14 @@ private:
     QString m_directory = QDir::currentPath();
 };
 
-/// Whether the path still names the file that was chosen. A name on the disk that is not UTF-8
-/// arrives with replacement characters in it, and would name another file or none.
-bool isExact(const QString& path) {
-    return !path.contains(QChar::ReplacementCharacter) && !path.contains(QChar::Null) &&
-           QFile::decodeName(QFile::encodeName(path)) == path;
-}
-
 /// Why the path cannot be taken; empty when it can.
 QString problemWith(const QString& path) {
-    if (!isExact(path))
-        return QStringLiteral("The name of this file is not valid UTF-8 text, so it cannot be "
-                              "used:\r\n") %
-               path;
     if (path.size() > LongestPath)
         return QStringLiteral("The path of this file is longer than %1 characters, so it cannot "
                               "be used:\r\n")
                    .arg(LongestPath) %
                path;
-    return {};
+    return problemWithName(path);
 }
 
 QStringList patternsIn(const QString& types) {

@@ -12,6 +12,7 @@
 #include "play/play_area.h"
 #include "solver/developer_row.h"
 #include "ui/box_control.h"
+#include "ui/file_drop.h"
 #include "ui/file_name_picker.h"
 #include "ui/icon_set.h"
 #include "ui/scheme_palette.h"
@@ -70,6 +71,7 @@ Form1::Form1(Session& session, Prompts& prompts, FileDialogs& fileDialogs)
     connectCreation();
     connectDeveloperRow();
     connectOptions();
+    connectFileDrop();
     applyAppearance();
     resize(FirstSize);
 }
@@ -166,6 +168,15 @@ void Form1::connectOptions() {
     connect(m_menu.mnuopts, &QAction::triggered, this, [this] {
         if (!m_session.busy.refuses(m_prompts))
             m_options->showOptions();
+    });
+}
+
+void Form1::connectFileDrop() {
+    auto* drop = new FileDrop(*this);
+    connect(drop, &FileDrop::dropped, this,
+            [this](const QString& path) { m_library.load(path.toStdString()); });
+    connect(drop, &FileDrop::refused, this, [this](const QString& reason) {
+        m_prompts.message(reason.toStdString(), "vbok+vbcritical");
     });
 }
 

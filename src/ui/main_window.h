@@ -46,6 +46,7 @@ private:
     void connectCreation();
     void connectDeveloperRow();
     void connectOptions();
+    void connectFileDrop();
     void ApplyScheme();
     void cmdexit();
 

@@ -59,6 +59,7 @@ void ToolRow::addNumberBox() {
     m_puzNumNow->setObjectName(u"PuzNumNow"_s);
     m_puzNumNow->setAccessibleName(tr("Puzzle number"));
     m_puzNumNow->setToolTip(tr("Puzzle number; Enter goes there"));
+    m_puzNumNow->setAcceptDrops(false); // a file that is dropped there is for the window
     m_puzNumNow->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_puzNumNow->setMaxLength(WidestNumber.size());
     m_puzNumNow->setFixedSize(fontMetrics().horizontalAdvance(WidestNumber) + 2 * Spacing,
