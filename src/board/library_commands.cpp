@@ -203,6 +203,7 @@ void LibraryCommands::oldfiles_Click(int item) {
 void LibraryCommands::reopen(const std::string& path, int number) {
     const std::string temporary = m_session.ProgramFolder + std::string(TemporaryPuzzleFile);
     int count = 0;
+    m_libraryDisplay.showRecentFiles(m_session.recentFiles);
     if (trimmed(path).empty() || path == temporary || !FileExists(path) ||
         !m_session.files.CountLines(path, count).ok()) {
         showEmptyBoard();

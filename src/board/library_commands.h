@@ -36,7 +36,8 @@ public:
     /// Opens a recent file, by its place in the list.
     void oldfiles_Click(int item);
 
-    /// Shows the puzzle that was shown when the program ended last, or the empty board.
+    /// Shows the puzzle that was shown when the program ended last, or the empty board, and the
+    /// recent files.
     void reopen(const std::string& path, int number);
 
     /// Reads a puzzle onto the board and shows it. When that fails the board stays as it was and

@@ -37,10 +37,11 @@ void addCancel(QMenu& menu) {
     menu.addAction(u"Cancel"_s);
 }
 
-/// A path as a menu shows it: no mnemonics, and cut in the middle when it is long.
+/// A path as a menu shows it: on one line, without mnemonics, cut in the middle when it is long.
 QString menuText(const std::string& path, const QMenu& menu) {
     constexpr int WidestPath = 420;
     QString text = menu.fontMetrics().elidedText(pathText(path), Qt::ElideMiddle, WidestPath);
+    text.replace(u'\n', u' ').replace(u'\t', u' ');
     return text.replace(u'&', u"&&"_s);
 }
 
@@ -58,8 +59,8 @@ MainMenu::MainMenu(QMenuBar& bar) {
 
 void MainMenu::disableWhatIsToCome() {
     mnucopyclip->setEnabled(false);
-    for (QAction* action : {mnuclippuz, mnuclipsol, mnuhelp, mnuabout, mnucapwin,
-                            printPuzzle, printSolution, printBoth, printMultiple})
+    for (QAction* action : {mnuclippuz, mnuclipsol, mnuhelp, mnuabout, mnucapwin, printPuzzle,
+                            printSolution, printBoth, printMultiple})
         action->setEnabled(false);
 }
 

@@ -42,15 +42,18 @@ private:
 /// The main window as a test uses it: shown offscreen, its questions answered by the test.
 class GameWindow {
 public:
-    explicit GameWindow(Prompts* otherPrompts = nullptr) {
-        session.ProgramFolder = folder.path();
-        const LoadedSession loaded = loadSession(session);
-        EXPECT_TRUE(loaded.outcome.ok()) << loaded.outcome.problem;
-        Prompts& asked = otherPrompts != nullptr ? *otherPrompts : prompts;
-        window = std::make_unique<Form1>(session, asked, fileDialogs);
-        window->show();
-        EXPECT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+    explicit GameWindow(Prompts* otherPrompts = nullptr)
+        : m_prompts(otherPrompts != nullptr ? *otherPrompts : prompts) {
+        open();
         window->library().reopen({}, 1);
+    }
+
+    /// Starts the game anew in the same folder, as if the process had ended.
+    void restart() {
+        window.reset();
+        session = Session();
+        const LastPuzzle last = open();
+        window->library().reopen(last.path, last.number);
     }
 
     /// Finds a control by its name.
@@ -82,6 +85,19 @@ public:
     ScriptedPrompts prompts;
     ScriptedFileDialogs fileDialogs;
     std::unique_ptr<Form1> window;
+
+private:
+    LastPuzzle open() {
+        session.ProgramFolder = folder.path();
+        const LoadedSession loaded = loadSession(session);
+        EXPECT_TRUE(loaded.outcome.ok()) << loaded.outcome.problem;
+        window = std::make_unique<Form1>(session, m_prompts, fileDialogs);
+        window->show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+        return loaded.last;
+    }
+
+    Prompts& m_prompts;
 };
 
 } // namespace tessaly
