@@ -12,8 +12,10 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-/// How long the window waits for its turn, and how much work a crash can lose.
-constexpr std::chrono::milliseconds ShortWhile{30};
+/// How much work a crash can lose. Flushing the disk takes as long as making many puzzles.
+constexpr std::chrono::milliseconds ShortWhile{100};
+/// How long the window waits for its turn, unless the disk takes longer.
+constexpr std::chrono::milliseconds Turn{10};
 
 /// One in a hundred more hard ones than easy ones, unlike a single creation.
 Difficulty drawForEach(DifficultyChoice choice, Chance& chance) {
@@ -90,11 +92,17 @@ Outcome MultipleCreation::createAll(const CreationOrder& order, int& made) {
 
 std::string MultipleCreation::createSome(const CreationOrder& order, int& made) {
     std::string records;
-    const auto end = Clock::now() + ShortWhile;
-    do {
+    auto now = Clock::now();
+    const auto end = now + ShortWhile;
+    auto nextTurn = now + Turn;
+    for (; now < end && made < order.count && !m_stopped; now = Clock::now()) {
         ++made;
         records += createOne(order, made) + "\r\n";
-    } while (made < order.count && Clock::now() < end);
+        if (Clock::now() >= nextTurn) {
+            m_window.display.yield();
+            nextTurn = Clock::now() + Turn;
+        }
+    }
     return records;
 }
 
