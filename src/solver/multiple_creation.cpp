@@ -7,6 +7,8 @@
 #include "board/puzzle_record.h"
 #include "solver/generator.h"
 
+#include <future>
+
 namespace tessaly {
 namespace {
 
@@ -14,7 +16,7 @@ using Clock = std::chrono::steady_clock;
 
 /// How much work a crash can lose. Flushing the disk takes as long as making many puzzles.
 constexpr std::chrono::milliseconds ShortWhile{100};
-/// How long the window waits for its turn, unless the disk takes longer.
+/// How long the window waits for its turn.
 constexpr std::chrono::milliseconds Turn{10};
 
 /// One in a hundred more hard ones than easy ones, unlike a single creation.
@@ -81,13 +83,21 @@ Outcome MultipleCreation::createAll(const CreationOrder& order, int& made) {
     while (made < order.count && !m_stopped) {
         int madeNow = made;
         const std::string records = createSome(order, madeNow);
-        if (Outcome written = appendLines(order.path, records); !written.ok())
+        if (Outcome written = append(order.path, records); !written.ok())
             return written;
         made = madeNow;
         m_window.progress.showProgress({made, order.count, timeLeft(start, made, order.count)});
         m_window.display.yield();
     }
     return Outcome::done();
+}
+
+/// Appends to the file on a thread of its own: a disk may take its time.
+Outcome MultipleCreation::append(const std::string& path, const std::string& records) {
+    auto writing = std::async([&] { return appendLines(path, records); });
+    while (writing.wait_for(Turn) == std::future_status::timeout)
+        m_window.display.yield();
+    return writing.get();
 }
 
 std::string MultipleCreation::createSome(const CreationOrder& order, int& made) {

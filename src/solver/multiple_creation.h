@@ -74,6 +74,7 @@ private:
     /// Creates until all are made, the file cannot be written, or the run is stopped; `made` counts
     /// those that are on the disk.
     Outcome createAll(const CreationOrder& order, int& made);
+    Outcome append(const std::string& path, const std::string& records);
     /// The records of a short while, counted in `made`.
     std::string createSome(const CreationOrder& order, int& made);
     /// A record that was not made in this run before.

@@ -37,7 +37,7 @@ std::optional<int> recordsAdded(const std::string& before, const std::string& af
 }
 
 int recordsPromised(std::string_view said) {
-    return static_cast<int>(std::count(said.begin(), said.end(), 'm'));
+    return WrittenAtOnce * static_cast<int>(std::count(said.begin(), said.end(), 'm'));
 }
 
 /// What the operation left of its file, as the table tells it.

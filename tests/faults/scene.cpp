@@ -89,14 +89,15 @@ std::function<Outcome()> saveConfiguration(const Scene& scene) {
     return [path = scene.configuration()] { return SavecfgFile(path, configurationAt(2)); };
 }
 
-/// Says after each puzzle how many are made.
+/// Writes a few puzzles at a time, and says each time how many are made.
 std::function<Outcome()> makeBatch(const Scene& scene) {
     return [path = scene.puzzles()] {
-        PuzzleFiles files;
         Outcome outcome;
-        for (int made = 1; made <= BatchSize && outcome.ok(); ++made) {
-            int number = 0;
-            outcome = files.appendPuzzle(path, test::recordNumbered(NewSeed + made), number);
+        for (int made = 0; made < BatchSize && outcome.ok();) {
+            std::string records;
+            for (int each = 0; each < WrittenAtOnce; ++each)
+                records += test::recordNumbered(NewSeed + ++made) + "\r\n";
+            outcome = appendLines(path, records);
             if (outcome.ok())
                 say(STDOUT_FILENO, "made " + std::to_string(made));
         }

@@ -49,8 +49,9 @@ const std::vector<Operation>& operations();
 /// Says a line to whoever started the program, by a system call that no file is written with.
 void say(int stream, std::string_view line);
 
-/// How many records the operation "batch" writes, each saved before the next.
-inline constexpr int BatchSize = 3;
+/// How many records the operation "batch" writes, some at a time, each time saved before the next.
+inline constexpr int BatchSize = 6;
+inline constexpr int WrittenAtOnce = 2;
 
 /// Judges what a faulted operation left in `work`, which was a copy of `before` and would be like
 /// `after` without the fault, having said `said`. Then starts the program anew there. Prints what
