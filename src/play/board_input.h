@@ -73,6 +73,7 @@ public:
     int SelHex() const { return m_selection ? m_selection.hexagon : -1; }
     int SelCell() const { return m_selection ? m_selection.position : -1; }
     CellId selection() const { return m_selection; }
+    bool canSelect(CellId cell) const { return m_game.isSelectable(cell); }
     int pressedPaletteItem() const { return m_paletteItem; }
 
 private:

@@ -3,9 +3,11 @@
 
 #include "play/board_view.h"
 
+#include "play/board_accessible.h"
 #include "play/key_codes.h"
 #include "ui/qt_colour.h"
 
+#include <QAccessible>
 #include <QEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -18,6 +20,8 @@ namespace {
 using namespace Qt::StringLiterals;
 
 constexpr double SmallestScale = 0.6;
+/// How far the frame of the focus reaches into the view.
+constexpr int FocusInset = 3;
 
 PointerButton pointerButton(Qt::MouseButton button) {
     switch (button) {
@@ -38,10 +42,12 @@ BoardView::BoardView(const Board& board, const Appearance& appearance, QWidget* 
     , m_appearance(appearance)
     , m_marker(this)
     , m_popup(this) {
+    BoardAccessible::install();
     setObjectName(u"Picture2"_s);
     setAccessibleName(tr("Board"));
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
+    setAttribute(Qt::WA_Hover);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMinimumSize(static_cast<int>(std::ceil(SmallestScale * PictureWidth)),
                    static_cast<int>(std::ceil(SmallestScale * PictureHeight)));
@@ -73,6 +79,8 @@ void BoardView::DrawHexagon(int hexagon) {
         return;
     const QRect changed = m_surface.DrawHexagon(m_board, hexagon);
     showTag(hexagon);
+    if (m_markedCell.hexagon == hexagon)
+        tellEntry();
     const double ratio = devicePixelRatioF();
     update(QRectF(changed.x() / ratio, changed.y() / ratio, changed.width() / ratio,
                   changed.height() / ratio)
@@ -104,10 +112,49 @@ void BoardView::showTag(int hexagon) {
 }
 
 void BoardView::showSelection(CellId cell) {
+    const bool hasMoved = m_markedCell != cell;
     m_markedCell = cell;
     if (cell)
         m_marker.setGeometry(onWidget(markerRectangle(cell)));
     m_marker.setVisible(static_cast<bool>(cell));
+    if (!hasMoved)
+        return;
+    update(QRegion(rect()) - rect().adjusted(FocusInset, FocusInset, -FocusInset, -FocusInset));
+    tellFocus();
+}
+
+/// Tells a screen reader which cell the keys go to now.
+void BoardView::tellFocus() {
+    if (!hasFocus())
+        return;
+    QAccessibleEvent focused(this, QAccessible::Focus);
+    if (m_markedCell)
+        focused.setChild(BoardAccessible::indexOf(m_markedCell));
+    QAccessible::updateAccessibility(&focused);
+}
+
+/// Tells a screen reader that the selected cell reads differently now.
+void BoardView::tellEntry() {
+    QAccessibleEvent renamed(this, QAccessible::NameChanged);
+    renamed.setChild(BoardAccessible::indexOf(m_markedCell));
+    QAccessible::updateAccessibility(&renamed);
+}
+
+bool BoardView::canSelect(CellId cell) const {
+    return m_input != nullptr && m_input->canSelect(cell);
+}
+
+void BoardView::pointAt(CellId cell) {
+    if (m_input != nullptr)
+        m_input->Picture2_MouseMove(numberCentre(cell));
+}
+
+QRect BoardView::rectangleOf(CellId cell) const {
+    return onWidget(hitRectangle(cell));
+}
+
+CellId BoardView::cellUnder(QPoint point) const {
+    return cellAt(onBoard(point));
 }
 
 void BoardView::showPopup(Point corner, bool upwards) {
@@ -156,6 +203,17 @@ void BoardView::paintEvent(QPaintEvent* event) {
     const QRectF source(target.x() * ratio, target.y() * ratio, target.width() * ratio,
                         target.height() * ratio);
     painter.drawImage(QRectF(target), m_surface.image(), source);
+    if (hasFocus() && !m_markedCell && !underMouse())
+        drawFocus(painter);
+}
+
+/// The marker shows where the focus is as long as a cell is selected; otherwise the board wears a
+/// frame, but not under the pointer, where it would come and go between the cells.
+void BoardView::drawFocus(QPainter& painter) const {
+    const QColor ground = toQColor(m_appearance.SchemeColours[slot::Background]);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(blended(ground, readableOn(ground), 0.5), 2));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 4, 4);
 }
 
 void BoardView::resizeEvent(QResizeEvent* event) {

@@ -39,6 +39,16 @@ public:
     void showPopup(Point corner, bool upwards);
     void hidePopup();
 
+    const Board& board() const { return m_board; }
+    CellId selection() const { return m_markedCell; }
+    /// Whether the player may enter anything in the cell.
+    bool canSelect(CellId cell) const;
+    /// Selects a cell, as the pointer over it does.
+    void pointAt(CellId cell);
+    /// Where a cell lies, and which cell lies where, in this widget's logical pixels.
+    QRect rectangleOf(CellId cell) const;
+    CellId cellUnder(QPoint point) const;
+
     /// From board units to this widget's logical pixels.
     QTransform boardToWidget() const;
 
@@ -60,6 +70,9 @@ private:
     void showTag(int hexagon);
     void forwardKey(const QKeyEvent& event);
     bool movesSelection(const QKeyEvent& event);
+    void drawFocus(QPainter& painter) const;
+    void tellFocus();
+    void tellEntry();
 
     QRect onWidget(const Rect& rectangle) const;
     Point onBoard(QPointF position) const;

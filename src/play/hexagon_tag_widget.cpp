@@ -4,6 +4,7 @@
 #include "play/hexagon_tag_widget.h"
 
 #include "play/hexagon_tag.h"
+#include "ui/qt_colour.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -45,6 +46,17 @@ void HexagonTagWidget::paintEvent(QPaintEvent*) {
                            : noticed ? TagState::Hovered
                                      : TagState::Plain;
     drawTag(painter, rect(), m_hexagon, m_appearance, state);
+    if (hasFocus())
+        drawFocus(painter);
+}
+
+void HexagonTagWidget::drawFocus(QPainter& painter) const {
+    constexpr double Thickness = 2;
+    const QRectF frame =
+        QRectF(rect()).adjusted(Thickness / 2, Thickness / 2, -Thickness / 2, -Thickness / 2);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(readableOn(toQColor(m_appearance.HexaFillColour)), Thickness));
+    painter.drawRoundedRect(frame, frame.height() / 2, frame.height() / 2);
 }
 
 void HexagonTagWidget::mousePressEvent(QMouseEvent* event) {

@@ -34,6 +34,7 @@ protected:
     void leaveEvent(QEvent* event) override;
 
 private:
+    void drawFocus(QPainter& painter) const;
     void press();
     void release();
 

@@ -6,8 +6,18 @@
 #include <QKeyEvent>
 
 namespace tessaly {
+namespace {
+
+/// Ctrl+H is a backspace to a terminal, and Ctrl+1 may come as a digit; neither is one to a player.
+bool isPartOfAShortcut(const QKeyEvent& event) {
+    return (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
+}
+
+} // namespace
 
 int keyCodeOf(const QKeyEvent& event) {
+    if (isPartOfAShortcut(event))
+        return 0;
     switch (event.key()) {
     case Qt::Key_Backspace:
         return 8;
@@ -24,6 +34,8 @@ int keyCodeOf(const QKeyEvent& event) {
 }
 
 int characterCodeOf(const QKeyEvent& event) {
+    if (isPartOfAShortcut(event))
+        return 0;
     const QString text = event.text();
     return text.size() == 1 ? text.front().unicode() : 0;
 }

@@ -8,10 +8,11 @@ class QKeyEvent;
 namespace tessaly {
 
 /// The classic key code of a key, as `BoardInput` takes it: 8, 27, 46 and, for the digits of the
-/// main keyboard, 48..57. 0 for keys that the board has no use for, the numeric pad's among them.
+/// main keyboard, 48..57. 0 for keys that the board has no use for, the numeric pad's among them,
+/// and for keys pressed together with Ctrl, Alt or Meta.
 int keyCodeOf(const QKeyEvent& event);
 
-/// The code of the character that a key gives; 0 for none.
+/// The code of the character that a key gives; 0 for none, or with Ctrl, Alt or Meta.
 int characterCodeOf(const QKeyEvent& event);
 
 } // namespace tessaly

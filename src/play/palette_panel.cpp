@@ -50,9 +50,11 @@ PalettePanel::PalettePanel(const Appearance& appearance, QWidget* parent)
 
 BoxControl* PalettePanel::makeItem(int index) {
     auto* item = index == BoardInput::PaletteEraser
-                     ? new BoxControl(Picture::Eraser, tr("Erase"), this)
+                     ? new BoxControl(Picture::Eraser, tr("Empty the cells that are clicked"), this)
                      : new BoxControl(QString::number(index + 1), this);
     item->setObjectName(u"digt_%1"_s.arg(index));
+    if (index != BoardInput::PaletteEraser)
+        item->setToolTip(tr("Number %1 for the cells that are clicked").arg(index + 1));
     connect(item, &BoxControl::clicked, this,
             [this, index] { Q_EMIT itemReleased(index, PointerButton::Left); });
     connect(item, &BoxControl::alternateClicked, this,

@@ -4,12 +4,15 @@
 #include "ui/box_control.h"
 
 #include "ui/box_face.h"
+#include "ui/key_hold.h"
 #include "ui/qt_colour.h"
 
 #include <QContextMenuEvent>
 #include <QMetaMethod>
 #include <QPainter>
 #include <QPointer>
+#include <QShortcutEvent>
+#include <QToolTip>
 
 #include <algorithm>
 
@@ -98,9 +101,56 @@ QSize BoxControl::sizeHint() const {
 }
 
 bool BoxControl::event(QEvent* event) {
-    if (event->type() == QEvent::ToolTipChange)
+    switch (event->type()) {
+    case QEvent::ToolTipChange:
         nameAfterToolTip();
+        break;
+    case QEvent::ToolTip:
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), toolTipWithKeys(), this);
+        return true;
+    case QEvent::Shortcut:
+        answerShortcut(*static_cast<QShortcutEvent*>(event));
+        return true;
+    default:
+        break;
+    }
     return QAbstractButton::event(event);
+}
+
+QList<QKeySequence> BoxControl::shownKeys() const {
+    if (m_shownKeys.isEmpty() && !shortcut().isEmpty())
+        return {shortcut()};
+    return m_shownKeys;
+}
+
+QString BoxControl::toolTipWithKeys() const {
+    QStringList keys;
+    for (const QKeySequence& shown : shownKeys())
+        keys << shown.toString(QKeySequence::NativeText);
+    if (toolTip().isEmpty() || keys.isEmpty())
+        return toolTip();
+    return toolTip() % QChar(u'\n') % keys.join(QLatin1String("; "));
+}
+
+/// At once, not after the while that a button usually sinks for: keys come faster than that.
+void BoxControl::answerShortcut(const QShortcutEvent& event) {
+    if (!isEnabled() || event.isAmbiguous())
+        return;
+    if (m_heldByShortcut)
+        holdUntilReleased(event.key()[0].key());
+    else
+        click();
+}
+
+void BoxControl::holdUntilReleased(int key) {
+    if (isDown())
+        return;
+    connect(new KeyHold(key, this), &KeyHold::ended, this, [this] {
+        setDown(false);
+        Q_EMIT released();
+    });
+    setDown(true);
+    Q_EMIT pressed();
 }
 
 void BoxControl::nameAfterToolTip() {

@@ -8,7 +8,10 @@
 #include <QAbstractButton>
 #include <QColor>
 #include <QKeyEvent>
+#include <QKeySequence>
 #include <QMouseEvent>
+
+class QShortcutEvent;
 
 namespace tessaly {
 
@@ -41,6 +44,16 @@ public:
     /// A latched button stays down until it is let up again; clicks alone change nothing of it.
     void setLatched(bool latched);
 
+    /// The keys that the tooltip names beneath its text; those of shortcut() as long as none are
+    /// set.
+    QList<QKeySequence> shownKeys() const;
+    void setShownKeys(const QList<QKeySequence>& keys) { m_shownKeys = keys; }
+    /// The tooltip's text and, on a line of its own, the keys.
+    QString toolTipWithKeys() const;
+    /// The shortcut's key holds the button down for as long as it is down itself, instead of
+    /// clicking it.
+    void setHeldByShortcut(bool held) { m_heldByShortcut = held; }
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
@@ -69,12 +82,16 @@ protected:
 private:
     bool answersAlternateClicks() const;
     void nameAfterToolTip();
+    void answerShortcut(const QShortcutEvent& event);
+    void holdUntilReleased(int key);
     void drawContents(QPainter& painter, const QRectF& area) const;
 
     Picture m_picture = Picture::None;
     QColor m_face;
     QColor m_text;
     QString m_nameFromToolTip;
+    QList<QKeySequence> m_shownKeys;
+    bool m_heldByShortcut = false;
     bool m_alternateDown = false;
 };
 

@@ -18,11 +18,9 @@ QMenu* addMenu(auto& parent, const QString& caption, const QString& name) {
     return menu;
 }
 
-QAction* addCommand(QMenu& menu, const QString& caption, const QString& name,
-                    const QKeySequence& shortcut = {}) {
+QAction* addCommand(QMenu& menu, const QString& caption, const QString& name) {
     QAction* action = menu.addAction(caption);
     action->setObjectName(name);
-    action->setShortcut(shortcut);
     return action;
 }
 
@@ -65,35 +63,34 @@ void MainMenu::disableWhatIsToCome() {
 }
 
 void MainMenu::buildFileMenu(QMenu& menu) {
-    mnuload = addCommand(menu, u"&Load"_s, u"mnuload"_s, QKeySequence::Open);
+    mnuload = addCommand(menu, u"&Load"_s, u"mnuload"_s);
     mnucopyclip = addMenu(menu, u"&Copy to Clipboard"_s, u"mnucopyclip"_s);
-    mnuclippuz = addCommand(*mnucopyclip, u"&Puzzle"_s, u"mnuclippuz"_s, QKeySequence::Copy);
+    mnuclippuz = addCommand(*mnucopyclip, u"&Puzzle"_s, u"mnuclippuz"_s);
     mnuclipsol = addCommand(*mnucopyclip, u"&Solution"_s, u"mnuclipsol"_s);
     addCancel(*mnucopyclip);
     menu.addSeparator();
     mnuopts = addCommand(menu, u"&Options"_s, u"mnuopts"_s);
     menu.addSeparator();
-    mnuhelp = addCommand(menu, u"&Help"_s, u"mnuhelp"_s, QKeySequence::HelpContents);
+    mnuhelp = addCommand(menu, u"&Help"_s, u"mnuhelp"_s);
     mnuabout = addCommand(menu, u"&About"_s, u"mnuabout"_s);
     menu.addSeparator();
     for (int i = 0; i < RecentFileCount; ++i)
         oldfiles[static_cast<std::size_t>(i)] = addItem(menu, u"OldFiles"_s, u"oldfiles"_s, i);
     oldfiles.back() = menu.addSeparator();
     oldfiles.back()->setObjectName(u"oldfiles_5"_s);
-    cmdexit = addCommand(menu, u"E&xit"_s, u"cmdexit"_s, QKeySequence::Quit);
+    cmdexit = addCommand(menu, u"E&xit"_s, u"cmdexit"_s);
 }
 
 void MainMenu::buildCreateMenu(QMenu& menu) {
     createSingle = addItem(menu, u"&Single Puzzle"_s, u"mnucreaten"_s, 0);
-    createSingle->setShortcut(QKeySequence::New);
     createMultiple = addItem(menu, u"&Multiple Puzzles"_s, u"mnucreaten"_s, 1);
     addCancel(menu);
 }
 
 void MainMenu::buildSaveMenu(QMenu& menu) {
     mnusavez = addMenu(menu, u"&Save to"_s, u"mnusavez"_s);
-    mnusavex = addCommand(*mnusavez, u"&New File"_s, u"mnusavex"_s, QKeySequence::SaveAs);
-    mnusaveto = addCommand(*mnusavez, {}, u"mnusaveto"_s, QKeySequence::Save);
+    mnusavex = addCommand(*mnusavez, u"&New File"_s, u"mnusavex"_s);
+    mnusaveto = addCommand(*mnusavez, {}, u"mnusaveto"_s);
     addCancel(*mnusavez);
     mnucapwin = addCommand(menu, u"&Entire Window"_s, u"mnucapwin"_s);
     menu.addSeparator();
@@ -103,7 +100,6 @@ void MainMenu::buildSaveMenu(QMenu& menu) {
 
 void MainMenu::buildPrintMenu(QMenu& menu) {
     printPuzzle = addItem(menu, u"&Puzzle"_s, u"mnuprintx"_s, 0);
-    printPuzzle->setShortcut(QKeySequence::Print);
     printSolution = addItem(menu, u"&Solution"_s, u"mnuprintx"_s, 1);
     printBoth = addItem(menu, u"Puzzle &and Solution"_s, u"mnuprintx"_s, 2);
     menu.addSeparator();

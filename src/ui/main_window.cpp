@@ -16,6 +16,7 @@
 #include "ui/file_name_picker.h"
 #include "ui/icon_set.h"
 #include "ui/scheme_palette.h"
+#include "ui/shortcuts.h"
 #include "ui/status_line.h"
 #include "ui/tool_row.h"
 
@@ -72,6 +73,7 @@ Form1::Form1(Session& session, Prompts& prompts, FileDialogs& fileDialogs)
     connectDeveloperRow();
     connectOptions();
     connectFileDrop();
+    giveShortcuts(*this);
     applyAppearance();
     resize(FirstSize);
 }
@@ -113,7 +115,10 @@ void Form1::connectTools() {
     for (int item : {0, 1})
         connect(m_tools->cmdarrow[static_cast<std::size_t>(item)], &BoxControl::clicked, this,
                 [this, item] { m_library.cmdarrow(item); });
-    connect(m_tools, &ToolRow::numberEntered, this, [this](int number) { m_library.goTo(number); });
+    connect(m_tools, &ToolRow::numberEntered, this, [this](int number) {
+        m_library.goTo(number);
+        m_board->setFocus();
+    });
     connect(m_tools->cmdundo, &BoxControl::clicked, this, [this] { m_play.cmdundo(); });
     connect(m_tools->cmdreset, &BoxControl::clicked, this, [this] { m_play.cmdreset(); });
     connect(m_tools->cmdshowsol, &BoxControl::pressed, this,

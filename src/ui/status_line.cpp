@@ -6,6 +6,7 @@
 #include "ui/box_control.h"
 #include "ui/path_text.h"
 
+#include <QAccessible>
 #include <QHBoxLayout>
 #include <QPainter>
 
@@ -67,6 +68,10 @@ void StatusLine::showFileText(const QString& text) {
 
 void StatusLine::showMessage(std::string_view text) {
     m_message->setText(pathText(text));
+    if (text.empty())
+        return;
+    QAccessibleEvent alert(m_message, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
 }
 
 } // namespace tessaly

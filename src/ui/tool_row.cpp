@@ -43,6 +43,7 @@ ToolRow::ToolRow(QWidget* parent)
     cmdundo = addButton(Picture::Undo, u"Undo"_s, u"cmdundo"_s);
     cmdreset = addButton(Picture::Reset, u"Reset Puzzle"_s, u"cmdreset"_s);
     cmdshowsol = addButton(Picture::ShowSolution, u"Show Solution"_s, u"cmdshowsol"_s);
+    cmdshowsol->setHeldByShortcut(true);
 }
 
 BoxControl* ToolRow::addButton(Picture picture, const QString& toolTip, const QString& name) {
@@ -90,7 +91,9 @@ void ToolRow::showPuzzleNumber(int number, int count) {
 
 void ToolRow::showDifficulty(DifficultyChoice difficulty) {
     const std::string_view name = nameOf(difficulty);
+    const QKeySequence keys = DifLab->shortcut(); // which a button loses with its text
     DifLab->setText(QLatin1String(name.data(), static_cast<qsizetype>(name.size())));
+    DifLab->setShortcut(keys);
 }
 
 } // namespace tessaly
