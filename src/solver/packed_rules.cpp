@@ -138,9 +138,11 @@ void PackedRules::settleSingles(int hexagon) {
 
 void PackedRules::FixXcellPairs() {
     m_board.agendas().xcells.work([this](int xcell) {
-        if (admitsThreeDigits(xcell) && digitsInTwoPlaces(xcell) != 0)
-            for (const XcellPlacement& placement : examineXcell(xcell).all())
-                place(placement);
+        if (!admitsThreeDigits(xcell) || digitsInTwoPlaces(xcell) == 0)
+            return true;
+        const auto placements = examineXcell(xcell);
+        for (const XcellPlacement& placement : placements.all())
+            place(placement);
         return true;
     });
 }
