@@ -212,8 +212,8 @@ void BoardView::paintEvent(QPaintEvent* event) {
 void BoardView::drawFocus(QPainter& painter) const {
     const QColor ground = toQColor(m_appearance.SchemeColours[slot::Background]);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(blended(ground, readableOn(ground), 0.5), 2));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 4, 4);
+    painter.setPen(QPen(blended(ground, readableOn(ground), 0.5), 1));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
 }
 
 void BoardView::resizeEvent(QResizeEvent* event) {
