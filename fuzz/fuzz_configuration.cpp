@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+// The configuration file. Whatever was read, saving and reading it again gives the same.
+
+#include "board/configuration.h"
+#include "fuzz_target.h"
+#include "support/temporary_folder.h"
+
+using namespace tessaly;
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static const test::TemporaryFolder folder;
+    static const std::string path = folder / "tessaly.cfg";
+    test::put(path, fuzz::textOf(data, size));
+    const Configuration read = ReadcfgFile(path);
+    fuzz::require(SavecfgFile(path, read).ok(), "a configuration can be saved");
+    fuzz::require(ReadcfgFile(path) == read, "a configuration reads as it was saved");
+    return 0;
+}

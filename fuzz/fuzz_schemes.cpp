@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+// The library of colour schemes: listing, loading, and the three changes.
+
+#include "board/file_access.h"
+#include "fuzz_target.h"
+#include "options/scheme_library.h"
+#include "support/temporary_folder.h"
+
+#include <algorithm>
+
+using namespace tessaly;
+
+namespace {
+
+bool lists(const SchemeLibrary& library, const std::string& name) {
+    const auto& names = library.names();
+    return std::find(names.begin(), names.end(), name) != names.end();
+}
+
+/// Every listed scheme is loaded; a failure leaves the colours alone.
+void loadAll(const SchemeLibrary& library) {
+    for (const std::string& name : library.names()) {
+        Appearance appearance;
+        const Appearance before = appearance;
+        if (!library.LoadScheme(name + ".col", appearance).ok())
+            fuzz::require(appearance.SchemeColours == before.SchemeColours,
+                          "a scheme that cannot be loaded leaves the colours alone");
+    }
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static const test::TemporaryFolder folder;
+    test::put(folder / "all.col", fuzz::textOf(data, size));
+    SchemeLibrary library(folder.path().string() + "/");
+    fuzz::require(library.RefreshSchemeList().ok(), "a library can be listed");
+    loadAll(library);
+
+    const SchemeColours colours{1, 2, 3};
+    if (library.AddScheme("added", colours).ok()) {
+        Appearance appearance;
+        fuzz::require(lists(library, "added"), "an added scheme is listed");
+        fuzz::require(library.LoadScheme("added.col", appearance).ok(), "an added scheme loads");
+        fuzz::require(appearance.SchemeColours[0] == 1, "an added scheme keeps its colours");
+    }
+    if (library.names().empty())
+        return 0;
+    const std::string first = library.names().front();
+    static_cast<void>(library.ReplaceScheme(first, colours));
+    fuzz::require(library.DeleteScheme("added").ok(), "a scheme can be deleted");
+    fuzz::require(!lists(library, "added"), "a deleted scheme is not listed");
+    return 0;
+}
