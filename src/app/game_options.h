@@ -7,6 +7,10 @@
 #include <optional>
 #include <string>
 
+namespace CLI {
+class App;
+}
+
 namespace tessaly {
 
 /// What the game is asked for on its command line. Empty texts were not given.
@@ -27,6 +31,9 @@ struct GameCommandLine {
     GameOptions options;
     std::optional<int> exitStatus;
 };
+
+/// Says what the game is and what it takes; what is parsed goes into `options`. `app` is fresh.
+void describeGame(CLI::App& app, GameOptions& options);
 
 GameCommandLine parseGameOptions(int argc, const char* const* argv, std::ostream& out,
                                  std::ostream& err);

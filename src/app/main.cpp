@@ -98,6 +98,6 @@ int main(int argc, char** argv) {
     const QApplication application(argc, argv);
     QApplication::setApplicationName(QString::fromLatin1(Product::Name));
     QApplication::setApplicationVersion(QString::fromLatin1(Product::Version));
-    QApplication::setDesktopFileName(QStringLiteral("tessaly"));
+    QApplication::setDesktopFileName(QString::fromLatin1(Product::DesktopName));
     return run(line.options);
 }

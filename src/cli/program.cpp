@@ -20,15 +20,6 @@
 namespace tessaly {
 namespace {
 
-std::vector<std::unique_ptr<Command>> allCommands() {
-    std::vector<std::unique_ptr<Command>> commands;
-    commands.push_back(std::make_unique<CreateCommand>());
-    commands.push_back(std::make_unique<SolveCommand>());
-    commands.push_back(std::make_unique<CheckCommand>());
-    commands.push_back(std::make_unique<BenchCommand>());
-    return commands;
-}
-
 int tell(const CLI::App& program, const CLI::ParseError& said, const Console& console) {
     if (said.get_exit_code() == 0)
         return program.exit(said, console.out, console.err);
@@ -42,12 +33,26 @@ int tell(const CLI::App& program, const CLI::ParseError& said, const Console& co
 
 } // namespace
 
-int runProgram(int argc, const char* const* argv, const Console& console) {
-    CLI::App program("Makes, solves and checks puzzles of nineteen hexagons.", "tessaly-cli");
+std::vector<std::unique_ptr<Command>> allCommands() {
+    std::vector<std::unique_ptr<Command>> commands;
+    commands.push_back(std::make_unique<CreateCommand>());
+    commands.push_back(std::make_unique<SolveCommand>());
+    commands.push_back(std::make_unique<CheckCommand>());
+    commands.push_back(std::make_unique<BenchCommand>());
+    return commands;
+}
+
+void describeProgram(CLI::App& program) {
+    program.name("tessaly-cli");
+    program.description("Makes, solves and checks puzzles of nineteen hexagons.");
     program.set_version_flag("--version", std::string(Product::Name) + " " + Product::Version);
     program.require_subcommand(1);
     program.footer("Example: tessaly-cli create --difficulty hard --count 100 > hard.txt");
+}
 
+int runProgram(int argc, const char* const* argv, const Console& console) {
+    CLI::App program;
+    describeProgram(program);
     const std::vector<std::unique_ptr<Command>> commands = allCommands();
     std::vector<std::pair<CLI::App*, Command*>> entries;
     entries.reserve(commands.size());

@@ -1,0 +1,26 @@
+# The Debian package, made by cpack (script/package).
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME tessaly)
+set(CPACK_PACKAGE_CONTACT "The Tessaly developers <contact@tessaly.example>")
+set(CPACK_PACKAGE_HOMEPAGE_URL "https://tessaly.example")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "logic puzzle of nineteen hexagons")
+set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
+    "Nineteen hexagons, each cut into six triangles: fill every hexagon with the
+numbers 1 to 6, so that the two triangles on either side of a shared side
+hold the same number. Every puzzle has exactly one solution and can be solved
+without guessing.
+.
+A thousand puzzles come with it, and it makes as many new ones as you like,
+in its window or with tessaly-cli on the command line.")
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SECTION games)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+# Qt opens its windows through plugins, which no program is linked to.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-qpa-plugins")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, fonts-liberation")
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
+    OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+set(CPACK_PRE_BUILD_SCRIPTS "${CMAKE_CURRENT_LIST_DIR}/debian/places.cmake")
+include(CPack)

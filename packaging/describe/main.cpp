@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+// Writes what an installation says about the two programs' command lines, made from the options
+// that --help tells: describe PROGRAM man|bash|zsh|fish [APPENDIX]
+
+#include "app/game_options.h"
+#include "cli/program.h"
+#include "command_text.h"
+
+#include <CLI/CLI.hpp>
+
+#include <fstream>
+#include <iostream>
+#include <sstream>
+
+namespace {
+
+using namespace tessaly;
+
+constexpr int GamesSection = 6;
+constexpr int ProgramsSection = 1;
+
+CommandText gameText() {
+    CLI::App app;
+    GameOptions options;
+    describeGame(app, options);
+    return describe(app);
+}
+
+CommandText cliText() {
+    CLI::App app;
+    describeProgram(app);
+    const auto commands = allCommands();
+    for (const auto& command : commands)
+        command->addTo(app);
+    return describe(app);
+}
+
+std::string contentOf(const char* path) {
+    std::ostringstream content;
+    content << std::ifstream(path).rdbuf();
+    return content.str();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (argc < 3)
+        return EXIT_FAILURE;
+    const bool isGame = std::string_view(argv[1]) == "tessaly";
+    const CommandText program = isGame ? gameText() : cliText();
+    const std::string_view format = argv[2];
+    if (format == "man")
+        std::cout << manualPage(program, isGame ? GamesSection : ProgramsSection,
+                                argc > 3 ? contentOf(argv[3]) : "");
+    else if (format == "bash")
+        std::cout << bashCompletion(program);
+    else if (format == "zsh")
+        std::cout << zshCompletion(program);
+    else if (format == "fish")
+        std::cout << fishCompletion(program);
+    else
+        return EXIT_FAILURE;
+    return std::cout.flush() ? EXIT_SUCCESS : EXIT_FAILURE;
+}
