@@ -35,7 +35,7 @@ std::string valueCases(const CommandText& command, const std::string& path) {
             continue;
         std::vector<std::string> patterns;
         for (const std::string& name : option.names)
-            patterns.push_back("'" + path + name + "'");
+            patterns.push_back(std::string("'").append(path).append(name).append("'"));
         text += "    " + joined(patterns, "|") + ") " + valueCompletion(option) + "; return ;;\n";
     }
     return text;

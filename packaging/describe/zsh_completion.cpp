@@ -42,8 +42,14 @@ std::string arguments(const CommandText& command, const std::string& indent) {
     const std::string next = " \\\n" + indent + "    ";
     for (const OptionText& option : command.options)
         for (const std::string& name : option.names)
-            text +=
-                next + "'" + name + "[" + quoted(option.description) + "]" + action(option) + "'";
+            text.append(next)
+                .append("'")
+                .append(name)
+                .append("[")
+                .append(quoted(option.description))
+                .append("]")
+                .append(action(option))
+                .append("'");
     for (const OptionText& positional : command.positionals)
         text += next + "'1" + action(positional) + "'";
     return text;
