@@ -13,7 +13,15 @@
 namespace tessaly {
 namespace {
 
-/// What has to be written before a new line: the end of the last line, as far as it is missing.
+Outcome takeBack(const LockedFile& file, Outcome problem) {
+    const auto cut = [&] { return ::ftruncate(file.file().get(), file.state().size); };
+    if (retried(cut) != 0)
+        problem.problem += "; a part of what was written may stand at its end";
+    return problem;
+}
+
+} // namespace
+
 Outcome missingLineEnd(const LockedFile& file, std::string_view& missing) {
     std::array<char, ByteOrderMark.size()> bytes{};
     const auto size = file.state().size;
@@ -29,15 +37,6 @@ Outcome missingLineEnd(const LockedFile& file, std::string_view& missing) {
         missing = end.back() == '\r' ? "\n" : LineEnd;
     return Outcome::done();
 }
-
-Outcome takeBack(const LockedFile& file, Outcome problem) {
-    const auto cut = [&] { return ::ftruncate(file.file().get(), file.state().size); };
-    if (retried(cut) != 0)
-        problem.problem += "; a part of what was written may stand at its end";
-    return problem;
-}
-
-} // namespace
 
 Outcome replaceLocked(const LockedFile& file, const ContentWriter& writer) {
     ScratchFile scratch(file);

@@ -15,4 +15,8 @@ Outcome replaceLocked(const LockedFile& file, const ContentWriter& writer);
 /// line without a line end is ended first. A failure leaves the file as it was.
 Outcome appendLocked(const LockedFile& file, std::string_view wholeLines);
 
+/// What has to be written behind a file that the caller has locked before a new line can follow:
+/// the end of its last line, as far as it is missing.
+Outcome missingLineEnd(const LockedFile& file, std::string_view& missing);
+
 } // namespace tessaly

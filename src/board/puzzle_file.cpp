@@ -121,7 +121,9 @@ Outcome PuzzleFiles::appendPuzzle(const fs::path& path, std::string_view record,
     if (Outcome indexed = updateIndex(path, file.file()); !indexed.ok())
         return indexed;
     number = m_index.count() + 1;
-    return m_index.hasBlankTail() ? appendOverBlankTail(file, line) : appendInPlace(file, line);
+    if (!m_index.hasBlankTail())
+        return appendInPlace(file, line);
+    return rewriteWithMore(file, [&](const ContentSink& sink) { return sink.write(line); });
 }
 
 Outcome PuzzleFiles::appendInPlace(const LockedFile& file, const std::string& line) {
@@ -132,15 +134,32 @@ Outcome PuzzleFiles::appendInPlace(const LockedFile& file, const std::string& li
     return appended;
 }
 
-/// Blank lines at the end are no puzzles: the new one takes their place, and so gets its number.
-Outcome PuzzleFiles::appendOverBlankTail(const LockedFile& file, const std::string& line) {
-    LineSpan kept;
-    if (Outcome found = m_index.findEnd(file.file(), kept.end); !found.ok())
-        return cannotBeRead(file.place().path, found);
+/// Blank lines at the end are no puzzles: new ones take their place, and so get their numbers.
+Outcome PuzzleFiles::rewriteWithMore(const LockedFile& file, const ContentWriter& more) {
+    LineSpan kept{0, file.state().size};
+    std::string_view missing;
+    if (m_index.hasBlankTail()) {
+        if (Outcome found = m_index.findEnd(file.file(), kept.end); !found.ok())
+            return cannotBeRead(file.place().path, found);
+    } else if (Outcome looked = missingLineEnd(file, missing); !looked.ok()) {
+        return looked;
+    }
     return replaceLocked(file, [&](const ContentSink& sink) {
-        const Outcome copied = copyPart(file, kept, sink, m_yield);
-        return copied.ok() ? sink.write(line) : copied;
+        Outcome outcome = copyPart(file, kept, sink, m_yield);
+        if (outcome.ok() && !missing.empty())
+            outcome = sink.write(missing);
+        return outcome.ok() ? more(sink) : outcome;
     });
+}
+
+Outcome PuzzleFiles::appendPuzzles(const fs::path& path, const ContentWriter& writer) {
+    LockedFile file;
+    if (Outcome locked = file.lock(path); !locked.ok())
+        return locked;
+    if (!file.exists())
+        return replaceLocked(file, writer);
+    const Outcome indexed = updateIndex(path, file.file());
+    return indexed.ok() ? rewriteWithMore(file, writer) : indexed;
 }
 
 Outcome PuzzleFiles::DeletePuzzle(const fs::path& path, int number, std::string_view expected,

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "board/board.h"
+#include "board/content_sink.h"
 #include "board/line_index.h"
 #include "board/outcome.h"
 #include "board/yield.h"
@@ -56,6 +57,9 @@ public:
     /// Appends a record as a new last line; `number` gets its puzzle number.
     Outcome appendPuzzle(const std::filesystem::path& path, std::string_view record, int& number);
 
+    /// Appends all the lines that `writer` writes, or none.
+    Outcome appendPuzzles(const std::filesystem::path& path, const ContentWriter& writer);
+
     /// Removes line `number` if it is still `expected`, the record as it was read; otherwise
     /// another program has changed the file, which is reported, and nothing is removed. All lines
     /// but that one are also left in `TemporaryPuzzleFile` in `programFolder`.
@@ -68,7 +72,7 @@ private:
     Outcome readLine(const std::filesystem::path& path, const FileDescriptor& file, int number,
                      LineSpan& span, std::string& line);
     Outcome appendInPlace(const LockedFile& file, const std::string& line);
-    Outcome appendOverBlankTail(const LockedFile& file, const std::string& line);
+    Outcome rewriteWithMore(const LockedFile& file, const ContentWriter& more);
 
     Yield m_yield;
     LineIndex m_index;

@@ -3,7 +3,7 @@
 
 #include "cli/check_command.h"
 
-#include "cli/record_lines.h"
+#include "board/record_lines.h"
 #include "solver/puzzle_audit.h"
 
 #include <CLI/CLI.hpp>

@@ -6,8 +6,8 @@
 #include "board/file_access.h"
 #include "board/line_reader.h"
 #include "board/puzzle_record.h"
+#include "board/record_lines.h"
 #include "cli/console.h"
-#include "cli/record_lines.h"
 
 #include <functional>
 #include <ostream>

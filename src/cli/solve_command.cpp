@@ -4,7 +4,7 @@
 #include "cli/solve_command.h"
 
 #include "board/puzzle_record.h"
-#include "cli/record_lines.h"
+#include "board/record_lines.h"
 #include "solver/deduction.h"
 
 #include <CLI/CLI.hpp>

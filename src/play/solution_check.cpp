@@ -8,22 +8,23 @@
 namespace tessaly {
 namespace {
 
-bool holdsWrongNumbers(std::string placed) {
-    for (char digit = '1'; digit <= '6'; ++digit)
-        if (const auto at = placed.find(digit); at != std::string::npos)
-            placed.erase(at, 1);
-    return !placed.empty();
-}
-
 bool hasSolution(const std::string& solution) {
     return !solution.empty() && solution > "0";
 }
 
 } // namespace
 
+bool holdsWrongNumbers(const Board& board, int hexagon) {
+    std::string placed = board.PlacedNumbers(hexagon);
+    for (char digit = '1'; digit <= '6'; ++digit)
+        if (const auto at = placed.find(digit); at != std::string::npos)
+            placed.erase(at, 1);
+    return !placed.empty();
+}
+
 int firstWrongHexagon(const Board& board) {
     for (int hexagon = 1; hexagon <= HexagonCount; ++hexagon)
-        if (holdsWrongNumbers(board.PlacedNumbers(hexagon)))
+        if (holdsWrongNumbers(board, hexagon))
             return hexagon;
     return 0;
 }

@@ -42,6 +42,7 @@ void SolveBasic(Board& board, bool useXcells, std::int32_t& counter, const Yield
 /// twice, 99 when exactly 108 cells are settled and sound, else 0. The hexagon `leftOut` is not
 /// looked at; `NoHexagon` leaves out none.
 int CheckHexagons(const Board& board, int leftOut);
+inline constexpr int SettledAndSound = 99;
 
 /// How many cells have two or more candidates.
 int countOpenCells(const Board& board);

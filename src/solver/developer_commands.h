@@ -18,8 +18,16 @@ public:
     void solveInSteps(bool debug);
     /// Applies the xcell rule once and tells what it finds.
     void applyXcellRule();
+    /// Tells the hint of the puzzle. With `carryOut` it then plants the hint, solves by deduction,
+    /// and tells when that does not lead to a sound board.
+    void autoSolveHard(bool carryOut);
+    /// Tells which cells are empty and which hexagons hold a number twice.
+    void checkCells();
+    /// Asks for a cell and an entry and enters it, givens included.
+    void setManualValue();
 
 private:
+    void solveWithHint();
     void message(const std::string& text) override;
     void redraw() override;
     void yield() override;

@@ -12,7 +12,8 @@ namespace tessaly {
 
 class BoxControl;
 
-/// The developer's buttons beneath the tools, shown only when asked for on the command line.
+/// The developer's buttons beneath the tools: those for files above those for the board; shown only
+/// when asked for on the command line.
 class DeveloperRow : public QWidget {
     Q_OBJECT
 
@@ -22,10 +23,19 @@ public:
     bool debugs() const;
     void showText(const QString& text);
 
+    BoxControl* flipAndAdd;    // Command1
+    BoxControl* verify;        // Command2
+    BoxControl* randomize;     // Command4
+    BoxControl* autoSolveHard; // Command5
+    BoxControl* solveLoop;     // Command12x
+    BoxControl* setValue;      // Command3
+    BoxControl* reread;        // Command6
     BoxControl* debugSolve;
     BoxControl* xcellRule;
 
 private:
+    BoxControl* addButton(const QString& caption, const QString& name, const QString& toolTip);
+
     QCheckBox* m_debug; // Check1
     QLabel* m_text;
 };

@@ -15,7 +15,7 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 /// How much work a crash can lose. Flushing the disk takes as long as making many puzzles.
-constexpr std::chrono::milliseconds ShortWhile{100};
+constexpr std::chrono::milliseconds WorkAtRisk{100};
 /// How long the window waits for its turn.
 constexpr std::chrono::milliseconds Turn{10};
 
@@ -25,13 +25,6 @@ Difficulty drawForEach(DifficultyChoice choice, Chance& chance) {
     if (choice)
         return *choice;
     return chance.below(100) > LastOfHard ? Difficulty::Easy : Difficulty::Hard;
-}
-
-std::chrono::seconds timeLeft(Clock::time_point start, int made, int count) {
-    if (made == 0)
-        return {};
-    const auto perPuzzle = (Clock::now() - start) / made;
-    return std::chrono::ceil<std::chrono::seconds>(perPuzzle * (count - made));
 }
 
 } // namespace
@@ -77,7 +70,7 @@ void MultipleCreation::carryOut(const CreationOrder& order) {
 }
 
 Outcome MultipleCreation::createAll(const CreationOrder& order, int& made) {
-    const auto start = Clock::now();
+    const RunClock clock;
     m_known.clear();
     m_stopped = false;
     while (made < order.count && !m_stopped) {
@@ -86,7 +79,7 @@ Outcome MultipleCreation::createAll(const CreationOrder& order, int& made) {
         if (Outcome written = append(order.path, records); !written.ok())
             return written;
         made = madeNow;
-        m_window.progress.showProgress({made, order.count, timeLeft(start, made, order.count)});
+        m_window.progress.showProgress(clock.progress(made, order.count));
         m_window.display.yield();
     }
     return Outcome::done();
@@ -103,7 +96,7 @@ Outcome MultipleCreation::append(const std::string& path, const std::string& rec
 std::string MultipleCreation::createSome(const CreationOrder& order, int& made) {
     std::string records;
     auto now = Clock::now();
-    const auto end = now + ShortWhile;
+    const auto end = now + WorkAtRisk;
     auto nextTurn = now + Turn;
     for (; now < end && made < order.count && !m_stopped; now = Clock::now()) {
         ++made;

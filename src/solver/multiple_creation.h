@@ -5,9 +5,9 @@
 
 #include "board/library_commands.h"
 #include "solver/chance.h"
+#include "solver/run_progress.h"
 #include "solver/search_fill.h"
 
-#include <chrono>
 #include <functional>
 #include <optional>
 #include <string>
@@ -30,28 +30,11 @@ public:
     virtual std::optional<CreationOrder> choose() = 0;
 };
 
-/// How far a long creation is.
-struct CreationProgress {
-    int made = 0;
-    int count = 0;
-    /// The time that the rest will take at the pace so far.
-    std::chrono::seconds left{0};
-};
-
-/// Shows how far a long creation is.
-class CreationProgressDisplay {
-public:
-    virtual ~CreationProgressDisplay() = default;
-    virtual void beginProgress(const std::string& path) = 0;
-    virtual void showProgress(const CreationProgress& progress) = 0;
-    virtual void endProgress() = 0;
-};
-
 /// What the window lends to a long creation.
 struct MultipleCreationWindow {
     Display& display;
     LibraryDisplay& library;
-    CreationProgressDisplay& progress;
+    RunProgressDisplay& progress;
     Prompts& prompts;
     CreationOrderChoice& orders;
 };

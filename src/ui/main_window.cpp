@@ -56,7 +56,9 @@ Form1::Form1(Session& session, Prompts& prompts, FileDialogs& fileDialogs)
     , m_multipleCreation(session, m_library,
                          {m_display, m_display, m_display, prompts, m_creationDialog},
                          Chance(Chance::freshSeed()))
-    , m_developer(session, m_display, prompts) {
+    , m_developer(session, m_display, prompts)
+    , m_maintenance(session, {m_display, m_display, m_display, prompts},
+                    Chance(Chance::freshSeed())) {
     setObjectName(u"Form1"_s);
     setWindowTitle(u"Tessaly"_s);
     setWindowIcon(productIcon());
@@ -157,10 +159,26 @@ void Form1::connectDeveloperRow() {
             [this] { m_developer.solveInSteps(m_developerRow->debugs()); });
     connect(m_developerRow->xcellRule, &BoxControl::clicked, this,
             [this] { m_developer.applyXcellRule(); });
+    connect(m_developerRow->autoSolveHard, &BoxControl::clicked, this,
+            [this] { m_developer.autoSolveHard(false); });
+    connect(m_developerRow->autoSolveHard, &BoxControl::alternateClicked, this,
+            [this] { m_developer.autoSolveHard(true); });
+    connect(m_developerRow->solveLoop, &BoxControl::clicked, this,
+            [this] { m_developer.checkCells(); });
+    connect(m_developerRow->setValue, &BoxControl::clicked, this,
+            [this] { m_developer.setManualValue(); });
+    connect(m_developerRow->reread, &BoxControl::clicked, this,
+            [this] { m_library.goTo(m_session.puzzle.PuzNum); });
+    connect(m_developerRow->flipAndAdd, &BoxControl::clicked, this,
+            [this] { m_maintenance.FlipandAdd(); });
+    connect(m_developerRow->verify, &BoxControl::clicked, this, [this] { m_maintenance.Verify(); });
+    connect(m_developerRow->randomize, &BoxControl::clicked, this,
+            [this] { m_maintenance.Randomize(); });
 }
 
 void Form1::closeEvent(QCloseEvent* event) {
     m_multipleCreation.stop();
+    m_maintenance.stop();
     QMainWindow::closeEvent(event);
 }
 

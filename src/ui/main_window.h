@@ -8,6 +8,7 @@
 #include "play/play_commands.h"
 #include "solver/creation_commands.h"
 #include "solver/developer_commands.h"
+#include "solver/maintenance_commands.h"
 #include "solver/multiple_creation.h"
 #include "solver/multiple_creation_dialog.h"
 #include "ui/main_menu.h"
@@ -73,6 +74,7 @@ private:
     Form3 m_creationDialog;
     MultipleCreation m_multipleCreation;
     DeveloperCommands m_developer;
+    MaintenanceCommands m_maintenance;
 };
 
 } // namespace tessaly

@@ -3,7 +3,7 @@
 
 #include "ui/tool_row.h"
 
-#include "solver/creation_progress_bar.h"
+#include "solver/run_progress_bar.h"
 #include "ui/box_control.h"
 
 #include <QHBoxLayout>
@@ -37,7 +37,7 @@ ToolRow::ToolRow(QWidget* parent)
     cmdcreate = addButton(Picture::Create, u"Create a New Puzzle"_s, u"cmdcreate"_s);
     DifLab = addDifficultyLabel();
     m_row->addSpacing(GroupSpacing);
-    progress = new CreationProgressBar(this);
+    progress = new RunProgressBar(this);
     m_row->addWidget(progress, 1);
     m_row->addSpacing(GroupSpacing);
     cmdundo = addButton(Picture::Undo, u"Undo"_s, u"cmdundo"_s);

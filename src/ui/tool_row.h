@@ -16,7 +16,7 @@ class QLineEdit;
 namespace tessaly {
 
 class BoxControl;
-class CreationProgressBar;
+class RunProgressBar;
 enum class Picture;
 
 /// The row of commands above the board.
@@ -34,7 +34,7 @@ public:
     std::array<BoxControl*, 2> cmdarrow;
     BoxControl* cmdcreate;
     BoxControl* DifLab;
-    CreationProgressBar* progress;
+    RunProgressBar* progress;
     BoxControl* cmdundo;
     BoxControl* cmdreset;
     BoxControl* cmdshowsol;

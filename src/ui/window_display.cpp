@@ -6,7 +6,7 @@
 #include "board/session.h"
 #include "play/board_view.h"
 #include "play/palette_panel.h"
-#include "solver/creation_progress_bar.h"
+#include "solver/run_progress_bar.h"
 #include "ui/main_menu.h"
 #include "ui/status_line.h"
 #include "ui/tool_row.h"
@@ -100,7 +100,7 @@ void WindowDisplay::beginProgress(const std::string& path) {
     m_regions.tools.progress->begin();
 }
 
-void WindowDisplay::showProgress(const CreationProgress& progress) {
+void WindowDisplay::showProgress(const RunProgress& progress) {
     m_regions.tools.showPuzzleNumber(progress.made, progress.count);
     m_regions.tools.progress->show(progress);
 }

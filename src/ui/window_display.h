@@ -30,7 +30,7 @@ struct WindowRegions {
 class WindowDisplay final : public Display,
                             public InputDisplay,
                             public LibraryDisplay,
-                            public CreationProgressDisplay {
+                            public RunProgressDisplay {
 public:
     WindowDisplay(const Session& session, const WindowRegions& regions);
 
@@ -54,7 +54,7 @@ public:
     void showBusy(bool busy) override;
 
     void beginProgress(const std::string& path) override;
-    void showProgress(const CreationProgress& progress) override;
+    void showProgress(const RunProgress& progress) override;
     void endProgress() override;
 
 private:

@@ -7,6 +7,7 @@
 #include "board/puzzle_record.h"
 #include "support/recording_display.h"
 #include "support/recording_library_display.h"
+#include "support/recording_progress.h"
 #include "support/sample_puzzles.h"
 #include "support/scripted_file_choice.h"
 #include "support/scripted_prompts.h"
@@ -14,26 +15,10 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <set>
 
 namespace tessaly {
 namespace {
-
-struct RecordingProgress : CreationProgressDisplay {
-    void beginProgress(const std::string& shown) override { path = shown; }
-    void showProgress(const CreationProgress& shown) override {
-        progress = shown;
-        if (onProgress)
-            onProgress();
-    }
-    void endProgress() override { ended = true; }
-
-    std::string path;
-    CreationProgress progress;
-    bool ended = false;
-    std::function<void()> onProgress;
-};
 
 struct ScriptedOrder : CreationOrderChoice {
     std::optional<CreationOrder> choose() override { return order; }

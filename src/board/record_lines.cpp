@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tessaly developers
 // SPDX-License-Identifier: MIT
 
-#include "cli/record_lines.h"
+#include "board/record_lines.h"
 
 #include "board/line_reader.h"
 #include "board/puzzle_record.h"

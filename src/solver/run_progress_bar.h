@@ -3,21 +3,21 @@
 
 #pragma once
 
-#include "solver/multiple_creation.h"
+#include "solver/run_progress.h"
 
 #include <QProgressBar>
 
 namespace tessaly {
 
-/// How far a long creation is, with the time left; empty space while there is none.
-class CreationProgressBar : public QProgressBar {
+/// How far a long run is, with the time left; empty space while there is none.
+class RunProgressBar : public QProgressBar {
     Q_OBJECT
 
 public:
-    explicit CreationProgressBar(QWidget* parent = nullptr);
+    explicit RunProgressBar(QWidget* parent = nullptr);
 
     void begin();
-    void show(const CreationProgress& progress);
+    void show(const RunProgress& progress);
     void end();
 };
 

@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "solver/run_progress.h"
+
+#include <functional>
+
+namespace tessaly {
+
+/// What a window would show of a long run.
+struct RecordingProgress : RunProgressDisplay {
+    void beginProgress(const std::string& shown) override { path = shown; }
+    void showProgress(const RunProgress& shown) override {
+        progress = shown;
+        if (onProgress)
+            onProgress();
+    }
+    void endProgress() override { ended = true; }
+
+    std::string path;
+    RunProgress progress;
+    bool ended = false;
+    std::function<void()> onProgress;
+};
+
+} // namespace tessaly
