@@ -7,7 +7,9 @@
 #include "cli/bench_command.h"
 #include "cli/check_command.h"
 #include "cli/create_command.h"
+#include "cli/shuffle_command.h"
 #include "cli/solve_command.h"
+#include "cli/variants_command.h"
 
 #include <CLI/CLI.hpp>
 
@@ -38,6 +40,8 @@ std::vector<std::unique_ptr<Command>> allCommands() {
     commands.push_back(std::make_unique<CreateCommand>());
     commands.push_back(std::make_unique<SolveCommand>());
     commands.push_back(std::make_unique<CheckCommand>());
+    commands.push_back(std::make_unique<VariantsCommand>());
+    commands.push_back(std::make_unique<ShuffleCommand>());
     commands.push_back(std::make_unique<BenchCommand>());
     return commands;
 }

@@ -20,7 +20,7 @@ using Arguments = std::vector<std::string>;
 TEST(Program, EveryCommandHelpsWithAnExampleThatCanBeRead) {
     const CommandResult all = runCommand({"--help"});
     EXPECT_EQ(all.status, exit_status::Done);
-    for (const std::string name : {"create", "solve", "check", "bench"}) {
+    for (const std::string name : {"create", "solve", "check", "variants", "shuffle", "bench"}) {
         EXPECT_NE(all.out.find("\n  " + name), std::string::npos) << name;
         const CommandResult help = runCommand({name, "--help"});
         EXPECT_EQ(help.status, exit_status::Done);
