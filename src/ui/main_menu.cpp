@@ -57,8 +57,8 @@ MainMenu::MainMenu(QMenuBar& bar) {
 
 void MainMenu::disableWhatIsToCome() {
     mnucopyclip->setEnabled(false);
-    for (QAction* action : {mnuclippuz, mnuclipsol, mnuhelp, mnuabout, mnucapwin, printPuzzle,
-                            printSolution, printBoth, printMultiple})
+    for (QAction* action :
+         {mnuclippuz, mnuclipsol, mnucapwin, printPuzzle, printSolution, printBoth, printMultiple})
         action->setEnabled(false);
 }
 

@@ -3,6 +3,7 @@
 
 #include "ui/main_window.h"
 
+#include "board/data_files.h"
 #include "board/session.h"
 #include "board/session_memory.h"
 #include "options/options_dialog.h"
@@ -11,9 +12,11 @@
 #include "play/palette_panel.h"
 #include "play/play_area.h"
 #include "solver/developer_row.h"
+#include "ui/about_box.h"
 #include "ui/box_control.h"
 #include "ui/file_drop.h"
 #include "ui/file_name_picker.h"
+#include "ui/help_window.h"
 #include "ui/icon_set.h"
 #include "ui/scheme_palette.h"
 #include "ui/shortcuts.h"
@@ -46,6 +49,8 @@ Form1::Form1(Session& session, Prompts& prompts, FileDialogs& fileDialogs)
     , m_developerRow(new DeveloperRow)
     , m_picker(new FNDialog(fileDialogs, prompts, this))
     , m_options(new Form2x(session.appearance, session.ProgramFolder, prompts, this))
+    , m_help(new Form4(session.appearance, this))
+    , m_about(new AboutForm(session.appearance, this))
     , m_puzzleFiles(*m_picker, session.ProgramFolder)
     , m_display(session, {m_menu, *m_tools, *m_board, *m_palette, *m_status})
     , m_play(session.game, session.busy, session.appearance, m_display, prompts)
@@ -76,6 +81,7 @@ Form1::Form1(Session& session, Prompts& prompts, FileDialogs& fileDialogs)
     connectOptions();
     connectFileDrop();
     giveShortcuts(*this);
+    connectHelp();
     applyAppearance();
     resize(FirstSize);
 }
@@ -201,6 +207,14 @@ void Form1::connectFileDrop() {
     connect(drop, &FileDrop::refused, this, [this](const QString& reason) {
         m_prompts.message(reason.toStdString(), "vbok+vbcritical");
     });
+}
+
+void Form1::connectHelp() {
+    connect(m_menu.mnuhelp, &QAction::triggered, this, [this] {
+        m_help->setTag(m_session.ProgramFolder + HelpPageFile);
+        m_help->show();
+    });
+    connect(m_menu.mnuabout, &QAction::triggered, m_about, &QDialog::show);
 }
 
 void Form1::ApplyScheme() {

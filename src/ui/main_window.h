@@ -21,7 +21,9 @@ namespace tessaly {
 
 class DeveloperRow;
 class FileDialogs;
+class AboutForm;
 class Form2x;
+class Form4;
 
 /// The main window: builds its regions and connects their controls to the commands.
 class Form1 : public QMainWindow {
@@ -48,6 +50,7 @@ private:
     void connectDeveloperRow();
     void connectOptions();
     void connectFileDrop();
+    void connectHelp();
     void ApplyScheme();
     void cmdexit();
 
@@ -64,6 +67,8 @@ private:
     DeveloperRow* m_developerRow;
     FNDialog* m_picker; // gf1
     Form2x* m_options;
+    Form4* m_help;
+    AboutForm* m_about;
 
     PuzzleFileChoice m_puzzleFiles;
     WindowDisplay m_display;
