@@ -9,6 +9,8 @@ namespace tessaly {
 inline constexpr const char* SchemeLibraryFile = "all.col";
 inline constexpr const char* ArrangementFile = "hexabinx.txt";
 inline constexpr const char* HelpPageFile = "tessaly.htm";
+/// The folder of its drawings.
+inline constexpr const char* HelpDrawingsFolder = "manual";
 inline constexpr const char* ConfigurationFile = "tessaly.cfg";
 inline constexpr const char* EasyLibraryFile = "puzzles/easy.txt";
 inline constexpr const char* HardLibraryFile = "puzzles/hard.txt";

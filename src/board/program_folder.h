@@ -30,8 +30,9 @@ struct ProgramFolderSources {
 /// executable's when it holds "all.col"; else "tessaly" in the user's data home.
 ///
 /// The last is made at the first start and filled from the share folder, all or nothing. On later
-/// starts the program's own files there ("hexabinx.txt", "tessaly.htm") are renewed when shipped
-/// ones are newer; everything else is the user's and is left alone, even when it is gone.
+/// starts the program's own files there ("hexabinx.txt", "tessaly.htm" and its drawings) are
+/// renewed when shipped ones are newer; everything else is the user's and is left alone, even when
+/// it is gone.
 Outcome findProgramFolder(const ProgramFolderSources& sources, std::string& folder);
 
 } // namespace tessaly

@@ -7,9 +7,10 @@
 #include "board/file_access.h"
 #include "board/file_lock.h"
 
-#include <array>
 #include <fcntl.h>
+#include <string>
 #include <unistd.h>
+#include <vector>
 
 namespace tessaly {
 namespace {
@@ -19,19 +20,26 @@ namespace fs = std::filesystem;
 enum class Owner { Program, User };
 
 struct ShippedFile {
-    const char* name;
+    std::string name;
     Owner owner;
     /// Whether the program cannot run without it.
     bool isNeeded;
 };
 
-constexpr std::array<ShippedFile, 5> ShippedFiles{{
-    {SchemeLibraryFile, Owner::User, true},
-    {ArrangementFile, Owner::Program, true},
-    {HelpPageFile, Owner::Program, false},
-    {EasyLibraryFile, Owner::User, false},
-    {HardLibraryFile, Owner::User, false},
-}};
+/// What is shipped, the drawings of the manual by what lies in their folder.
+std::vector<ShippedFile> shippedFiles(const fs::path& share) {
+    std::vector<ShippedFile> files{
+        {SchemeLibraryFile, Owner::User, true}, {ArrangementFile, Owner::Program, true},
+        {HelpPageFile, Owner::Program, false},  {EasyLibraryFile, Owner::User, false},
+        {HardLibraryFile, Owner::User, false},
+    };
+    std::error_code error;
+    fs::directory_iterator drawing(share / HelpDrawingsFolder, error);
+    for (; !error && drawing != fs::directory_iterator(); drawing.increment(error))
+        files.push_back(
+            {fs::path(HelpDrawingsFolder) / drawing->path().filename(), Owner::Program, false});
+    return files;
+}
 
 FileDescriptor openFolder(const fs::path& folder) {
     return FileDescriptor(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
@@ -52,7 +60,7 @@ Outcome copyShipped(const fs::path& from, const fs::path& to) {
 }
 
 Outcome copyAll(const fs::path& share, const fs::path& folder) {
-    for (const ShippedFile& file : ShippedFiles) {
+    for (const ShippedFile& file : shippedFiles(share)) {
         const fs::path copy = folder / file.name;
         std::error_code error;
         // What is there but cannot be examined must not be left out for good: copying it says why.
@@ -108,15 +116,18 @@ Outcome installShippedFiles(const fs::path& share, const fs::path& folder) {
 }
 
 void renewShippedFiles(const fs::path& share, const fs::path& folder) {
-    for (const ShippedFile& file : ShippedFiles) {
+    for (const ShippedFile& file : shippedFiles(share)) {
         std::error_code noOriginal;
         std::error_code noCopy;
+        std::error_code ignored;
         const auto shipped = fs::last_write_time(share / file.name, noOriginal);
         const auto copied = fs::last_write_time(folder / file.name, noCopy);
         if (file.owner != Owner::Program || noOriginal)
             continue;
-        if (noCopy || shipped > copied)
-            static_cast<void>(copyShipped(share / file.name, folder / file.name));
+        if (!noCopy && shipped <= copied)
+            continue;
+        fs::create_directories((folder / file.name).parent_path(), ignored);
+        static_cast<void>(copyShipped(share / file.name, folder / file.name));
     }
 }
 

@@ -120,7 +120,10 @@ TEST_F(ProgramFolderTest, LaterStartsRenewTheProgramsFilesWhenShippedOnesAreNewe
     put(share / "hexabinx.txt", "second release");
     age(share / "hexabinx.txt", 50);
     put(share / "tessaly.htm", "new page");
+    fs::create_directory(share / "manual");
+    put(share / "manual/side.png", "new drawing");
     ASSERT_NE(found(), "");
+    EXPECT_EQ(user("manual/side.png"), "new drawing");
     EXPECT_EQ(user("hexabinx.txt"), "second release");
     EXPECT_EQ(user("tessaly.htm"), "new page");
 

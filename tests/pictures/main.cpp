@@ -4,10 +4,12 @@
 // Draws the windows of the game in the states that a player sees them in, one PNG each, to be
 // looked at. Not a test: tessaly_pictures FOLDER; QT_SCALE_FACTOR=2 gives them at 200 %.
 
+#include "options/scheme_library.h"
 #include "ui/game_window.h"
 
 #include <QApplication>
 #include <QListWidget>
+#include <QTextBrowser>
 
 #include <iostream>
 
@@ -99,6 +101,36 @@ void takeSchemes(Pictures& pictures) {
     }
 }
 
+/// The manual from its start and at some of its places, and the about box.
+void takeHelp(Pictures& pictures, GameWindow& game, const QString& scheme) {
+    game.find<QAction>(u"mnuhelp"_s).trigger();
+    auto& help = game.find(u"Form4"_s);
+    auto& browser = *help.findChild<QTextBrowser*>(u"WebBrowser1"_s);
+    pictures.take(help, u"help-"_s + scheme);
+    for (const QString& place : {u"first"_s, u"rule-2"_s, u"rule-4"_s, u"tools"_s, u"helps"_s,
+                                 u"menu-file"_s, u"commandline"_s}) {
+        browser.setSource(QUrl(u'#' + place));
+        pictures.take(help, u"help-"_s + scheme + u'-' + place);
+    }
+    help.hide();
+    game.find<QAction>(u"mnuabout"_s).trigger();
+    pictures.take(game.find(u"AboutForm"_s), u"about-"_s + scheme);
+    game.find(u"AboutForm"_s).hide();
+}
+
+void takeHelpInSchemes(Pictures& pictures) {
+    GameWindow game;
+    const std::filesystem::path data(TESSALY_DATA);
+    std::filesystem::copy(data / "tessaly.htm", game.folder.path());
+    std::filesystem::copy(data / "manual", game.folder.path() + "manual");
+    for (const char* scheme : {"xp", "night"}) {
+        const std::string record = scheme + std::string(".col");
+        EXPECT_TRUE(
+            SchemeLibrary(game.folder.path()).LoadScheme(record, game.session.appearance).ok());
+        takeHelp(pictures, game, QString::fromLatin1(scheme));
+    }
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -113,5 +145,6 @@ int main(int argc, char** argv) {
     Pictures pictures(QString::fromLocal8Bit(argv[1]));
     takeSizes(pictures);
     takeSchemes(pictures);
+    takeHelpInSchemes(pictures);
     return 0;
 }

@@ -176,8 +176,6 @@ TEST(Manual, AnEasyPuzzleIsSolvedInTheWindowAsItTells) {
         newcomer.press(u"cmdset1s"_s);
     }
     EXPECT_TRUE(newcomer.isDone());
-    RecordProperty("rounds", rounds);
-    std::cerr << "rounds " << rounds << '\n';
     newcomer.press(u"StatLab"_s);
     ASSERT_FALSE(game.prompts.shown.empty());
     EXPECT_EQ(game.prompts.shown.back().text, "All Done!");
