@@ -108,8 +108,8 @@ QImage drawCorner() {
 }
 
 QImage drawButton(Picture picture) {
-    constexpr int Size = 40;
-    constexpr int Inset = 8;
+    constexpr int Size = 32;
+    constexpr int Inset = 4;
     QImage image(DrawingScale * QSize(Size, Size), QImage::Format_RGB32);
     image.fill(Paper);
     QPainter painter(&image);

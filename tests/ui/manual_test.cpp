@@ -126,12 +126,18 @@ public:
 
     void press(const QString& control) { QTest::mouseClick(&m_game.find(control), Qt::LeftButton); }
 
-    /// Holds the number in the middle of a hexagon, reads, lets go, and writes down what is sure.
-    void workOn(int hexagon) {
+    /// What a hexagon shows while the number in its middle is held.
+    Grid<std::string>::Row look(int hexagon) {
         auto& tag = m_game.find(u"Celltags_%1"_s.arg(hexagon));
         QTest::mousePress(&tag, Qt::LeftButton);
-        const auto seen = m_game.session.game.board.CellNum[hexagon];
+        const Grid<std::string>::Row seen = m_game.session.game.board.CellNum[hexagon];
         QTest::mouseRelease(&tag, Qt::LeftButton);
+        return seen;
+    }
+
+    /// Writes down what is sure in a hexagon.
+    void workOn(int hexagon) {
+        const auto seen = look(hexagon);
         for (int position = 1; position <= CellCount; ++position) {
             const std::string& own = seen[static_cast<std::size_t>(position)];
             for (char digit : own)
@@ -167,6 +173,7 @@ TEST(Manual, AnEasyPuzzleIsSolvedInTheWindowAsItTells) {
     Newcomer newcomer(game);
     newcomer.press(u"cmdsetpairs"_s);
     EXPECT_EQ(game.message(), u" 3 Cells Fixed"_s);
+    EXPECT_EQ(newcomer.look(3), (Grid<std::string>::Row{"", "15", "2", "6", "4", "1345", "145"}));
     int rounds = 0;
     for (; rounds < 20 && !newcomer.isDone(); ++rounds) {
         for (int hexagon = 1; hexagon <= HexagonCount; ++hexagon)
