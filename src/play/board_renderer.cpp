@@ -6,12 +6,14 @@
 #include "board/tables.h"
 #include "play/board_geometry.h"
 #include "play/entry_layout.h"
+#include "play/hatching.h"
 #include "ui/qt_colour.h"
 
 #include <QPainter>
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace tessaly {
 namespace {
@@ -43,12 +45,10 @@ private:
     QPainter& m_painter;
 };
 
-/// The width of the lines between cells. Borders are at least as wide.
-constexpr double CellLineWidth = 1;
-
 /// A line's width in pixels. A wider border stays wider in the smallest picture.
 double wholePixels(double width, double scale) {
-    const double least = width > CellLineWidth ? 2 : 1;
+    constexpr double ThinLine = 1;
+    const double least = width > ThinLine ? 2 : 1;
     return std::max(least, std::round(width * scale));
 }
 
@@ -70,13 +70,28 @@ void takePen(QPainter& painter, Colour colour, double width, Fit fit, Qt::PenCap
 
 BoardRenderer::BoardRenderer(QPainter& painter, const Board& board, const Appearance& appearance,
                              Fit lines)
+    : BoardRenderer(painter, board, boardStyle(appearance), appearance.NumberFont, lines,
+                    Digits::AsOutlines) {}
+
+BoardRenderer::BoardRenderer(QPainter& painter, const Board& board, const BoardStyle& style,
+                             std::string font, Digits digits)
+    : BoardRenderer(painter, board, style, std::move(font), Fit::Exact, digits) {}
+
+BoardRenderer::BoardRenderer(QPainter& painter, const Board& board, const BoardStyle& style,
+                             std::string font, Fit lines, Digits digits)
     : m_painter(painter)
     , m_board(board)
-    , m_style(boardStyle(appearance))
+    , m_style(style)
     , m_lines(lines)
-    , m_font(appearance.NumberFont)
-    , m_face(m_font)
-    , m_numerals(m_face, {}, Fit::Exact) {}
+    , m_digits(digits)
+    , m_face(font)
+    , m_boldFace(font, true)
+    , m_numerals(m_face, {}, Fit::Exact)
+    , m_boldNumerals(m_boldFace, {}, Fit::Exact)
+    , m_givens(style.boldGivens ? m_boldFace : m_face,
+               (style.boldGivens ? m_boldNumerals : m_numerals).numberSize())
+    , m_numbers(m_face, m_numerals.numberSize())
+    , m_marks(m_face, m_numerals.markSize()) {}
 
 void BoardRenderer::DrawHexagon(int hexagon) {
     if (!isHexagon(hexagon))
@@ -91,6 +106,7 @@ void BoardRenderer::DrawHexagon(int hexagon) {
         m_painter.drawPolygon(outlineOf(hexagon));
     }
     drawEntries(hexagon);
+    drawTexts();
 }
 
 void BoardRenderer::DrawBoard() {
@@ -102,19 +118,33 @@ void BoardRenderer::DrawBoard() {
     drawSharedBorders();
     for (int hexagon = 1; hexagon <= HexagonCount; ++hexagon)
         drawEntries(hexagon);
+    drawTexts();
 }
 
 void BoardRenderer::fillHexagon(int hexagon) {
+    if (m_style.onPaper) {
+        drawHatching(hexagon);
+        return;
+    }
     m_painter.setPen(Qt::NoPen);
     m_painter.setBrush(toQColor(m_board.isBlank(hexagon) ? m_style.solid : m_style.fill));
     m_painter.drawPolygon(outlineOf(hexagon));
+}
+
+void BoardRenderer::drawHatching(int hexagon) {
+    if (!m_board.isBlank(hexagon))
+        return;
+    constexpr double LineWidth = 1.2;
+    takePen(m_painter, m_style.solid, LineWidth, Fit::Exact, Qt::FlatCap);
+    for (const auto& [from, to] : hatchLines(hexagon))
+        m_painter.drawLine(toQt(from), toQt(to));
 }
 
 void BoardRenderer::drawCellLines(int hexagon) {
     if (m_board.isBlank(hexagon))
         return;
     const PainterState state(m_painter);
-    takePen(m_painter, m_style.line, CellLineWidth, m_lines, Qt::FlatCap);
+    takePen(m_painter, m_style.line, m_style.lineWidth, m_lines, Qt::FlatCap);
     const auto corners = hexagonCorners(hexagon);
     for (std::size_t i = 0; i < corners.size() / 2; ++i)
         m_painter.drawLine(toQt(corners[i]), toQt(corners[i + corners.size() / 2]));
@@ -151,22 +181,48 @@ void BoardRenderer::drawEntries(int hexagon) {
 
 template <class Draw>
 void BoardRenderer::forEachDigit(CellId cell, Draw draw) const {
+    const Numerals& numerals = numeralsOf(cell);
     layOutEntry(
         m_board.CellNum[cell],
         [&](int digit) {
-            const QPointF pen = toQt(numberCentre(cell)) + m_numerals.numberPen();
-            draw(m_numerals.number(digit).translated(pen));
+            const QPointF pen = toQt(numberCentre(cell)) + numerals.numberPen();
+            draw(numerals.number(digit).translated(pen));
         },
         [&](int digit, int place) {
-            const QPointF pen = toQt(marksCentre(cell)) + m_numerals.markPen(place);
-            draw(m_numerals.mark(digit).translated(pen));
+            const QPointF pen = toQt(marksCentre(cell)) + numerals.markPen(place);
+            draw(numerals.mark(digit).translated(pen));
         });
 }
 
 void BoardRenderer::drawEntry(CellId cell) {
+    if (m_digits == Digits::AsText) {
+        addEntryAsText(cell);
+        return;
+    }
     const Colour colour = m_board.FixedCell[cell] ? m_style.fixedNumber : m_style.userNumber;
     forEachDigit(cell,
                  [&](const QPainterPath& digit) { m_painter.fillPath(digit, toQColor(colour)); });
+}
+
+void BoardRenderer::addEntryAsText(CellId cell) {
+    const Numerals& numerals = numeralsOf(cell);
+    DigitText& text = m_board.FixedCell[cell] ? m_givens : m_numbers;
+    layOutEntry(
+        m_board.CellNum[cell],
+        [&](int digit) {
+            text.add(digit,
+                     toQt(numberCentre(cell)) + numerals.numberPen() + numerals.numberStart(digit));
+        },
+        [&](int digit, int place) {
+            m_marks.add(digit, toQt(marksCentre(cell)) + m_numerals.markPen(place) +
+                                   m_numerals.markStart(digit));
+        });
+}
+
+void BoardRenderer::drawTexts() {
+    m_givens.draw(m_painter, toQColor(m_style.fixedNumber));
+    m_numbers.draw(m_painter, toQColor(m_style.userNumber));
+    m_marks.draw(m_painter, toQColor(m_style.userNumber));
 }
 
 void BoardRenderer::eraseEntry(CellId cell) {
@@ -178,16 +234,14 @@ void BoardRenderer::eraseEntry(CellId cell) {
 }
 
 void BoardRenderer::DrawSolution(Colour colour) {
-    const DigitFace bold(m_font, true);
-    const Numerals numerals(bold, {}, Fit::Exact);
     const PainterState state(m_painter);
     for (CellId cell : AllCells) {
         if (m_board.isBlank(cell.hexagon) || m_board.FixedCell[cell])
             continue;
         eraseEntry(cell);
         const auto write = [&](int digit) {
-            const QPointF pen = toQt(numberCentre(cell)) + numerals.numberPen();
-            m_painter.fillPath(numerals.number(digit).translated(pen), toQColor(colour));
+            const QPointF pen = toQt(numberCentre(cell)) + m_boldNumerals.numberPen();
+            m_painter.fillPath(m_boldNumerals.number(digit).translated(pen), toQColor(colour));
         };
         layOutEntry(m_board.SolNum[cell], write, [](int, int) {});
     }

@@ -3,6 +3,8 @@
 
 #include "play/board_style.h"
 
+#include <algorithm>
+
 namespace tessaly {
 
 BoardStyle boardStyle(const Appearance& appearance) {
@@ -18,6 +20,23 @@ BoardStyle boardStyle(const Appearance& appearance) {
         .fixedNumber = appearance.FixedNumberColour,
         .userNumber = appearance.UserNumberColour,
         .borderWidth = appearance.HexaBorderWidth + (split ? WiderWhenSplit : 0),
+    };
+}
+
+BoardStyle paperStyle(const Appearance& appearance) {
+    constexpr double WidestBorder = 16;
+    return {
+        .background = White,
+        .border = Black,
+        .line = Black,
+        .fill = White,
+        .solid = Black,
+        .fixedNumber = Black,
+        .userNumber = Black,
+        .borderWidth = std::min<double>(appearance.PrintLineWidth, WidestBorder),
+        .lineWidth = 0.6,
+        .onPaper = true,
+        .boldGivens = true,
     };
 }
 

@@ -43,19 +43,26 @@ QRawFont rawFont(const std::string& family, bool bold) {
 
 } // namespace
 
-DigitFace::DigitFace(const std::string& family, bool bold) {
-    const QRawFont font = rawFont(family, bold);
-    const auto indexes = font.glyphIndexesForString(allDigits());
-    const auto advances = font.advancesForGlyphIndexes(indexes);
+DigitFace::DigitFace(const std::string& family, bool bold)
+    : m_font(rawFont(family, bold)) {
+    const auto indexes = m_font.glyphIndexesForString(allDigits());
+    const auto advances = m_font.advancesForGlyphIndexes(indexes);
     const QTransform toSizeOne = QTransform::fromScale(1 / OutlineSize, 1 / OutlineSize);
     for (qsizetype i = 0; i < indexes.size(); ++i) {
         Glyph& glyph = m_glyphs[static_cast<std::size_t>(i)];
-        glyph.outline = toSizeOne.map(font.pathForGlyph(indexes[i]));
+        glyph.outline = toSizeOne.map(m_font.pathForGlyph(indexes[i]));
         glyph.advance = advances[i].x() / OutlineSize;
+        glyph.index = indexes[i];
         m_columnWidth = std::max(m_columnWidth, glyph.advance);
     }
     // "1" is flat at both ends in nearly every font; the round digits overshoot.
     m_height = -outline(1).boundingRect().top();
+}
+
+QRawFont DigitFace::font(double size) const {
+    QRawFont font = m_font;
+    font.setPixelSize(size);
+    return font;
 }
 
 Numerals::Numerals(const DigitFace& face, Scale scale, Fit fit)
@@ -87,8 +94,7 @@ double Numerals::fitted(double value) const {
 
 QPainterPath Numerals::number(int digit) const {
     const auto [x, y] = m_number.em;
-    return QTransform::fromTranslate(-m_face->middle(digit) * x, 0)
-        .map(QTransform::fromScale(x, y).map(m_face->outline(digit)));
+    return QTransform::fromScale(x, y).map(m_face->outline(digit)).translated(numberStart(digit));
 }
 
 QPointF Numerals::numberPen() const {
@@ -97,9 +103,11 @@ QPointF Numerals::numberPen() const {
 
 QPainterPath Numerals::mark(int digit) const {
     const auto [x, y] = m_mark.em;
-    const double indent = (m_mark.column - m_face->advance(digit) * x) / 2;
-    return QTransform::fromTranslate(indent, 0).map(
-        QTransform::fromScale(x, y).map(m_face->outline(digit)));
+    return QTransform::fromScale(x, y).map(m_face->outline(digit)).translated(markStart(digit));
+}
+
+QPointF Numerals::markStart(int digit) const {
+    return {(m_mark.column - m_face->advance(digit) * m_mark.em.x) / 2, 0};
 }
 
 QPointF Numerals::markPen(int place) const {

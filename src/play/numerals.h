@@ -5,6 +5,7 @@
 
 #include <QPainterPath>
 #include <QPointF>
+#include <QRawFont>
 
 #include <array>
 #include <string>
@@ -29,13 +30,19 @@ public:
     /// How high the digits stand above the baseline.
     double height() const { return m_height; }
 
+    /// The font, and a digit's number in it, for drawing digits as text.
+    QRawFont font(double size) const;
+    quint32 index(int digit) const { return glyph(digit).index; }
+
 private:
     struct Glyph {
         QPainterPath outline;
         double advance = 0;
+        quint32 index = 0;
     };
     const Glyph& glyph(int digit) const { return m_glyphs[static_cast<std::size_t>(digit)]; }
 
+    QRawFont m_font;
     std::array<Glyph, DigitCount> m_glyphs;
     double m_columnWidth = 0;
     double m_height = 0;
@@ -60,11 +67,17 @@ public:
     QPainterPath number(int digit) const;
     /// Where that pen stands, from the cell's `numberCentre`.
     QPointF numberPen() const;
+    /// Where the left end of a number's baseline is, from that pen.
+    QPointF numberStart(int digit) const { return {-m_face->middle(digit) * m_number.em.x, 0}; }
+    double numberSize() const { return m_number.em.y; }
 
     /// A pencil mark; its pen is at the left end of its baseline.
     QPainterPath mark(int digit) const;
     /// Where that pen stands for a place 0..5, from the cell's `marksCentre`.
     QPointF markPen(int place) const;
+    /// Where the digit itself starts in its column, from that pen.
+    QPointF markStart(int digit) const;
+    double markSize() const { return m_mark.em.y; }
 
 private:
     struct Size {

@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <string>
 
 namespace tessaly {
@@ -48,6 +49,15 @@ TEST(BoardStyle, SpacedHexagonsAreBorderedByTheBackground) {
     EXPECT_GT(split.borderWidth, 2);
     EXPECT_EQ(split.line, RGB(1, 2, 3));
     EXPECT_EQ(split.solid, RGB(1, 2, 3));
+}
+
+TEST(BoardStyle, PaperTakesThePrintedLineWidthButKeepsItsCells) {
+    Appearance appearance;
+    appearance.HexaBorderWidth = 5;
+    appearance.PrintLineWidth = 3;
+    EXPECT_EQ(paperStyle(appearance).borderWidth, 3);
+    appearance.PrintLineWidth = std::numeric_limits<int>::max();
+    EXPECT_LT(paperStyle(appearance).borderWidth, 20);
 }
 
 } // namespace
