@@ -7,6 +7,7 @@
 #include "board/file_access.h"
 #include "board/program_folder.h"
 #include "board/session_memory.h"
+#include "output/printers.h"
 #include "ui/file_dialogs.h"
 #include "ui/main_window.h"
 #include "ui/message_box.h"
@@ -73,7 +74,8 @@ int run(const GameOptions& options) {
     if (!start(options, session, prompts, loaded))
         return EXIT_FAILURE;
     PlatformFileDialogs fileDialogs;
-    Form1 window(session, prompts, fileDialogs);
+    SystemPrinters printers;
+    Form1 window(session, prompts, fileDialogs, printers);
     window.show();
     if (!loaded.notice.empty())
         prompts.message(loaded.notice, Critical);

@@ -3,10 +3,10 @@
 
 #include "app/screenshot.h"
 
-#include "board/file_access.h"
+#include "output/picture_file.h"
 
 #include <QApplication>
-#include <QBuffer>
+#include <QImage>
 #include <QPixmap>
 #include <QWidget>
 
@@ -26,13 +26,7 @@ int PrintedPrompts::message(std::string_view text, std::string_view) {
 
 Outcome writeScreenshot(QWidget& window, const std::string& path) {
     QApplication::processEvents();
-    QByteArray png;
-    QBuffer buffer(&png);
-    buffer.open(QIODevice::WriteOnly);
-    if (!window.grab().save(&buffer, "PNG"))
-        return Outcome::failed(path + ": the picture cannot be made");
-    return replaceFile(path,
-                       std::string_view(png.constData(), static_cast<std::size_t>(png.size())));
+    return writePicture(path, window.grab().toImage(), PictureFormat::Png);
 }
 
 } // namespace tessaly

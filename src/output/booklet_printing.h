@@ -3,24 +3,14 @@
 
 #pragma once
 
-#include "board/board.h"
-#include "board/outcome.h"
 #include "options/appearance.h"
-#include "output/page_layout.h"
+#include "output/print_job.h"
 
 #include <functional>
 
 class QPagedPaintDevice;
 
 namespace tessaly {
-
-/// What is printed: a booklet of boards with the numbers `firstNumber`, `firstNumber + 1`, ...
-struct PrintJob {
-    Booklet booklet;
-    int firstNumber = 1;
-    /// Gives the board of a number; called for every part of the booklet anew.
-    std::function<Outcome(int number, Board& board)> boardOf;
-};
 
 /// Called before each page is painted with its number, from 0; when it answers false the printing
 /// ends.

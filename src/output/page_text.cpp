@@ -4,7 +4,9 @@
 #include "output/page_text.h"
 
 #include <QFontMetricsF>
+#include <QPaintEngine>
 #include <QPainter>
+#include <QPainterPath>
 
 #include <algorithm>
 #include <cmath>
@@ -28,6 +30,11 @@ double shareBefore(TextAnchor anchor) {
     return 1;
 }
 
+/// Such a picture holds no fonts, and the one meant may be missing where it is shown.
+bool isVectorPicture(const QPainter& painter) {
+    return painter.paintEngine()->type() == QPaintEngine::SVG;
+}
+
 } // namespace
 
 void drawText(QPainter& painter, QPointF point, const QString& text, const PageText& style,
@@ -42,7 +49,13 @@ void drawText(QPainter& painter, QPointF point, const QString& text, const PageT
     painter.setFont(font);
     painter.translate(point.x() - shareBefore(anchor) * width * condensed, point.y());
     painter.scale(condensed / Finer, condensed / Finer);
-    painter.drawText(QPointF(), text);
+    if (isVectorPicture(painter)) {
+        QPainterPath outline;
+        outline.addText(QPointF(), font, text);
+        painter.fillPath(outline, painter.pen().color());
+    } else {
+        painter.drawText(QPointF(), text);
+    }
     painter.restore();
 }
 

@@ -13,25 +13,25 @@
 namespace tessaly {
 namespace {
 
-void setUp(QPdfWriter& writer, const PdfOptions& options) {
-    const QPageSize size(QSizeF(options.paper.width, options.paper.height), QPageSize::Point, {},
+void setUp(QPdfWriter& writer, PaperSize paper, const std::string& title) {
+    const QPageSize size(QSizeF(paper.width, paper.height), QPageSize::Point, {},
                          QPageSize::FuzzyMatch);
     writer.setPageLayout(QPageLayout(size, QPageLayout::Portrait, {}));
-    writer.setTitle(options.title);
+    writer.setTitle(QString::fromStdString(title));
     writer.setCreator(QString::fromLatin1(Product::Name) + u' ' +
                       QString::fromLatin1(Product::Version));
 }
 
 } // namespace
 
-PrintResult writePdf(const std::filesystem::path& path, const PdfOptions& options,
-                     const PrintJob& job, const Appearance& appearance, const GoOn& goOn) {
+PrintResult writePdf(const std::filesystem::path& path, PaperSize paper, const PrintJob& job,
+                     const Appearance& appearance, const GoOn& goOn) {
     PrintResult result;
     const Outcome written = replaceFile(path, [&](const ContentSink& sink) {
         SinkDevice device(sink);
         {
             QPdfWriter writer(&device);
-            setUp(writer, options);
+            setUp(writer, paper, job.title);
             result = paintBooklet(writer, job, appearance, goOn);
         }
         if (result.stopped)

@@ -52,14 +52,6 @@ MainMenu::MainMenu(QMenuBar& bar) {
     buildPrintMenu(*addMenu(bar, u"&Print"_s, u"mnuprintxx"_s));
     showRecentFiles({});
     showCurrentFile({});
-    disableWhatIsToCome();
-}
-
-void MainMenu::disableWhatIsToCome() {
-    mnucopyclip->setEnabled(false);
-    for (QAction* action :
-         {mnuclippuz, mnuclipsol, mnucapwin, printPuzzle, printSolution, printBoth, printMultiple})
-        action->setEnabled(false);
 }
 
 void MainMenu::buildFileMenu(QMenu& menu) {

@@ -56,7 +56,6 @@ private:
     void buildCreateMenu(QMenu& menu);
     void buildSaveMenu(QMenu& menu);
     void buildPrintMenu(QMenu& menu);
-    void disableWhatIsToCome();
 };
 
 } // namespace tessaly

@@ -37,7 +37,7 @@ constexpr QSize FirstSize(690, 690);
 
 } // namespace
 
-Form1::Form1(Session& session, Prompts& prompts, FileDialogs& fileDialogs)
+Form1::Form1(Session& session, Prompts& prompts, FileDialogs& fileDialogs, Printers& printers)
     : m_session(session)
     , m_prompts(prompts)
     , m_worn(session.appearance)
@@ -63,7 +63,12 @@ Form1::Form1(Session& session, Prompts& prompts, FileDialogs& fileDialogs)
                          Chance(Chance::freshSeed()))
     , m_developer(session, m_display, prompts)
     , m_maintenance(session, {m_display, m_display, m_display, prompts},
-                    Chance(Chance::freshSeed())) {
+                    Chance(Chance::freshSeed()))
+    , m_export(session, {this, m_display, prompts, *m_picker})
+    , m_printDialog(session.appearance, printers, fileDialogs, prompts, session.ProgramFolder, this)
+    , m_printProgress(session.appearance, this)
+    , m_print(session, printers,
+              {this, m_display, prompts, *m_picker, m_printDialog, m_printProgress}) {
     setObjectName(u"Form1"_s);
     setWindowTitle(u"Tessaly"_s);
     setWindowIcon(productIcon());
@@ -82,6 +87,7 @@ Form1::Form1(Session& session, Prompts& prompts, FileDialogs& fileDialogs)
     connectFileDrop();
     giveShortcuts(*this);
     connectHelp();
+    connectOutput();
     applyAppearance();
     resize(FirstSize);
 }
@@ -185,6 +191,7 @@ void Form1::connectDeveloperRow() {
 void Form1::closeEvent(QCloseEvent* event) {
     m_multipleCreation.stop();
     m_maintenance.stop();
+    m_print.stop();
     QMainWindow::closeEvent(event);
 }
 
@@ -215,6 +222,19 @@ void Form1::connectHelp() {
         m_help->show();
     });
     connect(m_menu.mnuabout, &QAction::triggered, m_about, &QDialog::show);
+}
+
+void Form1::connectOutput() {
+    connect(m_menu.mnuclippuz, &QAction::triggered, this, [this] { m_export.CopyBoard(false); });
+    connect(m_menu.mnuclipsol, &QAction::triggered, this, [this] { m_export.CopyBoard(true); });
+    connect(m_menu.mnucapwin, &QAction::triggered, this, [this] { m_export.mnucapwin(); });
+    connect(m_menu.printPuzzle, &QAction::triggered, this,
+            [this] { m_print.printShown(true, false); });
+    connect(m_menu.printSolution, &QAction::triggered, this,
+            [this] { m_print.printShown(false, true); });
+    connect(m_menu.printBoth, &QAction::triggered, this,
+            [this] { m_print.printShown(true, true); });
+    connect(m_menu.printMultiple, &QAction::triggered, this, [this] { m_print.printMultiple(); });
 }
 
 void Form1::ApplyScheme() {

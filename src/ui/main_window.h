@@ -4,6 +4,10 @@
 #pragma once
 
 #include "board/library_commands.h"
+#include "output/export_commands.h"
+#include "output/print_commands.h"
+#include "output/print_dialog.h"
+#include "output/print_progress.h"
 #include "play/board_input.h"
 #include "play/play_commands.h"
 #include "solver/creation_commands.h"
@@ -24,13 +28,14 @@ class FileDialogs;
 class AboutForm;
 class Form2x;
 class Form4;
+class Printers;
 
 /// The main window: builds its regions and connects their controls to the commands.
 class Form1 : public QMainWindow {
     Q_OBJECT
 
 public:
-    Form1(Session& session, Prompts& prompts, FileDialogs& fileDialogs);
+    Form1(Session& session, Prompts& prompts, FileDialogs& fileDialogs, Printers& printers);
 
     LibraryCommands& library() { return m_library; }
 
@@ -51,6 +56,7 @@ private:
     void connectOptions();
     void connectFileDrop();
     void connectHelp();
+    void connectOutput();
     void ApplyScheme();
     void cmdexit();
 
@@ -80,6 +86,10 @@ private:
     MultipleCreation m_multipleCreation;
     DeveloperCommands m_developer;
     MaintenanceCommands m_maintenance;
+    ExportCommands m_export;
+    Form5 m_printDialog;
+    PrintProgress m_printProgress;
+    PrintCommands m_print;
 };
 
 } // namespace tessaly

@@ -5,11 +5,14 @@
 // looked at. Not a test: tessaly_pictures FOLDER; QT_SCALE_FACTOR=2 gives them at 200 %.
 
 #include "options/scheme_library.h"
+#include "output/print_progress.h"
 #include "ui/game_window.h"
 
 #include <QApplication>
 #include <QListWidget>
 #include <QTextBrowser>
+#include <QProgressBar>
+#include <QTimer>
 
 #include <iostream>
 
@@ -131,6 +134,28 @@ void takeHelpInSchemes(Pictures& pictures) {
     }
 }
 
+/// The dialog for printing many puzzles, as it stands open, and the progress of a print.
+void takePrinting(Pictures& pictures, const QString& scheme) {
+    GameWindow game;
+    game.session.appearance.ActiveScheme = scheme.toStdString() + ".col";
+    EXPECT_TRUE(SchemeLibrary(game.folder.path())
+                    .LoadScheme(game.session.appearance.ActiveScheme, game.session.appearance)
+                    .ok());
+    game.printers.installed = {u"HP LaserJet Pro M404dn"_s, u"Kitchen"_s};
+    game.window->library().load(game.folder.puzzles("easy.txt"));
+    auto& form = game.find(u"Form5"_s);
+    QTimer::singleShot(0, &form, [&] {
+        pictures.take(form, u"print-"_s + scheme);
+        form.close();
+    });
+    game.find<QAction>(u"mnuprintx_4"_s).trigger();
+    PrintProgress progress(game.session.appearance);
+    progress.begin(u"Printing easy.txt, 1 to 1000"_s, 334);
+    progress.findChild<QProgressBar*>()->setValue(120);
+    progress.show();
+    pictures.take(progress, u"print-progress-"_s + scheme);
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -146,5 +171,7 @@ int main(int argc, char** argv) {
     takeSizes(pictures);
     takeSchemes(pictures);
     takeHelpInSchemes(pictures);
+    for (const QString& scheme : {u"xp"_s, u"night"_s})
+        takePrinting(pictures, scheme);
     return 0;
 }

@@ -6,6 +6,7 @@
 #include "board/session_memory.h"
 #include "play/board_view.h"
 #include "support/scripted_file_dialogs.h"
+#include "support/scripted_printers.h"
 #include "support/scripted_prompts.h"
 #include "support/temporary_folder.h"
 #include "ui/main_window.h"
@@ -84,6 +85,7 @@ public:
     Session session;
     ScriptedPrompts prompts;
     ScriptedFileDialogs fileDialogs;
+    ScriptedPrinters printers;
     std::unique_ptr<Form1> window;
 
 private:
@@ -91,7 +93,7 @@ private:
         session.ProgramFolder = folder.path();
         const LoadedSession loaded = loadSession(session);
         EXPECT_TRUE(loaded.outcome.ok()) << loaded.outcome.problem;
-        window = std::make_unique<Form1>(session, m_prompts, fileDialogs);
+        window = std::make_unique<Form1>(session, m_prompts, fileDialogs, printers);
         window->show();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(window.get()));
         return loaded.last;

@@ -76,7 +76,7 @@ void expectNumbers(const std::vector<PdfDocument::Word>& words, const Rect& area
 class PdfFile : public testing::Test {
 protected:
     PrintResult print(const PrintJob& job, PaperSize paper = A4, const GoOn& goOn = always) {
-        return writePdf(path, {paper, QStringLiteral("Sample")}, job, appearance, goOn);
+        return writePdf(path, paper, job, appearance, goOn);
     }
 
     test::TemporaryFolder folder;
@@ -91,7 +91,7 @@ TEST_F(PdfFile, HoldsEveryNumberCaptionAndFooterOnEitherPaper) {
             constexpr int First = 3;
             constexpr int Count = 7;
             const Booklet booklet(Count, {{false, perPage}, {true, SolutionsPerPage}});
-            ASSERT_TRUE(print({booklet, First, sample}, paper.size).isComplete());
+            ASSERT_TRUE(print({booklet, First, sample, "Sample"}, paper.size).isComplete());
             const PdfDocument pdf(path);
             ASSERT_EQ(pdf.pageCount(), (Count + perPage - 1) / perPage + 1);
             EXPECT_TRUE(pdf.info(QStringLiteral("Page size"))
@@ -125,7 +125,7 @@ TEST_F(PdfFile, HoldsEveryNumberCaptionAndFooterOnEitherPaper) {
 TEST_F(PdfFile, EmbedsItsFonts) {
     for (const char* font : {"Liberation Sans", "DejaVu Serif", "no such font"}) {
         appearance.NumberFont = font;
-        ASSERT_TRUE(print({Booklet(1, {{false, 1}, {true, 12}}), 1, sample}).isComplete());
+        ASSERT_TRUE(print({Booklet(1, {{false, 1}, {true, 12}}), 1, sample, {}}).isComplete());
         const QStringList fonts = PdfDocument(path).fonts();
         EXPECT_EQ(fonts.size(), 2) << "a regular and a bold one";
         for (const QString& line : fonts)
@@ -134,12 +134,15 @@ TEST_F(PdfFile, EmbedsItsFonts) {
 }
 
 TEST_F(PdfFile, DrawsEntriesAndMarksAsTheyStandOnTheBoard) {
-    const PrintJob job{Booklet(1, {{false, 1}}), 1, [](int number, Board& board) {
+    const PrintJob job{Booklet(1, {{false, 1}}),
+                       1,
+                       [](int number, Board& board) {
                            const Outcome read = sample(number, board);
                            board.CellNum[10][1] = "4";
                            board.CellNum[10][4] = "246";
                            return read;
-                       }};
+                       },
+                       {}};
     ASSERT_TRUE(print(job).isComplete());
     const auto words = PdfDocument(path).words(1);
     EXPECT_EQ(textAt(words, PageLayout(A4, 1).boardArea(0), {10, 1}), QStringLiteral("4"));
@@ -152,16 +155,17 @@ TEST_F(PdfFile, LeavesWhatWasThereWhenItFailsOrIsStopped) {
     const Booklet booklet(20, {{false, 1}});
     test::put(path, "old");
     const auto stop = [](int page) { return page < 5; };
-    EXPECT_TRUE(print({booklet, 1, sample}, A4, stop).stopped);
+    EXPECT_TRUE(print({booklet, 1, sample, {}}, A4, stop).stopped);
     const auto broken = [](int number, Board& board) {
         return number == 7 ? Outcome::failed("puzzle 7 is gone") : sample(number, board);
     };
-    EXPECT_EQ(print({booklet, 1, broken}).outcome.problem, "puzzle 7 is gone");
+    EXPECT_EQ(print({booklet, 1, broken, {}}).outcome.problem, "puzzle 7 is gone");
     EXPECT_EQ(test::contentOf(path), "old");
     EXPECT_EQ(folder.names(), std::set<std::string>{"out.pdf"});
 
     path = folder / "none" / "out.pdf";
-    EXPECT_NE(print({booklet, 1, sample}).outcome.problem.find("No such file"), std::string::npos);
+    EXPECT_NE(print({booklet, 1, sample, {}}).outcome.problem.find("No such file"),
+              std::string::npos);
 }
 
 /// Files may not grow beyond a size while this lives: as on a disk that is full.
@@ -182,7 +186,7 @@ private:
 };
 
 TEST_F(PdfFile, AFullDiskIsNoSuccess) {
-    const PrintJob job{Booklet(30, {{false, 1}}), 1, sample};
+    const PrintJob job{Booklet(30, {{false, 1}}), 1, sample, {}};
     ASSERT_TRUE(print(job).isComplete());
     const auto size = std::filesystem::file_size(path);
     std::filesystem::remove(path);

@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "options/appearance.h"
+#include "output/print_job.h"
+
+#include <QDialog>
+
+#include <array>
+#include <optional>
+
+class QCheckBox;
+class QComboBox;
+class QGroupBox;
+class QHBoxLayout;
+class QLineEdit;
+class QRadioButton;
+
+namespace tessaly {
+
+class BoxControl;
+class FileDialogs;
+class FNDialog;
+class Printers;
+class Prompts;
+class PuzzleFiles;
+
+/// What is to be printed, and where.
+struct PrintOrder {
+    PrintRange range;
+    /// The device name; empty for a PDF file.
+    QString printer;
+};
+
+/// What the dialog starts with.
+struct PrintSuggestion {
+    std::string path;
+    int count = 0;
+    /// The printer that the program uses: a device name, empty for a PDF file, or none yet.
+    std::optional<QString> printer;
+};
+
+/// Asks what to print: the dialog, as the command sees it. Nothing when the user cancels.
+class PrintOrderChoice {
+public:
+    virtual ~PrintOrderChoice() = default;
+    virtual std::optional<PrintOrder> choose(const PrintSuggestion& suggestion) = 0;
+};
+
+/// The dialog "Print Puzzles From File". Its property "tag" is "Y" after it was closed in order to
+/// print, else "X".
+class Form5 : public QDialog, public PrintOrderChoice {
+    Q_OBJECT
+    Q_PROPERTY(QString tag MEMBER m_tag)
+
+public:
+    /// The last of the printers, which is there on every machine.
+    static constexpr const char* PrintToPdf = "Print to PDF";
+
+    /// All must outlive the form; puzzle files are offered in `programFolder`.
+    Form5(const Appearance& appearance, Printers& printers, FileDialogs& fileDialogs,
+          Prompts& prompts, std::string programFolder, QWidget* parent = nullptr);
+
+    std::optional<PrintOrder> choose(const PrintSuggestion& suggestion) override;
+
+private:
+    QGroupBox* addFrame(const QString& title, const QString& name);
+    void makePrinterFrame();
+    void makeFileFrame(FileDialogs& fileDialogs);
+    void makeRangeFrame();
+    void makePageFrame();
+    QHBoxLayout* makeButtons();
+    void paint();
+    void load(const PrintSuggestion& suggestion);
+    void chooseFile();
+    void acceptRange();
+    PrintOrder order() const;
+
+    const Appearance& m_appearance;
+    Printers& m_printers;
+    Prompts& m_prompts;
+    std::string m_programFolder;
+    QString m_tag;
+    std::string m_path;
+    int m_count = 0;
+
+    QComboBox* m_printer = nullptr; // Combo1
+    QLineEdit* m_file = nullptr;    // FileNow
+    FNDialog* m_picker = nullptr;   // gf1
+    QLineEdit* m_from = nullptr;    // Text1
+    QLineEdit* m_to = nullptr;      // Text2
+    std::array<QRadioButton*, PuzzlesPerPage.size()> m_perPage{};
+    QCheckBox* m_solutions = nullptr;
+    BoxControl* m_print = nullptr; // Command1
+    BoxControl* m_exit = nullptr;  // Command2
+};
+
+} // namespace tessaly
