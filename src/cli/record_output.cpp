@@ -16,7 +16,7 @@
 namespace tessaly {
 namespace {
 
-constexpr std::size_t FileBatch = 1'000'000;
+constexpr std::size_t FileBatch = 100'000;
 constexpr std::size_t StreamBatch = 32'000;
 
 /// The puzzle that a record stands for, whatever progress the player made on it.
