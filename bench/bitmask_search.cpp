@@ -12,8 +12,8 @@
 namespace tessaly::plain {
 namespace {
 
-constexpr unsigned bitOf(int digit) {
-    return 1U << (digit - 1);
+constexpr unsigned lowestBit(unsigned bits) {
+    return bits & (~bits + 1);
 }
 
 } // namespace
@@ -31,7 +31,7 @@ BitmaskSearch::BitmaskSearch(const Board& board)
     };
     for (const Place& place : m_open)
         if (isGiven(place.cell) || isGiven(place.across))
-            put(place, board.SolNum[place.cell].front() - '0');
+            put(place, DigitSet::fromText(board.SolNum[place.cell]).bits());
     std::erase_if(m_open,
                   [&](const Place& place) { return isGiven(place.cell) || isGiven(place.across); });
 }
@@ -43,18 +43,18 @@ unsigned BitmaskSearch::choices(const Place& place) const {
     return DigitSet::all().bits() & ~used(place.cell) & (place.across ? ~used(place.across) : ~0U);
 }
 
-void BitmaskSearch::put(const Place& place, int digit) {
+void BitmaskSearch::put(const Place& place, unsigned bit) {
     for (CellId cell : {place.cell, place.across})
         if (cell) {
-            m_used[static_cast<std::size_t>(cell.hexagon)] |= bitOf(digit);
-            m_digits[cell] = digit;
+            m_used[static_cast<std::size_t>(cell.hexagon)] |= bit;
+            m_bits[cell] = bit;
         }
 }
 
-void BitmaskSearch::take(const Place& place, int digit) {
+void BitmaskSearch::take(const Place& place, unsigned bit) {
     for (CellId cell : {place.cell, place.across})
         if (cell)
-            m_used[static_cast<std::size_t>(cell.hexagon)] &= ~bitOf(digit);
+            m_used[static_cast<std::size_t>(cell.hexagon)] &= ~bit;
 }
 
 BitmaskSearch::Place BitmaskSearch::takeBest() {
@@ -84,12 +84,12 @@ bool BitmaskSearch::fill(Chance& chance) {
         for (auto skip = chance.below(static_cast<std::uint32_t>(std::popcount(rest))); skip > 0;
              --skip)
             drawn &= drawn - 1;
-        const int digit = std::countr_zero(drawn) + 1;
-        rest &= ~bitOf(digit);
-        put(place, digit);
+        const unsigned bit = lowestBit(drawn);
+        rest &= ~bit;
+        put(place, bit);
         if (fill(chance))
             return true;
-        take(place, digit);
+        take(place, bit);
     }
     m_open.push_back(place);
     return false;
@@ -101,10 +101,10 @@ int BitmaskSearch::count(int limit) {
     const Place place = takeBest();
     int found = 0;
     for (unsigned rest = choices(place); rest != 0 && found < limit; rest &= rest - 1) {
-        const int digit = std::countr_zero(rest) + 1;
-        put(place, digit);
+        const unsigned bit = lowestBit(rest);
+        put(place, bit);
         found += count(limit - found);
-        take(place, digit);
+        take(place, bit);
     }
     m_open.push_back(place);
     return found;

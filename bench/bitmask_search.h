@@ -7,6 +7,7 @@
 #include "solver/chance.h"
 
 #include <array>
+#include <bit>
 #include <cstdint>
 #include <vector>
 
@@ -28,7 +29,7 @@ public:
     int count(int limit);
 
     /// The digit of a cell after `fill`.
-    int digitAt(CellId cell) const { return m_digits[cell]; }
+    int digitAt(CellId cell) const { return std::countr_zero(m_bits[cell]) + 1; }
 
 private:
     /// A cell, or the two cells of a shared side, and the hexagons in which its digit is used;
@@ -39,13 +40,14 @@ private:
     };
 
     unsigned choices(const Place& place) const;
-    void put(const Place& place, int digit);
-    void take(const Place& place, int digit);
+    void put(const Place& place, unsigned bit);
+    void take(const Place& place, unsigned bit);
     /// Takes the place with the fewest choices from the open ones.
     Place takeBest();
 
     std::array<unsigned, HexagonCount + 1> m_used{};
-    Grid<int> m_digits;
+    /// The digit of each cell, as a mask.
+    Grid<unsigned> m_bits;
     std::vector<Place> m_open;
 };
 
