@@ -8,6 +8,7 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <sys/auxv.h>
 
 namespace tessaly {
 namespace {
@@ -22,6 +23,15 @@ std::string environment(const char* name) {
 /// The folder's path, absolute, with "/" at its end.
 std::string asFolder(const fs::path& path) {
     return (fs::absolute(path).lexically_normal() / "").native();
+}
+
+/// Where no /proc is mounted, in a bare root, the kernel's word at the start must do.
+fs::path executablePath() {
+    std::error_code error;
+    fs::path path = fs::read_symlink("/proc/self/exe", error);
+    if (error)
+        path = fs::canonical(reinterpret_cast<const char*>(::getauxval(AT_EXECFN)), error);
+    return path;
 }
 
 /// "tessaly" in the data home, or nothing when there is none. As the XDG Base Directory
@@ -66,8 +76,7 @@ Outcome useUserFolder(const fs::path& user, const std::string& share, std::strin
 } // namespace
 
 ProgramFolderSources ProgramFolderSources::ofThisProcess() {
-    std::error_code ignored;
-    const fs::path executable = fs::read_symlink("/proc/self/exe", ignored);
+    const fs::path executable = executablePath();
     const fs::path folder = executable.parent_path();
     return {.given = {},
             .executableFolder = folder.native(),
