@@ -8,6 +8,7 @@
 #include "board/puzzle_file.h"
 #include "options/scheme_library.h"
 #include "options/scheme_record.h"
+#include "solver/library_tools.h"
 
 #include "support/sample_records.h"
 
@@ -44,6 +45,20 @@ std::function<Outcome()> deletePuzzle(const Scene& scene) {
     const std::string record = files->ReadPuzzle(scene.puzzles(), number, board).record;
     return [scene, files, number, record] {
         return files->DeletePuzzle(scene.puzzles(), number, record, scene.program());
+    };
+}
+
+/// Appends the variants of the puzzles to the very file.
+std::function<Outcome()> expandLibrary(const Scene& scene) {
+    return [path = scene.puzzles().string()] {
+        return expandPuzzles({path, path}, OutputMode::Append, TopBottomHeader::Follows);
+    };
+}
+
+std::function<Outcome()> shuffleLibrary(const Scene& scene) {
+    return [path = scene.puzzles().string()] {
+        Chance chance(1);
+        return shufflePuzzles({path, path}, chance);
     };
 }
 
@@ -133,6 +148,8 @@ const std::vector<Operation>& operations() {
         {"delete", &Scene::puzzles, deletePuzzle},
         {"configuration", &Scene::configuration, saveConfiguration},
         {"batch", &Scene::puzzles, makeBatch},
+        {"expand", &Scene::puzzles, expandLibrary},
+        {"shuffle", &Scene::puzzles, shuffleLibrary},
         {"addscheme", &Scene::schemes, addScheme},
         {"replacescheme", &Scene::schemes, replaceScheme},
         {"deletescheme", &Scene::schemes, deleteScheme},
