@@ -11,6 +11,7 @@
 #include "ui/file_dialogs.h"
 #include "ui/main_window.h"
 #include "ui/message_box.h"
+#include "ui/scheme_palette.h"
 
 #include <QApplication>
 
@@ -46,7 +47,7 @@ bool start(const GameOptions& options, Session& session, Prompts& prompts, Loade
     sources.given = options.folder;
     loaded.outcome = findProgramFolder(sources, session.ProgramFolder);
     if (loaded.outcome.ok())
-        loaded = loadSession(session);
+        loaded = loadSession(session, schemeLikeDesktop(QApplication::palette()));
     if (!loaded.outcome.ok())
         prompts.message(loaded.outcome.problem, Critical);
     return loaded.outcome.ok();

@@ -140,11 +140,12 @@ void Configuration::applyTo(Appearance& appearance) const {
     appearance.SplitHexas = SplitHexas;
     appearance.NumBorder = NumBorder;
     appearance.NumberFont = NumberFont;
-    appearance.FixedNumberColour = FixedNumberColour.value_or(Black);
     appearance.UserNumberColour =
         UserNumberColour.value_or(appearance.SchemeColours[slot::DarkRed]);
     appearance.HexaBorderColour = HexaBorderColour.value_or(Black);
     appearance.HexaFillColour = HexaFillColour.value_or(appearance.SchemeColours[slot::Button]);
+    appearance.FixedNumberColour =
+        FixedNumberColour.value_or(readableOn(appearance.HexaFillColour));
 }
 
 Configuration ReadcfgFile(const std::string& path) {

@@ -38,7 +38,7 @@ struct Configuration {
     void remember(const Appearance& appearance);
 
     /// Puts the settings but the scheme onto `appearance`, whose scheme is loaded: colours that
-    /// were never chosen come from its slots.
+    /// were never chosen come from its slots, or are black, or white where black does not read.
     void applyTo(Appearance& appearance) const;
 
     friend bool operator==(const Configuration&, const Configuration&) = default;

@@ -12,6 +12,7 @@ inline constexpr const char* HelpPageFile = "tessaly.htm";
 /// The folder of its drawings.
 inline constexpr const char* HelpDrawingsFolder = "manual";
 inline constexpr const char* ConfigurationFile = "tessaly.cfg";
+inline constexpr const char* WindowPlaceFile = "window.cfg";
 inline constexpr const char* EasyLibraryFile = "puzzles/easy.txt";
 inline constexpr const char* HardLibraryFile = "puzzles/hard.txt";
 

@@ -37,6 +37,11 @@ Outcome loadRequiredFiles(Session& session) {
     return Set6Combos(session.ProgramFolder + ArrangementFile, session.arrangements);
 }
 
+bool hasScheme(const std::string& folder, const std::string& scheme) {
+    Appearance tried;
+    return SchemeLibrary(folder).LoadScheme(scheme, tried).ok();
+}
+
 Outcome applyConfiguration(const Configuration& configuration, Session& session) {
     session.recentFiles = configuration.recentFiles;
     session.appearance.ActiveScheme = configuration.ActiveScheme;
@@ -48,17 +53,20 @@ Outcome applyConfiguration(const Configuration& configuration, Session& session)
 
 } // namespace
 
-LoadedSession loadSession(Session& session) {
+LoadedSession loadSession(Session& session, const std::string& firstScheme) {
     LoadedSession loaded;
     removeLeftovers(session.ProgramFolder);
     loaded.outcome = loadRequiredFiles(session);
     if (!loaded.outcome.ok())
         return loaded;
     const std::string path = configurationPath(session);
-    const Configuration configuration = ReadcfgFile(path);
+    Configuration configuration = ReadcfgFile(path);
     loaded.last = {configuration.PuzPath, configuration.PuzNum};
-    if (!FileExists(path))
+    if (!FileExists(path)) {
         loaded.last.path = session.ProgramFolder + EasyLibraryFile;
+        if (hasScheme(session.ProgramFolder, firstScheme))
+            configuration.ActiveScheme = firstScheme;
+    }
     const Outcome scheme = applyConfiguration(configuration, session);
     // A scheme that is gone gives way to the built-in one; a broken library does not.
     if (session.appearance.ActiveScheme == BuiltInScheme)

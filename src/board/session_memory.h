@@ -27,8 +27,8 @@ struct LoadedSession {
 
 /// Reads the program's data files in `session.ProgramFolder` into the session: the colour schemes,
 /// the arrangements and the configuration. At the very first start the puzzle to open is one of the
-/// bundled ones.
-LoadedSession loadSession(Session& session);
+/// bundled ones, and the scheme is `firstScheme` if there is such a one.
+LoadedSession loadSession(Session& session, const std::string& firstScheme = DefaultScheme);
 
 /// Writes what the next run is to remember. A file that cannot be written is no one's concern at
 /// the end of a run.

@@ -27,6 +27,8 @@ inline constexpr std::size_t LightGreen = 12;
 
 /// The scheme of a first run, a record of the scheme library like any other.
 inline constexpr const char* DefaultScheme = "xp.col";
+/// The scheme of a first run on a dark desktop.
+inline constexpr const char* DarkScheme = "night.col";
 /// The reserved name of the scheme that needs no library.
 inline constexpr const char* BuiltInScheme = "default.col";
 inline constexpr const char* DefaultNumberFont = "Arial";

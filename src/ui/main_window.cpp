@@ -22,6 +22,7 @@
 #include "ui/shortcuts.h"
 #include "ui/status_line.h"
 #include "ui/tool_row.h"
+#include "ui/window_place.h"
 
 #include <QApplication>
 #include <QVBoxLayout>
@@ -90,6 +91,7 @@ Form1::Form1(Session& session, Prompts& prompts, FileDialogs& fileDialogs, Print
     connectOutput();
     applyAppearance();
     resize(FirstSize);
+    restoreWindowPlace(*this, session.ProgramFolder);
 }
 
 QWidget* Form1::arrangeRegions() {
@@ -192,6 +194,7 @@ void Form1::closeEvent(QCloseEvent* event) {
     m_multipleCreation.stop();
     m_maintenance.stop();
     m_print.stop();
+    rememberWindowPlace(*this, m_session.ProgramFolder);
     QMainWindow::closeEvent(event);
 }
 

@@ -89,4 +89,10 @@ QString menuStyleSheet(const Appearance& appearance) {
                      fadedOn(ground).name());
 }
 
+const char* schemeLikeDesktop(const QPalette& desktop) {
+    const bool isDark = desktop.color(QPalette::Window).lightness() <
+                        desktop.color(QPalette::WindowText).lightness();
+    return isDark ? DarkScheme : DefaultScheme;
+}
+
 } // namespace tessaly

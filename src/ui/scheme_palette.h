@@ -17,4 +17,7 @@ QPalette schemePalette(const Appearance& appearance);
 /// The scheme in force for the menu bar and all of its menus, as a style sheet.
 QString menuStyleSheet(const Appearance& appearance);
 
+/// The scheme for a first start: light or dark as the desktop's own windows are.
+const char* schemeLikeDesktop(const QPalette& desktop);
+
 } // namespace tessaly

@@ -142,12 +142,15 @@ TEST(ConfigurationAndAppearance, ColoursThatWereNeverChosenComeFromTheScheme) {
     Appearance appearance;
     appearance.SchemeColours[slot::DarkRed] = RGB(9, 9, 9);
     appearance.SchemeColours[slot::Button] = RGB(4, 4, 4);
-    appearance.FixedNumberColour = appearance.HexaBorderColour = White;
+    appearance.HexaBorderColour = White;
     Configuration().applyTo(appearance);
-    EXPECT_EQ(appearance.FixedNumberColour, Black);
+    EXPECT_EQ(appearance.FixedNumberColour, White) << "black would not read";
     EXPECT_EQ(appearance.HexaBorderColour, Black);
     EXPECT_EQ(appearance.UserNumberColour, RGB(9, 9, 9));
     EXPECT_EQ(appearance.HexaFillColour, RGB(4, 4, 4));
+    appearance.SchemeColours[slot::Button] = RGB(250, 250, 250);
+    Configuration().applyTo(appearance);
+    EXPECT_EQ(appearance.FixedNumberColour, Black);
 }
 
 TEST(ConfigurationAndAppearance, WhatIsRememberedIsAppliedAgain) {

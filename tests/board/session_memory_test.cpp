@@ -36,6 +36,19 @@ TEST_F(SessionMemoryTest, TheFirstStartOpensTheBundledPuzzlesInTheDefaultScheme)
     EXPECT_EQ(session.arrangements.wordCount, ArrangementCount);
 }
 
+TEST_F(SessionMemoryTest, OnlyAFirstStartTakesTheSchemeOfTheDesktop) {
+    ASSERT_TRUE(loadSession(session, DarkScheme).outcome.ok());
+    EXPECT_EQ(session.appearance.ActiveScheme, DarkScheme);
+    EXPECT_GE(
+        contrastRatio(session.appearance.FixedNumberColour, session.appearance.HexaFillColour),
+        4.5);
+    EXPECT_EQ(loadSession(session, "none.col").notice, "");
+    EXPECT_EQ(session.appearance.ActiveScheme, DefaultScheme);
+    SavecfgFile(session);
+    ASSERT_TRUE(loadSession(session, DarkScheme).outcome.ok());
+    EXPECT_EQ(session.appearance.ActiveScheme, DefaultScheme);
+}
+
 TEST_F(SessionMemoryTest, WhatWasSetIsThereAgainAfterARestart) {
     ASSERT_TRUE(loadSession(session).outcome.ok());
     session.puzzle = {"/home/me/a.txt", 12, 40, ""};

@@ -154,6 +154,21 @@ TEST_F(MainWindow, ExitAsksAndRemembersAndTheCloseBoxDoesNeither) {
     EXPECT_EQ(loaded.last.number, 5);
 }
 
+TEST_F(MainWindow, ItsSizeIsRememberedHoweverItIsClosed) {
+    const QSize first = game.window->size();
+    const QSize chosen(700, 640);
+    ASSERT_NE(first, chosen);
+    game.window->resize(chosen);
+    game.window->close();
+    game.restart();
+    EXPECT_EQ(game.window->size(), chosen);
+    for (const char* garbled : {"", "%%%", "AdnQywAD\r\n"}) {
+        test::put(game.folder.path() + "window.cfg", garbled);
+        game.restart();
+        EXPECT_EQ(game.window->size(), first);
+    }
+}
+
 TEST_F(MainWindow, ResizesFromTheSmallestToAnySize) {
     game.window->library().load(game.folder.puzzles("easy.txt"));
     game.window->resize(game.window->minimumSizeHint());

@@ -63,6 +63,11 @@ TEST(SchemePalette, ReadsOnEveryScheme) {
     }
 }
 
+TEST(SchemePalette, AFirstStartIsLightOrDarkAsTheDesktopIs) {
+    EXPECT_STREQ(schemeLikeDesktop(QPalette(QColor(0xee, 0xee, 0xee))), DefaultScheme);
+    EXPECT_STREQ(schemeLikeDesktop(QPalette(QColor(0x2a, 0x2a, 0x2e))), DarkScheme);
+}
+
 TEST(SchemePalette, ColoursTheWholeMenuTree) {
     const Appearance appearance = schemeOf(RGB(230, 230, 230), RGB(60, 20, 90), RGB(200, 200, 200));
     QWidget window;
