@@ -7,6 +7,7 @@
 #include "board/scratch_file.h"
 
 #include <csignal>
+#include <sys/stat.h>
 
 namespace tessaly {
 namespace {
@@ -34,10 +35,10 @@ Outcome readSmall(const FileDescriptor& file, const std::filesystem::path& path,
 } // namespace
 
 bool FileExists(const std::filesystem::path& path) {
-    // The library's own test throws on names that the system refuses unless it gets an error code.
-    std::error_code error;
-    return !path.empty() && path.has_filename() && checkName(path).ok() &&
-           std::filesystem::is_regular_file(path, error);
+    // The library's own test takes a call that a signal interrupted for a file that is not there.
+    struct stat status {};
+    return path.has_filename() && checkName(path).ok() &&
+           retried([&] { return ::stat(path.c_str(), &status); }) == 0 && S_ISREG(status.st_mode);
 }
 
 Outcome replaceFile(const std::filesystem::path& path, std::string_view content) {
