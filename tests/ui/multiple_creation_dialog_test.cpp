@@ -4,7 +4,7 @@
 #include "ui/game_window.h"
 
 #include "board/puzzle_record.h"
-#include "solver/creation_progress_bar.h"
+#include "solver/run_progress_bar.h"
 #include "ui/box_control.h"
 
 #include <QAction>
@@ -105,7 +105,7 @@ TEST_F(AutoCreate, MakesWhatWasOrderedAndShowsHowFarItIs) {
     game.window->library().load(game.folder.puzzles("hard.txt"), 7);
     const Board before = game.session.game.board;
     game.prompts.answers = {answer::Yes, answer::Ok};
-    auto& bar = game.find<CreationProgressBar>(u"creationProgress"_s);
+    auto& bar = game.find<RunProgressBar>(u"runProgress"_s);
     bool seen = false;
     duringTheRun([&] {
         seen = bar.isVisible() && bar.maximum() == 250 && bar.value() > 0 &&
