@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "board/file_access.h"
-#include "cli/program.h"
+#include "cli/drawing_commands.h"
 #include "cli/standard_output.h"
 
 #include <csignal>
@@ -28,5 +28,5 @@ int main(int argc, char** argv) {
     std::ostream out(&buffer);
     const tessaly::Console console{out, std::cerr, ::isatty(STDERR_FILENO) == 1,
                                    [] { return interrupted != 0; }};
-    return tessaly::runProgram(argc, argv, console);
+    return tessaly::runProgram(argc, argv, console, tessaly::drawingCommands());
 }

@@ -13,6 +13,8 @@
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
+#include <iterator>
 #include <memory>
 #include <ostream>
 #include <string>
@@ -35,8 +37,8 @@ int tell(const CLI::App& program, const CLI::ParseError& said, const Console& co
 
 } // namespace
 
-std::vector<std::unique_ptr<Command>> allCommands() {
-    std::vector<std::unique_ptr<Command>> commands;
+Commands allCommands() {
+    Commands commands;
     commands.push_back(std::make_unique<CreateCommand>());
     commands.push_back(std::make_unique<SolveCommand>());
     commands.push_back(std::make_unique<CheckCommand>());
@@ -54,10 +56,11 @@ void describeProgram(CLI::App& program) {
     program.footer("Example: tessaly-cli create --difficulty hard --count 100 > hard.txt");
 }
 
-int runProgram(int argc, const char* const* argv, const Console& console) {
+int runProgram(int argc, const char* const* argv, const Console& console, Commands more) {
     CLI::App program;
     describeProgram(program);
-    const std::vector<std::unique_ptr<Command>> commands = allCommands();
+    Commands commands = allCommands();
+    std::move(more.begin(), more.end(), std::back_inserter(commands));
     std::vector<std::pair<CLI::App*, Command*>> entries;
     entries.reserve(commands.size());
     for (const auto& command : commands)

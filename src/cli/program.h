@@ -11,13 +11,16 @@
 
 namespace tessaly {
 
-/// All subcommands, in the order in which they are told.
-std::vector<std::unique_ptr<Command>> allCommands();
+using Commands = std::vector<std::unique_ptr<Command>>;
+
+/// The subcommands that every build has, in the order in which they are told.
+Commands allCommands();
 
 /// Says what the program is, its subcommands aside; `program` is fresh.
 void describeProgram(CLI::App& program);
 
-/// Carries out a whole command line ("tessaly-cli" and its arguments); the exit status.
-int runProgram(int argc, const char* const* argv, const Console& console);
+/// Carries out a whole command line ("tessaly-cli" and its arguments); the exit status. `more` are
+/// the subcommands besides `allCommands`.
+int runProgram(int argc, const char* const* argv, const Console& console, Commands more = {});
 
 } // namespace tessaly
