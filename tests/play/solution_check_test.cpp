@@ -45,6 +45,8 @@ TEST(SolutionCheck, WithoutASolutionAnySingleNumberPasses) {
         board.CellNum[cell] = "4";
     }
     EXPECT_TRUE(isSolved(board));
+    board.CellNum[2][1] = "45";
+    EXPECT_FALSE(isSolved(board)) << "marks are no number";
 }
 
 } // namespace
