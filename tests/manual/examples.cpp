@@ -19,12 +19,12 @@ Board read(std::string_view record) {
 }
 
 Example copyAcrossASide() {
-    return {1, givensOf(FirstPuzzle), {1, 2, 5}, {{5, 2}}, {{1, 5}}, "3"};
+    return {1, givensOf(FirstPuzzle), {1, 2, 5}, {{5, 2}}, {{1, 5}}, "6"};
 }
 
 Example whatMayStand() {
     Example example{
-        2, givensOf(FirstPuzzle), {3, 6}, {{3, 2}, {3, 3}, {6, 2}, {6, 3}, {6, 4}}, {{3, 4}}, "4"};
+        2, givensOf(FirstPuzzle), {3, 6}, {{3, 2}, {3, 3}, {6, 2}, {6, 3}, {6, 4}}, {{3, 4}}, "2"};
     std::int32_t counter = 0;
     FixNeighbours(example.board, counter);
     return example;
@@ -38,7 +38,7 @@ Example onlyPlace() {
     example.hexagons = {3};
     example.reasons = {{3, 1}, {3, 6}};
     example.settled = {{3, 5}};
-    example.number = "3";
+    example.number = "6";
     return example;
 }
 

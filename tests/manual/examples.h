@@ -12,13 +12,15 @@
 /// The boards that the manual explains the puzzle with.
 namespace tessaly::manual {
 
-/// Puzzle 1 of the easy and puzzle 3 of the hard ones that the game is shipped with.
+/// Two of the puzzles that the game is shipped with, an easy and a hard one, and their numbers.
+inline constexpr int FirstNumber = 78;
 inline constexpr std::string_view FirstPuzzle =
-    "E0700TRV531RV14535RV431VU342Q4S15624QUS26TURSVQ536142T2136U36215412VT35364125Q45263R653TQ153"
-    "2T623VQU43261TU264QU3143VRU";
+    "E1300RTU361TU12633UT261VR315T2V13542VQS54164352364152Q5264S3"
+    "5261415TR6365T213VUSRQTU436RQ2Q465326QUT36132TU613UR4254QVS";
+inline constexpr int CornerNumber = 137;
 inline constexpr std::string_view CornerPuzzle =
-    "H1233UVS124SV45211UR634RS156T5R41366QTS52526413132456T6325Q43621545RQ36RQUTVS256143V5S1TR4Q3"
-    "5V213UTV21624US542VS1461SUR";
+    "H1246TSQ562TV21355TV312QS562T1625343QTU26634251516324U21V3T2"
+    "3465132QU64VUQRST624153Q345VR2U346116STU25314VR452VQ3463RUQ";
 
 /// A puzzle with its givens. The blank hexagon is empty: the player does not see it.
 Board givensOf(std::string_view record);
