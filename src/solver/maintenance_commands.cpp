@@ -5,6 +5,8 @@
 
 #include "board/puzzle_file.h"
 
+#include <future>
+
 namespace tessaly {
 namespace {
 
@@ -73,16 +75,7 @@ Outcome MaintenanceCommands::runWithProgress(const ToolFiles& files, const Tool&
         return counted;
     m_window.library.showBusy(true);
     m_window.progress.beginProgress(files.input);
-    const RunClock clock;
-    Clock::time_point nextTurn;
-    Outcome outcome = tool(files, [&](int records) {
-        if (const auto now = Clock::now(); now >= nextTurn) {
-            nextTurn = now + ShortWhile;
-            m_window.progress.showProgress(clock.progress(records, count));
-            m_window.display.yield();
-        }
-        return !m_stopped;
-    });
+    Outcome outcome = waitFor(tool, files, count);
     m_window.progress.endProgress();
     m_window.library.showBusy(false);
     if (m_session.puzzle.PuzNum == 0)
@@ -90,6 +83,25 @@ Outcome MaintenanceCommands::runWithProgress(const ToolFiles& files, const Tool&
     else
         m_window.library.showPuzzle(m_session.puzzle);
     return outcome;
+}
+
+/// The tool works on a thread of its own: a disk may take its time.
+Outcome MaintenanceCommands::waitFor(const Tool& tool, const ToolFiles& files, int count) {
+    const RunClock clock;
+    std::atomic<int> done = 0;
+    m_window.progress.showProgress(clock.progress(done, count));
+    m_window.display.yield();
+    auto working = std::async(std::launch::async, [&] {
+        return tool(files, [&](int records) {
+            done = records;
+            return !m_stopped;
+        });
+    });
+    while (working.wait_for(Turn) == std::future_status::timeout) {
+        m_window.progress.showProgress(clock.progress(done, count));
+        m_window.display.yield();
+    }
+    return working.get();
 }
 
 void MaintenanceCommands::tell(const std::string& text) {

@@ -8,7 +8,7 @@
 #include "solver/library_tools.h"
 #include "solver/run_progress.h"
 
-#include <chrono>
+#include <atomic>
 #include <string_view>
 
 namespace tessaly {
@@ -39,18 +39,18 @@ public:
     void stop() { m_stopped = true; }
 
 private:
-    using Clock = std::chrono::steady_clock;
     using Tool = std::function<Outcome(const ToolFiles& files, const KeepGoing& keepGoing)>;
 
     /// Runs a tool with a progress bar; whether it came to its end. What goes wrong is told.
     bool run(std::string_view input, std::string_view output, const Tool& tool);
     Outcome runWithProgress(const ToolFiles& files, const Tool& tool);
+    Outcome waitFor(const Tool& tool, const ToolFiles& files, int count);
     void tell(const std::string& text);
 
     Session& m_session;
     MaintenanceWindow m_window;
     Chance m_chance;
-    bool m_stopped = false;
+    std::atomic<bool> m_stopped = false;
 };
 
 } // namespace tessaly

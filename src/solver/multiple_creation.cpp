@@ -16,8 +16,6 @@ using Clock = std::chrono::steady_clock;
 
 /// How much work a crash can lose. Flushing the disk takes as long as making many puzzles.
 constexpr std::chrono::milliseconds WorkAtRisk{100};
-/// How long the window waits for its turn.
-constexpr std::chrono::milliseconds Turn{10};
 
 /// One in a hundred more hard ones than easy ones, unlike a single creation.
 Difficulty drawForEach(DifficultyChoice choice, Chance& chance) {

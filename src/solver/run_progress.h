@@ -9,7 +9,7 @@
 namespace tessaly {
 
 /// How long the window waits for its turn during a long run.
-inline constexpr std::chrono::milliseconds ShortWhile{30};
+inline constexpr std::chrono::milliseconds Turn{10};
 
 /// How far a long run is.
 struct RunProgress {
