@@ -59,8 +59,9 @@ void openPuzzle(const GameOptions& options, const LastPuzzle& last, LibraryComma
         return;
     }
     library.reopen({}, 1);
-    library.load(std::filesystem::absolute(options.file).lexically_normal().string(),
-                 std::max(options.puzzle, 1));
+    library.load(std::filesystem::absolute(options.file).lexically_normal().string());
+    if (options.puzzle > 1)
+        library.goTo(options.puzzle);
 }
 
 int run(const GameOptions& options) {
@@ -80,7 +81,7 @@ int run(const GameOptions& options) {
     window.show();
     if (!loaded.notice.empty())
         prompts.message(loaded.notice, Critical);
-    openPuzzle(options, loaded.last, window.library());
+    openPuzzle(options, session.last, window.library());
     if (!toPicture)
         return QApplication::exec();
     const Outcome written = writeScreenshot(window, options.screenshot);

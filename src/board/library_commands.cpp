@@ -12,7 +12,8 @@ namespace tessaly {
 namespace {
 
 constexpr std::string_view Information = "vbok+vbinformation";
-constexpr std::string_view Critical = "vbcritical+vbok";
+constexpr std::string_view Critical = "vbok+vbcritical";
+constexpr std::string_view FileProblem = "vbcritical+vbok";
 
 std::string trimmed(const std::string& text) {
     const auto first = text.find_first_not_of(" \t");
@@ -81,10 +82,12 @@ void LibraryCommands::load(const std::string& path, int number) {
     if (m_session.busy.refuses(m_prompts))
         return;
     if (!ReadPuzzle(path, number).ok()) {
-        tellCritical("Error reading file:\r\n" + path);
+        m_prompts.message("Error reading file:\r\n" + path, FileProblem);
         return;
     }
     setSaveTarget(path);
+    if (path == temporaryFile())
+        return;
     m_session.recentFiles.AddRecentFile(path);
     m_libraryDisplay.showRecentFiles(m_session.recentFiles);
 }
@@ -102,11 +105,15 @@ void LibraryCommands::cmdarrow(int item) {
     if (number == 0)
         return;
     const int count = recount();
-    if (count == 1 && number == 1)
+    if (count <= 1 && number == 1)
         return;
     const int previous = number > 1 ? std::min(number - 1, count) : count;
     const int next = number < count ? number + 1 : 1;
     step(std::max(item == 0 ? previous : next, 1));
+}
+
+std::string LibraryCommands::temporaryFile() const {
+    return m_session.ProgramFolder + std::string(TemporaryPuzzleFile);
 }
 
 int LibraryCommands::recount() {
@@ -142,12 +149,12 @@ bool LibraryCommands::appendTo(const std::string& path) {
         tellCritical(saved.problem);
         return false;
     }
-    m_prompts.message("Puzzle# " + std::to_string(number) + " added to file " + path, Information);
+    m_prompts.message("Puzzle#" + std::to_string(number) + " added to file " + path, Information);
     return true;
 }
 
 void LibraryCommands::mnusavex() {
-    if (m_session.busy.refuses(m_prompts) || m_session.game.board == Board{})
+    if (m_session.busy.refuses(m_prompts) || !m_session.game.hasPuzzle())
         return;
     const std::string path = m_fileChoice.chooseToSave("Select an output Puzzle file");
     if (path.empty())
@@ -191,20 +198,19 @@ void LibraryCommands::oldfiles_Click(int item) {
         return;
     const std::string path = m_session.recentFiles.paths().at(static_cast<std::size_t>(item));
     if (!FileExists(path)) {
-        tellCritical("File not found:\r\n" + path);
+        m_prompts.message("File not found:\r\n" + path, FileProblem);
         return;
     }
     if (const PuzzleRead read = ReadPuzzle(path, 1); read.ok())
         setSaveTarget(path);
     else
-        tellCritical("Error reading file:\r\n" + path);
+        m_prompts.message("Error reading file:\r\n" + path, FileProblem);
 }
 
 void LibraryCommands::reopen(const std::string& path, int number) {
-    const std::string temporary = m_session.ProgramFolder + std::string(TemporaryPuzzleFile);
     int count = 0;
     m_libraryDisplay.showRecentFiles(m_session.recentFiles);
-    if (trimmed(path).empty() || path == temporary || !FileExists(path) ||
+    if (trimmed(path).empty() || path == temporaryFile() || !FileExists(path) ||
         !m_session.files.CountLines(path, count).ok()) {
         showEmptyBoard();
         return;

@@ -50,6 +50,7 @@ private:
     void step(int number);
     /// How many puzzles the current file holds now; as many as before when it cannot be read.
     int recount();
+    std::string temporaryFile() const;
     Outcome appendAndShow(const std::string& path, int& number);
     bool appendTo(const std::string& path);
     Outcome remove(const CurrentPuzzle& puzzle);

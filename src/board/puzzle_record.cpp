@@ -25,10 +25,9 @@ char solutionCharacter(const Board& board, CellId cell) {
 }
 
 std::string header(const Board& board) {
-    const int blank = isHexagon(board.BlankHex) ? board.BlankHex : NoHexagon;
     std::string text(1, entryOf(board.difficulty).letter);
-    text += static_cast<char>('0' + blank / 10);
-    text += static_cast<char>('0' + blank % 10);
+    text += static_cast<char>('0' + board.BlankHex / 10 % 10);
+    text += static_cast<char>('0' + board.BlankHex % 10);
     if (board.difficulty == Difficulty::Hard)
         text += std::to_string(board.HintCell % 10) + std::to_string(board.HintNum % 10);
     else
@@ -63,9 +62,8 @@ Outcome checkRecord(std::string_view line) {
 
 void readHeader(std::string_view line, Board& board) {
     const auto digit = [line](std::size_t i) { return line[i] - '0'; };
-    const int blank = 10 * digit(1) + digit(2);
     const bool hard = line.front() == entryOf(Difficulty::Hard).letter;
-    board.BlankHex = isHexagon(blank) ? blank : NoHexagon;
+    board.BlankHex = 10 * digit(1) + digit(2);
     board.difficulty = hard ? Difficulty::Hard : Difficulty::Easy;
     board.HintCell = hard ? digit(3) : 0;
     board.HintNum = hard ? digit(4) : 0;

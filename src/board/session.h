@@ -16,6 +16,12 @@
 
 namespace tessaly {
 
+/// The puzzle that was shown when the game ended last.
+struct LastPuzzle {
+    std::string path;
+    int number = 1;
+};
+
 /// All that lives for the whole run of the game, owned once and handed on by reference.
 struct Session {
     /// Where the program's data files lie; ends in "/".
@@ -28,6 +34,7 @@ struct Session {
     /// The file that "Save to" offers; empty for none.
     std::string saveTarget;
 
+    LastPuzzle last;
     CurrentPuzzle puzzle;
     Game game;
     /// What the difficulty label shows, and so what the next puzzle will be.

@@ -47,6 +47,10 @@ Outcome applyConfiguration(const Configuration& configuration, Session& session)
     session.appearance.ActiveScheme = configuration.ActiveScheme;
     const SchemeLibrary schemes(session.ProgramFolder);
     Outcome scheme = schemes.LoadScheme(configuration.ActiveScheme, session.appearance);
+    if (!scheme.ok()) {
+        session.appearance.ActiveScheme = BuiltInScheme;
+        static_cast<void>(schemes.LoadScheme(BuiltInScheme, session.appearance).ok());
+    }
     configuration.applyTo(session.appearance);
     return scheme;
 }
@@ -61,27 +65,23 @@ LoadedSession loadSession(Session& session, const std::string& firstScheme) {
         return loaded;
     const std::string path = configurationPath(session);
     Configuration configuration = ReadcfgFile(path);
-    loaded.last = {configuration.PuzPath, configuration.PuzNum};
+    session.last = {configuration.PuzPath, configuration.PuzNum};
     if (!FileExists(path)) {
-        loaded.last.path = session.ProgramFolder + EasyLibraryFile;
+        session.last.path = session.ProgramFolder + EasyLibraryFile;
         if (hasScheme(session.ProgramFolder, firstScheme))
             configuration.ActiveScheme = firstScheme;
     }
-    const Outcome scheme = applyConfiguration(configuration, session);
-    // A scheme that is gone gives way to the built-in one; a broken library does not.
-    if (session.appearance.ActiveScheme == BuiltInScheme)
-        loaded.notice = scheme.problem;
-    else
-        loaded.outcome = scheme;
+    loaded.notice = applyConfiguration(configuration, session).problem;
     return loaded;
 }
 
 void SavecfgFile(const Session& session) {
     Configuration configuration;
-    configuration.PuzNum = std::max(session.puzzle.PuzNum, 1);
+    const bool showedPuzzle = !session.puzzle.PuzPath.empty();
+    configuration.PuzNum = std::max(showedPuzzle ? session.puzzle.PuzNum : session.last.number, 1);
     configuration.ActiveScheme = session.appearance.ActiveScheme;
     configuration.remember(session.appearance);
-    configuration.PuzPath = session.puzzle.PuzPath;
+    configuration.PuzPath = showedPuzzle ? session.puzzle.PuzPath : session.last.path;
     configuration.recentFiles = session.recentFiles;
     static_cast<void>(SavecfgFile(configurationPath(session), configuration));
 }

@@ -29,7 +29,7 @@ using namespace Qt::StringLiterals;
 
 constexpr int Margin = 16;
 constexpr int Spacing = 12;
-constexpr int ListWidth = 210;
+constexpr int ListWidth = 224;
 constexpr int ListHeight = 150;
 constexpr int ButtonHeight = 34;
 constexpr int ButtonWidth = 104;

@@ -73,7 +73,7 @@ const std::string& OptionsEditor::selectedEntry() const {
     return m_selected ? schemeNames()[*m_selected] : None;
 }
 
-void OptionsEditor::showScheme() {
+void OptionsEditor::ShowScheme() {
     const Colour background = m_samples.SchemeColours[slot::Background];
     m_caption = scheme_messages::caption(selectedEntry());
     m_colour = background;
@@ -94,7 +94,7 @@ void OptionsEditor::List1_MouseUp(std::size_t index) {
     m_colour = m_samples.SchemeColours[slot::Background];
     if (std::exchange(m_contrast, UsualContrast) != UsualContrast)
         BuildScheme(m_colour, m_contrast, m_samples.SchemeColours);
-    showScheme();
+    ShowScheme();
 }
 
 void OptionsEditor::ContrastV_Change(int contrast) {
@@ -104,7 +104,7 @@ void OptionsEditor::ContrastV_Change(int contrast) {
 
 void OptionsEditor::ShowSch() {
     BuildScheme(m_colour, m_contrast, m_samples.SchemeColours);
-    showScheme();
+    ShowScheme();
 }
 
 void OptionsEditor::AddSch() {
@@ -112,14 +112,13 @@ void OptionsEditor::AddSch() {
     if (name.empty())
         return;
     const Outcome added = m_library.AddScheme(name, m_samples.SchemeColours);
-    if (!report(added, scheme_messages::added(name)))
-        return;
-    m_selected = indexOf(schemeNames(), lowerCase(name));
-    m_caption = scheme_messages::caption(selectedEntry());
+    if (added.ok())
+        m_selected.reset(); // the list was made anew
+    report(added, scheme_messages::added(name));
 }
 
 void OptionsEditor::RepSch() {
-    if (!m_selected) {
+    if (selectedEntry().empty()) {
         tell(scheme_messages::SelectToReplace);
         return;
     }
@@ -132,7 +131,7 @@ void OptionsEditor::RepSch() {
 }
 
 void OptionsEditor::DelSch() {
-    if (!m_selected) {
+    if (selectedEntry().empty()) {
         tell(scheme_messages::SelectToDelete);
         return;
     }
@@ -200,7 +199,7 @@ void OptionsEditor::cmddef() {
 
 void OptionsEditor::Apply(std::string_view printLine) {
     std::string scheme = m_settings.ActiveScheme;
-    if (m_selected)
+    if (!selectedEntry().empty())
         scheme = selectedEntry() + std::string(SchemeExtension);
     const SchemeColours colours = m_settings.SchemeColours;
     m_settings = m_samples;
@@ -213,12 +212,11 @@ bool OptionsEditor::confirmed(const std::string& question) {
     return m_prompts.message(question, YesNo) == answer::Yes;
 }
 
-bool OptionsEditor::report(const Outcome& outcome, const std::string& done) {
+void OptionsEditor::report(const Outcome& outcome, const std::string& done) {
     if (outcome.ok())
         m_prompts.message(done, Information);
     else
         tell(outcome.problem);
-    return outcome.ok();
 }
 
 void OptionsEditor::tell(const std::string& problem) {

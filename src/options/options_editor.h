@@ -71,11 +71,11 @@ public:
 
 private:
     void startSamples();
-    void showScheme();
+    void ShowScheme();
     const std::string& selectedEntry() const;
     bool confirmed(const std::string& question);
     /// Tells how an operation on the library ended; whether it went well.
-    bool report(const Outcome& outcome, const std::string& done);
+    void report(const Outcome& outcome, const std::string& done);
     void tell(const std::string& problem);
     void forgetBorderInBackgroundColour();
 

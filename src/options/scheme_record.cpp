@@ -7,7 +7,11 @@
 
 #include <array>
 #include <charconv>
+#include <climits>
+#include <clocale>
 #include <cmath>
+#include <cwchar>
+#include <cwctype>
 
 namespace tessaly {
 namespace {
@@ -41,22 +45,50 @@ std::string colourLine(Colour colour) {
     return line;
 }
 
-/// Whether the bytes at `at` are one of the capitals U+00C0 to U+00DE; U+00D7 among them is a sign.
-bool isAccentedCapital(std::string_view text, std::size_t at) {
-    const auto byte = [text](std::size_t i) { return static_cast<unsigned char>(text[i]); };
-    if (at == 0 || byte(at - 1) != 0xc3)
-        return false;
-    return byte(at) >= 0x80 && byte(at) <= 0x9e && byte(at) != 0x97;
+/// Makes the letters of every script known to this thread, whatever language the user has chosen.
+class EveryLetter {
+public:
+    EveryLetter()
+        : m_letters(::newlocale(LC_CTYPE_MASK, "C.UTF-8", locale_t{}))
+        , m_before(m_letters == locale_t{} ? locale_t{} : ::uselocale(m_letters)) {}
+    ~EveryLetter() {
+        if (m_letters == locale_t{})
+            return;
+        ::uselocale(m_before);
+        ::freelocale(m_letters);
+    }
+    EveryLetter(const EveryLetter&) = delete;
+    EveryLetter& operator=(const EveryLetter&) = delete;
+
+private:
+    locale_t m_letters;
+    locale_t m_before;
+};
+
+/// Appends `text`'s first letter in lower case and returns its length; a byte that is no part of
+/// UTF-8 stays what it is.
+std::size_t appendLower(std::string_view text, std::string& lower) {
+    std::array<char, MB_LEN_MAX> bytes{};
+    std::mbstate_t state{};
+    wchar_t letter = 0;
+    const std::size_t length = std::mbrtowc(&letter, text.data(), text.size(), &state);
+    if (length == 0 || length > text.size()) {
+        lower += text.front();
+        return 1;
+    }
+    state = {};
+    const wint_t small = std::towlower(static_cast<wint_t>(letter));
+    lower.append(bytes.data(), std::wcrtomb(bytes.data(), static_cast<wchar_t>(small), &state));
+    return length;
 }
 
 } // namespace
 
 std::string lowerCase(std::string_view text) {
-    constexpr char ToLower = 'a' - 'A';
-    std::string lower(text);
-    for (std::size_t i = 0; i < lower.size(); ++i)
-        if ((lower[i] >= 'A' && lower[i] <= 'Z') || isAccentedCapital(text, i))
-            lower[i] = static_cast<char>(lower[i] + ToLower);
+    const EveryLetter known;
+    std::string lower;
+    while (!text.empty())
+        text.remove_prefix(appendLower(text, lower));
     return lower;
 }
 

@@ -22,8 +22,7 @@ namespace tessaly {
 inline constexpr std::size_t StoredSlotCount = 13;
 inline constexpr std::string_view SchemeExtension = ".col";
 
-/// The header of the scheme that the user calls `name`. Letters with accents count as letters as
-/// far as they are Latin-1 ones in UTF-8.
+/// The header of the scheme that the user calls `name` (UTF-8).
 std::string schemeHeader(std::string_view name);
 
 /// `text` with its letters in lower case, as `schemeHeader` has them.

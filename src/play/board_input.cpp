@@ -73,6 +73,7 @@ void BoardInput::Picture2_MouseDown(PointerButton button, Point point) {
     m_popupTarget = m_selection;
     m_inputDisplay.showPopup(point, opensUpwards(m_selection));
     m_display.showMessage("");
+    m_display.yield();
 }
 
 void BoardInput::Picture2_MouseUp(PointerButton button) {
@@ -117,12 +118,12 @@ void BoardInput::digt_MouseUp(int item, PointerButton button) {
 }
 
 void BoardInput::Num16_Click(int button) {
-    if (!m_popupTarget || m_busy.isBusy())
+    if (!m_popupTarget)
         return;
     hidePopup();
-    switch (button) {
-    case PopupClose:
+    if (button == PopupClose || m_busy.refuses(m_prompts))
         return;
+    switch (button) {
     case PopupSideCopy:
         m_commands.cmdsetpairs();
         return;
@@ -140,8 +141,9 @@ void BoardInput::Num16_Click(int button) {
 }
 
 void BoardInput::Celltags_MouseDown(int hexagon) {
-    if (m_busy.isBusy())
+    if (m_busy.isBusy() || !m_game.hasPuzzle())
         return;
+    Celltags_MouseUp();
     m_peek.begin(m_game.board, m_game.TouchedCell, hexagon);
     m_display.DrawHexagon(hexagon);
 }

@@ -8,6 +8,7 @@
 #include "ui/qt_colour.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -162,7 +163,14 @@ void BoardView::showPopup(Point corner, bool upwards) {
 }
 
 void BoardView::hidePopup() {
+    if (m_popup.isAncestorOf(QApplication::focusWidget()))
+        setFocus(); // before the focus goes to whatever stands next
     m_popup.close();
+}
+
+void BoardView::forgetSelection() {
+    if (m_input != nullptr)
+        m_input->forgetSelection();
 }
 
 QTransform BoardView::boardToWidget() const {
@@ -291,9 +299,6 @@ void BoardView::keyPressEvent(QKeyEvent* event) {
         m_input->openPopupAtSelection();
         if (m_popup.isVisible())
             m_popup.setFocus();
-    } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter ||
-               event->key() == Qt::Key_Space) {
-        m_input->Picture2_MouseUp(PointerButton::Left);
     } else {
         forwardKey(*event);
     }

@@ -38,6 +38,8 @@ public:
     void showSelection(CellId cell);
     void showPopup(Point corner, bool upwards);
     void hidePopup();
+    /// Another puzzle is on the board, or none.
+    void forgetSelection();
 
     const Board& board() const { return m_board; }
     CellId selection() const { return m_markedCell; }

@@ -28,6 +28,9 @@ public:
     Grid<bool> TouchedCell;
     UndoList undoList;
 
+    /// Whether there is a puzzle on the board: every cell of one has a solution.
+    bool hasPuzzle() const { return !board.SolNum[AllCells.front()].empty(); }
+
     /// Whether the player may enter anything in the cell: never while no puzzle is loaded.
     bool isSelectable(CellId cell) const;
 

@@ -59,13 +59,12 @@ void HexagonTagWidget::drawFocus(QPainter& painter) const {
     painter.drawRoundedRect(frame, frame.height() / 2, frame.height() / 2);
 }
 
-void HexagonTagWidget::mousePressEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton)
-        press();
+void HexagonTagWidget::mousePressEvent(QMouseEvent*) {
+    press();
 }
 
 void HexagonTagWidget::mouseReleaseEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton)
+    if (event->buttons() == Qt::NoButton)
         release();
 }
 

@@ -55,6 +55,7 @@ NumberPopup::NumberPopup(QWidget* parent)
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
     setCursor(Qt::ArrowCursor);
+    setAttribute(Qt::WA_NoMousePropagation); // a press between the buttons is none on the board
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(Margin, Margin, Margin, Margin);
     grid->setSpacing(Spacing);

@@ -17,6 +17,9 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+#include <limits>
+
 namespace tessaly {
 namespace {
 
@@ -27,7 +30,6 @@ constexpr int Margin = 16;
 constexpr int Spacing = 12;
 constexpr int Width = 420;
 constexpr QSize ButtonSize(96, 34);
-constexpr int MostDigits = 9;
 
 template <class Widget>
 Widget* named(Widget* widget, const QString& name) {
@@ -76,7 +78,6 @@ QWidget* Form3::makeNumberFrame() {
     auto* row = new QHBoxLayout(frame);
     m_number = named(new QLineEdit(u"10"_s, frame), u"Text1"_s);
     m_number->setAccessibleName(frame->title());
-    m_number->setMaxLength(MostDigits);
     m_number->setMaximumWidth(ButtonSize.width());
     row->addWidget(m_number);
     row->addStretch();
@@ -143,7 +144,8 @@ void Form3::showFile(const std::string& path) {
 }
 
 int Form3::number() const {
-    return m_number->text().trimmed().toInt();
+    const qlonglong number = m_number->text().trimmed().toLongLong();
+    return static_cast<int>(std::min<qlonglong>(number, std::numeric_limits<int>::max()));
 }
 
 DifficultyChoice Form3::difficulty() const {

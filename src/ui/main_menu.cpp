@@ -29,18 +29,22 @@ QAction* addItem(QMenu& menu, const QString& caption, const QString& array, int 
     return addCommand(menu, caption, array + u'_' + QString::number(index));
 }
 
-/// Ends a submenu; the item only closes it.
-void addCancel(QMenu& menu) {
-    menu.addSeparator();
-    menu.addAction(u"Cancel"_s);
+/// Ends a submenu; the item only closes it. Both are the next items of `array`, if it is one.
+void addCancel(QMenu& menu, const QString& array = {}, int next = 0) {
+    QAction* separator = menu.addSeparator();
+    QAction* cancel = menu.addAction(u"Cancel"_s);
+    if (array.isEmpty())
+        return;
+    separator->setObjectName(array + u'_' + QString::number(next));
+    cancel->setObjectName(array + u'_' + QString::number(next + 1));
 }
 
-/// A path as a menu shows it: on one line, without mnemonics, cut in the middle when it is long.
-QString menuText(const std::string& path, const QMenu& menu) {
-    constexpr int WidestPath = 420;
+/// Shows a path on one line, without mnemonics, and cut in the middle when it is very long.
+void showPath(QAction& action, const std::string& path, const QMenu& menu) {
+    constexpr int WidestPath = 640;
     QString text = menu.fontMetrics().elidedText(pathText(path), Qt::ElideMiddle, WidestPath);
     text.replace(u'\n', u' ').replace(u'\t', u' ');
-    return text.replace(u'&', u"&&"_s);
+    action.setText(text.replace(u'&', u"&&"_s));
 }
 
 } // namespace
@@ -76,7 +80,7 @@ void MainMenu::buildFileMenu(QMenu& menu) {
 void MainMenu::buildCreateMenu(QMenu& menu) {
     createSingle = addItem(menu, u"&Single Puzzle"_s, u"mnucreaten"_s, 0);
     createMultiple = addItem(menu, u"&Multiple Puzzles"_s, u"mnucreaten"_s, 1);
-    addCancel(menu);
+    addCancel(menu, u"mnucreaten"_s, 2);
 }
 
 void MainMenu::buildSaveMenu(QMenu& menu) {
@@ -94,9 +98,9 @@ void MainMenu::buildPrintMenu(QMenu& menu) {
     printPuzzle = addItem(menu, u"&Puzzle"_s, u"mnuprintx"_s, 0);
     printSolution = addItem(menu, u"&Solution"_s, u"mnuprintx"_s, 1);
     printBoth = addItem(menu, u"Puzzle &and Solution"_s, u"mnuprintx"_s, 2);
-    menu.addSeparator();
+    menu.addSeparator()->setObjectName(u"mnuprintx_3"_s);
     printMultiple = addItem(menu, u"&Multiple Puzzles"_s, u"mnuprintx"_s, 4);
-    addCancel(menu);
+    addCancel(menu, u"mnuprintx"_s, 5);
 }
 
 void MainMenu::showRecentFiles(const std::vector<std::string>& paths) {
@@ -104,13 +108,13 @@ void MainMenu::showRecentFiles(const std::vector<std::string>& paths) {
         const bool shown = i < paths.size();
         oldfiles[i]->setVisible(shown);
         if (shown)
-            oldfiles[i]->setText(menuText(paths[i], *mnucopyclip));
+            showPath(*oldfiles[i], paths[i], *mnucopyclip);
     }
     oldfiles.back()->setVisible(!paths.empty());
 }
 
 void MainMenu::showCurrentFile(const std::string& path) {
-    mnusaveto->setText(menuText(path, *mnusavez));
+    showPath(*mnusaveto, path, *mnusavez);
     mnusaveto->setVisible(!path.empty());
 }
 

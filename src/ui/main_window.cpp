@@ -110,15 +110,25 @@ QWidget* Form1::arrangeRegions() {
 void Form1::applyAppearance() {
     m_worn = m_session.appearance;
     setPalette(schemePalette(m_worn));
-    menuBar()->setStyleSheet(menuStyleSheet(m_worn));
+    SetMenuColour();
     m_palette->applyAppearance();
     m_board->applyAppearance();
 }
 
+void Form1::SetMenuColour() {
+    menuBar()->setStyleSheet(menuStyleSheet(m_worn));
+}
+
 void Form1::connectMenu() {
     connect(m_menu.mnuload, &QAction::triggered, this, [this] { m_library.mnuload(); });
-    connect(m_menu.mnusavex, &QAction::triggered, this, [this] { m_library.mnusavex(); });
-    connect(m_menu.mnusaveto, &QAction::triggered, this, [this] { m_library.mnusaveto(); });
+    connect(m_menu.mnusavex, &QAction::triggered, this, [this] {
+        m_input.Celltags_MouseUp();
+        m_library.mnusavex();
+    });
+    connect(m_menu.mnusaveto, &QAction::triggered, this, [this] {
+        m_input.Celltags_MouseUp();
+        m_library.mnusaveto();
+    });
     connect(m_menu.mnudelete, &QAction::triggered, this, [this] { m_library.mnudelete(); });
     connect(m_menu.cmdexit, &QAction::triggered, this, &Form1::cmdexit);
     for (int item = 0; item < MainMenu::RecentFileCount; ++item)
@@ -159,6 +169,7 @@ void Form1::connectStatusLine() {
 
 void Form1::connectCreation() {
     const auto createOne = [this] {
+        m_input.Celltags_MouseUp();
         m_creation.cmdcreate();
         m_developerRow->showText(QString::fromStdString(developerText(m_session.game.board)));
     };

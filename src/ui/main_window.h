@@ -58,6 +58,7 @@ private:
     void connectHelp();
     void connectOutput();
     void ApplyScheme();
+    void SetMenuColour();
     void cmdexit();
 
     Session& m_session;

@@ -34,7 +34,7 @@ void TickBox::paintEvent(QPaintEvent*) {
     const QColor colour = isEnabled() ? readableOn(ground) : fadedOn(ground);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QRectF box(Inset, (height() - BoxSize) / 2, BoxSize, BoxSize);
+    const QRectF box(Inset, (height() - BoxSize) / 2.0, BoxSize, BoxSize);
     if (underMouse() || isDown())
         painter.fillRect(box, blended(ground, colour, isDown() ? 0.2 : 0.1));
     drawBox(painter, box, colour);

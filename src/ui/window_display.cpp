@@ -62,6 +62,7 @@ void WindowDisplay::showPalette(int pressedItem) {
 }
 
 void WindowDisplay::showPuzzle(const CurrentPuzzle& puzzle) {
+    m_regions.board.forgetSelection();
     m_regions.tools.showPuzzleNumber(puzzle.PuzNum, puzzle.PuzCount);
     showDifficulty(m_session.difficulty);
     m_regions.status.showFile(puzzle.PuzPath);
@@ -69,6 +70,7 @@ void WindowDisplay::showPuzzle(const CurrentPuzzle& puzzle) {
 }
 
 void WindowDisplay::showNoPuzzle() {
+    m_regions.board.forgetSelection();
     m_regions.tools.showPuzzleNumber(0, 0);
     showDifficulty(m_session.difficulty);
     m_regions.status.showFileText(u"Create a New Puzzle"_s);

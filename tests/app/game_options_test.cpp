@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <iterator>
 #include <sstream>
 #include <vector>
 
@@ -19,8 +21,9 @@ struct Parsed {
     std::string err;
 };
 
-Parsed parse(std::vector<const char*> arguments) {
-    arguments.insert(arguments.begin(), "tessaly");
+Parsed parse(const std::vector<const char*>& words) {
+    std::vector<const char*> arguments{"tessaly"};
+    std::copy(words.begin(), words.end(), std::back_inserter(arguments));
     std::ostringstream out;
     std::ostringstream err;
     GameCommandLine line =

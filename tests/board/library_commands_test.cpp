@@ -182,11 +182,11 @@ TEST_F(LibraryCommandsTest, SavingAppendsThePlayAndShowsTheCopy) {
     commands.mnusavex();
     EXPECT_EQ(choice.asked, std::vector<std::string>{"SAVE: Select an output Puzzle file"});
     EXPECT_EQ(lastMessage(),
-              (Message{"Puzzle# 1 added to file " + choice.path, "vbok+vbinformation"}));
+              (Message{"Puzzle#1 added to file " + choice.path, "vbok+vbinformation"}));
     EXPECT_EQ(display.saveTarget, choice.path);
     EXPECT_EQ(session.game.board.CellNum[1][5], "4");
     commands.mnusaveto();
-    EXPECT_EQ(lastMessage().text, "Puzzle# 2 added to file " + choice.path);
+    EXPECT_EQ(lastMessage().text, "Puzzle#2 added to file " + choice.path);
     EXPECT_EQ(display.puzzle.PuzNum, 2);
     const std::string saved = PuzzleRecord(session.game.board) + "\r\n";
     EXPECT_EQ(test::contentOf(choice.path), saved + saved);
@@ -203,7 +203,7 @@ TEST_F(LibraryCommandsTest, AFailedSaveIsSaidAndKeepsThePlay) {
     const Board before = session.game.board;
     choice.path = session.ProgramFolder + "no/such/folder.txt";
     commands.mnusavex();
-    EXPECT_EQ(lastMessage().style, "vbcritical+vbok");
+    EXPECT_EQ(lastMessage().style, "vbok+vbcritical");
     EXPECT_NE(lastMessage().text.find(choice.path), std::string::npos);
     EXPECT_EQ(session.game.board, before);
     EXPECT_EQ(session.game.undoList.size(), 1u);

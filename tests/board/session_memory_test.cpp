@@ -30,7 +30,7 @@ TEST_F(SessionMemoryTest, TheFirstStartOpensTheBundledPuzzlesInTheDefaultScheme)
     const LoadedSession loaded = loadSession(session);
     EXPECT_TRUE(loaded.outcome.ok()) << loaded.outcome.problem;
     EXPECT_EQ(loaded.notice, "");
-    EXPECT_EQ(loaded.last.path, session.ProgramFolder + "puzzles/easy.txt");
+    EXPECT_EQ(session.last.path, session.ProgramFolder + "puzzles/easy.txt");
     EXPECT_EQ(session.appearance.ActiveScheme, "xp.col");
     EXPECT_EQ(session.appearance.HexaFillColour, session.appearance.SchemeColours[slot::Button]);
     EXPECT_EQ(session.arrangements.wordCount, ArrangementCount);
@@ -60,11 +60,17 @@ TEST_F(SessionMemoryTest, WhatWasSetIsThereAgainAfterARestart) {
 
     Session next;
     next.ProgramFolder = session.ProgramFolder;
-    const LoadedSession loaded = loadSession(next);
-    EXPECT_EQ(loaded.last.path, "/home/me/a.txt");
-    EXPECT_EQ(loaded.last.number, 12);
+    EXPECT_TRUE(loadSession(next).outcome.ok());
+    EXPECT_EQ(next.last.path, "/home/me/a.txt");
+    EXPECT_EQ(next.last.number, 12);
     EXPECT_EQ(next.recentFiles, session.recentFiles);
     EXPECT_EQ(next.appearance, session.appearance);
+
+    // No puzzle was shown this time, as when the file's disk is not there.
+    SavecfgFile(next);
+    ASSERT_TRUE(loadSession(session).outcome.ok());
+    EXPECT_EQ(session.last.path, "/home/me/a.txt");
+    EXPECT_EQ(session.last.number, 12);
 }
 
 TEST_F(SessionMemoryTest, AStartClearsWhatAKilledProcessLeft) {
@@ -75,7 +81,7 @@ TEST_F(SessionMemoryTest, AStartClearsWhatAKilledProcessLeft) {
 }
 
 TEST_F(SessionMemoryTest, AMissingOrGarbledDataFileStopsTheStart) {
-    for (const char* garbled : {"", "garbage", "255;255;255\r\n", "xp.col\r\n1;2\r\n"}) {
+    for (const char* garbled : {"", "garbage", "255;255;255\r\n"}) {
         test::put(folder / "all.col", garbled);
         EXPECT_NE(loadSession(session).outcome.problem.find("all.col"), std::string::npos);
     }
@@ -98,6 +104,14 @@ TEST_F(SessionMemoryTest, ASchemeThatIsGoneIsSaidAndTheBuiltInOneServes) {
     const LoadedSession loaded = loadSession(session);
     EXPECT_TRUE(loaded.outcome.ok());
     EXPECT_EQ(loaded.notice, "Colour Scheme: gone.col not found");
+    EXPECT_EQ(session.appearance.ActiveScheme, "default.col");
+}
+
+TEST_F(SessionMemoryTest, ADamagedSchemeIsSaidAndTheBuiltInOneServes) {
+    test::put(folder / "all.col", "xp.col\r\n1;2\r\n");
+    const LoadedSession loaded = loadSession(session);
+    EXPECT_TRUE(loaded.outcome.ok());
+    EXPECT_NE(loaded.notice.find("line 2"), std::string::npos) << loaded.notice;
     EXPECT_EQ(session.appearance.ActiveScheme, "default.col");
 }
 

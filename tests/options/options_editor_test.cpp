@@ -184,12 +184,28 @@ TEST_F(OptionsEditorTest, AddsTheSchemeThatIsShown) {
     EXPECT_EQ(prompts.shown.back(),
               (ScriptedPrompts::Message{"Colour Scheme: OCEAN added", "vbok+vbinformation"}));
     EXPECT_EQ(stored("ocean.col"), built(Orange));
-    EXPECT_EQ(editor.selectedScheme(), 3U);
+    EXPECT_FALSE(editor.selectedScheme()) << "the list was made anew";
     editor.AddSch();
     EXPECT_EQ(prompts.shown.back(),
               (ScriptedPrompts::Message{"Colour Scheme: Ocean already exists", "vbok+vbcritical"}));
     editor.Apply("2");
+    EXPECT_EQ(settings.ActiveScheme, "xp.col");
+    editor.List1_MouseUp(3);
+    editor.Apply("2");
     EXPECT_EQ(settings.ActiveScheme, "ocean.col");
+}
+
+TEST_F(OptionsEditorTest, ASchemeWithoutANameIsListedButNeverChosen) {
+    prompts.lines = {".col"};
+    editor.AddSch();
+    editor.List1_MouseUp(3);
+    editor.RepSch();
+    EXPECT_EQ(lastMessage(), "Select a colour scheme to replace");
+    editor.DelSch();
+    EXPECT_EQ(lastMessage(), "Select a colour scheme to delete");
+    const std::string inForce = settings.ActiveScheme;
+    editor.Apply("2");
+    EXPECT_EQ(settings.ActiveScheme, inForce);
 }
 
 TEST_F(OptionsEditorTest, ReplacesAndDeletesTheSelectedSchemeAfterAQuestion) {

@@ -10,8 +10,8 @@
 
 #include <QApplication>
 #include <QListWidget>
-#include <QTextBrowser>
 #include <QProgressBar>
+#include <QTextBrowser>
 #include <QTimer>
 
 #include <iostream>

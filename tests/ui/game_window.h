@@ -53,8 +53,8 @@ public:
     void restart() {
         window.reset();
         session = Session();
-        const LastPuzzle last = open();
-        window->library().reopen(last.path, last.number);
+        open();
+        window->library().reopen(session.last.path, session.last.number);
     }
 
     /// Finds a control by its name.
@@ -89,14 +89,13 @@ public:
     std::unique_ptr<Form1> window;
 
 private:
-    LastPuzzle open() {
+    void open() {
         session.ProgramFolder = folder.path();
         const LoadedSession loaded = loadSession(session);
         EXPECT_TRUE(loaded.outcome.ok()) << loaded.outcome.problem;
         window = std::make_unique<Form1>(session, m_prompts, fileDialogs, printers);
         window->show();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(window.get()));
-        return loaded.last;
     }
 
     Prompts& m_prompts;

@@ -149,9 +149,9 @@ TEST_F(MainWindow, ExitAsksAndRemembersAndTheCloseBoxDoesNeither) {
 
     Session next;
     next.ProgramFolder = game.folder.path();
-    const LoadedSession loaded = loadSession(next);
-    EXPECT_EQ(loaded.last.path, path);
-    EXPECT_EQ(loaded.last.number, 5);
+    EXPECT_TRUE(loadSession(next).outcome.ok());
+    EXPECT_EQ(next.last.path, path);
+    EXPECT_EQ(next.last.number, 5);
 }
 
 TEST_F(MainWindow, ItsSizeIsRememberedHoweverItIsClosed) {

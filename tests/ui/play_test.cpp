@@ -3,6 +3,7 @@
 
 #include "ui/game_window.h"
 
+#include "board/puzzle_record.h"
 #include "play/selection_walk.h"
 #include "ui/message_box.h"
 
@@ -173,21 +174,74 @@ TEST_F(Play, NothingHappensOutsideCellsOnGivensAndOnTheBlankHexagon) {
             QTest::mouseMove(&game.board(), QPoint(1, 1));
             QTest::mouseMove(&game.board(), point);
             EXPECT_FALSE(game.find(u"Shape1"_s).isVisible());
+            QTest::mouseClick(&game.board(), Qt::LeftButton, {}, point);
             QTest::mouseClick(&game.board(), Qt::RightButton, {}, point);
+            QTest::keyClick(&game.board(), Qt::Key_Menu);
             QTest::keyClick(&game.board(), Qt::Key_3);
+            QTest::keyClick(&game.board(), Qt::Key_Space);
             QTest::keyClick(&game.board(), Qt::Key_Delete);
             EXPECT_FALSE(game.find(u"Picture1"_s).isVisible());
         }
     };
+    const auto pointsOfClosedCells = [this] {
+        std::vector<QPoint> points{{0, 0}, {game.board().width() - 1, game.board().height() - 1}};
+        for (CellId cell : AllCells)
+            if (!game.session.game.isSelectable(cell))
+                points.push_back(game.pointOf(cell));
+        return points;
+    };
+    QTest::mouseClick(&game.find(u"digt_4"_s), Qt::LeftButton);
+    for (bool loaded : {false, true}) {
+        if (loaded)
+            loadEasyPuzzle();
+        const Board fresh = game.session.game.board;
+        tryEverywhere(pointsOfClosedCells());
+        EXPECT_EQ(game.session.game.board, fresh);
+        EXPECT_TRUE(game.session.game.undoList.empty());
+    }
+}
+
+TEST_F(Play, WithoutAPuzzleTagsAndArrowsDoNothing) {
+    QTest::mousePress(&game.find(u"Celltags_4"_s), Qt::LeftButton);
+    EXPECT_EQ(game.session.game.board, Board());
+    for (Qt::Key key : {Qt::Key_Home, Qt::Key_Right, Qt::Key_5})
+        QTest::keyClick(&game.board(), key);
+    EXPECT_EQ(game.session.game.board, Board());
+}
+
+TEST_F(Play, AnotherPuzzleForgetsTheSelectionThePopupAndThePeek) {
     loadEasyPuzzle();
-    const Board fresh = game.session.game.board;
-    std::vector<QPoint> points{{0, 0}, {game.board().width() - 1, game.board().height() - 1}};
-    for (CellId cell : AllCells)
-        if (!game.session.game.isSelectable(cell))
-            points.push_back(game.pointOf(cell));
-    tryEverywhere(points);
-    EXPECT_EQ(game.session.game.board, fresh);
-    EXPECT_TRUE(game.session.game.undoList.empty());
+    const auto expectPuzzleUntouched = [this](int number) {
+        EXPECT_EQ(PuzzleRecord(game.session.game.board), game.session.puzzle.record);
+        EXPECT_EQ(game.session.puzzle.PuzNum, number);
+    };
+    QTest::keyClick(&game.board(), Qt::Key_Home);
+    game.window->library().cmdarrow(1);
+    QTest::keyClick(&game.board(), Qt::Key_5);
+    expectPuzzleUntouched(2);
+
+    const CellId cell = openCells().front();
+    game.pointAt(cell);
+    QTest::mouseClick(&game.board(), Qt::RightButton, {}, game.pointOf(cell));
+    game.window->library().cmdarrow(1);
+    EXPECT_FALSE(game.find(u"Picture1"_s).isVisible());
+    QTest::mouseClick(&game.find(u"Num16_3"_s), Qt::LeftButton);
+    expectPuzzleUntouched(3);
+
+    QWidget& tag = game.find(u"Celltags_%1"_s.arg(cell.hexagon));
+    QTest::mousePress(&tag, Qt::LeftButton);
+    game.window->library().cmdarrow(1);
+    QTest::mouseRelease(&tag, Qt::LeftButton);
+    expectPuzzleUntouched(4);
+}
+
+TEST_F(Play, TheFocusReturnsToTheBoardFromAPopupThatWasOpenedByKey) {
+    loadEasyPuzzle();
+    QTest::keyClick(&game.board(), Qt::Key_Home);
+    QTest::keyClick(&game.board(), Qt::Key_Menu);
+    ASSERT_FALSE(game.board().hasFocus());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    EXPECT_TRUE(game.board().hasFocus());
 }
 
 TEST_F(Play, AssistsAnswerToTheirButtons) {
