@@ -8,10 +8,10 @@
 #include "options/option_samples.h"
 #include "options/sample_board.h"
 #include "ui/box_control.h"
+#include "ui/choice_buttons.h"
 #include "ui/path_text.h"
 #include "ui/qt_colour.h"
 #include "ui/scheme_palette.h"
-#include "ui/tick_box.h"
 
 #include <QCheckBox>
 #include <QFontDatabase>

@@ -8,18 +8,17 @@
 #include "board/puzzle_file.h"
 #include "output/printers.h"
 #include "ui/box_control.h"
+#include "ui/choice_buttons.h"
 #include "ui/file_name_picker.h"
 #include "ui/path_text.h"
 #include "ui/qt_colour.h"
 #include "ui/scheme_palette.h"
 
-#include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QRadioButton>
 #include <QVBoxLayout>
 
 namespace tessaly {
@@ -127,12 +126,12 @@ void Form5::makePageFrame() {
     auto* row = static_cast<QHBoxLayout*>(frame->layout());
     for (std::size_t i = 0; i < m_perPage.size(); ++i) {
         const QString count = QString::number(PuzzlesPerPage[i]);
-        m_perPage[i] = named(new QRadioButton(count, frame), u"perPage_"_s + count);
+        m_perPage[i] = named(new OptionDot(count, frame), u"perPage_"_s + count);
         m_perPage[i]->setChecked(PuzzlesPerPage[i] == PrintRange::UsualPuzzlesPerPage);
         row->addWidget(m_perPage[i]);
     }
     row->addStretch();
-    m_solutions = named(new QCheckBox(tr("Solutions at the end"), frame), u"withSolutions"_s);
+    m_solutions = named(new TickBox(tr("Solutions at the end"), frame), u"withSolutions"_s);
     m_solutions->setChecked(true);
     row->addWidget(m_solutions);
 }

@@ -4,8 +4,8 @@
 #include "solver/developer_row.h"
 
 #include "ui/box_control.h"
+#include "ui/choice_buttons.h"
 
-#include <QCheckBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QVBoxLayout>
@@ -31,7 +31,7 @@ DeveloperRow::DeveloperRow(QWidget* parent)
     , reread(addButton(u"ReReadPuzzle"_s, u"Command6"_s, tr("Read the puzzle again")))
     , debugSolve(addButton(u"DebugSolve"_s, u"DebugSolve"_s, tr("Solve rule by rule")))
     , xcellRule(addButton(u"Xcell Pairs"_s, u"FixXcellPairs"_s, tr("Apply the xcell rule once")))
-    , m_debug(new QCheckBox(u"Debug"_s, this))
+    , m_debug(new TickBox(u"Debug"_s, this))
     , m_text(new QLabel(this)) {
     m_debug->setObjectName(u"Check1"_s);
     m_text->setObjectName(u"DeveloperText"_s);

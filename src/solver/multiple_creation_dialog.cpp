@@ -4,17 +4,16 @@
 #include "solver/multiple_creation_dialog.h"
 
 #include "ui/box_control.h"
+#include "ui/choice_buttons.h"
 #include "ui/file_name_picker.h"
 #include "ui/path_text.h"
 #include "ui/scheme_palette.h"
 #include "ui/status_line.h"
 
-#include <QCheckBox>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QRadioButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -63,9 +62,9 @@ QWidget* Form3::makeDifficultyFrame() {
     auto* frame = new QGroupBox(tr("Difficulty Level"), this);
     auto* row = new QHBoxLayout(frame);
     row->setSpacing(2 * Spacing);
-    m_random = named(new QRadioButton(u"Random"_s, frame), u"Option1_0"_s);
-    m_easy = named(new QRadioButton(u"Easy"_s, frame), u"Option1_1"_s);
-    m_hard = named(new QRadioButton(u"Hard"_s, frame), u"Option1_2"_s);
+    m_random = named(new OptionDot(u"Random"_s, frame), u"Option1_0"_s);
+    m_easy = named(new OptionDot(u"Easy"_s, frame), u"Option1_1"_s);
+    m_hard = named(new OptionDot(u"Hard"_s, frame), u"Option1_2"_s);
     m_random->setChecked(true);
     for (QRadioButton* option : {m_random, m_easy, m_hard})
         row->addWidget(option);
@@ -95,7 +94,7 @@ QWidget* Form3::makeFileFrame(FileDialogs& fileDialogs) {
     m_picker->setToolTip(tr("Choose another file"));
     row->addWidget(m_file, 1);
     row->addWidget(m_picker);
-    m_default = named(new QCheckBox(tr("Use the default file"), frame), u"Check3"_s);
+    m_default = named(new TickBox(tr("Use the default file"), frame), u"Check3"_s);
     m_default->setChecked(true);
     rows->addLayout(row);
     rows->addWidget(m_default);

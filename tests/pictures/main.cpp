@@ -7,6 +7,7 @@
 #include "options/scheme_library.h"
 #include "output/print_progress.h"
 #include "ui/game_window.h"
+#include "ui/message_box.h"
 
 #include <QApplication>
 #include <QListWidget>
@@ -71,10 +72,15 @@ void takeSizes(Pictures& pictures) {
     pictures.take(*game.window, u"popup"_s);
     QTest::mouseClick(&game.find(u"digt_3"_s), Qt::LeftButton);
     QTest::mouseClick(&game.find(u"StatLab"_s), Qt::LeftButton);
-    game.window->resize(game.window->minimumSizeHint());
-    pictures.take(*game.window, u"smallest"_s);
-    game.window->resize(1600, 1200);
-    pictures.take(*game.window, u"largest"_s);
+    const auto takeWithPopup = [&](QSize size, const QString& name) {
+        game.window->resize(size);
+        QApplication::processEvents();
+        game.pointAt(cell);
+        QTest::mouseClick(&game.board(), Qt::RightButton, {}, game.pointOf(cell));
+        pictures.take(*game.window, name);
+    };
+    takeWithPopup(game.window->minimumSizeHint(), u"smallest"_s);
+    takeWithPopup({1600, 1200}, u"largest"_s);
     game.window->resize(1500, 600);
     pictures.take(*game.window, u"wide"_s);
 }
@@ -156,6 +162,32 @@ void takePrinting(Pictures& pictures, const QString& scheme) {
     pictures.take(progress, u"print-progress-"_s + scheme);
 }
 
+/// Takes the picture of a dialog that waits for an answer, and closes it.
+void takeWhenOpen(Pictures& pictures, const QString& name) {
+    QTimer::singleShot(100, [&pictures, name] {
+        QWidget* dialog = QApplication::activeModalWidget();
+        if (dialog == nullptr)
+            return;
+        pictures.take(*dialog, name);
+        dialog->close();
+    });
+}
+
+/// The small dialogs: creation of many puzzles, a message, a line of text.
+void takeDialogs(Pictures& pictures, const QString& scheme) {
+    GameWindow game;
+    EXPECT_TRUE(SchemeLibrary(game.folder.path())
+                    .LoadScheme(scheme.toStdString() + ".col", game.session.appearance)
+                    .ok());
+    takeWhenOpen(pictures, u"creation-"_s + scheme);
+    game.find<QAction>(u"mnucreaten_1"_s).trigger();
+    MsgForm box(game.session.appearance);
+    takeWhenOpen(pictures, u"message-"_s + scheme);
+    box.message("Delete current puzzle from file?", "vbyesno+vbquestion");
+    takeWhenOpen(pictures, u"prompt-"_s + scheme);
+    static_cast<void>(box.ask("Enter new Colour Scheme name"));
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -171,7 +203,9 @@ int main(int argc, char** argv) {
     takeSizes(pictures);
     takeSchemes(pictures);
     takeHelpInSchemes(pictures);
-    for (const QString& scheme : {u"xp"_s, u"night"_s})
+    for (const QString& scheme : {u"xp"_s, u"night"_s}) {
         takePrinting(pictures, scheme);
+        takeDialogs(pictures, scheme);
+    }
     return 0;
 }
