@@ -1,14 +1,20 @@
 include(GoogleTest)
 find_package(GTest REQUIRED)
 
-# Adds a test program made of GoogleTest files; every test of it becomes one of CTest's.
-function(tessaly_add_test name)
-  cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES;PROPERTIES" ${ARGN})
+# Adds a test program made of GoogleTest files.
+function(tessaly_add_test_program name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
   target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
   target_compile_definitions(
     ${name} PRIVATE TESSALY_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data"
                     TESSALY_DATA="${PROJECT_SOURCE_DIR}/data")
   target_link_libraries(${name} PRIVATE tessaly_flags ${ARG_LIBRARIES})
+endfunction()
+
+# Adds a test program; every test of it becomes one of CTest's.
+function(tessaly_add_test name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES;PROPERTIES" ${ARGN})
+  tessaly_add_test_program(${name} SOURCES ${ARG_SOURCES} LIBRARIES ${ARG_LIBRARIES})
   gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST PROPERTIES TIMEOUT 300 ${ARG_PROPERTIES})
 endfunction()
