@@ -43,8 +43,9 @@ private:
 /// The main window as a test uses it: shown offscreen, its questions answered by the test.
 class GameWindow {
 public:
-    explicit GameWindow(Prompts* otherPrompts = nullptr)
-        : m_prompts(otherPrompts != nullptr ? *otherPrompts : prompts) {
+    explicit GameWindow(Prompts* otherPrompts = nullptr, Printers* otherPrinters = nullptr)
+        : m_prompts(otherPrompts != nullptr ? *otherPrompts : prompts)
+        , m_printers(otherPrinters != nullptr ? *otherPrinters : printers) {
         open();
         window->library().reopen({}, 1);
     }
@@ -93,12 +94,13 @@ private:
         session.ProgramFolder = folder.path();
         const LoadedSession loaded = loadSession(session);
         EXPECT_TRUE(loaded.outcome.ok()) << loaded.outcome.problem;
-        window = std::make_unique<Form1>(session, m_prompts, fileDialogs, printers);
+        window = std::make_unique<Form1>(session, m_prompts, fileDialogs, m_printers);
         window->show();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(window.get()));
     }
 
     Prompts& m_prompts;
+    Printers& m_printers;
 };
 
 } // namespace tessaly
