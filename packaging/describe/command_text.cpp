@@ -11,10 +11,10 @@ namespace {
 ValueKind kindOf(const std::string& value) {
     if (value.empty())
         return ValueKind::None;
+    if (value == "FILE" || value.starts_with("OUT"))
+        return ValueKind::File;
     if (value.find('|') != std::string::npos)
         return ValueKind::Choice;
-    if (value == "FILE" || value.find('.') != std::string::npos)
-        return ValueKind::File;
     return value == "DIR" ? ValueKind::Folder : ValueKind::Text;
 }
 

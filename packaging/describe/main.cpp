@@ -5,6 +5,7 @@
 // that --help tells: describe PROGRAM man|bash|zsh|fish [APPENDIX]
 
 #include "app/game_options.h"
+#include "cli/drawing_commands.h"
 #include "cli/program.h"
 #include "command_text.h"
 
@@ -32,8 +33,10 @@ CommandText cliText() {
     CLI::App app;
     describeProgram(app);
     const auto commands = allCommands();
-    for (const auto& command : commands)
-        command->addTo(app);
+    const auto drawing = drawingCommands();
+    for (const auto* some : {&commands, &drawing})
+        for (const auto& command : *some)
+            command->addTo(app);
     return describe(app);
 }
 

@@ -56,18 +56,19 @@ CLI::App& PrintCommand::addTo(CLI::App& program) {
                    "--output booklet.pdf");
     command.add_option("FILE", m_file, "The puzzle file")->required()->type_name("");
     command.add_option("--from", m_from, "The first puzzle (by default 1)")
-        ->check(CLI::Range(1, Most))
+        ->check(CLI::Range(1, Most).description(""))
         ->type_name("A");
     command.add_option("--to", m_to, "The last puzzle (by default the file's last)")
-        ->check(CLI::Range(1, Most))
+        ->check(CLI::Range(1, Most).description(""))
         ->type_name("B");
     command.add_option("--per-page", m_perPage, "How many puzzles a page holds (by default 4)")
-        ->check(CLI::IsMember(std::vector<int>(PuzzlesPerPage.begin(), PuzzlesPerPage.end())))
-        ->type_name("");
+        ->check(CLI::IsMember(std::vector<int>(PuzzlesPerPage.begin(), PuzzlesPerPage.end()))
+                    .description(""))
+        ->type_name("1|2|4|6");
     command.add_flag("--no-solutions", m_noSolutions, "Leave the solutions out");
     command.add_option("--paper", m_paper, "The paper (by default a4)")
-        ->check(CLI::IsMember(paperNames()))
-        ->type_name("");
+        ->check(CLI::IsMember(paperNames()).description(""))
+        ->type_name("a4|letter");
     command.add_option("--output", m_output, "The PDF file")->required()->type_name("OUT.pdf");
     return command;
 }

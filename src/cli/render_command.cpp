@@ -38,7 +38,7 @@ CLI::App& RenderCommand::addTo(CLI::App& program) {
     command.add_option("FILE", m_file, "The puzzle file")->required()->type_name("");
     command.add_option("--number", m_number, "The puzzle")
         ->required()
-        ->check(CLI::Range(1, std::numeric_limits<int>::max()))
+        ->check(CLI::Range(1, std::numeric_limits<int>::max()).description(""))
         ->type_name("N");
     command.add_option("--output", m_output, "The picture; its ending says which kind")
         ->required()
@@ -52,8 +52,10 @@ CLI::App& RenderCommand::addTo(CLI::App& program) {
     command.add_flag("--solution", m_solution, "Draw its solution");
     constexpr double Smallest = 0.25;
     constexpr double Largest = 16;
-    command.add_option("--scale", m_scale, "How large, 1 being 506 by 476 pixels (by default 1)")
-        ->check(CLI::Range(Smallest, Largest))
+    command
+        .add_option("--scale", m_scale,
+                    "How large, from 0.25 to 16; 1 is 506 by 476 pixels (by default 1)")
+        ->check(CLI::Range(Smallest, Largest).description(""))
         ->type_name("S");
     command.add_option("--scheme", m_scheme, "A colour scheme, instead of black on white")
         ->type_name("NAME");
