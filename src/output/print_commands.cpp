@@ -76,7 +76,8 @@ Outcome PrintCommands::paint(QPrinter& printer, const PrintJob& job) {
     if (!file.isEmpty())
         return writePdf(file.toStdString(), paperOf(printer), job, m_session.appearance, always)
             .outcome;
-    if (!printer.isValid())
+    // Without a printer Qt takes to PDF, whether a file is named or not.
+    if (!printer.isValid() || printer.outputFormat() == QPrinter::PdfFormat)
         return Outcome::failed("There is no printer.");
     printer.setFullPage(true);
     return paintBooklet(printer, job, m_session.appearance, always).outcome;

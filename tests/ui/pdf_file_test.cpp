@@ -3,13 +3,10 @@
 
 #include "output/pdf_file.h"
 
+#include "support/full_disk.h"
 #include "support/pdf_document.h"
 #include "support/sample_puzzles.h"
 #include "support/temporary_folder.h"
-
-#include "board/file_access.h"
-
-#include <sys/resource.h>
 
 namespace tessaly {
 namespace {
@@ -168,30 +165,13 @@ TEST_F(PdfFile, LeavesWhatWasThereWhenItFailsOrIsStopped) {
               std::string::npos);
 }
 
-/// Files may not grow beyond a size while this lives: as on a disk that is full.
-class FullDisk {
-public:
-    explicit FullDisk(rlim_t size) {
-        surviveFileSizeLimit();
-        ::getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit limit{size, m_before.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-    ~FullDisk() { ::setrlimit(RLIMIT_FSIZE, &m_before); }
-
-private:
-    rlimit m_before{};
-};
-
 TEST_F(PdfFile, AFullDiskIsNoSuccess) {
     const PrintJob job{Booklet(30, {{false, 1}}), 1, sample, {}};
     ASSERT_TRUE(print(job).isComplete());
     const auto size = std::filesystem::file_size(path);
     std::filesystem::remove(path);
     for (const auto room : {size / 2, size - 1}) {
-        const FullDisk disk(room);
+        const test::FullDisk disk(room);
         const PrintResult result = print(job);
         EXPECT_NE(result.outcome.problem.find("File too large"), std::string::npos)
             << result.outcome.problem;

@@ -85,6 +85,9 @@ TEST_F(Printing, OneThatIsCancelledOrCannotBeWrittenPrintsNothing) {
     choose(u"mnuprintx_0"_s);
     EXPECT_NE(game.prompts.shown.back().text.find("/nowhere/out.pdf"), std::string::npos);
     EXPECT_EQ(game.prompts.shown.back().style, "vbok+vbcritical");
+    game.printers.userSetsUp = [](QPrinter&) { return true; };
+    choose(u"mnuprintx_0"_s);
+    EXPECT_EQ(game.prompts.shown.back().text, "There is no printer.");
     game.window->library().goTo(1);
     game.session.puzzle = {};
     choose(u"mnuprintx_0"_s);
@@ -93,7 +96,7 @@ TEST_F(Printing, OneThatIsCancelledOrCannotBeWrittenPrintsNothing) {
     choose(u"mnuprintx_0"_s);
     choose(u"mnuprintx_4"_s);
     EXPECT_EQ(game.prompts.shown.back().text, "Let AutoCreate finish first");
-    EXPECT_EQ(game.printers.asked, 2);
+    EXPECT_EQ(game.printers.asked, 3);
 }
 
 TEST_F(Printing, ARangeGoesToAPdfFileWithoutWhatThePlayerEntered) {
@@ -155,8 +158,25 @@ TEST_F(Printing, BadFilesAreNamedAndNothingIsPrinted) {
     printMultipleToPdf(u"1"_s, u"4"_s);
     EXPECT_NE(game.prompts.shown.back().text.find(puzzles + ": line 2: the record has"),
               std::string::npos);
+    printMultiple(u"1"_s, u"3"_s, u"Laser"_s);
+    EXPECT_NE(game.prompts.shown.back().text.find("line 2"), std::string::npos);
+    EXPECT_EQ(game.prompts.shown.back().style, "vbok+vbcritical");
+    meanwhile = [&] { std::filesystem::remove(puzzles); };
+    printMultiple(u"1"_s, u"4"_s, u"Laser"_s);
+    EXPECT_NE(game.prompts.shown.back().text.find(puzzles), std::string::npos);
     EXPECT_TRUE(game.printers.printed.empty());
     EXPECT_FALSE(std::filesystem::exists(pdf));
+    EXPECT_FALSE(game.session.busy.isBusy());
+}
+
+TEST_F(Printing, AFileThatCannotBeWrittenIsNamed) {
+    std::filesystem::create_directory(pdf);
+    for (const std::string& path : {pdf, std::string("/nowhere/out.pdf")}) {
+        pdf = path;
+        printMultipleToPdf(u"1"_s, u"4"_s);
+        EXPECT_NE(game.prompts.shown.back().text.find(path), std::string::npos);
+        EXPECT_EQ(game.prompts.shown.back().style, "vbok+vbcritical");
+    }
     EXPECT_FALSE(game.session.busy.isBusy());
 }
 
