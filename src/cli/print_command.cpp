@@ -19,6 +19,7 @@ namespace {
 
 std::vector<std::string> paperNames() {
     std::vector<std::string> names;
+    names.reserve(NamedPapers.size());
     for (const NamedPaper& paper : NamedPapers)
         names.emplace_back(paper.name);
     return names;
