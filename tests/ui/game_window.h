@@ -30,7 +30,7 @@ public:
 
     /// A copy of one of the sample puzzle files.
     std::string puzzles(const std::string& name) const {
-        const std::string copy = path() + name;
+        std::string copy = path() + name;
         std::filesystem::copy_file(std::filesystem::path(TESSALY_TEST_DATA) / "puzzles" / name,
                                    copy);
         return copy;

@@ -134,7 +134,7 @@ TEST_F(PdfFile, DrawsEntriesAndMarksAsTheyStandOnTheBoard) {
     const PrintJob job{Booklet(1, {{false, 1}}),
                        1,
                        [](int number, Board& board) {
-                           const Outcome read = sample(number, board);
+                           Outcome read = sample(number, board);
                            board.CellNum[10][1] = "4";
                            board.CellNum[10][4] = "246";
                            return read;
