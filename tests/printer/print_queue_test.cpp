@@ -58,7 +58,7 @@ protected:
     std::string take() {
         EXPECT_TRUE(QTest::qWaitFor(allIsPrinted, 60'000));
         EXPECT_EQ(arrived().size(), 1);
-        const std::string sheets = game.folder.path() + "sheets.pdf";
+        std::string sheets = game.folder.path() + "sheets.pdf";
         EXPECT_TRUE(printed().rename(arrived().value(0), QString::fromStdString(sheets)));
         return sheets;
     }

@@ -69,7 +69,7 @@ TEST_F(Printing, PrintsTheShownPuzzleItsSolutionOrBoth) {
     choose(u"mnuprintx_1"_s);
     EXPECT_EQ(PdfDocument(pdf).pageCount(), 1);
     constexpr std::size_t CaptionsAndFooter = 8;
-    EXPECT_EQ(count(), (HexagonCount - 1) * CellCount + CaptionsAndFooter);
+    EXPECT_EQ(count(), std::size_t{HexagonCount - 1} * CellCount + CaptionsAndFooter);
     choose(u"mnuprintx_2"_s);
     EXPECT_EQ(PdfDocument(pdf).pageCount(), 2);
     EXPECT_EQ(game.prompts.shown, std::vector<ScriptedPrompts::Message>{});
