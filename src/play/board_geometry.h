@@ -75,7 +75,8 @@ namespace detail {
 
 /// The nearest whole number, halves to the even one.
 constexpr double roundHalfToEven(double value) {
-    const auto below = static_cast<long>(value) - (value < static_cast<long>(value) ? 1 : 0);
+    const auto towardsZero = static_cast<long>(value);
+    const long below = towardsZero - (value < static_cast<double>(towardsZero) ? 1 : 0);
     const double over = value - static_cast<double>(below);
     const bool up = over > 0.5 || (over == 0.5 && below % 2 != 0);
     return static_cast<double>(below + (up ? 1 : 0));
