@@ -9,6 +9,7 @@
 #include "board/session_memory.h"
 #include "output/printers.h"
 #include "ui/file_dialogs.h"
+#include "ui/icon_set.h"
 #include "ui/main_window.h"
 #include "ui/message_box.h"
 #include "ui/scheme_palette.h"
@@ -25,20 +26,19 @@ using namespace tessaly;
 constexpr const char* Critical = "vbok+vbcritical";
 
 bool hasDisplay() {
-    return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
-           qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+    return !qEnvironmentVariableIsEmpty("DISPLAY") ||
+           !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
 }
 
-/// Without a display only a picture can be made.
+/// A picture is made without a display, so that it is the same on every machine.
 bool choosePlatform(const GameOptions& options) {
-    if (hasDisplay())
+    if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         return true;
-    if (options.screenshot.empty()) {
+    if (!options.screenshot.empty())
+        return qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (!hasDisplay())
         std::cerr << "tessaly: there is no display to open a window on\n";
-        return false;
-    }
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    return true;
+    return hasDisplay();
 }
 
 /// Finds the data files and reads them; tells the user when the game cannot start.
@@ -103,5 +103,6 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName(QString::fromLatin1(Product::Name));
     QApplication::setApplicationVersion(QString::fromLatin1(Product::Version));
     QApplication::setDesktopFileName(QString::fromLatin1(Product::DesktopName));
+    QApplication::setWindowIcon(productIcon());
     return run(line.options);
 }

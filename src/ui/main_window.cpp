@@ -17,7 +17,6 @@
 #include "ui/file_drop.h"
 #include "ui/file_name_picker.h"
 #include "ui/help_window.h"
-#include "ui/icon_set.h"
 #include "ui/scheme_palette.h"
 #include "ui/shortcuts.h"
 #include "ui/status_line.h"
@@ -72,7 +71,6 @@ Form1::Form1(Session& session, Prompts& prompts, FileDialogs& fileDialogs, Print
               {this, m_display, prompts, *m_picker, m_printDialog, m_printProgress}) {
     setObjectName(u"Form1"_s);
     setWindowTitle(u"Tessaly"_s);
-    setWindowIcon(productIcon());
     setContextMenuPolicy(Qt::NoContextMenu);
     m_picker->setObjectName(u"gf1"_s);
     m_picker->hide();

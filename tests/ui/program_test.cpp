@@ -19,12 +19,13 @@ struct Ended {
     QString complained;
 };
 
-/// Runs the game to its end, without a display.
-Ended start(const QStringList& arguments) {
+/// Runs the game to its end, without a display or with one that does not answer.
+Ended start(const QStringList& arguments, const QString& display = {}) {
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    for (const QString& name : {u"DISPLAY"_s, u"WAYLAND_DISPLAY"_s, u"QT_QPA_PLATFORM"_s})
+    for (const QString& name : {u"WAYLAND_DISPLAY"_s, u"QT_QPA_PLATFORM"_s})
         environment.remove(name);
+    environment.insert(u"DISPLAY"_s, display);
     process.setProcessEnvironment(environment);
     process.start(QStringLiteral(TESSALY_GAME), arguments);
     EXPECT_TRUE(process.waitForFinished());
@@ -36,7 +37,7 @@ class Program : public testing::Test {
 protected:
     Ended draw(QStringList arguments) const {
         arguments << u"--folder"_s << folderName() << u"--screenshot"_s << picture();
-        return start(arguments);
+        return start(arguments, u":4711"_s);
     }
 
     QString folderName() const { return QString::fromStdString(folder.path()); }
