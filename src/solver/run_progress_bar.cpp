@@ -7,6 +7,13 @@ namespace tessaly {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// Between the text and the ends of the bar.
+constexpr int TextMargin = 4;
+
+} // namespace
+
 RunProgressBar::RunProgressBar(QWidget* parent)
     : QProgressBar(parent) {
     setObjectName(u"runProgress"_s);
@@ -21,17 +28,38 @@ RunProgressBar::RunProgressBar(QWidget* parent)
 void RunProgressBar::begin() {
     setRange(0, 0);
     setFormat({});
+    m_timeLeft.clear();
     setVisible(true);
 }
 
 void RunProgressBar::show(const RunProgress& progress) {
     setRange(0, progress.count);
     setValue(progress.made);
-    setFormat(tr("%p% · %1 left").arg(durationText(progress.left)));
+    m_timeLeft = durationText(progress.left);
+    showText();
 }
 
 void RunProgressBar::end() {
     hide();
+}
+
+void RunProgressBar::resizeEvent(QResizeEvent* event) {
+    QProgressBar::resizeEvent(event);
+    showText();
+}
+
+/// As much as there is room for: the share that is done and the time left, or the share alone.
+void RunProgressBar::showText() {
+    if (m_timeLeft.isEmpty())
+        return;
+    const QString left = tr("%1 left").arg(m_timeLeft);
+    setToolTip(left);
+    for (const QString& text :
+         {tr("%p% · %1").arg(left), tr("%p% · %1").arg(m_timeLeft), u"%p%"_s}) {
+        setFormat(text);
+        if (fontMetrics().horizontalAdvance(this->text()) + 2 * TextMargin <= width())
+            return;
+    }
 }
 
 QString durationText(std::chrono::seconds duration) {

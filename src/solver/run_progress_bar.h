@@ -19,6 +19,14 @@ public:
     void begin();
     void show(const RunProgress& progress);
     void end();
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void showText();
+
+    QString m_timeLeft;
 };
 
 /// A time as people say it: "45 s", "2 min 5 s", "1 h 20 min".

@@ -10,6 +10,8 @@
 #include <QLabel>
 #include <QLineEdit>
 
+#include <algorithm>
+
 namespace tessaly {
 namespace {
 
@@ -21,6 +23,9 @@ constexpr int Spacing = 6;
 constexpr int GroupSpacing = 18;
 /// Room for the numbers of a library of a million puzzles.
 constexpr QLatin1String WidestNumber("1000000");
+
+/// Room for this count even while there is none, so that the row rarely moves.
+constexpr QLatin1String UsualCount(" of 1000");
 
 } // namespace
 
@@ -70,7 +75,6 @@ void ToolRow::addNumberBox() {
     m_puzNumber = new QLabel(this);
     m_puzNumber->setObjectName(u"puznumber"_s);
     m_puzNumber->setTextFormat(Qt::PlainText);
-    m_puzNumber->setMinimumWidth(fontMetrics().horizontalAdvance(u" of 1000"_s));
     m_row->addWidget(m_puzNumNow);
     m_row->addWidget(m_puzNumber);
 }
@@ -87,6 +91,8 @@ BoxControl* ToolRow::addDifficultyLabel() {
 void ToolRow::showPuzzleNumber(int number, int count) {
     m_puzNumNow->setText(count > 0 ? QString::number(number) : QString());
     m_puzNumber->setText(count > 0 ? u" of %1"_s.arg(count) : QString());
+    m_puzNumber->setMinimumWidth(std::max(m_puzNumber->fontMetrics().horizontalAdvance(UsualCount),
+                                          m_puzNumber->sizeHint().width()));
 }
 
 void ToolRow::showDifficulty(DifficultyChoice difficulty) {

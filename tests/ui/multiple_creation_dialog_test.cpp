@@ -109,7 +109,7 @@ TEST_F(AutoCreate, MakesWhatWasOrderedAndShowsHowFarItIs) {
     bool seen = false;
     duringTheRun([&] {
         seen = bar.isVisible() && bar.maximum() == 250 && bar.value() > 0 &&
-               bar.text().contains(u"left"_s) &&
+               bar.toolTip().endsWith(u" left"_s) && bar.text().contains(u" · "_s) &&
                game.find<QLineEdit>(u"PuzNumNow"_s).text().toInt() == bar.value() &&
                game.find<QLabel>(u"puznumber"_s).text() == u" of 250"_s &&
                game.find<QLabel>(u"PuzFileName"_s).text() == u"multipuzfile.txt"_s &&
