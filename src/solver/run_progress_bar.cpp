@@ -20,7 +20,7 @@ RunProgressBar::RunProgressBar(QWidget* parent)
     QSizePolicy keepingItsPlace(QSizePolicy::Expanding, QSizePolicy::Fixed);
     keepingItsPlace.setRetainSizeWhenHidden(true);
     setSizePolicy(keepingItsPlace);
-    setMinimumWidth(1);
+    setMinimumWidth(fontMetrics().horizontalAdvance(u"100%"_s) + 2 * TextMargin);
     setAccessibleName(tr("Progress"));
     hide();
 }

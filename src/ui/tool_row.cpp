@@ -38,13 +38,13 @@ ToolRow::ToolRow(QWidget* parent)
     cmdarrow[0] = addButton(Picture::Previous, u"Previous Puzzle"_s, u"cmdarrow_0"_s);
     addNumberBox();
     cmdarrow[1] = addButton(Picture::Next, u"Next Puzzle"_s, u"cmdarrow_1"_s);
-    m_row->addSpacing(GroupSpacing);
+    addGap();
     cmdcreate = addButton(Picture::Create, u"Create a New Puzzle"_s, u"cmdcreate"_s);
     DifLab = addDifficultyLabel();
-    m_row->addSpacing(GroupSpacing);
+    addGap();
     progress = new RunProgressBar(this);
     m_row->addWidget(progress, 1);
-    m_row->addSpacing(GroupSpacing);
+    addGap();
     cmdundo = addButton(Picture::Undo, u"Undo"_s, u"cmdundo"_s);
     cmdreset = addButton(Picture::Reset, u"Reset Puzzle"_s, u"cmdreset"_s);
     cmdshowsol = addButton(Picture::ShowSolution, u"Show Solution"_s, u"cmdshowsol"_s);
@@ -58,6 +58,11 @@ BoxControl* ToolRow::addButton(Picture picture, const QString& toolTip, const QS
     button->setIconSize({PictureSize, PictureSize});
     m_row->addWidget(button);
     return button;
+}
+
+/// Sets the next group apart, as long as nothing else needs the room.
+void ToolRow::addGap() {
+    m_row->addSpacerItem(new QSpacerItem(GroupSpacing, 0, QSizePolicy::Maximum));
 }
 
 void ToolRow::addNumberBox() {

@@ -45,6 +45,7 @@ Q_SIGNALS:
 
 private:
     BoxControl* addButton(Picture picture, const QString& toolTip, const QString& name);
+    void addGap();
     void addNumberBox();
     BoxControl* addDifficultyLabel();
 

@@ -6,8 +6,11 @@
 
 #include "options/scheme_library.h"
 #include "output/print_progress.h"
+#include "solver/developer_row.h"
+#include "solver/run_progress_bar.h"
 #include "ui/game_window.h"
 #include "ui/message_box.h"
+#include "ui/tool_row.h"
 
 #include <QApplication>
 #include <QListWidget>
@@ -188,6 +191,24 @@ void takeDialogs(Pictures& pictures, const QString& scheme) {
     static_cast<void>(box.ask("Enter new Colour Scheme name"));
 }
 
+/// A long run of the developer's tools, as it stands at the usual and the smallest size.
+void takeRun(Pictures& pictures) {
+    GameWindow game;
+    game.window->library().load(game.folder.puzzles("hard.txt"));
+    game.window->findChild<DeveloperRow*>()->show();
+    RunProgress progress;
+    progress.made = 912;
+    progress.count = 30000;
+    progress.left = std::chrono::seconds(32);
+    auto& bar = game.find<RunProgressBar>(u"runProgress"_s);
+    bar.begin();
+    bar.show(progress);
+    game.window->findChild<ToolRow*>()->showPuzzleNumber(progress.made, progress.count);
+    pictures.take(*game.window, u"run"_s);
+    game.window->resize(game.window->minimumSizeHint());
+    pictures.take(*game.window, u"run-smallest"_s);
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -201,6 +222,7 @@ int main(int argc, char** argv) {
     const QApplication application(argc, argv);
     Pictures pictures(QString::fromLocal8Bit(argv[1]));
     takeSizes(pictures);
+    takeRun(pictures);
     takeSchemes(pictures);
     takeHelpInSchemes(pictures);
     for (const QString& scheme : {u"xp"_s, u"night"_s}) {
