@@ -13,7 +13,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 namespace tessaly {
 namespace {
@@ -74,11 +73,11 @@ BoardRenderer::BoardRenderer(QPainter& painter, const Board& board, const Appear
                     Digits::AsOutlines) {}
 
 BoardRenderer::BoardRenderer(QPainter& painter, const Board& board, const BoardStyle& style,
-                             std::string font, Digits digits)
-    : BoardRenderer(painter, board, style, std::move(font), Fit::Exact, digits) {}
+                             const std::string& font, Digits digits)
+    : BoardRenderer(painter, board, style, font, Fit::Exact, digits) {}
 
 BoardRenderer::BoardRenderer(QPainter& painter, const Board& board, const BoardStyle& style,
-                             std::string font, Fit lines, Digits digits)
+                             const std::string& font, Fit lines, Digits digits)
     : m_painter(painter)
     , m_board(board)
     , m_style(style)

@@ -31,8 +31,8 @@ public:
     BoardRenderer(QPainter& painter, const Board& board, const Appearance& appearance,
                   Fit lines = Fit::Exact);
     /// Draws in a style of its own; digits as text become characters of a document.
-    BoardRenderer(QPainter& painter, const Board& board, const BoardStyle& style, std::string font,
-                  Digits digits);
+    BoardRenderer(QPainter& painter, const Board& board, const BoardStyle& style,
+                  const std::string& font, Digits digits);
     BoardRenderer(const BoardRenderer&) = delete;
     BoardRenderer& operator=(const BoardRenderer&) = delete;
 
@@ -48,8 +48,8 @@ public:
     void DrawSolution(Colour colour);
 
 private:
-    BoardRenderer(QPainter& painter, const Board& board, const BoardStyle& style, std::string font,
-                  Fit lines, Digits digits);
+    BoardRenderer(QPainter& painter, const Board& board, const BoardStyle& style,
+                  const std::string& font, Fit lines, Digits digits);
     void fillHexagon(int hexagon);
     void drawHatching(int hexagon);
     void drawCellLines(int hexagon);
