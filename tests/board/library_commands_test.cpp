@@ -26,7 +26,7 @@ protected:
     ~LibraryCommandsTest() override { EXPECT_EQ(display.busyDepth, 0); }
 
     std::string fileOf(const std::string& name, const std::string& content) {
-        const std::string path = session.ProgramFolder + name;
+        std::string path = session.ProgramFolder + name;
         EXPECT_TRUE(replaceFile(path, content).ok());
         return path;
     }
