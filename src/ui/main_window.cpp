@@ -14,6 +14,7 @@
 #include "solver/developer_row.h"
 #include "ui/about_box.h"
 #include "ui/box_control.h"
+#include "ui/command_connections.h"
 #include "ui/file_drop.h"
 #include "ui/file_name_picker.h"
 #include "ui/help_window.h"
@@ -51,42 +52,19 @@ Form1::Form1(Session& session, Prompts& prompts, FileDialogs& fileDialogs, Print
     , m_options(new Form2x(session.appearance, session.ProgramFolder, prompts, this))
     , m_help(new Form4(session.appearance, this))
     , m_about(new AboutForm(session.appearance, this))
-    , m_puzzleFiles(*m_picker, session.ProgramFolder)
     , m_display(session, {m_menu, *m_tools, *m_board, *m_palette, *m_status})
-    , m_play(session.game, session.busy, session.appearance, m_display, prompts)
-    , m_input(session.game, session.busy, m_play, m_display, m_display, prompts)
-    , m_library(session, m_display, m_display, prompts, m_puzzleFiles)
-    , m_creation(session, m_library, m_display, m_display, prompts, Chance(Chance::freshSeed()))
-    , m_creationDialog(session.appearance, fileDialogs, prompts, session.ProgramFolder, this)
-    , m_multipleCreation(session, m_library,
-                         {m_display, m_display, m_display, prompts, m_creationDialog},
-                         Chance(Chance::freshSeed()))
-    , m_developer(session, m_display, prompts)
-    , m_maintenance(session, {m_display, m_display, m_display, prompts},
-                    Chance(Chance::freshSeed()))
-    , m_export(session, {this, m_display, prompts, *m_picker})
-    , m_printDialog(session.appearance, printers, fileDialogs, prompts, session.ProgramFolder, this)
-    , m_printProgress(session.appearance, this)
-    , m_print(session, printers,
-              {this, m_display, prompts, *m_picker, m_printDialog, m_printProgress}) {
+    , m_commands(session, {this, m_display, prompts, fileDialogs, *m_picker, printers}) {
     setObjectName(u"Form1"_s);
     setWindowTitle(u"Tessaly"_s);
     setContextMenuPolicy(Qt::NoContextMenu);
     m_picker->setObjectName(u"gf1"_s);
     m_picker->hide();
     setCentralWidget(arrangeRegions());
-    m_board->setInput(m_input);
-    connectMenu();
-    connectTools();
-    connectPalette();
-    connectStatusLine();
-    connectCreation();
-    connectDeveloperRow();
+    connectCommands();
     connectOptions();
     connectFileDrop();
     giveShortcuts(*this);
     connectHelp();
-    connectOutput();
     applyAppearance();
     resize(FirstSize);
     restoreWindowPlace(*this, session.ProgramFolder);
@@ -117,92 +95,19 @@ void Form1::SetMenuColour() {
     menuBar()->setStyleSheet(menuStyleSheet(m_worn));
 }
 
-void Form1::connectMenu() {
-    connect(m_menu.mnuload, &QAction::triggered, this, [this] { m_library.mnuload(); });
-    connect(m_menu.mnusavex, &QAction::triggered, this, [this] {
-        m_input.Celltags_MouseUp();
-        m_library.mnusavex();
-    });
-    connect(m_menu.mnusaveto, &QAction::triggered, this, [this] {
-        m_input.Celltags_MouseUp();
-        m_library.mnusaveto();
-    });
-    connect(m_menu.mnudelete, &QAction::triggered, this, [this] { m_library.mnudelete(); });
+void Form1::connectCommands() {
+    m_board->setInput(m_commands.input);
+    connectMenu(m_menu, m_commands);
+    connectTools(*m_tools, m_commands, *m_board);
+    connectPalette(*m_palette, m_commands);
+    connectStatusLine(*m_status, m_commands);
+    connectDeveloperRow(*m_developerRow, m_commands, m_session);
+    connectCreation(m_menu, *m_tools, *m_developerRow, m_commands, m_session);
     connect(m_menu.cmdexit, &QAction::triggered, this, &Form1::cmdexit);
-    for (int item = 0; item < MainMenu::RecentFileCount; ++item)
-        connect(m_menu.oldfiles[static_cast<std::size_t>(item)], &QAction::triggered, this,
-                [this, item] { m_library.oldfiles_Click(item); });
-}
-
-void Form1::connectTools() {
-    connect(m_tools->cmdload, &BoxControl::clicked, this, [this] { m_library.mnuload(); });
-    for (int item : {0, 1})
-        connect(m_tools->cmdarrow[static_cast<std::size_t>(item)], &BoxControl::clicked, this,
-                [this, item] { m_library.cmdarrow(item); });
-    connect(m_tools, &ToolRow::numberEntered, this, [this](int number) {
-        m_library.goTo(number);
-        m_board->setFocus();
-    });
-    connect(m_tools->cmdundo, &BoxControl::clicked, this, [this] { m_play.cmdundo(); });
-    connect(m_tools->cmdreset, &BoxControl::clicked, this, [this] { m_play.cmdreset(); });
-    connect(m_tools->cmdshowsol, &BoxControl::pressed, this,
-            [this] { m_play.cmdshowsolPressed(); });
-    connect(m_tools->cmdshowsol, &BoxControl::released, this,
-            [this] { m_play.cmdshowsolReleased(); });
-}
-
-void Form1::connectPalette() {
-    connect(m_palette, &PalettePanel::itemReleased, this,
-            [this](int item, PointerButton button) { m_input.digt_MouseUp(item, button); });
-    connect(m_palette->cmdallpencil, &BoxControl::clicked, this, [this] { m_play.cmdallpencil(); });
-    connect(m_palette->cmdallpencil, &BoxControl::alternateClicked, this,
-            [this] { m_play.cmdallpencilClear(); });
-    connect(m_palette->cmdsetpairs, &BoxControl::clicked, this, [this] { m_play.cmdsetpairs(); });
-    connect(m_palette->cmdset1s, &BoxControl::clicked, this, [this] { m_play.cmdset1s(); });
-}
-
-void Form1::connectStatusLine() {
-    connect(m_status->StatLab, &BoxControl::clicked, this, [this] { m_play.StatLab(); });
-}
-
-void Form1::connectCreation() {
-    const auto createOne = [this] {
-        m_input.Celltags_MouseUp();
-        m_creation.cmdcreate();
-        m_developerRow->showText(QString::fromStdString(developerText(m_session.game.board)));
-    };
-    connect(m_tools->DifLab, &BoxControl::clicked, this, [this] { m_creation.DifLab(); });
-    connect(m_tools->cmdcreate, &BoxControl::clicked, this, createOne);
-    connect(m_menu.createSingle, &QAction::triggered, this, createOne);
-    connect(m_menu.createMultiple, &QAction::triggered, this, [this] { m_multipleCreation.run(); });
-}
-
-void Form1::connectDeveloperRow() {
-    connect(m_developerRow->debugSolve, &BoxControl::clicked, this,
-            [this] { m_developer.solveInSteps(m_developerRow->debugs()); });
-    connect(m_developerRow->xcellRule, &BoxControl::clicked, this,
-            [this] { m_developer.applyXcellRule(); });
-    connect(m_developerRow->autoSolveHard, &BoxControl::clicked, this,
-            [this] { m_developer.autoSolveHard(false); });
-    connect(m_developerRow->autoSolveHard, &BoxControl::alternateClicked, this,
-            [this] { m_developer.autoSolveHard(true); });
-    connect(m_developerRow->solveLoop, &BoxControl::clicked, this,
-            [this] { m_developer.checkCells(); });
-    connect(m_developerRow->setValue, &BoxControl::clicked, this,
-            [this] { m_developer.setManualValue(); });
-    connect(m_developerRow->reread, &BoxControl::clicked, this,
-            [this] { m_library.goTo(m_session.puzzle.PuzNum); });
-    connect(m_developerRow->flipAndAdd, &BoxControl::clicked, this,
-            [this] { m_maintenance.FlipandAdd(); });
-    connect(m_developerRow->verify, &BoxControl::clicked, this, [this] { m_maintenance.Verify(); });
-    connect(m_developerRow->randomize, &BoxControl::clicked, this,
-            [this] { m_maintenance.Randomize(); });
 }
 
 void Form1::closeEvent(QCloseEvent* event) {
-    m_multipleCreation.stop();
-    m_maintenance.stop();
-    m_print.stop();
+    m_commands.stop();
     rememberWindowPlace(*this, m_session.ProgramFolder);
     QMainWindow::closeEvent(event);
 }
@@ -222,7 +127,7 @@ void Form1::connectOptions() {
 void Form1::connectFileDrop() {
     auto* drop = new FileDrop(*this);
     connect(drop, &FileDrop::dropped, this,
-            [this](const QString& path) { m_library.load(path.toStdString()); });
+            [this](const QString& path) { m_commands.library.load(path.toStdString()); });
     connect(drop, &FileDrop::refused, this, [this](const QString& reason) {
         m_prompts.message(reason.toStdString(), "vbok+vbcritical");
     });
@@ -234,19 +139,6 @@ void Form1::connectHelp() {
         m_help->show();
     });
     connect(m_menu.mnuabout, &QAction::triggered, m_about, &QDialog::show);
-}
-
-void Form1::connectOutput() {
-    connect(m_menu.mnuclippuz, &QAction::triggered, this, [this] { m_export.CopyBoard(false); });
-    connect(m_menu.mnuclipsol, &QAction::triggered, this, [this] { m_export.CopyBoard(true); });
-    connect(m_menu.mnucapwin, &QAction::triggered, this, [this] { m_export.mnucapwin(); });
-    connect(m_menu.printPuzzle, &QAction::triggered, this,
-            [this] { m_print.printShown(true, false); });
-    connect(m_menu.printSolution, &QAction::triggered, this,
-            [this] { m_print.printShown(false, true); });
-    connect(m_menu.printBoth, &QAction::triggered, this,
-            [this] { m_print.printShown(true, true); });
-    connect(m_menu.printMultiple, &QAction::triggered, this, [this] { m_print.printMultiple(); });
 }
 
 void Form1::ApplyScheme() {

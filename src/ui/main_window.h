@@ -3,41 +3,27 @@
 
 #pragma once
 
-#include "board/library_commands.h"
-#include "output/export_commands.h"
-#include "output/print_commands.h"
-#include "output/print_dialog.h"
-#include "output/print_progress.h"
-#include "play/board_input.h"
-#include "play/play_commands.h"
-#include "solver/creation_commands.h"
-#include "solver/developer_commands.h"
-#include "solver/maintenance_commands.h"
-#include "solver/multiple_creation.h"
-#include "solver/multiple_creation_dialog.h"
 #include "ui/main_menu.h"
-#include "ui/puzzle_file_choice.h"
+#include "ui/window_commands.h"
 #include "ui/window_display.h"
 
 #include <QMainWindow>
 
 namespace tessaly {
 
-class DeveloperRow;
-class FileDialogs;
 class AboutForm;
+class DeveloperRow;
 class Form2x;
 class Form4;
-class Printers;
 
-/// The main window: builds its regions and connects their controls to the commands.
+/// The main window: its regions, the commands that their controls give, and its other windows.
 class Form1 : public QMainWindow {
     Q_OBJECT
 
 public:
     Form1(Session& session, Prompts& prompts, FileDialogs& fileDialogs, Printers& printers);
 
-    LibraryCommands& library() { return m_library; }
+    LibraryCommands& library() { return m_commands.library; }
 
     /// Wears the scheme and the settings that are in force.
     void applyAppearance();
@@ -47,16 +33,10 @@ protected:
 
 private:
     QWidget* arrangeRegions();
-    void connectMenu();
-    void connectTools();
-    void connectPalette();
-    void connectStatusLine();
-    void connectCreation();
-    void connectDeveloperRow();
+    void connectCommands();
     void connectOptions();
     void connectFileDrop();
     void connectHelp();
-    void connectOutput();
     void ApplyScheme();
     void SetMenuColour();
     void cmdexit();
@@ -77,20 +57,8 @@ private:
     Form4* m_help;
     AboutForm* m_about;
 
-    PuzzleFileChoice m_puzzleFiles;
     WindowDisplay m_display;
-    PlayCommands m_play;
-    BoardInput m_input;
-    LibraryCommands m_library;
-    CreationCommands m_creation;
-    Form3 m_creationDialog;
-    MultipleCreation m_multipleCreation;
-    DeveloperCommands m_developer;
-    MaintenanceCommands m_maintenance;
-    ExportCommands m_export;
-    Form5 m_printDialog;
-    PrintProgress m_printProgress;
-    PrintCommands m_print;
+    WindowCommands m_commands;
 };
 
 } // namespace tessaly
