@@ -33,6 +33,21 @@ void BoardAccessible::install() {
     QAccessible::installFactory(makeInterface);
 }
 
+void BoardAccessible::tellFocus(BoardView& view) {
+    if (!view.hasFocus())
+        return;
+    QAccessibleEvent focused(&view, QAccessible::Focus);
+    if (view.selection())
+        focused.setChild(indexOf(view.selection()));
+    QAccessible::updateAccessibility(&focused);
+}
+
+void BoardAccessible::tellEntry(BoardView& view) {
+    QAccessibleEvent renamed(&view, QAccessible::NameChanged);
+    renamed.setChild(indexOf(view.selection()));
+    QAccessible::updateAccessibility(&renamed);
+}
+
 int BoardAccessible::indexOf(CellId cell) {
     return (cell.hexagon - 1) * CellCount + cell.position - 1;
 }

@@ -22,6 +22,10 @@ public:
 
     /// Lets Qt make these for board views, and buttons of the tags; it may be called again.
     static void install();
+    /// Says which cell the keys go to now, if the board has the focus.
+    static void tellFocus(BoardView& view);
+    /// Says that the selected cell reads differently now.
+    static void tellEntry(BoardView& view);
     /// The child that a cell is.
     static int indexOf(CellId cell);
 

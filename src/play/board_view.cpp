@@ -4,10 +4,9 @@
 #include "play/board_view.h"
 
 #include "play/board_accessible.h"
-#include "play/key_codes.h"
+#include "play/board_keys.h"
 #include "ui/qt_colour.h"
 
-#include <QAccessible>
 #include <QApplication>
 #include <QEvent>
 #include <QMouseEvent>
@@ -81,7 +80,7 @@ void BoardView::DrawHexagon(int hexagon) {
     const QRect changed = m_surface.DrawHexagon(m_board, hexagon);
     showTag(hexagon);
     if (m_markedCell.hexagon == hexagon)
-        tellEntry();
+        BoardAccessible::tellEntry(*this);
     const double ratio = devicePixelRatioF();
     update(QRectF(changed.x() / ratio, changed.y() / ratio, changed.width() / ratio,
                   changed.height() / ratio)
@@ -121,24 +120,7 @@ void BoardView::showSelection(CellId cell) {
     if (!hasMoved)
         return;
     update(QRegion(rect()) - rect().adjusted(FocusInset, FocusInset, -FocusInset, -FocusInset));
-    tellFocus();
-}
-
-/// Tells a screen reader which cell the keys go to now.
-void BoardView::tellFocus() {
-    if (!hasFocus())
-        return;
-    QAccessibleEvent focused(this, QAccessible::Focus);
-    if (m_markedCell)
-        focused.setChild(BoardAccessible::indexOf(m_markedCell));
-    QAccessible::updateAccessibility(&focused);
-}
-
-/// Tells a screen reader that the selected cell reads differently now.
-void BoardView::tellEntry() {
-    QAccessibleEvent renamed(this, QAccessible::NameChanged);
-    renamed.setChild(BoardAccessible::indexOf(m_markedCell));
-    QAccessible::updateAccessibility(&renamed);
+    BoardAccessible::tellFocus(*this);
 }
 
 bool BoardView::canSelect(CellId cell) const {
@@ -257,51 +239,16 @@ void BoardView::leaveEvent(QEvent* event) {
         m_input->pointerLeft();
 }
 
-bool BoardView::movesSelection(const QKeyEvent& event) {
-    switch (event.key()) {
-    case Qt::Key_Left:
-        m_input->moveSelection(-1, 0);
-        return true;
-    case Qt::Key_Right:
-        m_input->moveSelection(1, 0);
-        return true;
-    case Qt::Key_Up:
-        m_input->moveSelection(0, -1);
-        return true;
-    case Qt::Key_Down:
-        m_input->moveSelection(0, 1);
-        return true;
-    case Qt::Key_Home:
-        m_input->selectFirst();
-        return true;
-    case Qt::Key_End:
-        m_input->selectLast();
-        return true;
-    default:
-        return false;
-    }
-}
-
-void BoardView::forwardKey(const QKeyEvent& event) {
-    int code = keyCodeOf(event);
-    m_input->Picture2_KeyDown(code);
-    if (int character = characterCodeOf(event); character != 0)
-        m_input->Picture2_KeyPress(character);
-}
-
 void BoardView::keyPressEvent(QKeyEvent* event) {
-    if (m_input == nullptr || movesSelection(*event))
+    if (m_input == nullptr || moveSelection(*m_input, *event))
         return;
-    const bool asksForMenu =
-        event->key() == Qt::Key_Menu ||
-        (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier);
-    if (asksForMenu) {
-        m_input->openPopupAtSelection();
-        if (m_popup.isVisible())
-            m_popup.setFocus();
-    } else {
-        forwardKey(*event);
+    if (!asksForMenu(*event)) {
+        pressKey(*m_input, *event);
+        return;
     }
+    m_input->openPopupAtSelection();
+    if (m_popup.isVisible())
+        m_popup.setFocus();
 }
 
 } // namespace tessaly

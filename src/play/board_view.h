@@ -70,11 +70,7 @@ private:
     void updateSurface();
     void placeChildren();
     void showTag(int hexagon);
-    void forwardKey(const QKeyEvent& event);
-    bool movesSelection(const QKeyEvent& event);
     void drawFocus(QPainter& painter) const;
-    void tellFocus();
-    void tellEntry();
 
     QRect onWidget(const Rect& rectangle) const;
     Point onBoard(QPointF position) const;
