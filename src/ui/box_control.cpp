@@ -14,15 +14,9 @@
 #include <QShortcutEvent>
 #include <QToolTip>
 
-#include <algorithm>
-
 namespace tessaly {
 namespace {
 
-constexpr int PaddingBesideCaption = 14;
-constexpr int PaddingBesidePicture = 7;
-constexpr int PaddingAbove = 7;
-constexpr int Gap = 7;
 constexpr int PictureSize = 24;
 
 bool isEnter(const QKeyEvent& event) {
@@ -84,20 +78,7 @@ void BoxControl::setLatched(bool latched) {
 
 QSize BoxControl::sizeHint() const {
     ensurePolished();
-    const bool pictured = m_picture != Picture::None;
-    const QSize caption =
-        text().isEmpty() ? QSize() : fontMetrics().size(Qt::TextShowMnemonic, text());
-    int width = 2 * (text().isEmpty() ? PaddingBesidePicture : PaddingBesideCaption);
-    int height = 0;
-    if (pictured) {
-        width += iconSize().width();
-        height = iconSize().height();
-    }
-    if (!text().isEmpty()) {
-        width += caption.width() + (pictured ? Gap : 0);
-        height = std::max(height, caption.height());
-    }
-    return {width, height + 2 * PaddingAbove};
+    return sizeAround(contents(), fontMetrics());
 }
 
 bool BoxControl::event(QEvent* event) {
@@ -230,26 +211,12 @@ void BoxControl::paintEvent(QPaintEvent*) {
                  .hovered = underMouse(),
                  .focused = hasFocus(),
                  .enabled = isEnabled()});
-    drawContents(painter, QRectF(rect()).translated(sunk ? 1 : 0, sunk ? 1 : 0));
+    drawBoxContents(painter, QRectF(rect()).translated(sunk ? 1 : 0, sunk ? 1 : 0), contents(),
+                    textColour());
 }
 
-void BoxControl::drawContents(QPainter& painter, const QRectF& area) const {
-    const bool pictured = m_picture != Picture::None;
-    const bool captioned = !text().isEmpty();
-    const QSizeF caption =
-        captioned ? QSizeF(fontMetrics().size(Qt::TextShowMnemonic, text())) : QSizeF(0, 0);
-    const QSizeF picture = pictured ? QSizeF(iconSize()) : QSizeF(0, 0);
-    const double gap = pictured && captioned ? Gap : 0;
-    QRectF contents(0, 0, picture.width() + gap + caption.width(), area.height());
-    contents.moveCenter(area.center());
-
-    QRectF place(contents.topLeft(), QSizeF(picture.width(), area.height()));
-    place.moveTop(std::round(area.center().y() - picture.height() / 2));
-    place.setHeight(picture.height());
-    drawPicture(painter, place, m_picture, textColour());
-    painter.setPen(textColour());
-    painter.drawText(contents.adjusted(picture.width() + gap, 0, 0, 0),
-                     Qt::AlignCenter | Qt::TextShowMnemonic, text());
+BoxContents BoxControl::contents() const {
+    return {m_picture, iconSize(), text()};
 }
 
 } // namespace tessaly

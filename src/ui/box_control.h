@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "ui/icon_set.h"
+#include "ui/box_contents.h"
 
 #include <QAbstractButton>
 #include <QColor>
@@ -84,7 +84,7 @@ private:
     void nameAfterToolTip();
     void answerShortcut(const QShortcutEvent& event);
     void holdUntilReleased(int key);
-    void drawContents(QPainter& painter, const QRectF& area) const;
+    BoxContents contents() const;
 
     Picture m_picture = Picture::None;
     QColor m_face;
