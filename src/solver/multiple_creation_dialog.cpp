@@ -5,10 +5,10 @@
 
 #include "ui/box_control.h"
 #include "ui/choice_buttons.h"
+#include "ui/elided_label.h"
 #include "ui/file_name_picker.h"
 #include "ui/path_text.h"
 #include "ui/scheme_palette.h"
-#include "ui/status_line.h"
 
 #include <QGroupBox>
 #include <QHBoxLayout>

@@ -4,11 +4,11 @@
 #include "ui/status_line.h"
 
 #include "ui/box_control.h"
+#include "ui/elided_label.h"
 #include "ui/path_text.h"
 
 #include <QAccessible>
 #include <QHBoxLayout>
-#include <QPainter>
 
 namespace tessaly {
 namespace {
@@ -26,17 +26,6 @@ ElidedLabel* makeLabel(const QString& name, QWidget* parent) {
 }
 
 } // namespace
-
-QSize ElidedLabel::minimumSizeHint() const {
-    return {0, QLabel::minimumSizeHint().height()};
-}
-
-void ElidedLabel::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    painter.setPen(palette().color(QPalette::WindowText));
-    const QString shown = fontMetrics().elidedText(text(), Qt::ElideMiddle, width());
-    painter.drawText(rect(), static_cast<int>(alignment()), shown);
-}
 
 StatusLine::StatusLine(QWidget* parent)
     : QWidget(parent)

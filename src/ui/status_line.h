@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include <QLabel>
 #include <QWidget>
 
 #include <string>
@@ -12,18 +11,7 @@
 namespace tessaly {
 
 class BoxControl;
-
-/// A label that cuts its text in the middle where there is no room for all of it.
-class ElidedLabel : public QLabel {
-    Q_OBJECT
-
-public:
-    using QLabel::QLabel;
-    QSize minimumSizeHint() const override;
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
-};
+class ElidedLabel;
 
 /// The line beneath the board: the puzzle file, the message, and the check of the solution.
 class StatusLine : public QWidget {
