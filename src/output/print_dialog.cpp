@@ -9,8 +9,10 @@
 #include "output/printers.h"
 #include "ui/box_control.h"
 #include "ui/choice_buttons.h"
+#include "ui/dialog_parts.h"
 #include "ui/file_name_picker.h"
 #include "ui/path_text.h"
+#include "ui/puzzle_file_choice.h"
 #include "ui/qt_colour.h"
 #include "ui/scheme_palette.h"
 
@@ -25,18 +27,11 @@ namespace tessaly {
 namespace {
 
 using namespace Qt::StringLiterals;
+using dialog::ButtonSize;
+using dialog::Spacing;
 
-constexpr int Margin = 16;
-constexpr int Spacing = 12;
 constexpr int Width = 440;
 constexpr int NumberWidth = 96;
-constexpr QSize ButtonSize(96, 34);
-
-template <class Widget>
-Widget* named(Widget* widget, const QString& name) {
-    widget->setObjectName(name);
-    return widget;
-}
 
 int numberIn(const QLineEdit& box) {
     return leadingWholeNumber(box.text().toStdString());
@@ -54,9 +49,7 @@ Form5::Form5(const Appearance& appearance, Printers& printers, FileDialogs& file
     , m_tag(u"X"_s) {
     setObjectName(u"Form5"_s);
     setWindowTitle(u"Print Puzzles From File"_s);
-    auto* rows = new QVBoxLayout(this);
-    rows->setContentsMargins(Margin, Margin, Margin, Margin);
-    rows->setSpacing(Spacing);
+    QVBoxLayout* rows = addRows(*this);
     makePrinterFrame();
     makeFileFrame(fileDialogs);
     makeRangeFrame();
@@ -67,7 +60,7 @@ Form5::Form5(const Appearance& appearance, Printers& printers, FileDialogs& file
 }
 
 QGroupBox* Form5::addFrame(const QString& title, const QString& name) {
-    auto* frame = named(new QGroupBox(title, this), name);
+    auto* frame = named(name, new QGroupBox(title, this));
     auto* row = new QHBoxLayout(frame);
     row->setSpacing(Spacing);
     layout()->addWidget(frame);
@@ -76,7 +69,7 @@ QGroupBox* Form5::addFrame(const QString& title, const QString& name) {
 
 void Form5::makePrinterFrame() {
     auto* frame = addFrame(u"Printer"_s, u"Frame5"_s);
-    m_printer = named(new QComboBox(frame), u"Combo1"_s);
+    m_printer = named(u"Combo1"_s, new QComboBox(frame));
     m_printer->setToolTip(u"Select a printer for output"_s);
     m_printer->setAccessibleName(frame->title());
     m_printer->setMinimumHeight(ButtonSize.height());
@@ -86,17 +79,11 @@ void Form5::makePrinterFrame() {
 
 void Form5::makeFileFrame(FileDialogs& fileDialogs) {
     auto* frame = addFrame(u"Puzzles File"_s, u"InFileFrame"_s);
-    m_file = named(new QLineEdit(frame), u"FileNow"_s);
+    m_file = named(u"FileNow"_s, new QLineEdit(frame));
     m_file->setReadOnly(true);
     m_file->setAccessibleName(frame->title());
     m_file->setMinimumHeight(ButtonSize.height());
-    m_picker = named(new FNDialog(fileDialogs, m_prompts, frame), u"gf1"_s);
-    m_picker->setTitle(u"Select a Puzzle file to print"_s);
-    m_picker->setFileTypes(u"*.txt;*.dat"_s);
-    m_picker->setFileTypesName(u"Tessaly Files"_s);
-    m_picker->setDefaultDir(pathText(m_programFolder));
-    m_picker->setToolTip(tr("Choose another file"));
-    m_picker->setFixedSize(ButtonSize.height(), ButtonSize.height());
+    m_picker = makeFilePicker(fileDialogs, m_prompts, frame);
     frame->layout()->addWidget(m_file);
     frame->layout()->addWidget(m_picker);
     connect(m_picker, &FNDialog::clicked, this, &Form5::chooseFile);
@@ -105,10 +92,10 @@ void Form5::makeFileFrame(FileDialogs& fileDialogs) {
 void Form5::makeRangeFrame() {
     auto* frame = addFrame(u"Number of Puzzles"_s, u"Frame1"_s);
     auto* row = static_cast<QHBoxLayout*>(frame->layout());
-    m_from = named(new QLineEdit(frame), u"Text1"_s);
-    m_to = named(new QLineEdit(frame), u"Text2"_s);
-    auto* from = named(new QLabel(u"From"_s, frame), u"Label1"_s);
-    auto* to = named(new QLabel(u"To"_s, frame), u"Label2"_s);
+    m_from = named(u"Text1"_s, new QLineEdit(frame));
+    m_to = named(u"Text2"_s, new QLineEdit(frame));
+    auto* from = named(u"Label1"_s, new QLabel(u"From"_s, frame));
+    auto* to = named(u"Label2"_s, new QLabel(u"To"_s, frame));
     for (const auto& [label, box] : {std::pair(from, m_from), std::pair(to, m_to)}) {
         label->setBuddy(box);
         box->setAccessibleName(label->text());
@@ -126,30 +113,23 @@ void Form5::makePageFrame() {
     auto* row = static_cast<QHBoxLayout*>(frame->layout());
     for (std::size_t i = 0; i < m_perPage.size(); ++i) {
         const QString count = QString::number(PuzzlesPerPage[i]);
-        m_perPage[i] = named(new OptionDot(count, frame), u"perPage_"_s + count);
+        m_perPage[i] = named(u"perPage_"_s + count, new OptionDot(count, frame));
         m_perPage[i]->setChecked(PuzzlesPerPage[i] == PrintRange::UsualPuzzlesPerPage);
         row->addWidget(m_perPage[i]);
     }
     row->addStretch();
-    m_solutions = named(new TickBox(tr("Solutions at the end"), frame), u"withSolutions"_s);
+    m_solutions = named(u"withSolutions"_s, new TickBox(tr("Solutions at the end"), frame));
     m_solutions->setChecked(true);
     row->addWidget(m_solutions);
 }
 
 QHBoxLayout* Form5::makeButtons() {
-    auto* row = new QHBoxLayout;
-    row->setSpacing(Spacing);
     // Children of the form itself: the file-name picker has a button of the same name.
-    m_print = named(new BoxControl(u"Print"_s, this), u"Command1"_s);
-    m_exit = named(new BoxControl(u"Exit"_s, this), u"Command2"_s);
-    row->addStretch();
-    for (BoxControl* button : {m_print, m_exit}) {
-        button->setFixedSize(ButtonSize);
-        row->addWidget(button);
-    }
-    connect(m_print, &BoxControl::clicked, this, &Form5::acceptRange);
-    connect(m_exit, &BoxControl::clicked, this, &QDialog::reject);
-    return row;
+    auto* print = named(u"Command1"_s, new BoxControl(u"Print"_s, this));
+    auto* exit = named(u"Command2"_s, new BoxControl(u"Exit"_s, this));
+    connect(print, &BoxControl::clicked, this, &Form5::acceptRange);
+    connect(exit, &BoxControl::clicked, this, &QDialog::reject);
+    return makeButtonRow({print, exit});
 }
 
 /// Frames and labels lie on the background; what can be set is in the buttons' colour.
@@ -180,19 +160,19 @@ void Form5::load(const PrintSuggestion& suggestion) {
 }
 
 void Form5::chooseFile() {
-    const QString chosen = m_picker->GetFileName(u"OPEN"_s);
-    if (chosen.isEmpty())
+    const std::string chosen =
+        PuzzleFileChoice(*m_picker, m_programFolder).chooseToOpen("Select a Puzzle file to print");
+    if (chosen.empty())
         return;
     int count = 0;
-    if (const Outcome counted = PuzzleFiles().CountLines(chosen.toStdString(), count);
-        !counted.ok()) {
+    if (const Outcome counted = PuzzleFiles().CountLines(chosen, count); !counted.ok()) {
         m_prompts.message(counted.problem, "vbok+vbcritical");
         return;
     }
-    m_path = chosen.toStdString();
+    m_path = chosen;
     m_count = count;
-    m_file->setText(chosen);
-    m_file->setToolTip(chosen);
+    m_file->setText(pathText(chosen));
+    m_file->setToolTip(pathText(chosen));
     m_to->setText(QString::number(count));
 }
 

@@ -20,7 +20,6 @@ class QRadioButton;
 
 namespace tessaly {
 
-class BoxControl;
 class FileDialogs;
 class FNDialog;
 class Printers;
@@ -93,8 +92,6 @@ private:
     QLineEdit* m_to = nullptr;      // Text2
     std::array<QRadioButton*, PuzzlesPerPage.size()> m_perPage{};
     QCheckBox* m_solutions = nullptr;
-    BoxControl* m_print = nullptr; // Command1
-    BoxControl* m_exit = nullptr;  // Command2
 };
 
 } // namespace tessaly

@@ -4,6 +4,7 @@
 #include "output/print_progress.h"
 
 #include "ui/box_control.h"
+#include "ui/dialog_parts.h"
 #include "ui/scheme_palette.h"
 
 #include <QApplication>
@@ -17,10 +18,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr int Margin = 16;
-constexpr int Spacing = 12;
 constexpr int Width = 380;
-constexpr QSize ButtonSize(96, 34);
 /// In milliseconds.
 constexpr qint64 ShortPrint = 400;
 constexpr qint64 BetweenYields = 25;
@@ -31,28 +29,24 @@ PrintProgress::PrintProgress(const Appearance& appearance, QWidget* parent)
     : QDialog(parent)
     , m_appearance(appearance)
     , m_title(new QLabel(this))
-    , m_bar(new QProgressBar(this))
-    , m_cancel(new BoxControl(u"Cancel"_s, this)) {
+    , m_bar(new QProgressBar(this)) {
     setObjectName(u"PrintProgress"_s);
     setWindowTitle(tr("Print"));
     m_title->setTextFormat(Qt::PlainText);
     m_bar->setAccessibleName(tr("Progress of the print"));
     m_bar->setFormat(tr("Page %v of %m"));
-    m_cancel->setObjectName(u"cancelPrint"_s);
-    m_cancel->setFixedSize(ButtonSize);
-    auto* rows = new QVBoxLayout(this);
-    rows->setContentsMargins(Margin, Margin, Margin, Margin);
-    rows->setSpacing(Spacing);
+    auto* cancel = named(u"cancelPrint"_s, new BoxControl(u"Cancel"_s, this));
+    QVBoxLayout* rows = addRows(*this);
     rows->addWidget(m_title);
     rows->addWidget(m_bar);
-    rows->addWidget(m_cancel, 0, Qt::AlignRight);
+    rows->addLayout(makeButtonRow({cancel}));
     setFixedWidth(Width);
-    connect(m_cancel, &BoxControl::clicked, this, &PrintProgress::reject);
+    connect(cancel, &BoxControl::clicked, this, &PrintProgress::reject);
 }
 
 void PrintProgress::begin(const QString& title, int pageCount) {
     setPalette(schemePalette(m_appearance));
-    m_title->setText(fontMetrics().elidedText(title, Qt::ElideMiddle, Width - 2 * Margin));
+    m_title->setText(fontMetrics().elidedText(title, Qt::ElideMiddle, Width - 2 * dialog::Margin));
     m_bar->setRange(0, pageCount);
     m_bar->setValue(0);
     m_stopped = false;

@@ -13,8 +13,6 @@ class QProgressBar;
 
 namespace tessaly {
 
-class BoxControl;
-
 /// How far a long print is, with a button that ends it. It comes up only when the print takes a
 /// while, and blocks no other window.
 class PrintProgress : public QDialog {
@@ -38,7 +36,6 @@ private:
     const Appearance& m_appearance;
     QLabel* m_title;
     QProgressBar* m_bar;
-    BoxControl* m_cancel;
     QElapsedTimer m_running;
     qint64 m_lastYield = 0;
     bool m_stopped = false;

@@ -5,9 +5,11 @@
 
 #include "ui/box_control.h"
 #include "ui/choice_buttons.h"
+#include "ui/dialog_parts.h"
 #include "ui/elided_label.h"
 #include "ui/file_name_picker.h"
 #include "ui/path_text.h"
+#include "ui/puzzle_file_choice.h"
 #include "ui/scheme_palette.h"
 
 #include <QGroupBox>
@@ -23,18 +25,11 @@ namespace tessaly {
 namespace {
 
 using namespace Qt::StringLiterals;
+using dialog::ButtonSize;
+using dialog::Spacing;
 
 constexpr const char* DefaultFile = "multipuzfile.txt";
-constexpr int Margin = 16;
-constexpr int Spacing = 12;
 constexpr int Width = 420;
-constexpr QSize ButtonSize(96, 34);
-
-template <class Widget>
-Widget* named(Widget* widget, const QString& name) {
-    widget->setObjectName(name);
-    return widget;
-}
 
 } // namespace
 
@@ -46,14 +41,12 @@ Form3::Form3(const Appearance& appearance, FileDialogs& fileDialogs, Prompts& pr
     , m_programFolder(std::move(programFolder)) {
     setObjectName(u"Form3"_s);
     setWindowTitle(tr("Create Multiple Puzzles"));
-    auto* rows = new QVBoxLayout(this);
-    rows->setContentsMargins(Margin, Margin, Margin, Margin);
-    rows->setSpacing(Spacing);
+    QVBoxLayout* rows = addRows(*this);
     rows->addWidget(makeDifficultyFrame());
     rows->addWidget(makeNumberFrame());
     rows->addWidget(makeFileFrame(fileDialogs));
     rows->addStretch();
-    rows->addWidget(makeButtons());
+    rows->addLayout(makeButtons());
     setMinimumWidth(Width);
     showFile(m_programFolder + DefaultFile);
 }
@@ -62,9 +55,9 @@ QWidget* Form3::makeDifficultyFrame() {
     auto* frame = new QGroupBox(tr("Difficulty Level"), this);
     auto* row = new QHBoxLayout(frame);
     row->setSpacing(2 * Spacing);
-    m_random = named(new OptionDot(u"Random"_s, frame), u"Option1_0"_s);
-    m_easy = named(new OptionDot(u"Easy"_s, frame), u"Option1_1"_s);
-    m_hard = named(new OptionDot(u"Hard"_s, frame), u"Option1_2"_s);
+    m_random = named(u"Option1_0"_s, new OptionDot(u"Random"_s, frame));
+    m_easy = named(u"Option1_1"_s, new OptionDot(u"Easy"_s, frame));
+    m_hard = named(u"Option1_2"_s, new OptionDot(u"Hard"_s, frame));
     m_random->setChecked(true);
     for (QRadioButton* option : {m_random, m_easy, m_hard})
         row->addWidget(option);
@@ -75,7 +68,7 @@ QWidget* Form3::makeDifficultyFrame() {
 QWidget* Form3::makeNumberFrame() {
     auto* frame = new QGroupBox(tr("Number of Puzzles"), this);
     auto* row = new QHBoxLayout(frame);
-    m_number = named(new QLineEdit(u"10"_s, frame), u"Text1"_s);
+    m_number = named(u"Text1"_s, new QLineEdit(u"10"_s, frame));
     m_number->setAccessibleName(frame->title());
     m_number->setMaximumWidth(ButtonSize.width());
     row->addWidget(m_number);
@@ -87,14 +80,12 @@ QWidget* Form3::makeFileFrame(FileDialogs& fileDialogs) {
     auto* frame = new QGroupBox(tr("Output File"), this);
     auto* rows = new QVBoxLayout(frame);
     auto* row = new QHBoxLayout;
-    m_file = named(new ElidedLabel(frame), u"Label2"_s);
+    m_file = named(u"Label2"_s, new ElidedLabel(frame));
     m_file->setTextFormat(Qt::PlainText);
-    m_picker = named(new FNDialog(fileDialogs, m_prompts, frame), u"gf1"_s);
-    m_picker->setFixedSize(ButtonSize.height(), ButtonSize.height());
-    m_picker->setToolTip(tr("Choose another file"));
+    m_picker = makeFilePicker(fileDialogs, m_prompts, frame);
     row->addWidget(m_file, 1);
     row->addWidget(m_picker);
-    m_default = named(new TickBox(tr("Use the default file"), frame), u"Check3"_s);
+    m_default = named(u"Check3"_s, new TickBox(tr("Use the default file"), frame));
     m_default->setChecked(true);
     rows->addLayout(row);
     rows->addWidget(m_default);
@@ -106,34 +97,22 @@ QWidget* Form3::makeFileFrame(FileDialogs& fileDialogs) {
     return frame;
 }
 
-QWidget* Form3::makeButtons() {
-    auto* buttons = new QWidget(this);
-    auto* row = new QHBoxLayout(buttons);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(Spacing);
-    m_ok = named(new BoxControl(u"OK"_s, buttons), u"Command1"_s);
-    m_cancel = named(new BoxControl(u"Cancel"_s, buttons), u"Command2"_s);
-    row->addStretch();
-    for (BoxControl* button : {m_ok, m_cancel}) {
-        button->setFixedSize(ButtonSize);
-        row->addWidget(button);
-    }
-    connect(m_ok, &BoxControl::clicked, this, &Form3::acceptOrder);
-    connect(m_cancel, &BoxControl::clicked, this, &QDialog::reject);
+QHBoxLayout* Form3::makeButtons() {
+    auto* ok = named(u"Command1"_s, new BoxControl(u"OK"_s, this));
+    auto* cancel = named(u"Command2"_s, new BoxControl(u"Cancel"_s, this));
+    connect(ok, &BoxControl::clicked, this, &Form3::acceptOrder);
+    connect(cancel, &BoxControl::clicked, this, &QDialog::reject);
     connect(m_number, &QLineEdit::returnPressed, this, &Form3::acceptOrder);
-    return buttons;
+    return makeButtonRow({ok, cancel});
 }
 
 void Form3::chooseFile() {
-    m_picker->setTitle(tr("Select an output Puzzle file"));
-    m_picker->setFileTypes(u"*.txt;*.dat"_s);
-    m_picker->setFileTypesName(u"Tessaly Files"_s);
-    m_picker->setDefaultDir(pathText(m_programFolder));
-    const QString chosen = m_picker->GetFileName(u"SAVE"_s);
-    if (chosen.isEmpty())
+    const std::string chosen =
+        PuzzleFileChoice(*m_picker, m_programFolder).chooseToSave("Select an output Puzzle file");
+    if (chosen.empty())
         return;
     m_default->setChecked(false);
-    showFile(chosen.toStdString());
+    showFile(chosen);
 }
 
 void Form3::showFile(const std::string& path) {

@@ -9,13 +9,13 @@
 #include <QDialog>
 
 class QCheckBox;
+class QHBoxLayout;
 class QLabel;
 class QLineEdit;
 class QRadioButton;
 
 namespace tessaly {
 
-class BoxControl;
 class FileDialogs;
 class FNDialog;
 
@@ -34,7 +34,7 @@ private:
     QWidget* makeDifficultyFrame();
     QWidget* makeNumberFrame();
     QWidget* makeFileFrame(FileDialogs& fileDialogs);
-    QWidget* makeButtons();
+    QHBoxLayout* makeButtons();
     void chooseFile();
     void showFile(const std::string& path);
     void acceptOrder();
@@ -53,8 +53,6 @@ private:
     QLabel* m_file = nullptr;         // Label2
     QCheckBox* m_default = nullptr;   // Check3
     FNDialog* m_picker = nullptr;     // gf1
-    BoxControl* m_ok = nullptr;
-    BoxControl* m_cancel = nullptr;
 };
 
 } // namespace tessaly

@@ -5,6 +5,7 @@
 
 #include "app/product.h"
 #include "ui/box_control.h"
+#include "ui/dialog_parts.h"
 #include "ui/picture_view.h"
 #include "ui/qt_colour.h"
 #include "ui/scheme_palette.h"
@@ -22,7 +23,6 @@ using namespace Qt::StringLiterals;
 constexpr int Margin = 24;
 constexpr int Spacing = 16;
 constexpr int IconSize = 64;
-constexpr QSize ButtonSize(96, 34);
 constexpr int TextWidth = 320;
 
 QString aboutText() {
@@ -77,7 +77,7 @@ void AboutForm::arrange() {
     m_text->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     const QSize text = m_text->fontMetrics().size(0, m_text->toPlainText());
     m_text->setFixedSize(std::max(TextWidth, text.width() + Spacing), text.height() + Spacing);
-    m_ok->setMinimumSize(ButtonSize);
+    m_ok->setMinimumSize(dialog::ButtonSize);
 
     auto* left = new QVBoxLayout;
     left->addWidget(icon, 0, Qt::AlignHCenter);

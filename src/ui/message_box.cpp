@@ -4,6 +4,7 @@
 #include "ui/message_box.h"
 
 #include "ui/box_control.h"
+#include "ui/dialog_parts.h"
 #include "ui/message_style.h"
 #include "ui/message_text.h"
 #include "ui/picture_view.h"
@@ -20,8 +21,6 @@ namespace {
 constexpr int IconSize = 48;
 constexpr int Margin = 28;
 constexpr int LeastWidth = 320;
-constexpr int ButtonWidth = 96;
-constexpr int ButtonHeight = 34;
 
 /// The pictures in the order of MessageIcons.
 constexpr std::array<Picture, MessageIcons.size()> IconPictures{
@@ -87,7 +86,7 @@ void MsgForm::addButton(const QString& caption, int result) {
     auto* button = new BoxControl(caption, this);
     button->setObjectName(QStringLiteral("cmd_%1").arg(m_buttons.size()));
     button->setProperty("Tag", result);
-    button->setMinimumSize(ButtonWidth, ButtonHeight);
+    button->setMinimumSize(dialog::ButtonSize);
     connect(button, &BoxControl::clicked, this, [this, result] { done(result); });
     // Any key that goes down on the button shows, unless it led away from it.
     connect(button, &BoxControl::keyPressed, this,

@@ -4,6 +4,7 @@
 #include "ui/text_prompt.h"
 
 #include "ui/box_control.h"
+#include "ui/dialog_parts.h"
 #include "ui/scheme_palette.h"
 
 #include <QGuiApplication>
@@ -17,10 +18,7 @@ namespace {
 using namespace Qt::StringLiterals;
 
 constexpr int Margin = 24;
-constexpr int Spacing = 12;
 constexpr int LineWidth = 320;
-constexpr int ButtonWidth = 96;
-constexpr int ControlHeight = 34;
 
 } // namespace
 
@@ -34,29 +32,19 @@ TextPrompt::TextPrompt(const Appearance& appearance, QWidget* parent)
     m_question->setTextFormat(Qt::PlainText);
     m_question->setBuddy(m_line);
     m_line->setObjectName(u"line"_s);
-    m_line->setMinimumSize(LineWidth, ControlHeight);
-
-    auto* buttons = new QHBoxLayout;
-    buttons->setSpacing(Spacing);
-    buttons->addStretch();
-    const auto addButton = [&](const QString& caption, const QString& name, auto slot) {
-        auto* button = new BoxControl(caption, this);
-        button->setObjectName(name);
-        button->setFixedSize(ButtonWidth, ControlHeight);
-        connect(button, &BoxControl::clicked, this, slot);
-        buttons->addWidget(button);
-    };
-    addButton(u"Ok"_s, u"ok"_s, &QDialog::accept);
-    addButton(u"Cancel"_s, u"cancel"_s, &QDialog::reject);
+    m_line->setMinimumSize(LineWidth, dialog::ButtonSize.height());
+    auto* ok = named(u"ok"_s, new BoxControl(u"Ok"_s, this));
+    auto* cancel = named(u"cancel"_s, new BoxControl(u"Cancel"_s, this));
+    connect(ok, &BoxControl::clicked, this, &QDialog::accept);
+    connect(cancel, &BoxControl::clicked, this, &QDialog::reject);
     connect(m_line, &QLineEdit::returnPressed, this, &QDialog::accept);
 
-    auto* rows = new QVBoxLayout(this);
+    QVBoxLayout* rows = addRows(*this);
     rows->setContentsMargins(Margin, Margin, Margin, Margin);
-    rows->setSpacing(Spacing);
     rows->setSizeConstraint(QLayout::SetFixedSize);
     rows->addWidget(m_question);
     rows->addWidget(m_line);
-    rows->addLayout(buttons);
+    rows->addLayout(makeButtonRow({ok, cancel}));
 }
 
 QString TextPrompt::ask(const QString& question) {
