@@ -118,12 +118,9 @@ void OptionsEditor::AddSch() {
 }
 
 void OptionsEditor::RepSch() {
-    if (selectedEntry().empty()) {
-        tell(scheme_messages::SelectToReplace);
-        return;
-    }
-    const std::string entry = selectedEntry();
-    if (!confirmed(scheme_messages::askReplace(entry)))
+    const std::string entry =
+        confirmedEntry(scheme_messages::SelectToReplace, scheme_messages::askReplace);
+    if (entry.empty())
         return;
     const Outcome replaced = m_library.ReplaceScheme(entry, m_samples.SchemeColours);
     m_selected = indexOf(schemeNames(), entry); // another instance may have moved it
@@ -131,12 +128,9 @@ void OptionsEditor::RepSch() {
 }
 
 void OptionsEditor::DelSch() {
-    if (selectedEntry().empty()) {
-        tell(scheme_messages::SelectToDelete);
-        return;
-    }
-    const std::string entry = selectedEntry();
-    if (!confirmed(scheme_messages::askDelete(entry)))
+    const std::string entry =
+        confirmedEntry(scheme_messages::SelectToDelete, scheme_messages::askDelete);
+    if (entry.empty())
         return;
     if (isSchemeInForce(entry, m_settings.ActiveScheme)) {
         tell(scheme_messages::ActiveCannotBeDeleted);
@@ -208,8 +202,14 @@ void OptionsEditor::Apply(std::string_view printLine) {
     m_settings.PrintLineWidth = printLineWidth(printLine);
 }
 
-bool OptionsEditor::confirmed(const std::string& question) {
-    return m_prompts.message(question, YesNo) == answer::Yes;
+std::string OptionsEditor::confirmedEntry(const std::string& ifNone,
+                                          std::string (*question)(const std::string& entry)) {
+    const std::string& entry = selectedEntry();
+    if (entry.empty()) {
+        tell(ifNone);
+        return {};
+    }
+    return m_prompts.message(question(entry), YesNo) == answer::Yes ? entry : std::string();
 }
 
 void OptionsEditor::report(const Outcome& outcome, const std::string& done) {

@@ -73,7 +73,10 @@ private:
     void startSamples();
     void ShowScheme();
     const std::string& selectedEntry() const;
-    bool confirmed(const std::string& question);
+    /// The selected entry, if the user says yes to the question about it; else "". `ifNone` is told
+    /// when none is selected.
+    std::string confirmedEntry(const std::string& ifNone,
+                               std::string (*question)(const std::string& entry));
     /// Tells how an operation on the library ended; whether it went well.
     void report(const Outcome& outcome, const std::string& done);
     void tell(const std::string& problem);
