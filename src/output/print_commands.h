@@ -6,10 +6,11 @@
 #include "board/prompts.h"
 #include "board/puzzle_file.h"
 #include "output/booklet_printing.h"
-#include "output/print_dialog.h"
+#include "output/print_order.h"
 #include "play/display.h"
 
 class QPrinter;
+class QWidget;
 
 namespace tessaly {
 

@@ -4,12 +4,11 @@
 #pragma once
 
 #include "options/appearance.h"
-#include "output/print_job.h"
+#include "output/print_order.h"
 
 #include <QDialog>
 
 #include <array>
-#include <optional>
 
 class QCheckBox;
 class QComboBox;
@@ -24,29 +23,6 @@ class FileDialogs;
 class FNDialog;
 class Printers;
 class Prompts;
-class PuzzleFiles;
-
-/// What is to be printed, and where.
-struct PrintOrder {
-    PrintRange range;
-    /// The device name; empty for a PDF file.
-    QString printer;
-};
-
-/// What the dialog starts with.
-struct PrintSuggestion {
-    std::string path;
-    int count = 0;
-    /// The printer that the program uses: a device name, empty for a PDF file, or none yet.
-    std::optional<QString> printer;
-};
-
-/// Asks what to print: the dialog, as the command sees it. Nothing when the user cancels.
-class PrintOrderChoice {
-public:
-    virtual ~PrintOrderChoice() = default;
-    virtual std::optional<PrintOrder> choose(const PrintSuggestion& suggestion) = 0;
-};
 
 /// The dialog "Print Puzzles From File". Its property "tag" is "Y" after it was closed in order to
 /// print, else "X".
