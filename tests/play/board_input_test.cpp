@@ -5,9 +5,8 @@
 
 #include "play/board_geometry.h"
 #include "play/selection_walk.h"
-#include "support/recording_display.h"
+#include "support/play_scene.h"
 #include "support/sample_puzzles.h"
-#include "support/scripted_prompts.h"
 
 #include <gtest/gtest.h>
 
@@ -17,7 +16,7 @@
 namespace tessaly {
 namespace {
 
-class BoardInputTest : public testing::Test {
+class BoardInputTest : public testing::Test, protected PlayScene {
 protected:
     BoardInputTest() { game.board = puzzleWithoutGivens(); }
 
@@ -35,12 +34,6 @@ protected:
     }
     const std::string& entry(CellId cell) const { return game.board.CellNum[cell]; }
 
-    Game game;
-    BusyState busy;
-    Appearance appearance;
-    RecordingDisplay display;
-    ScriptedPrompts prompts;
-    PlayCommands commands{game, busy, appearance, display, prompts};
     BoardInput input{game, busy, commands, display, display, prompts};
 };
 

@@ -3,16 +3,15 @@
 
 #include "play/play_commands.h"
 
-#include "support/recording_display.h"
+#include "support/play_scene.h"
 #include "support/sample_puzzles.h"
-#include "support/scripted_prompts.h"
 
 #include <gtest/gtest.h>
 
 namespace tessaly {
 namespace {
 
-class PlayCommandsTest : public testing::Test {
+class PlayCommandsTest : public testing::Test, protected PlayScene {
 protected:
     PlayCommandsTest() { game.board = boardOf(sampleRecords("easy.txt").front()); }
 
@@ -20,13 +19,6 @@ protected:
         EXPECT_EQ(prompts.shown.size(), 1u);
         return prompts.shown.empty() ? ScriptedPrompts::Message{} : prompts.shown.front();
     }
-
-    Game game;
-    BusyState busy;
-    Appearance appearance;
-    RecordingDisplay display;
-    ScriptedPrompts prompts;
-    PlayCommands commands{game, busy, appearance, display, prompts};
 };
 
 TEST_F(PlayCommandsTest, CheckNamesTheWrongHexagon) {

@@ -8,6 +8,7 @@
 #include <functional>
 #include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tessaly::test {
@@ -25,16 +26,18 @@ struct CommandSetting {
     std::function<bool()> wasInterrupted;
 };
 
-/// Runs "tessaly-cli" with these arguments in this process.
+/// Runs "tessaly-cli" with these arguments in this process. `more` are the subcommands besides
+/// those that every build has.
 inline CommandResult runCommand(const std::vector<std::string>& arguments,
-                                const CommandSetting& setting = {}) {
+                                const CommandSetting& setting = {}, Commands more = {}) {
     std::vector<const char*> argv{"tessaly-cli"};
     for (const std::string& argument : arguments)
         argv.push_back(argument.c_str());
     std::ostringstream out;
     std::ostringstream err;
-    const int status = runProgram(static_cast<int>(argv.size()), argv.data(),
-                                  {out, err, setting.errIsTerminal, setting.wasInterrupted});
+    const int status =
+        runProgram(static_cast<int>(argv.size()), argv.data(),
+                   {out, err, setting.errIsTerminal, setting.wasInterrupted}, std::move(more));
     return {status, out.str(), err.str()};
 }
 

@@ -4,6 +4,7 @@
 #include "play/board_geometry.h"
 #include "play/board_surface.h"
 #include "play/hexagon_tag.h"
+#include "support/sample_appearances.h"
 #include "support/sample_board.h"
 #include "ui/golden_picture.h"
 
@@ -14,24 +15,6 @@
 
 namespace tessaly {
 namespace {
-
-Appearance light() {
-    Appearance appearance;
-    appearance.SchemeColours[slot::Background] = RGB(236, 233, 226);
-    appearance.HexaFillColour = RGB(252, 251, 248);
-    appearance.NumberFont = "Liberation Sans";
-    return appearance;
-}
-
-Appearance dark() {
-    Appearance appearance = light();
-    appearance.SchemeColours[slot::Background] = RGB(32, 36, 44);
-    appearance.HexaFillColour = RGB(48, 54, 66);
-    appearance.HexaBorderColour = RGB(120, 130, 150);
-    appearance.FixedNumberColour = RGB(240, 240, 240);
-    appearance.UserNumberColour = RGB(120, 200, 255);
-    return appearance;
-}
 
 /// The picture with the tags over it, as the window shows them.
 QImage withTags(const BoardSurface& surface, const Board& board, const Appearance& appearance) {

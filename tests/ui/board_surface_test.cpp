@@ -5,6 +5,7 @@
 
 #include "play/board_geometry.h"
 #include "play/board_renderer.h"
+#include "support/sample_appearances.h"
 #include "support/sample_board.h"
 
 #include <gtest/gtest.h>
@@ -18,12 +19,6 @@ namespace tessaly {
 namespace {
 
 const QSize Sizes[] = {{506, 476}, {304, 286}, {333, 900}, {777, 501}, {1012, 952}};
-
-Appearance light() {
-    Appearance appearance;
-    appearance.SchemeColours[slot::Background] = RGB(236, 233, 226);
-    return appearance;
-}
 
 QImage drawnAtOnce(const Board& board, const Appearance& appearance, QSize size) {
     BoardSurface surface;

@@ -3,14 +3,13 @@
 
 #include "cli/drawing_commands.h"
 
+#include "support/command_line.h"
 #include "support/full_disk.h"
 #include "support/pdf_document.h"
 #include "support/temporary_folder.h"
 
 #include <QImage>
 #include <QSvgRenderer>
-
-#include <sstream>
 
 namespace tessaly {
 namespace {
@@ -20,15 +19,10 @@ using Arguments = std::vector<std::string>;
 class DrawingCommands : public testing::Test {
 protected:
     int run(const Arguments& arguments, const std::function<bool()>& interrupted = {}) {
-        std::vector<const char*> argv{"tessaly-cli"};
-        for (const std::string& argument : arguments)
-            argv.push_back(argument.c_str());
-        std::ostringstream out;
-        std::ostringstream err;
-        const int status = runProgram(static_cast<int>(argv.size()), argv.data(),
-                                      {out, err, false, interrupted}, drawingCommands());
-        said = err.str();
-        return status;
+        test::CommandResult result =
+            test::runCommand(arguments, {.wasInterrupted = interrupted}, drawingCommands());
+        said = std::move(result.err);
+        return result.status;
     }
     int render(const std::string& output, const Arguments& more = {}) {
         Arguments all{"render", Easy, "--number", "2", "--output", folder / output};

@@ -5,6 +5,7 @@
 
 #include "board/puzzle_record.h"
 #include "output/board_picture.h"
+#include "support/sample_appearances.h"
 #include "support/sample_board.h"
 #include "ui/game_window.h"
 #include "ui/golden_picture.h"
@@ -23,13 +24,9 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
+/// Its user's numbers can be read on white too.
 Appearance colourful() {
-    Appearance appearance;
-    appearance.NumberFont = "Liberation Sans";
-    appearance.SchemeColours[slot::Background] = RGB(32, 36, 44);
-    appearance.HexaFillColour = RGB(48, 54, 66);
-    appearance.HexaBorderColour = RGB(120, 130, 150);
-    appearance.FixedNumberColour = RGB(240, 240, 240);
+    Appearance appearance = dark();
     appearance.UserNumberColour = RGB(20, 60, 200);
     return appearance;
 }
