@@ -65,8 +65,21 @@ private:
         return m_cells[static_cast<std::size_t>(cell.position - 1)];
     }
 
+    /// The cells with one candidate left.
+    struct Settled {
+        /// By position; all bits of such a cell.
+        std::array<Word, CellCount> single;
+        /// What they hold.
+        CellPlanes placed;
+        /// A cell has no candidate, or two of a hexagon hold the same.
+        bool conflict;
+        bool all;
+    };
+
     void matchSides();
     State settle();
+    Settled findSettled() const;
+    void settleLone(const CellPlanes& again);
 
     std::array<CellPlanes, CellCount> m_cells{};
 };
@@ -86,27 +99,10 @@ void Candidates::matchSides() {
 
 /// In one hexagon no digit helps another: all hexagons at once.
 Candidates::State Candidates::settle() {
-    std::array<Word, CellCount> single{};
-    CellPlanes placed{};
-    Word conflict = 0;
-    Word allSingle = planes::Every;
-    for (std::size_t cell = 0; cell < CellCount; ++cell) {
-        const auto& [a, b, c] = m_cells[cell];
-        const Word any = a | b | c;
-        const Word several = (a & b) | ((a | b) & c);
-        conflict |= planes::Every & ~planes::eitherHalf(any);
-        single[cell] =
-            planes::eitherHalf(any) & ~(planes::eitherHalf(several) | planes::bothHalves(any));
-        allSingle &= single[cell];
-        for (std::size_t i = 0; i < planes::WordsPerCell; ++i) {
-            const Word settled = m_cells[cell][i] & single[cell];
-            conflict |= placed[i] & settled;
-            placed[i] |= settled;
-        }
-    }
-    if (conflict != 0)
+    const Settled settled = findSettled();
+    if (settled.conflict)
         return State::Impossible;
-    if (allSingle == planes::Every)
+    if (settled.all)
         return State::Solved;
 
     CellPlanes seen{};
@@ -114,24 +110,53 @@ Candidates::State Candidates::settle() {
     for (std::size_t cell = 0; cell < CellCount; ++cell)
         for (std::size_t i = 0; i < planes::WordsPerCell; ++i) {
             Word& word = m_cells[cell][i];
-            word &= single[cell] | ~placed[i];
+            word &= settled.single[cell] | ~settled.placed[i];
             again[i] |= seen[i] & word;
             seen[i] |= word;
         }
     if ((seen[0] & seen[1] & seen[2]) != planes::Every)
         return State::Impossible;
+    settleLone(again);
+    return State::Open;
+}
+
+Candidates::Settled Candidates::findSettled() const {
+    Settled settled{};
+    Word conflict = 0;
+    Word allSingle = planes::Every;
     for (std::size_t cell = 0; cell < CellCount; ++cell) {
+        const auto& [a, b, c] = m_cells[cell];
+        const Word any = a | b | c;
+        const Word several = (a & b) | ((a | b) & c);
+        conflict |= planes::Every & ~planes::eitherHalf(any);
+        settled.single[cell] =
+            planes::eitherHalf(any) & ~(planes::eitherHalf(several) | planes::bothHalves(any));
+        allSingle &= settled.single[cell];
+        for (std::size_t i = 0; i < planes::WordsPerCell; ++i) {
+            const Word placed = m_cells[cell][i] & settled.single[cell];
+            conflict |= settled.placed[i] & placed;
+            settled.placed[i] |= placed;
+        }
+    }
+    settled.conflict = conflict != 0;
+    settled.all = allSingle == planes::Every;
+    return settled;
+}
+
+/// A digit that no other cell of the hexagon may hold settles its cell. `again` has the digits that
+/// two cells or more may hold.
+void Candidates::settleLone(const CellPlanes& again) {
+    for (CellPlanes& cell : m_cells) {
         CellPlanes lone;
         Word anyLone = 0;
         for (std::size_t i = 0; i < planes::WordsPerCell; ++i) {
-            lone[i] = m_cells[cell][i] & ~again[i];
+            lone[i] = cell[i] & ~again[i];
             anyLone |= lone[i];
         }
         const Word others = ~planes::eitherHalf(anyLone);
         for (std::size_t i = 0; i < planes::WordsPerCell; ++i)
-            m_cells[cell][i] &= others | lone[i];
+            cell[i] &= others | lone[i];
     }
-    return State::Open;
 }
 
 CellId Candidates::openCell() const {
