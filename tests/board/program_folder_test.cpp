@@ -3,6 +3,7 @@
 
 #include "board/program_folder.h"
 
+#include "support/file_calls.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -154,6 +155,34 @@ TEST_F(ProgramFolderTest, AFirstStartThatFailsLeavesNothingBehind) {
     EXPECT_NE(found(), "") << problem;
 }
 
+TEST_F(ProgramFolderTest, AFirstStartThatRunsOutOfRoomLeavesNothingBehind) {
+    fs::create_directories(data);
+    const std::vector<std::pair<std::string, std::string>> failures{
+        {"open", data},
+        {"write", data / ".tessaly.new/all.col"},
+        {"rename", userFolder},
+        // The last two flush the filled folder and the one that it lies in.
+        {"fsync", data / ".tessaly.new"},
+        {"fsync", userFolder}};
+    int flushes = 0;
+    {
+        const test::FileCalls calls(
+            [&](std::string_view name, int) { return flushes += name == "fsync" ? 1 : 0, 0; });
+        ASSERT_NE(found(), "");
+    }
+    for (std::size_t i = 0; i < failures.size(); ++i) {
+        fs::remove_all(userFolder);
+        const auto& [call, path] = failures[i];
+        const int first = call == "fsync" ? flushes - 5 + static_cast<int>(i) : 0;
+        const test::FileCalls calls(test::failing(call, ENOSPC, first));
+        EXPECT_EQ(found(), "");
+        EXPECT_TRUE(problem.starts_with(path + ": ") &&
+                    problem.ends_with(": No space left on device"))
+            << call << ": " << problem;
+        EXPECT_EQ(namesIn(data), i + 1 < failures.size() ? Names{} : Names{"tessaly"});
+    }
+}
+
 TEST_F(ProgramFolderTest, WhatIsInTheWayIsNamed) {
     put(root / "home", "a file");
     EXPECT_EQ(found(), "");
@@ -163,6 +192,15 @@ TEST_F(ProgramFolderTest, WhatIsInTheWayIsNamed) {
     put(userFolder, "a file");
     EXPECT_EQ(found(), "");
     EXPECT_EQ(problem, userFolder.native() + ": is no folder");
+    fs::remove(userFolder);
+    fs::create_symlink(userFolder, userFolder);
+    EXPECT_EQ(found(), "");
+    EXPECT_EQ(problem,
+              userFolder.native() + ": cannot be examined: Too many levels of symbolic links");
+    // Where not even the system administrator can make a folder.
+    sources.dataHome = "/proc";
+    EXPECT_EQ(found(), "");
+    EXPECT_EQ(problem.find("/proc/.tessaly.new: cannot be created: "), 0U) << problem;
 }
 
 TEST_F(ProgramFolderTest, TwoFirstStartsAtOnceBothFindAWholeFolder) {

@@ -12,8 +12,8 @@
 #include "support/temporary_folder.h"
 
 #include <algorithm>
-#include <iostream>
 #include <optional>
+#include <ostream>
 #include <set>
 
 namespace tessaly::faults {
@@ -42,18 +42,18 @@ int recordsPromised(std::string_view said) {
 
 /// What the operation left of its file, as the table tells it.
 Outcome judgeTarget(const Operation& operation, const Content& before, const Content& after,
-                    const Content& left, std::string_view said) {
+                    const Content& left, std::string_view said, std::ostream& description) {
     const bool isDone = said.ends_with("done\n");
     const auto added = recordsAdded(before.value_or(""), after.value_or(""), left.value_or(""));
     if (operation.name == "batch" && left && added.value_or(0) > 0) {
-        std::cout << *added << " records more";
+        description << *added << " records more";
         return *added >= recordsPromised(said)
                    ? Outcome::done()
                    : Outcome::failed("fewer records than were said to be made");
     }
     if (left != before && left != after)
         return Outcome::failed("neither the old nor the new content");
-    std::cout << (left == before ? "old" : "new");
+    description << (left == before ? "old" : "new");
     if (isDone && left != after)
         return Outcome::failed("said to be done, but it is not");
     return Outcome::done();
@@ -103,10 +103,10 @@ Outcome startAgain(const Scene& scene) {
 } // namespace
 
 Outcome judge(const Operation& operation, const Scene& before, const Scene& after,
-              const Scene& work, std::string_view said) {
+              const Scene& work, std::string_view said, std::ostream& description) {
     const auto content = [&](const Scene& scene) { return contentOf((scene.*operation.target)()); };
-    if (Outcome target =
-            judgeTarget(operation, content(before), content(after), content(work), said);
+    if (Outcome target = judgeTarget(operation, content(before), content(after), content(work),
+                                     said, description);
         !target.ok())
         return target;
     for (const auto& other : {&Scene::puzzles, &Scene::configuration, &Scene::schemes})
@@ -115,7 +115,7 @@ Outcome judge(const Operation& operation, const Scene& before, const Scene& afte
     if (said.ends_with("done\n") && contentOf(work.temporary()) != contentOf(after.temporary()))
         return Outcome::failed("the temporary file is not what it should be");
     if (!litterIn(work).empty())
-        std::cout << ", litter";
+        description << ", litter";
     return startAgain(work);
 }
 

@@ -13,6 +13,7 @@
 #include "support/temporary_folder.h"
 
 #include <algorithm>
+#include <iostream>
 #include <unistd.h>
 
 namespace tessaly::faults {
@@ -48,7 +49,7 @@ Outcome run(const std::vector<std::string>& words) {
     const Operation* operation = operationNamed(judges ? words[1] : words[0]);
     if (operation && judges)
         return judge(*operation, Scene(words[2]), Scene(words[3]), Scene(words[4]),
-                     test::contentOf(words[5]));
+                     test::contentOf(words[5]), std::cout);
     if (operation && words.size() == 2)
         return perform(*operation, Scene(words[1]));
     return Outcome::failed("wrong usage");

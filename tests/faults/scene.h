@@ -7,6 +7,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <iosfwd>
 #include <string_view>
 #include <vector>
 
@@ -54,9 +55,9 @@ inline constexpr int BatchSize = 6;
 inline constexpr int WrittenAtOnce = 2;
 
 /// Judges what a faulted operation left in `work`, which was a copy of `before` and would be like
-/// `after` without the fault, having said `said`. Then starts the program anew there. Prints what
-/// was left; a problem is whatever must not be.
+/// `after` without the fault, having said `said`. Then starts the program anew there. Describes
+/// what was left; a problem is whatever must not be.
 Outcome judge(const Operation& operation, const Scene& before, const Scene& after,
-              const Scene& work, std::string_view said);
+              const Scene& work, std::string_view said, std::ostream& description);
 
 } // namespace tessaly::faults
