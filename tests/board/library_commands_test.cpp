@@ -4,6 +4,7 @@
 #include "board/library_commands.h"
 
 #include "board/file_access.h"
+#include "support/file_calls.h"
 #include "support/recording_display.h"
 #include "support/recording_library_display.h"
 #include "support/sample_puzzles.h"
@@ -13,6 +14,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <filesystem>
 
 namespace tessaly {
@@ -87,7 +89,13 @@ TEST_F(LibraryCommandsTest, AFileThatHoldsNoPuzzleIsRefusedAndNothingChanges) {
 
 TEST_F(LibraryCommandsTest, SteppingWrapsAroundBothEnds) {
     commands.cmdarrow(1);
+    commands.goTo(1);
+    commands.mnudelete();
     EXPECT_EQ(display.puzzle.PuzNum, 0) << "no puzzle is shown";
+    commands.load(fileOfPuzzles("one.txt", 1));
+    session.game.place({1, 5}, "4");
+    commands.cmdarrow(1);
+    EXPECT_EQ(session.game.undoList.size(), 1u) << "the only puzzle is not read again";
     commands.load(fileOfPuzzles("a.txt", 3));
     commands.cmdarrow(0);
     EXPECT_EQ(display.puzzle.PuzNum, 3);
@@ -173,6 +181,9 @@ TEST_F(LibraryCommandsTest, APuzzleThatStandsInNoFileCanStillBeSaved) {
     commands.mnusavex();
     EXPECT_EQ(test::contentOf(choice.path), records[0] + "\r\n");
     EXPECT_EQ(display.puzzle.PuzNum, 1);
+    choice.path.clear();
+    commands.mnusavex();
+    EXPECT_EQ(prompts.shown.size(), 1u) << "no file was chosen";
 }
 
 TEST_F(LibraryCommandsTest, SavingAppendsThePlayAndShowsTheCopy) {
@@ -225,6 +236,19 @@ TEST_F(LibraryCommandsTest, DeleteAsksRemovesThePuzzleAndShowsTheFirst) {
     EXPECT_EQ(display.puzzle.PuzCount, 2);
 }
 
+TEST_F(LibraryCommandsTest, AnotherPuzzleThanTheOneShownIsNotDeleted) {
+    const std::string path = fileOfPuzzles("a.txt", 2);
+    commands.load(path);
+    const std::string swapped = records[1] + "\r\n" + records[0] + "\r\n";
+    fileOf("a.txt", swapped);
+    prompts.answers = {answer::Yes, answer::Ok};
+    commands.mnudelete();
+    EXPECT_EQ(lastMessage().style, "vbok+vbcritical");
+    EXPECT_NE(lastMessage().text.find("nothing was deleted"), std::string::npos);
+    EXPECT_EQ(test::contentOf(path), swapped);
+    EXPECT_EQ(session.game.board, boardOf(records[0]));
+}
+
 TEST_F(LibraryCommandsTest, DeletingTheOnlyPuzzleLeavesAnEmptyFile) {
     const std::string path = fileOfPuzzles("temporarypuzfile.txt", 1);
     commands.load(path);
@@ -247,6 +271,10 @@ TEST_F(LibraryCommandsTest, RecentFilesOpenUnlessTheyAreGone) {
     std::filesystem::remove(second);
     commands.oldfiles_Click(0);
     EXPECT_EQ(lastMessage(), (Message{"File not found:\r\n" + second, "vbcritical+vbok"}));
+    fileOf("b.txt", "no puzzle\r\n");
+    commands.oldfiles_Click(0);
+    EXPECT_EQ(lastMessage(), (Message{"Error reading file:\r\n" + second, "vbcritical+vbok"}));
+    EXPECT_EQ(display.saveTarget, first);
     EXPECT_EQ(display.puzzle.PuzPath, first);
 }
 
@@ -267,6 +295,10 @@ TEST_F(LibraryCommandsTest, ReopeningFallsBackToTheFirstPuzzleOrTheEmptyBoard) {
         EXPECT_EQ(display.saveTarget, "");
         EXPECT_EQ(board.message, "");
     }
+    fileOfPuzzles("a.txt", 2);
+    const test::FileCalls calls(test::failing("pread", EIO));
+    commands.reopen(path, 1);
+    EXPECT_EQ(display.puzzle.PuzNum, 0) << "it cannot be read";
     EXPECT_TRUE(prompts.shown.empty());
 }
 

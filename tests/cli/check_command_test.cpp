@@ -40,5 +40,23 @@ TEST(CheckCommand, ALineForEachFindingASummaryAndAStatus) {
                               ": 6 puzzles checked, 5 findings\n");
 }
 
+TEST(CommandLine, AnInterruptedCommandEndsWhereItIsAndSaysSoByItsStatus) {
+    const test::TemporaryFolder folder;
+    const std::string path = folder / "puzzles.txt";
+    const std::string easy = sampleRecords("easy.txt")[0] + "\r\n";
+    put(path, easy + easy);
+    const test::CommandSetting interrupted{.errIsTerminal = false,
+                                           .wasInterrupted = [] { return true; }};
+    const CommandResult checked = runCommand({"check", path}, interrupted);
+    EXPECT_EQ(checked.status, exit_status::Interrupted);
+    EXPECT_EQ(checked.out, path + ": 1 puzzles checked, 0 findings\n");
+    const CommandResult solved = runCommand({"solve", path}, interrupted);
+    EXPECT_EQ(solved.status, exit_status::Interrupted);
+    EXPECT_TRUE(test::isOneLine(solved.out)) << solved.out;
+    const CommandResult measured = runCommand({"bench", "--seconds", "0.001"}, interrupted);
+    EXPECT_EQ(measured.status, exit_status::Interrupted);
+    EXPECT_TRUE(measured.out.starts_with("signature ") && test::isOneLine(measured.out));
+}
+
 } // namespace
 } // namespace tessaly

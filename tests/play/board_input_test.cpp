@@ -71,6 +71,17 @@ TEST_F(BoardInputTest, AKeyThatArrivesTwiceTypesOnceButClearsTwice) {
     input.Picture2_KeyPress(code);
     EXPECT_EQ(code, 0) << "consumed";
     EXPECT_EQ(entry({7, 3}), "");
+    for (const int clearing : {8, 27, 46}) {
+        game.place({7, 3}, "4");
+        key(clearing);
+        EXPECT_EQ(entry({7, 3}), "") << clearing;
+    }
+    game.place({7, 3}, "4");
+    const std::size_t before = game.undoList.size();
+    for (const int idle : {0, int{' '}, int{'/'}, int{'7'}})
+        key(idle);
+    EXPECT_EQ(game.undoList.size(), before);
+    key(8);
     key('0');
     EXPECT_EQ(entry({7, 3}), "0");
     key('7');
@@ -95,6 +106,8 @@ TEST_F(BoardInputTest, ThePalettePlacesAndErases) {
     input.digt_MouseUp(6, PointerButton::Left);
     EXPECT_EQ(display.palette, BoardInput::NoPaletteItem) << "a second press releases";
     input.digt_MouseUp(2, PointerButton::Left);
+    input.digt_MouseUp(4, PointerButton::Other);
+    EXPECT_EQ(display.palette, 2);
     input.digt_MouseUp(0, PointerButton::Right);
     EXPECT_EQ(display.palette, BoardInput::NoPaletteItem);
 }
@@ -135,6 +148,11 @@ TEST_F(BoardInputTest, ThePopupSetsTheLastNumberOfItsHexagonAndCopiesAcrossSides
     input.Num16_Click(BoardInput::PopupSideCopy);
     EXPECT_EQ(entry({5, 6}), "3");
     EXPECT_EQ(display.message, " 6 Cells Fixed");
+
+    const Board before = game.board;
+    click(PointerButton::Right);
+    input.Num16_Click(BoardInput::PopupSingle);
+    EXPECT_EQ(game.board, before) << "the hexagon is full";
 }
 
 TEST_F(BoardInputTest, ThePopupOpensUpwardsAtTheBottomAndHides) {
@@ -155,6 +173,22 @@ TEST_F(BoardInputTest, ThePopupOpensUpwardsAtTheBottomAndHides) {
     EXPECT_FALSE(display.popupShown);
 }
 
+TEST_F(BoardInputTest, WithoutASelectionThereIsNoPopup) {
+    input.openPopupAtSelection();
+    input.Picture2_MouseDown(PointerButton::Right, {100, 100});
+    EXPECT_FALSE(display.popupShown);
+    input.Num16_Click(2);
+    EXPECT_EQ(game.board, puzzleWithoutGivens());
+    pointAt({7, 3});
+    input.openPopupAtSelection();
+    EXPECT_TRUE(display.popupShown);
+    EXPECT_EQ(display.popupCorner, numberCentre({7, 3}));
+    input.pointerLeft();
+    EXPECT_FALSE(input.selection());
+    input.Num16_Click(2);
+    EXPECT_EQ(entry({7, 3}), "3") << "the pop-up still knows its cell";
+}
+
 TEST_F(BoardInputTest, PeekingShowsCandidatesOnlyWhileHeld) {
     game.place({10, 1}, "6");
     const Board before = game.board;
@@ -164,21 +198,34 @@ TEST_F(BoardInputTest, PeekingShowsCandidatesOnlyWhileHeld) {
     EXPECT_EQ(game.board, before);
     EXPECT_EQ(display.drawn, (std::vector<int>{10, 10}));
     EXPECT_EQ(game.undoList.size(), 1u);
+    game.board = Board();
+    input.Celltags_MouseDown(10);
+    EXPECT_EQ(game.board, Board()) << "there is no puzzle";
 }
 
 TEST_F(BoardInputTest, NothingIsEnteredWhilePuzzlesAreCreated) {
+    input.digt_MouseUp(3, PointerButton::Left);
     pointAt({7, 3});
+    input.openPopupAtSelection();
     busy.creating = true;
     key('3');
-    input.Picture2_MouseDown(PointerButton::Right, {100, 100});
-    EXPECT_FALSE(display.popupShown);
+    input.Picture2_MouseUp(PointerButton::Left);
     pointAt({8, 3});
-    EXPECT_EQ(input.SelHex(), 7);
+    input.moveSelection(1, 0);
+    input.selectFirst();
+    input.selectLast();
+    input.pointerLeft();
+    EXPECT_EQ(input.selection(), (CellId{7, 3}));
     input.Celltags_MouseDown(10);
     EXPECT_TRUE(prompts.shown.empty());
-    input.digt_MouseUp(3, PointerButton::Left);
+    input.Num16_Click(2);
     EXPECT_EQ(prompts.shown.size(), 1u);
-    EXPECT_EQ(display.palette, BoardInput::NoPaletteItem);
+    EXPECT_FALSE(display.popupShown);
+    input.Picture2_MouseDown(PointerButton::Right, {100, 100});
+    EXPECT_FALSE(display.popupShown);
+    input.digt_MouseUp(4, PointerButton::Left);
+    EXPECT_EQ(prompts.shown.size(), 2u);
+    EXPECT_EQ(display.palette, 3);
     EXPECT_EQ(game.board, puzzleWithoutGivens());
 }
 

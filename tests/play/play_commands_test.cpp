@@ -58,18 +58,22 @@ TEST_F(PlayCommandsTest, AssistsCountWhatTheyDid) {
 
 TEST_F(PlayCommandsTest, PencilMarksAskFirst) {
     const Board before = game.board;
-    prompts.answers = {7, answer::Yes, answer::Yes};
+    prompts.answers = {7, answer::Yes, 7, answer::Yes};
     commands.cmdallpencil();
     EXPECT_EQ(game.board, before);
     commands.cmdallpencil();
     EXPECT_NE(game.board, before);
     EXPECT_EQ(display.message, "Pencilmarks updated");
     EXPECT_TRUE(game.undoList.empty());
+    const Board marked = game.board;
     commands.cmdallpencilClear();
+    EXPECT_EQ(game.board, marked);
+    commands.cmdallpencilClear();
+    EXPECT_NE(game.board, marked);
     EXPECT_EQ(display.message, "Pencilmarks cleared");
     EXPECT_EQ(prompts.shown[1].text, "Existing Pencilmarks will be overwitten, Proceed?");
-    EXPECT_EQ(prompts.shown[2].text, "Existing Pencilmarks will be cleared, Proceed?");
-    EXPECT_EQ(prompts.shown[2].style, "vbyesno+vbquestion");
+    EXPECT_EQ(prompts.shown[3].text, "Existing Pencilmarks will be cleared, Proceed?");
+    EXPECT_EQ(prompts.shown[3].style, "vbyesno+vbquestion");
 }
 
 TEST_F(PlayCommandsTest, ResetAnsweredNoChangesNothing) {
@@ -83,6 +87,23 @@ TEST_F(PlayCommandsTest, ResetAnsweredNoChangesNothing) {
     EXPECT_NE(game.board, before);
     EXPECT_TRUE(game.undoList.empty());
     EXPECT_EQ(prompts.shown[0].text, "Clear ALL user entries?");
+}
+
+TEST_F(PlayCommandsTest, TheSolutionShowsWhileTheButtonIsHeld) {
+    commands.cmdshowsolPressed();
+    EXPECT_EQ(display.solutionsDrawn, 1);
+    commands.cmdshowsolReleased();
+    EXPECT_EQ(display.boardsDrawn, 1);
+    busy.creating = true;
+    commands.cmdshowsolReleased();
+    EXPECT_EQ(display.boardsDrawn, 1);
+}
+
+TEST_F(PlayCommandsTest, WithNothingToUndoNothingIsDrawn) {
+    display.message = "kept";
+    commands.cmdundo();
+    EXPECT_EQ(display.message, "kept");
+    EXPECT_TRUE(display.drawn.empty());
 }
 
 TEST_F(PlayCommandsTest, EveryCommandIsRefusedWhilePuzzlesAreCreated) {

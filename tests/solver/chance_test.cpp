@@ -41,6 +41,15 @@ TEST(Chance, EveryNumberBelowABoundIsEquallyLikely) {
         deviation += (count - Draws / 7.0) * (count - Draws / 7.0) / (Draws / 7.0);
     EXPECT_LT(deviation, 22.5) << "chi squared, six degrees of freedom, one in a thousand";
     EXPECT_EQ(chance.below(1), 0U);
+
+    // Three quarters of the range: every fourth number must be drawn again, or a third of them
+    // would come twice as often.
+    constexpr std::uint32_t Large = 3U << 30;
+    std::array<int, 3> thirds{};
+    for (int i = 0; i < Draws; ++i)
+        ++thirds.at(chance.below(Large) % 3);
+    for (int count : thirds)
+        EXPECT_NEAR(count, Draws / 3, 600);
 }
 
 TEST(Chance, EveryOrderIsEquallyLikely) {

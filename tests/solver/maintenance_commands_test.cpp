@@ -3,6 +3,7 @@
 
 #include "solver/maintenance_commands.h"
 
+#include "solver/deduction.h"
 #include "solver/developer_commands.h"
 #include "support/recording_display.h"
 #include "support/recording_library_display.h"
@@ -126,6 +127,39 @@ TEST_F(MaintenanceCommandsTest, SolveLoopTellsEmptyCellsAndRepeatedNumbers) {
     EXPECT_TRUE(said().ends_with("Error in cell 026\r\nand 102 more")) << said();
 }
 
+TEST_F(MaintenanceCommandsTest, TheRulesRunOnTheBoardInPlayStepByStep) {
+    Board& board = session.game.board;
+    board = boardOf(sampleRecords("easy.txt").front());
+    EXPECT_EQ(developerText(board), std::to_string(board.BlankHex) + "," +
+                                        std::to_string(board.HintCell) + "," +
+                                        std::to_string(board.HintNum));
+    Board expected = board;
+    std::int32_t counter = 0;
+    FixXcellPairs(expected, counter);
+    developer.applyXcellRule();
+    EXPECT_EQ(board.CellNum, expected.CellNum);
+    SolveByDeduction(expected);
+    developer.solveInSteps(false);
+    EXPECT_EQ(board.CellNum, expected.CellNum);
+    EXPECT_EQ(said(), "All Done");
+    EXPECT_GT(display.boardsDrawn, 0);
+    EXPECT_FALSE(session.busy.isBusy());
+}
+
+TEST_F(MaintenanceCommandsTest, TheDevelopersCommandsAreRefusedWhilePuzzlesAreCreated) {
+    session.game.board = boardOf(sampleRecords("hard.txt").front());
+    const Board before = session.game.board;
+    session.busy.creating = true;
+    developer.solveInSteps(true);
+    developer.applyXcellRule();
+    developer.autoSolveHard(true);
+    developer.checkCells();
+    developer.setManualValue();
+    EXPECT_EQ(prompts.shown, (std::vector<ScriptedPrompts::Message>(
+                                 5, {"Let AutoCreate finish first", "vbcritical+vbok"})));
+    EXPECT_EQ(session.game.board, before);
+}
+
 TEST_F(MaintenanceCommandsTest, AValueIsSetByHand) {
     Board& board = session.game.board;
     board = boardOf(sampleRecords("easy.txt").front());
@@ -143,7 +177,8 @@ TEST_F(MaintenanceCommandsTest, AValueIsSetByHand) {
     const Board before = board;
     answer("");
     EXPECT_TRUE(prompts.shown.empty());
-    for (const char* wrong : {"205 4", "107 4", "15 4", "105 7", "105 1234561", "x"}) {
+    for (const char* wrong :
+         {"205 4", "107 4", "15 4", "105 7", "105 1234561", "100 4", "005 4", "1x5 4", "x"}) {
         answer(wrong);
         EXPECT_EQ(said(), std::string("No cell and entry: ") + wrong);
     }
