@@ -6,6 +6,7 @@
 #include "board/puzzle_file.h"
 #include "cli/offscreen.h"
 #include "cli/progress_bar.h"
+#include "output/page_layout.h"
 #include "output/pdf_file.h"
 
 #include <CLI/CLI.hpp>

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "output/booklet_printing.h"
+#include "output/page_layout.h"
 
 #include <filesystem>
 

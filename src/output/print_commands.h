@@ -6,6 +6,7 @@
 #include "board/prompts.h"
 #include "board/puzzle_file.h"
 #include "output/booklet_printing.h"
+#include "output/page_layout.h"
 #include "output/print_order.h"
 #include "play/display.h"
 

@@ -5,7 +5,7 @@
 
 #include "board/board.h"
 #include "board/outcome.h"
-#include "output/page_layout.h"
+#include "output/booklet.h"
 
 #include <functional>
 #include <string>
