@@ -148,6 +148,7 @@ QImage rendered(const Board& board, const Appearance& appearance, Draw draw) {
 
 TEST(BoardRenderer, TheSolutionTakesThePlaceOfEntries) {
     Appearance appearance = light();
+    appearance.HexaFillColour = RGB(255, 255, 255); // over which a smoothed edge rounds to the same
     for (const char* font : {"Liberation Sans", "DejaVu Serif"}) {
         appearance.NumberFont = font;
         const auto solve = [](BoardRenderer& renderer) {
