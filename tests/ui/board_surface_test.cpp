@@ -118,10 +118,6 @@ TEST(BoardSurface, HexagonsLieOnWholePixelsInThePicture) {
         }
 }
 
-QColor at(const QImage& picture, Point point) {
-    return picture.pixelColor(static_cast<int>(point.x), static_cast<int>(point.y));
-}
-
 TEST(BoardSurface, TheBlankHexagonIsSolidWithoutTextOrLines) {
     Appearance appearance = light();
     appearance.HexaBorderColour = RGB(10, 60, 110);
@@ -130,9 +126,12 @@ TEST(BoardSurface, TheBlankHexagonIsSolidWithoutTextOrLines) {
     board.SkipHex = 8;
     const QImage picture = drawnAtOnce(board, appearance, {506, 476});
     const Rect bounds = hexagonBounds(8);
-    for (double y = bounds.top; y < bounds.bottom; ++y)
-        for (double x = bounds.left + 27; x < bounds.right - 27; ++x)
-            ASSERT_EQ(at(picture, {x, y}), QColor(10, 60, 110)) << x << ", " << y;
+    const QRect inside(static_cast<int>(bounds.left) + 27, static_cast<int>(bounds.top),
+                       static_cast<int>(bounds.width()) - 2 * 27,
+                       static_cast<int>(bounds.height()));
+    for (int y = inside.top(); y <= inside.bottom(); ++y)
+        for (int x = inside.left(); x <= inside.right(); ++x)
+            ASSERT_EQ(picture.pixelColor(x, y), QColor(10, 60, 110)) << x << ", " << y;
 }
 
 /// A picture in natural size of what `draw` does with a renderer.
