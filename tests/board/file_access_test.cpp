@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <sys/stat.h>
+#include <unistd.h>
 #include <vector>
 
 namespace tessaly {
@@ -30,6 +31,14 @@ TEST(FileAccess, ReplacingKeepsPermissionsAndLeavesNothingElse) {
     EXPECT_EQ(replaceFile(folder / "a.txt", "new").problem, "");
     EXPECT_EQ(contentOf(folder / "a.txt"), "new");
     EXPECT_EQ(permissionsOf(folder / "a.txt"), fs::perms(0641));
+    fs::permissions(folder / "a.txt", fs::perms(0600));
+    constexpr uid_t Nobody = 65534;
+    const bool givesAway = ::chown((folder / "a.txt").c_str(), Nobody, Nobody) == 0;
+    EXPECT_EQ(replaceFile(folder / "a.txt", "newer").problem, "");
+    EXPECT_EQ(permissionsOf(folder / "a.txt"), fs::perms(0600));
+    struct stat status {};
+    ASSERT_EQ(::stat((folder / "a.txt").c_str(), &status), 0);
+    EXPECT_EQ(status.st_uid == Nobody, givesAway || ::geteuid() == Nobody);
     EXPECT_EQ(replaceFile(folder / "made.txt", "").problem, "");
     EXPECT_EQ(folder.names(), (Names{"a.txt", "made.txt"}));
 }
@@ -103,6 +112,21 @@ TEST(FileAccess, AnyNameThatTheSystemTakesWillDo) {
         EXPECT_EQ(contentOf(folder / name), "a\nb\n") << name;
     }
     EXPECT_EQ(folder.names().size(), 5U);
+}
+
+TEST(FileAccess, RewritingStartsFromNothingWhereThereIsNoFile) {
+    const TemporaryFolder folder;
+    const auto addLine = [](std::string& content) {
+        content += "line\n";
+        return Outcome::done();
+    };
+    for (const char* expected : {"line\n", "line\nline\n"}) {
+        EXPECT_EQ(rewriteSmallFile(folder / "a.txt", 100, addLine).problem, "");
+        EXPECT_EQ(contentOf(folder / "a.txt"), expected);
+    }
+    removeLeftovers(folder / "none");
+    removeLeftoverOf(folder / "none/a.txt");
+    EXPECT_EQ(folder.names(), Names{"a.txt"});
 }
 
 TEST(FileAccess, SmallFilesAreReadUpToTheirLimit) {

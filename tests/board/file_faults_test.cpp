@@ -210,6 +210,21 @@ TEST_F(FileFaultsTest, AScratchFileIsOnlyUsedByWhomItBelongsTo) {
     EXPECT_EQ(contentOf(scratch()), "another one's");
 }
 
+TEST_F(FileFaultsTest, ALeftoverThatCannotBeRemovedIsSaid) {
+    put(file(), "old");
+    put(scratch(), "torn");
+    // The first lock and the first look are the file's own, the first two openings its own and the
+    // one that finds the leftover.
+    for (const FileCalls::Before& stuck : {failing("openat", EIO, 2), failing("flock", EIO, 1),
+                                           failing("fstatat", EIO, 1), failing("unlinkat", EIO)}) {
+        EXPECT_EQ(problemWhile(stuck, replacing("new")),
+                  file().native() + ": no new file can be made beside it: File exists");
+        EXPECT_EQ(contentOf(file()) + contentOf(scratch()), "oldtorn");
+    }
+    EXPECT_EQ(problemWhile(failing("openat", ENOENT, 2), replacing("new")), "") << "gone by itself";
+    EXPECT_EQ(names(), Names{"a.txt"});
+}
+
 TEST_F(FileFaultsTest, AFileThatAppearsOrGoesWhileItIsWrittenIsNotOverwritten) {
     EXPECT_NE(problemWhile(meanwhile("fsync", replacedBy("foreign")), replacing("ours")), "");
     EXPECT_EQ(contentOf(file()), "foreign");
@@ -253,7 +268,7 @@ TEST_F(FileFaultsTest, AnAppendedLineThatCannotBeFlushedIsTakenBack) {
 }
 
 TEST_F(FileFaultsTest, AFileThatCannotBeReadToItsEndIsNamedAndStays) {
-    const std::string before = recordFile(1000); // two blocks
+    const std::string before = recordFile(1000) + "\n"; // two blocks and a blank line
     const auto write = [](const ContentSink& sink) { return sink.write("x"); };
     Board board;
     ArrangementTable table;
@@ -268,7 +283,7 @@ TEST_F(FileFaultsTest, AFileThatCannotBeReadToItsEndIsNamedAndStays) {
         {5, [&] { return Outcome{PuzzleFiles().ReadPuzzle(file(), 500, board).reason}; }},
         {5, [&] { return PuzzleFiles().DeletePuzzle(file(), 500, "another", folder()); }},
         {3, [&] { return PuzzleFiles().appendPuzzle(file(), recordNumbered(1), number); }},
-        {4, [&] { return PuzzleFiles().appendPuzzles(file(), write); }},
+        {3, [&] { return PuzzleFiles().appendPuzzles(file(), write); }},
         // To these a file that ends early is just a shorter file.
         {1, [&] { return readSmallFile(file(), 1'000'000, content); }},
         {1, [&] { return readRecordLines(file(), [](const RecordLine&) { return true; }); }},

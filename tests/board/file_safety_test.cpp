@@ -91,11 +91,13 @@ TEST(FileSafety, MissingPermissionsAreReportedAndChangeNothing) {
 TEST(FileSafety, OnlyLeftoversOfDeadProcessesAreCleared) {
     const TemporaryFolder folder;
     const fs::path leftover = folder / scratchNameOf(std::string(FileName));
-    put(folder / FileName, "old");
-    put(folder / ".tessaly-notes.tmp", "the user's own");
+    const Names own{std::string(FileName), ".tessaly-notes.tmp", ".tessaly-0123456789abcdef.txt",
+                    "_tessaly-0123456789abcdef.tmp"};
+    for (const std::string& name : own)
+        put(folder / name, "the user's own");
     put(leftover, "torn");
     removeLeftovers(folder.path());
-    EXPECT_EQ(folder.names(), (Names{std::string(FileName), ".tessaly-notes.tmp"}));
+    EXPECT_EQ(folder.names(), own);
 
     put(leftover, "torn");
     EXPECT_EQ(replaceFile(folder / FileName, "new").problem, "");

@@ -156,8 +156,8 @@ TEST(LineIndex, AFileThatHasJustChangedIsReadOnceMoreBecauseTheNextChangeMayNotS
 
 TEST(LineReader, ReadsWhatTheIndexCountsAndKeepsNoOverLongLine) {
     const TemporaryFolder folder;
-    put(folder / "a.txt",
-        Mark + "one\r\n\ntwo\rtwo\n" + std::string(300'000, 'x') + "\r\n12345678\r\nlast\r");
+    put(folder / "a.txt", Mark + "one\r\n\ntwo\rtwo\n" + std::string(300'000, 'x') +
+                              "\r\n12345678\r\n123456789\nlast\r");
     LineReader reader(8);
     ASSERT_EQ(reader.open(folder / "a.txt").problem, "");
     std::vector<std::string> lines;
@@ -166,8 +166,8 @@ TEST(LineReader, ReadsWhatTheIndexCountsAndKeepsNoOverLongLine) {
         lines.emplace_back(result == LineReader::Result::OverLong ? "too long" : reader.line());
         EXPECT_EQ(reader.number(), static_cast<int>(lines.size()));
     }
-    EXPECT_EQ(lines,
-              (std::vector<std::string>{"one", "", "two\rtwo", "too long", "12345678", "last"}));
+    EXPECT_EQ(lines, (std::vector<std::string>{"one", "", "two\rtwo", "too long", "12345678",
+                                               "too long", "last"}));
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 
 #include "board/configuration.h"
 #include "board/scratch_file.h"
+#include "support/file_calls.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -93,6 +94,11 @@ TEST_F(SessionMemoryTest, AMissingOrGarbledDataFileStopsTheStart) {
     for (const char* garbled : {"", "garbage", "%%%"}) {
         test::put(folder / "hexabinx.txt", garbled);
         EXPECT_NE(loadSession(session).outcome.problem.find("hexabinx.txt"), std::string::npos);
+    }
+    {
+        const test::FileCalls calls(test::failing("pread", EIO));
+        EXPECT_EQ(loadSession(session).outcome.problem,
+                  (folder / "all.col").native() + ": cannot be read: Input/output error");
     }
     std::filesystem::remove(folder / "hexabinx.txt");
     EXPECT_NE(loadSession(session).outcome.problem.find("hexabinx.txt"), std::string::npos);

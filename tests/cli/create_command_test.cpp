@@ -5,6 +5,7 @@
 
 #include "board/puzzle_record.h"
 #include "support/command_line.h"
+#include "support/file_calls.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -97,6 +98,13 @@ TEST(CreateCommand, AnUnwritableOutputIsNamedOnOneLine) {
             << result.err;
     }
     EXPECT_TRUE(folder.names().empty());
+    const std::string path = folder / "mine.txt";
+    put(path, "kept\n");
+    const test::FileCalls calls(test::failing("pread", EIO));
+    const CommandResult unread = create(1, {"--output", path});
+    EXPECT_EQ(unread.status, exit_status::Failed) << "what it holds is not to be repeated";
+    EXPECT_EQ(unread.err, "tessaly-cli: " + path + ": cannot be read: Input/output error\n");
+    EXPECT_EQ(contentOf(path), "kept\n");
 }
 
 TEST(CreateCommand, AStopLeavesWholeRecords) {

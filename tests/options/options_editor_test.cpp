@@ -64,6 +64,8 @@ TEST_F(OptionsEditorTest, StartsFromTheSettingsWithNoSchemeSelected) {
     settings.ActiveScheme = "my.own.col";
     editor.showSchemeInForce();
     EXPECT_EQ(editor.schemeCaption(), "Colour Scheme: my");
+    settings.ActiveScheme = "xp";
+    EXPECT_FALSE(editor.schemeInForce()) << "no name of a record";
 }
 
 TEST_F(OptionsEditorTest, AChosenSchemeShowsWithNeutralSamplesAndChangesNoSetting) {
@@ -279,6 +281,18 @@ TEST_F(OptionsEditorTest, FailuresAreToldAndLeaveEverythingAsItWas) {
     EXPECT_EQ(prompts.shown.back().style, "vbok+vbcritical");
     EXPECT_EQ(editor.schemeNames().size(), 3U);
     EXPECT_EQ(settings, before);
+}
+
+TEST_F(OptionsEditorTest, WithoutTheSchemesTheRestCanStillBeSet) {
+    std::filesystem::remove(m_file);
+    editor.open();
+    EXPECT_EQ(lastMessage().find(m_file.native()), 0U) << lastMessage();
+    EXPECT_EQ(editor.samples(), settings);
+    settings.HexaBorderWidth = 5;
+    editor.cmddef();
+    EXPECT_EQ(prompts.shown.size(), 2U);
+    EXPECT_EQ(lastMessage().find(m_file.native()), 0U) << lastMessage();
+    EXPECT_EQ(settings.HexaBorderWidth, Appearance().HexaBorderWidth);
 }
 
 TEST(PrintLineWidth, IsTheLeadingNumberRoundedToEvenAndAtLeastOne) {

@@ -151,7 +151,8 @@ TEST_F(SchemeLibraryTest, AddsTheNameInLowerCaseAndRefusesItInAnyCaseFromThenOn)
 TEST_F(SchemeLibraryTest, OddNamesAreStoredAsTheyAreAndLoadAgain) {
     setFile("");
     const std::string longName(300, 'n');
-    for (const std::string& name : {std::string("semi;colon"), longName, std::string(" ")}) {
+    for (const std::string& name : {std::string("semi;colon"), longName, std::string(" "),
+                                    std::string("no \xff text"), std::string("nul\0l", 5)}) {
         ASSERT_EQ(library.AddScheme(name, sampleColours(100)).problem, "");
         EXPECT_EQ(library.names().back(), name);
         EXPECT_EQ(problemOfLoading(name + ".col"), "");

@@ -18,6 +18,7 @@ TEST(Booklet, EveryPuzzleHasItsPlaceAndTheSolutionsComeAfter) {
     ASSERT_EQ(booklet.pageCount(), static_cast<int>(expected.size()));
     for (int page = 0; page < booklet.pageCount(); ++page)
         EXPECT_EQ(booklet.page(page), expected[static_cast<std::size_t>(page)]) << page;
+    EXPECT_EQ(booklet.page(booklet.pageCount()).count, 0) << "behind the last page";
     EXPECT_EQ(Booklet(12, {solutions}).pageCount(), 1);
 }
 

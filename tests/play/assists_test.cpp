@@ -70,6 +70,9 @@ TEST(SingleCandidate, NamesTheFirstOpenCellOfAHexagonThatLacksOneNumber) {
     game.board.CellNum[4] = {"", "1", "1", "3", "4", "5", "6"}; // no open cell
     EXPECT_FALSE(SingleCandidate(game.board, 4).cell);
     EXPECT_FALSE(SingleCandidate(game.board, 20).cell);
+    game.board.CellNum[4] = {"", "1", "23", "3", "4", "5", "6"};
+    game.board.SkipHex = 4;
+    EXPECT_FALSE(SingleCandidate(game.board, 4).cell);
 }
 
 TEST(PencilMarks, FillOverwritesMarksAndUntouchedNumbersAndClearTakesMarksOnly) {

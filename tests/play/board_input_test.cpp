@@ -278,6 +278,9 @@ TEST_F(BoardInputTest, ArrowsHomeAndEndMoveTheSelection) {
     pointAt({2, 5});
     input.moveSelection(1, 0);
     EXPECT_NE(input.selection().hexagon, 5) << "the blank hexagon is stepped over";
+    input.pointerLeft();
+    input.moveSelection(-1, 0);
+    EXPECT_EQ(input.selection(), (CellId{19, 5}));
     for (CellId cell : AllCells)
         game.board.FixedCell[cell] = true;
     input.selectFirst();

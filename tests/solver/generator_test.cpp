@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <set>
+#include <span>
 #include <utility>
 
 namespace tessaly {
@@ -127,6 +128,25 @@ TEST(Generator, AWatchedPuzzleIsTheSameAndIsDrawnAsItGrows) {
         EXPECT_EQ(emptied.size(), 19U) << "the old puzzle goes first";
         EXPECT_GT(yields, 8);
     }
+}
+
+TEST(Generator, ATableWithoutAFillingIsTriedAgainAndSaidSo) {
+    struct Enough {};
+    const std::vector<Arrangement> all = allArrangements();
+    const SearchFill none{std::span(all).first(1)};
+    std::vector<std::string> said;
+    CreationObserver observer;
+    observer.message = [&](const std::string& text) {
+        said.push_back(text);
+        if (said.size() == 2)
+            throw Enough();
+    };
+    Board board;
+    Chance chance(7);
+    EXPECT_THROW(CreatePuzzle(board, Difficulty::Easy, chance, none, observer), Enough);
+    EXPECT_EQ(said, std::vector<std::string>(2, "No solution in " +
+                                                    std::to_string(SearchFill::MaxAttempts) +
+                                                    " iterations, solution aborted"));
 }
 
 TEST(Generator, AFailedChoiceOfTheBlankHexagonLeavesTheGivens) {

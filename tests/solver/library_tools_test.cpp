@@ -5,7 +5,9 @@
 
 #include "solver/deduction.h"
 #include "solver/planted_hint.h"
+#include "support/full_disk.h"
 #include "support/sample_puzzles.h"
+#include "support/sample_records.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -164,6 +166,25 @@ TEST_F(LibraryToolsTest, AMissingInputOrAnOutputThatIsNoFileIsNamed) {
     files.output = folder / "nowhere/out.txt";
     for (const ToolRun& tool : allTools())
         EXPECT_NE(tool({}).problem.find(files.output), std::string::npos);
+}
+
+TEST_F(LibraryToolsTest, ADiskThatFillsInTheMiddleOfAnOutputLeavesTheOldOne) {
+    // More than is written at a time.
+    put(files.input, test::recordFile(2500));
+    put(files.output, "old");
+    const std::vector<ToolRun> tools = allTools();
+    for (const std::size_t writing : {0, 1, 3}) {
+        const test::FullDisk disk(200'000);
+        EXPECT_EQ(tools[writing]({}).problem, files.output + ": cannot be written: File too large");
+        EXPECT_EQ(contentOf(files.output), "old");
+        EXPECT_EQ(folder.names().size(), 2u);
+    }
+    EXPECT_EQ(tools[3]({}).problem, "");
+    std::vector<std::string> shuffled = linesOf(files.output);
+    std::vector<std::string> lines = linesOf(files.input);
+    std::sort(shuffled.begin(), shuffled.end());
+    std::sort(lines.begin(), lines.end());
+    EXPECT_TRUE(shuffled == lines);
 }
 
 TEST_F(LibraryToolsTest, ARunThatIsStoppedWritesNothing) {

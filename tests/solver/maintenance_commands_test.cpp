@@ -66,8 +66,10 @@ TEST_F(MaintenanceCommandsTest, GrowProveAndMixALibrary) {
     EXPECT_GE(solved, 7 * 80) << "a header that is not true costs one in eight at most";
 
     std::filesystem::rename(folder / "addnewr.txt", folder / "puzzles20k.txt");
+    session.puzzle.PuzNum = 2;
     commands.Randomize();
     EXPECT_EQ(said(), "done");
+    EXPECT_EQ(library.puzzle.PuzNum, 2) << "the puzzle in play is named again";
     EXPECT_EQ(lineCount("puzzles20u.txt"), 8 * 40) << "each once";
     EXPECT_EQ(library.busyDepth, 0);
 }

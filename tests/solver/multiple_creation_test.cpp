@@ -132,6 +132,19 @@ TEST_F(MultipleCreationTest, ThePuzzleInPlayKeepsWhatWasEntered) {
     EXPECT_EQ(display.puzzle.PuzCount, 3) << "the file has grown";
 }
 
+TEST_F(MultipleCreationTest, APuzzleThatAnotherProgramReplacedIsShownAsItIsNow) {
+    const std::vector<std::string> samples = sampleRecords("easy.txt");
+    const std::string path = folder / "mine.txt";
+    ASSERT_TRUE(replaceFile(path, samples[0] + "\r\n").ok());
+    library.load(path);
+    session.game.place({1, 5}, "4");
+    progress.onProgress = [&] { EXPECT_TRUE(replaceFile(path, samples[1] + "\r\n").ok()); };
+    order(1);
+    creation->run();
+    EXPECT_EQ(session.game.board, boardOf(samples[1]));
+    EXPECT_TRUE(session.game.undoList.empty());
+}
+
 TEST_F(MultipleCreationTest, StoppingLeavesWholeRecordsAndAsksNothing) {
     order(1'000'000);
     prompts.answers = {answer::Yes};
