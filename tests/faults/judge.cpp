@@ -15,6 +15,8 @@
 #include <optional>
 #include <ostream>
 #include <set>
+#include <string>
+#include <vector>
 
 namespace tessaly::faults {
 namespace {
@@ -91,7 +93,9 @@ Outcome startAgain(const Scene& scene) {
     SchemeLibrary schemes(scene.program().string());
     if (Outcome listed = schemes.RefreshSchemeList(); !listed.ok())
         return listed;
-    for (const std::string& name : schemes.names())
+    // Replacing lists the schemes anew.
+    const std::vector<std::string> names = schemes.names();
+    for (const std::string& name : names)
         if (Outcome saved = schemes.ReplaceScheme(name, SchemeColours{}); !saved.ok())
             return saved;
     const Configuration configuration = ReadcfgFile(scene.configuration());
