@@ -273,6 +273,7 @@ TEST_F(FileFaultsTest, AFileThatCannotBeReadToItsEndIsNamedAndStays) {
     Board board;
     ArrangementTable table;
     int number = 500;
+    const std::string record = recordNumbered(number);
     std::string content = "kept";
     struct Reading {
         int reads;
@@ -281,7 +282,7 @@ TEST_F(FileFaultsTest, AFileThatCannotBeReadToItsEndIsNamedAndStays) {
     const std::vector<Reading> readings{
         {2, [&] { return PuzzleFiles().CountLines(file(), number); }},
         {5, [&] { return Outcome{PuzzleFiles().ReadPuzzle(file(), 500, board).reason}; }},
-        {5, [&] { return PuzzleFiles().DeletePuzzle(file(), 500, "another", folder()); }},
+        {7, [&] { return PuzzleFiles().DeletePuzzle(file(), 500, record, folder()); }},
         {3, [&] { return PuzzleFiles().appendPuzzle(file(), recordNumbered(1), number); }},
         {3, [&] { return PuzzleFiles().appendPuzzles(file(), write); }},
         // To these a file that ends early is just a shorter file.
