@@ -209,6 +209,17 @@ void takeRun(Pictures& pictures) {
     pictures.take(*game.window, u"run-smallest"_s);
 }
 
+void takeAll(Pictures& pictures) {
+    takeSizes(pictures);
+    takeRun(pictures);
+    takeSchemes(pictures);
+    takeHelpInSchemes(pictures);
+    for (const QString& scheme : {u"xp"_s, u"night"_s}) {
+        takePrinting(pictures, scheme);
+        takeDialogs(pictures, scheme);
+    }
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -218,16 +229,14 @@ int main(int argc, char** argv) {
     }
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    testing::InitGoogleTest();
-    const QApplication application(argc, argv);
-    Pictures pictures(QString::fromLocal8Bit(argv[1]));
-    takeSizes(pictures);
-    takeRun(pictures);
-    takeSchemes(pictures);
-    takeHelpInSchemes(pictures);
-    for (const QString& scheme : {u"xp"_s, u"night"_s}) {
-        takePrinting(pictures, scheme);
-        takeDialogs(pictures, scheme);
+    try {
+        testing::InitGoogleTest();
+        const QApplication application(argc, argv);
+        Pictures pictures(QString::fromLocal8Bit(argv[1]));
+        takeAll(pictures);
+    } catch (const std::exception& problem) {
+        std::cerr << problem.what() << '\n';
+        return 1;
     }
     return 0;
 }
