@@ -49,7 +49,7 @@ TEST(Chance, EveryNumberBelowABoundIsEquallyLikely) {
     for (int i = 0; i < Draws; ++i)
         ++thirds.at(chance.below(Large) % 3);
     for (int count : thirds)
-        EXPECT_NEAR(count, Draws / 3, 600);
+        EXPECT_NEAR(count, Draws / 3.0, 600);
 }
 
 TEST(Chance, EveryOrderIsEquallyLikely) {
@@ -64,7 +64,7 @@ TEST(Chance, EveryOrderIsEquallyLikely) {
     }
     ASSERT_EQ(orders.size(), 24U);
     for (const auto& [order, count] : orders)
-        EXPECT_NEAR(count, Draws / 24, 160);
+        EXPECT_NEAR(count, Draws / 24.0, 160);
 }
 
 } // namespace
