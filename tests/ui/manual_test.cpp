@@ -133,7 +133,7 @@ public:
     Grid<std::string>::Row look(int hexagon) {
         auto& tag = m_game.find(u"Celltags_%1"_s.arg(hexagon));
         QTest::mousePress(&tag, Qt::LeftButton);
-        const Grid<std::string>::Row seen = m_game.session.game.board.CellNum[hexagon];
+        Grid<std::string>::Row seen = m_game.session.game.board.CellNum[hexagon];
         QTest::mouseRelease(&tag, Qt::LeftButton);
         return seen;
     }
