@@ -34,8 +34,8 @@ fs::path executablePath() {
     return path;
 }
 
-/// "tessaly" in the data home, or nothing when there is none. As the XDG Base Directory
-/// Specification has it, a relative $XDG_DATA_HOME does not count.
+/// "tessaly" in the data home, or nothing when there is none. By the desktop's rules for base
+/// directories a relative $XDG_DATA_HOME does not count.
 fs::path userFolder(const ProgramFolderSources& sources) {
     const fs::path name = "tessaly";
     if (const fs::path dataHome = sources.dataHome; dataHome.is_absolute())

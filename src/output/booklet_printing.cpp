@@ -13,11 +13,6 @@ namespace {
 
 constexpr double PointsPerInch = 72;
 
-PaperSize paperOf(const QPagedPaintDevice& device) {
-    const QRectF sheet = device.pageLayout().fullRectPoints();
-    return {sheet.width(), sheet.height()};
-}
-
 Outcome paintPage(PagePainter& painter, const PrintJob& job, const BookletPage& page,
                   const PageLayout& layout) {
     Board board;
@@ -50,6 +45,11 @@ PrintResult paintPages(QPagedPaintDevice& device, QPainter& painter, const Print
 }
 
 } // namespace
+
+PaperSize paperOf(const QPagedPaintDevice& device) {
+    const QRectF sheet = device.pageLayout().fullRectPoints();
+    return {sheet.width(), sheet.height()};
+}
 
 PrintResult paintBooklet(QPagedPaintDevice& device, const PrintJob& job,
                          const Appearance& appearance, const GoOn& goOn) {

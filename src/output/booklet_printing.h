@@ -4,6 +4,7 @@
 #pragma once
 
 #include "options/appearance.h"
+#include "output/page_layout.h"
 #include "output/print_job.h"
 
 #include <functional>
@@ -23,6 +24,9 @@ struct PrintResult {
 
     bool isComplete() const { return outcome.ok() && !stopped; }
 };
+
+/// The whole sheet that a device prints on.
+PaperSize paperOf(const QPagedPaintDevice& device);
 
 /// Paints a booklet onto paper, on the whole sheet.
 PrintResult paintBooklet(QPagedPaintDevice& device, const PrintJob& job,

@@ -18,11 +18,6 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-PaperSize paperOf(const QPrinter& printer) {
-    const QRectF sheet = printer.pageLayout().fullRectPoints();
-    return {sheet.width(), sheet.height()};
-}
-
 OutputFileQuestion pdfQuestion() {
     return {u"Select a PDF file to print to"_s, u"*.pdf"_s, u"PDF Files"_s,
             QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation), u".pdf"_s};
