@@ -7,6 +7,13 @@ file(GLOB_RECURSE pages "${staged}/share/man/*.[16]" "${staged}/share/doc/tessal
 foreach(page IN LISTS pages)
   execute_process(COMMAND gzip -9nf "${page}" COMMAND_ERROR_IS_FATAL ANY)
 endforeach()
-file(MAKE_DIRECTORY "${staged}/share/lintian/overrides")
-file(COPY_FILE "${CMAKE_CURRENT_LIST_DIR}/lintian-overrides"
-     "${staged}/share/lintian/overrides/tessaly")
+configure_file("${CMAKE_CURRENT_LIST_DIR}/lintian-overrides" "${staged}/share/lintian/overrides/tessaly"
+               FILE_PERMISSIONS OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ COPYONLY)
+# Made under any umask, the package is the same.
+file(GLOB_RECURSE entries LIST_DIRECTORIES true "${CPACK_TEMPORARY_DIRECTORY}/*")
+foreach(entry IN LISTS entries)
+  if(IS_DIRECTORY "${entry}")
+    file(CHMOD "${entry}" PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ
+                                      WORLD_EXECUTE)
+  endif()
+endforeach()

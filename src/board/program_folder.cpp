@@ -80,7 +80,7 @@ ProgramFolderSources ProgramFolderSources::ofThisProcess() {
     const fs::path folder = executable.parent_path();
     return {.given = {},
             .executableFolder = folder.native(),
-            .shareFolder = (folder.parent_path() / "share" / "tessaly").native(),
+            .shareFolder = (folder / TESSALY_SHARE).lexically_normal().native(),
             .dataHome = environment("XDG_DATA_HOME"),
             .home = environment("HOME")};
 }

@@ -21,7 +21,7 @@ struct ProgramFolderSources {
     std::string dataHome;
     std::string home;
 
-    /// Those of the running process, the share folder being "../share/tessaly" as seen from the
+    /// Those of the running process, the share folder being the installed one as seen from the
     /// executable. `given` is empty.
     static ProgramFolderSources ofThisProcess();
 };

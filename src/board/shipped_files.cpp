@@ -45,18 +45,13 @@ FileDescriptor openFolder(const fs::path& folder) {
     return FileDescriptor(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
 }
 
-/// The copy keeps the time of the original, so that a later original is told from it however late
-/// the copy was made.
+constexpr std::size_t SizeLimit = std::size_t{256} << 20;
+
 Outcome copyShipped(const fs::path& from, const fs::path& to) {
-    constexpr std::size_t Limit = std::size_t{256} << 20;
     std::string content;
-    if (Outcome read = readSmallFile(from, Limit, content); !read.ok())
+    if (Outcome read = readSmallFile(from, SizeLimit, content); !read.ok())
         return read;
-    if (Outcome written = replaceFile(to, content); !written.ok())
-        return written;
-    std::error_code error;
-    fs::last_write_time(to, fs::last_write_time(from, error), error);
-    return Outcome::done();
+    return replaceFile(to, content);
 }
 
 Outcome copyAll(const fs::path& share, const fs::path& folder) {
@@ -117,17 +112,17 @@ Outcome installShippedFiles(const fs::path& share, const fs::path& folder) {
 
 void renewShippedFiles(const fs::path& share, const fs::path& folder) {
     for (const ShippedFile& file : shippedFiles(share)) {
-        std::error_code noOriginal;
-        std::error_code noCopy;
+        std::string shipped;
+        std::string copied;
+        if (file.owner != Owner::Program ||
+            !readSmallFile(share / file.name, SizeLimit, shipped).ok())
+            continue;
+        const fs::path copy = folder / file.name;
+        if (readSmallFile(copy, SizeLimit, copied).ok() && copied == shipped)
+            continue;
         std::error_code ignored;
-        const auto shipped = fs::last_write_time(share / file.name, noOriginal);
-        const auto copied = fs::last_write_time(folder / file.name, noCopy);
-        if (file.owner != Owner::Program || noOriginal)
-            continue;
-        if (!noCopy && shipped <= copied)
-            continue;
-        fs::create_directories((folder / file.name).parent_path(), ignored);
-        static_cast<void>(copyShipped(share / file.name, folder / file.name));
+        fs::create_directories(copy.parent_path(), ignored);
+        static_cast<void>(replaceFile(copy, shipped));
     }
 }
 

@@ -15,8 +15,9 @@ namespace tessaly {
 Outcome installShippedFiles(const std::filesystem::path& share,
                             const std::filesystem::path& folder);
 
-/// Renews the program's own files in `folder` where `share` has newer ones. What cannot be renewed
-/// stays as it is: an older file still works.
+/// Renews the program's own files in `folder` where `share` has others. Contents are compared, for
+/// some systems give every installed file the same time. What cannot be renewed stays as it is: an
+/// older file still works.
 void renewShippedFiles(const std::filesystem::path& share, const std::filesystem::path& folder);
 
 } // namespace tessaly

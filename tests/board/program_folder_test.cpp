@@ -45,7 +45,7 @@ protected:
     }
 
     test::TemporaryFolder root;
-    fs::path share = root / "usr/share/tessaly";
+    fs::path share = root / "usr/share/tessaly-data";
     fs::path bin = root / "usr/bin";
     fs::path data = root / "home/data";
     fs::path userFolder = data / "tessaly";
@@ -114,24 +114,16 @@ TEST_F(ProgramFolderTest, LaterStartsLeaveTheUsersFilesAlone) {
     EXPECT_EQ(namesIn(userFolder / "puzzles"), Names{"easy.txt"});
 }
 
-TEST_F(ProgramFolderTest, LaterStartsRenewTheProgramsFilesWhenShippedOnesAreNewer) {
-    // Built long before it was installed: the copy must not count as newer than the next release.
-    age(share / "hexabinx.txt", 100);
+TEST_F(ProgramFolderTest, LaterStartsRenewTheProgramsFilesWhereOthersAreShipped) {
     ASSERT_NE(found(), "");
+    // Neither files nor folders need to look newer: some systems give all the same time.
     put(share / "hexabinx.txt", "second release");
-    age(share / "hexabinx.txt", 50);
+    age(share / "hexabinx.txt", 1000);
     put(share / "tessaly.htm", "new page");
     fs::create_directory(share / "manual");
     put(share / "manual/side.png", "new drawing");
     ASSERT_NE(found(), "");
     EXPECT_EQ(user("manual/side.png"), "new drawing");
-    EXPECT_EQ(user("hexabinx.txt"), "second release");
-    EXPECT_EQ(user("tessaly.htm"), "new page");
-
-    put(share / "hexabinx.txt", "older release");
-    age(share / "hexabinx.txt", 75);
-    fs::remove(userFolder / "tessaly.htm");
-    ASSERT_NE(found(), "");
     EXPECT_EQ(user("hexabinx.txt"), "second release");
     EXPECT_EQ(user("tessaly.htm"), "new page");
 
@@ -224,7 +216,7 @@ TEST(ProgramFolderSources, KnowWhereThisProcessLies) {
     const auto sources = ProgramFolderSources::ofThisProcess();
     EXPECT_TRUE(fs::exists(sources.executableFolder + "/tessaly_core_tests"));
     EXPECT_EQ(fs::path(sources.shareFolder),
-              fs::path(sources.executableFolder).parent_path() / "share/tessaly");
+              fs::path(sources.executableFolder).parent_path() / "share/tessaly-data");
 }
 
 } // namespace
