@@ -3,8 +3,8 @@
 
 #include "bitmask_search.h"
 
-#include "board/digit_set.h"
-#include "board/tables.h"
+#include "core/board/digit_set.h"
+#include "core/board/tables.h"
 
 #include <algorithm>
 #include <bit>

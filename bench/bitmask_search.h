@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "board/board.h"
-#include "solver/chance.h"
+#include "core/board/board.h"
+#include "core/solver/chance.h"
 
 #include <array>
 #include <bit>

@@ -4,7 +4,7 @@
 // The creation of many puzzles in the window, beside the same by the command line tool on one
 // thread; and how long the window is deaf meanwhile.
 
-#include "ui/box_control.h"
+#include "ui/controls/box_control.h"
 #include "ui/game_window.h"
 
 #include <benchmark/benchmark.h>

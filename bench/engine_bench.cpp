@@ -8,10 +8,10 @@
 
 #include "bitmask_search.h"
 
-#include "solver/deduction.h"
-#include "solver/generator.h"
-#include "solver/puzzle_series.h"
-#include "solver/solution_counter.h"
+#include "core/solver/deduction.h"
+#include "core/solver/generator.h"
+#include "core/solver/puzzle_series.h"
+#include "core/solver/solution_counter.h"
 
 #include "support/plain_generator.h"
 #include "support/plain_rules.h"

@@ -4,8 +4,8 @@
 // The tools for puzzle libraries on 100,000 different records, files flushed to the disk included.
 // TMPDIR says on which disk the files are made.
 
-#include "board/file_access.h"
-#include "solver/library_tools.h"
+#include "core/files/file_access.h"
+#include "core/solver/library_tools.h"
 
 #include "support/sample_puzzles.h"
 #include "support/temporary_folder.h"

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tessaly developers
 // SPDX-License-Identifier: MIT
 
-#include "play/board_surface.h"
+#include "ui/drawing/board_surface.h"
 #include "support/sample_board.h"
 
 #include <benchmark/benchmark.h>

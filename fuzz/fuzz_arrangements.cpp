@@ -3,7 +3,7 @@
 
 // The arrangement file. A table that is read has words of six letters only, each counted.
 
-#include "board/arrangements.h"
+#include "core/board/arrangements.h"
 #include "fuzz_target.h"
 
 #include <numeric>

@@ -3,7 +3,7 @@
 
 // The configuration file. Whatever was read, saving and reading it again gives the same.
 
-#include "board/configuration.h"
+#include "core/session/configuration.h"
 #include "fuzz_target.h"
 #include "support/temporary_folder.h"
 

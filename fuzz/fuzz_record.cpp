@@ -3,7 +3,7 @@
 
 // One line of a puzzle file. What is read is written the same way, and a refusal changes nothing.
 
-#include "board/puzzle_record.h"
+#include "core/board/puzzle_record.h"
 #include "fuzz_target.h"
 
 using namespace tessaly;

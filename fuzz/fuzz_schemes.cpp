@@ -3,9 +3,9 @@
 
 // The library of colour schemes: listing, loading, and the three changes.
 
-#include "board/file_access.h"
+#include "core/files/file_access.h"
 #include "fuzz_target.h"
-#include "options/scheme_library.h"
+#include "core/options/scheme_library.h"
 #include "support/temporary_folder.h"
 
 #include <algorithm>

@@ -6,8 +6,8 @@
 // them; the first two of its bytes name the blank hexagon and the one that is skipped.
 
 #include "fuzz_target.h"
-#include "solver/deduction.h"
-#include "solver/solution_counter.h"
+#include "core/solver/deduction.h"
+#include "core/solver/solution_counter.h"
 #include "support/plain_rules.h"
 
 using namespace tessaly;

@@ -4,7 +4,7 @@
 // Writes what an installation says about the two programs' command lines, made from the options
 // that --help tells: describe PROGRAM man|bash|zsh|fish [APPENDIX]
 
-#include "app/game_options.h"
+#include "core/session/game_options.h"
 #include "cli/drawing_commands.h"
 #include "cli/program.h"
 #include "command_text.h"

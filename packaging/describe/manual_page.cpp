@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tessaly developers
 // SPDX-License-Identifier: MIT
 
-#include "app/product.h"
+#include "core/base/product.h"
 #include "command_text.h"
 
 #include <algorithm>

@@ -1,18 +1,18 @@
 // SPDX-FileCopyrightText: 2026 The Tessaly developers
 // SPDX-License-Identifier: MIT
 
-#include "app/game_options.h"
-#include "app/product.h"
+#include "core/session/game_options.h"
+#include "core/base/product.h"
 #include "app/screenshot.h"
-#include "board/file_access.h"
-#include "board/program_folder.h"
-#include "board/session_memory.h"
-#include "output/printers.h"
-#include "ui/file_dialogs.h"
-#include "ui/icon_set.h"
-#include "ui/main_window.h"
-#include "ui/message_box.h"
-#include "ui/scheme_palette.h"
+#include "core/files/file_access.h"
+#include "core/session/program_folder.h"
+#include "core/session/session_memory.h"
+#include "ui/output/printers.h"
+#include "ui/controls/file_dialogs.h"
+#include "ui/controls/icon_set.h"
+#include "ui/window/main_window.h"
+#include "ui/controls/message_box.h"
+#include "ui/controls/scheme_palette.h"
 
 #include <QApplication>
 

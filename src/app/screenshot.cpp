@@ -3,7 +3,7 @@
 
 #include "app/screenshot.h"
 
-#include "output/picture_file.h"
+#include "ui/drawing/picture_file.h"
 
 #include <QApplication>
 #include <QImage>

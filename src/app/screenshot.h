@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "board/outcome.h"
-#include "board/prompts.h"
+#include "core/base/outcome.h"
+#include "core/base/prompts.h"
 
 #include <iosfwd>
 #include <string>

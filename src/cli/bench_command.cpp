@@ -3,12 +3,12 @@
 
 #include "cli/bench_command.h"
 
-#include "board/puzzle_record.h"
-#include "solver/deduction.h"
-#include "solver/engine_signature.h"
-#include "solver/generator.h"
-#include "solver/puzzle_series.h"
-#include "solver/solution_counter.h"
+#include "core/board/puzzle_record.h"
+#include "core/solver/deduction.h"
+#include "core/solver/engine_signature.h"
+#include "core/solver/generator.h"
+#include "core/solver/puzzle_series.h"
+#include "core/solver/solution_counter.h"
 
 #include <CLI/CLI.hpp>
 

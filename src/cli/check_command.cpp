@@ -3,8 +3,8 @@
 
 #include "cli/check_command.h"
 
-#include "board/record_lines.h"
-#include "solver/puzzle_audit.h"
+#include "core/board/record_lines.h"
+#include "core/solver/puzzle_audit.h"
 
 #include <CLI/CLI.hpp>
 

@@ -3,7 +3,7 @@
 
 #include "cli/console.h"
 
-#include "board/file_descriptor.h"
+#include "core/files/file_descriptor.h"
 
 #include <algorithm>
 #include <ostream>

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "board/outcome.h"
+#include "core/base/outcome.h"
 
 #include <functional>
 #include <iosfwd>

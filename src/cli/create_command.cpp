@@ -5,7 +5,7 @@
 
 #include "cli/progress_bar.h"
 #include "cli/record_output.h"
-#include "solver/puzzle_series.h"
+#include "core/solver/puzzle_series.h"
 
 #include <CLI/CLI.hpp>
 

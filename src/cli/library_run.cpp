@@ -3,7 +3,7 @@
 
 #include "cli/library_run.h"
 
-#include "board/puzzle_file.h"
+#include "core/board/puzzle_file.h"
 #include "cli/progress_bar.h"
 
 #include <CLI/CLI.hpp>

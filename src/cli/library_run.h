@@ -4,7 +4,7 @@
 #pragma once
 
 #include "cli/console.h"
-#include "solver/library_tools.h"
+#include "core/solver/library_tools.h"
 
 namespace CLI {
 class App;

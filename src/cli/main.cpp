@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tessaly developers
 // SPDX-License-Identifier: MIT
 
-#include "board/file_access.h"
+#include "core/files/file_access.h"
 #include "cli/drawing_commands.h"
 #include "cli/standard_output.h"
 

@@ -3,11 +3,11 @@
 
 #include "cli/print_command.h"
 
-#include "board/puzzle_file.h"
+#include "core/board/puzzle_file.h"
 #include "cli/offscreen.h"
 #include "cli/progress_bar.h"
-#include "output/page_layout.h"
-#include "output/pdf_file.h"
+#include "core/output/page_layout.h"
+#include "ui/drawing/pdf_file.h"
 
 #include <CLI/CLI.hpp>
 

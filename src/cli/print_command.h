@@ -4,7 +4,7 @@
 #pragma once
 
 #include "cli/command.h"
-#include "output/print_job.h"
+#include "core/output/print_job.h"
 
 #include <optional>
 #include <string>

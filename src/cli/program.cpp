@@ -3,7 +3,7 @@
 
 #include "cli/program.h"
 
-#include "app/product.h"
+#include "core/base/product.h"
 #include "cli/bench_command.h"
 #include "cli/check_command.h"
 #include "cli/create_command.h"

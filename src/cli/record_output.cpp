@@ -3,10 +3,10 @@
 
 #include "cli/record_output.h"
 
-#include "board/file_access.h"
-#include "board/line_reader.h"
-#include "board/puzzle_record.h"
-#include "board/record_lines.h"
+#include "core/files/file_access.h"
+#include "core/files/line_reader.h"
+#include "core/board/puzzle_record.h"
+#include "core/board/record_lines.h"
 #include "cli/console.h"
 
 #include <functional>

@@ -3,12 +3,12 @@
 
 #include "cli/render_command.h"
 
-#include "board/configuration.h"
-#include "board/program_folder.h"
-#include "board/puzzle_file.h"
+#include "core/session/configuration.h"
+#include "core/session/program_folder.h"
+#include "core/board/puzzle_file.h"
 #include "cli/offscreen.h"
-#include "options/scheme_library.h"
-#include "output/picture_document.h"
+#include "core/options/scheme_library.h"
+#include "ui/drawing/picture_document.h"
 
 #include <CLI/CLI.hpp>
 

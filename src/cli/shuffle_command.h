@@ -4,7 +4,7 @@
 #pragma once
 
 #include "cli/command.h"
-#include "solver/library_tools.h"
+#include "core/solver/library_tools.h"
 
 #include <cstdint>
 #include <optional>

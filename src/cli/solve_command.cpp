@@ -3,9 +3,9 @@
 
 #include "cli/solve_command.h"
 
-#include "board/puzzle_record.h"
-#include "board/record_lines.h"
-#include "solver/deduction.h"
+#include "core/board/puzzle_record.h"
+#include "core/board/record_lines.h"
+#include "core/solver/deduction.h"
 
 #include <CLI/CLI.hpp>
 

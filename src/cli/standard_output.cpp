@@ -3,7 +3,7 @@
 
 #include "cli/standard_output.h"
 
-#include "board/file_descriptor.h"
+#include "core/files/file_descriptor.h"
 
 #include <string_view>
 #include <sys/stat.h>

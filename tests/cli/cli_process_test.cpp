@@ -3,7 +3,7 @@
 
 // What a process of its own shows: the program with its real standard output, limits and signals.
 
-#include "board/puzzle_record.h"
+#include "core/board/puzzle_record.h"
 #include "cli/console.h"
 
 #include "support/child_process.h"

@@ -3,7 +3,7 @@
 
 #include "cli/create_command.h"
 
-#include "board/puzzle_record.h"
+#include "core/board/puzzle_record.h"
 #include "support/command_line.h"
 #include "support/file_calls.h"
 #include "support/temporary_folder.h"

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Tessaly developers
 // SPDX-License-Identifier: MIT
 
-#include "board/puzzle_record.h"
-#include "output/board_picture.h"
+#include "core/board/puzzle_record.h"
+#include "ui/drawing/board_picture.h"
 #include "ui/game_window.h"
 
 #include <QAction>

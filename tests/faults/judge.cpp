@@ -3,10 +3,10 @@
 
 #include "faults/scene.h"
 
-#include "board/configuration.h"
-#include "board/file_access.h"
-#include "board/puzzle_file.h"
-#include "options/scheme_library.h"
+#include "core/session/configuration.h"
+#include "core/files/file_access.h"
+#include "core/board/puzzle_file.h"
+#include "core/options/scheme_library.h"
 
 #include "support/sample_records.h"
 #include "support/temporary_folder.h"

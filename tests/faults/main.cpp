@@ -7,7 +7,7 @@
 //     tessaly_faults OPERATION FOLDER                says "done" or what is wrong
 //     tessaly_faults judge OPERATION BEFORE AFTER WORK SAID
 
-#include "board/file_access.h"
+#include "core/files/file_access.h"
 
 #include "faults/scene.h"
 #include "support/temporary_folder.h"

@@ -3,12 +3,12 @@
 
 #include "faults/scene.h"
 
-#include "board/configuration.h"
-#include "board/file_access.h"
-#include "board/puzzle_file.h"
-#include "options/scheme_library.h"
-#include "options/scheme_record.h"
-#include "solver/library_tools.h"
+#include "core/session/configuration.h"
+#include "core/files/file_access.h"
+#include "core/board/puzzle_file.h"
+#include "core/options/scheme_library.h"
+#include "core/options/scheme_record.h"
+#include "core/solver/library_tools.h"
 
 #include "support/sample_records.h"
 

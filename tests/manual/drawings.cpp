@@ -3,12 +3,12 @@
 
 #include "manual/drawings.h"
 
-#include "board/tables.h"
+#include "core/board/tables.h"
 #include "manual/examples.h"
-#include "play/board_geometry.h"
-#include "play/board_renderer.h"
-#include "play/hexagon_tag.h"
-#include "ui/icon_set.h"
+#include "core/play/board_geometry.h"
+#include "ui/drawing/board_renderer.h"
+#include "ui/drawing/hexagon_tag.h"
+#include "ui/controls/icon_set.h"
 
 #include <QPainter>
 

@@ -3,8 +3,8 @@
 
 #include "manual/examples.h"
 
-#include "board/puzzle_record.h"
-#include "solver/deduction.h"
+#include "core/board/puzzle_record.h"
+#include "core/solver/deduction.h"
 
 #include <stdexcept>
 

@@ -4,13 +4,13 @@
 // Draws the windows of the game in the states that a player sees them in, one PNG each, to be
 // looked at. Not a test: tessaly_pictures FOLDER; QT_SCALE_FACTOR=2 gives them at 200 %.
 
-#include "options/scheme_library.h"
-#include "output/print_progress.h"
-#include "solver/developer_row.h"
-#include "solver/run_progress_bar.h"
+#include "core/options/scheme_library.h"
+#include "ui/output/print_progress.h"
+#include "ui/window/developer_row.h"
+#include "ui/controls/run_progress_bar.h"
 #include "ui/game_window.h"
-#include "ui/message_box.h"
-#include "ui/tool_row.h"
+#include "ui/controls/message_box.h"
+#include "ui/window/tool_row.h"
 
 #include <QApplication>
 #include <QListWidget>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tessaly developers
 // SPDX-License-Identifier: MIT
 
-#include "output/printers.h"
+#include "ui/output/printers.h"
 
 #include "support/pdf_document.h"
 #include "ui/game_window.h"

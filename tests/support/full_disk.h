@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "board/file_access.h"
+#include "core/files/file_access.h"
 
 #include <sys/resource.h>
 

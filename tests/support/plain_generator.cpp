@@ -3,8 +3,8 @@
 
 #include "support/plain_generator.h"
 
-#include "board/tables.h"
-#include "solver/packed_board.h"
+#include "core/board/tables.h"
+#include "core/solver/packed_board.h"
 #include "support/plain_rules.h"
 
 #include <algorithm>

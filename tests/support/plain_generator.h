@@ -3,9 +3,9 @@
 
 #pragma once
 
-#include "board/board.h"
-#include "solver/chance.h"
-#include "solver/search_fill.h"
+#include "core/board/board.h"
+#include "core/solver/chance.h"
+#include "core/solver/search_fill.h"
 
 namespace tessaly::plain {
 

@@ -3,7 +3,7 @@
 
 #include "support/plain_rules.h"
 
-#include "board/tables.h"
+#include "core/board/tables.h"
 
 #include <algorithm>
 #include <array>

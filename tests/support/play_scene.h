@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "play/play_commands.h"
+#include "core/play/play_commands.h"
 
 #include "support/recording_display.h"
 #include "support/scripted_prompts.h"

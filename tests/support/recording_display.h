@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "play/board_input.h"
-#include "play/display.h"
+#include "core/play/board_input.h"
+#include "core/play/display.h"
 
 #include <functional>
 #include <string>

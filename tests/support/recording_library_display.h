@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "board/library_display.h"
+#include "core/session/library_display.h"
 
 #include <string>
 #include <vector>

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "solver/run_progress.h"
+#include "core/session/run_progress.h"
 
 #include <functional>
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "options/appearance.h"
+#include "core/options/appearance.h"
 
 namespace tessaly {
 

@@ -3,8 +3,8 @@
 
 #include "support/sample_boards.h"
 
-#include "board/tables.h"
-#include "solver/packed_board.h"
+#include "core/board/tables.h"
+#include "core/solver/packed_board.h"
 
 #include <algorithm>
 #include <array>

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "board/puzzle_record.h"
+#include "core/board/puzzle_record.h"
 
 #include <string>
 

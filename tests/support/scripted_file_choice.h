@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "board/file_choice.h"
+#include "core/session/file_choice.h"
 
 #include <string>
 #include <vector>

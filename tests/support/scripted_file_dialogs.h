@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "ui/file_dialogs.h"
+#include "ui/controls/file_dialogs.h"
 
 #include <gtest/gtest.h>
 

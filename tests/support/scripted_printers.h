@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "output/printers.h"
+#include "ui/output/printers.h"
 
 #include "support/temporary_folder.h"
 

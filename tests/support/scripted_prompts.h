@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "board/prompts.h"
+#include "core/base/prompts.h"
 
 #include <gtest/gtest.h>
 

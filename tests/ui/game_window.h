@@ -3,13 +3,13 @@
 
 #pragma once
 
-#include "board/session_memory.h"
-#include "play/board_view.h"
+#include "core/session/session_memory.h"
+#include "ui/play/board_view.h"
 #include "support/scripted_file_dialogs.h"
 #include "support/scripted_printers.h"
 #include "support/scripted_prompts.h"
 #include "support/temporary_folder.h"
-#include "ui/main_window.h"
+#include "ui/window/main_window.h"
 
 #include <QLabel>
 #include <QTest>

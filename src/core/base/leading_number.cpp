@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "core/base/leading_number.h"
+
+#include <algorithm>
+#include <charconv>
+#include <limits>
+
+namespace tessaly {
+
+double leadingNumber(std::string_view text) {
+    text.remove_prefix(std::min(text.find_first_not_of(" \t"), text.size()));
+    if (text.starts_with('+'))
+        text.remove_prefix(1);
+    // "inf" and "nan" are words here, not numbers.
+    if (text.empty() ||
+        std::string_view("-.0123456789").find(text.front()) == std::string_view::npos)
+        return 0;
+    double value = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (error != std::errc::result_out_of_range)
+        return error == std::errc() ? value : 0;
+    const std::string_view number(text.data(), static_cast<std::size_t>(end - text.data()));
+    const bool isTiny = number.find("e-") != std::string_view::npos;
+    return isTiny || number.starts_with('-') ? 0 : std::numeric_limits<double>::max();
+}
+
+int leadingWholeNumber(std::string_view text) {
+    constexpr double Smallest = std::numeric_limits<int>::min();
+    constexpr double Largest = std::numeric_limits<int>::max();
+    return static_cast<int>(std::clamp(leadingNumber(text), Smallest, Largest));
+}
+
+} // namespace tessaly

@@ -1,0 +1,113 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "core/files/file_descriptor.h"
+
+#include <chrono>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <system_error>
+#include <unistd.h>
+
+namespace tessaly {
+namespace {
+
+std::int64_t inNanoseconds(const timespec& time) {
+    return static_cast<std::int64_t>(time.tv_sec) * 1'000'000'000 + time.tv_nsec;
+}
+
+FileState stateFrom(const struct stat& status) {
+    return {status.st_dev, status.st_ino, status.st_size, inNanoseconds(status.st_mtim),
+            inNanoseconds(status.st_ctim)};
+}
+
+} // namespace
+
+FileDescriptor& FileDescriptor::operator=(FileDescriptor&& other) noexcept {
+    if (this != &other) {
+        close();
+        m_fd = std::exchange(other.m_fd, -1);
+    }
+    return *this;
+}
+
+void FileDescriptor::close() {
+    // Linux has closed the file whatever it answers, and what counts was flushed before.
+    if (isOpen())
+        ::close(std::exchange(m_fd, -1));
+}
+
+bool FileState::wouldShowAChange() const {
+    using namespace std::chrono;
+    // The slowest clock that the kernel can be built with makes a hundred steps a second.
+    constexpr milliseconds Step{10};
+    const auto now = system_clock::now().time_since_epoch();
+    return nanoseconds(changed) + 2 * Step < now;
+}
+
+std::optional<FileState> FileState::of(const FileDescriptor& file) {
+    struct stat status {};
+    if (retried([&] { return ::fstat(file.get(), &status); }) != 0)
+        return std::nullopt;
+    return stateFrom(status);
+}
+
+std::optional<FileState> FileState::of(const FileDescriptor& folder, const std::string& name) {
+    struct stat status {};
+    const auto look = [&] {
+        return ::fstatat(folder.get(), name.c_str(), &status, AT_SYMLINK_NOFOLLOW);
+    };
+    if (retried(look) != 0)
+        return std::nullopt;
+    return stateFrom(status);
+}
+
+Outcome fileProblem(const std::filesystem::path& path, std::string_view what, int error) {
+    return Outcome::failed(path.native() + ": " + std::string(what) + ": " +
+                           std::generic_category().message(error));
+}
+
+Outcome checkName(const std::filesystem::path& path) {
+    if (path.native().find('\0') == std::string::npos)
+        return Outcome::done();
+    return Outcome::failed(path.native() + ": no file can have a NUL character in its name");
+}
+
+Outcome checkRegular(const FileDescriptor& file, const std::filesystem::path& path) {
+    struct stat status {};
+    if (retried([&] { return ::fstat(file.get(), &status); }) != 0)
+        return fileProblem(path, "cannot be examined");
+    if (S_ISDIR(status.st_mode))
+        return Outcome::failed(path.native() + ": is a folder");
+    if (!S_ISREG(status.st_mode))
+        return Outcome::failed(path.native() + ": is no regular file");
+    return Outcome::done();
+}
+
+Outcome openForReading(const std::filesystem::path& path, FileDescriptor& file) {
+    if (Outcome named = checkName(path); !named.ok())
+        return named;
+    constexpr int Flags = O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
+    file = FileDescriptor(retried([&] { return ::open(path.c_str(), Flags); }));
+    if (!file.isOpen())
+        return fileProblem(path, "cannot be read");
+    return checkRegular(file, path);
+}
+
+std::int64_t readAt(const FileDescriptor& file, char* bytes, std::size_t size,
+                    std::int64_t offset) {
+    std::size_t done = 0;
+    while (done < size) {
+        const auto from = offset + static_cast<std::int64_t>(done);
+        const auto got =
+            retried([&] { return ::pread(file.get(), bytes + done, size - done, from); });
+        if (got < 0)
+            return -1;
+        if (got == 0)
+            break;
+        done += static_cast<std::size_t>(got);
+    }
+    return static_cast<std::int64_t>(done);
+}
+
+} // namespace tessaly

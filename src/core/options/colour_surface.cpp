@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "core/options/colour_surface.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace tessaly::colour_surface {
+namespace {
+
+constexpr int ShadesInAStep = 8;
+/// How many shades stand under one column of the palette.
+constexpr int ShadesInAColumn = ShadeSteps / PaletteColumns;
+
+bool isRamp(int row) {
+    return row >= PaletteRows;
+}
+
+} // namespace
+
+Colour colourAt(double x, double y, Colour rampColour, Colour background) {
+    for (int index = 0; index < static_cast<int>(ClassicPalette.size()); ++index)
+        if (paletteBox(index).contains(x, y))
+            return ClassicPalette[static_cast<std::size_t>(index)];
+    const int v = static_cast<int>(std::floor(x)) - blackLine(0).left;
+    if (v < 0 || v > ShadeSteps)
+        return background;
+    if (blackLine(v).contains(x, y))
+        return clrBlackness(rampColour, v);
+    if (whiteLine(v).contains(x, y))
+        return clrWhiteness(rampColour, v);
+    return background;
+}
+
+Box boxOf(Place place) {
+    if (!isRamp(place.row))
+        return paletteBox(place.row * PaletteColumns + place.column);
+    return place.row == PaletteRows ? blackLine(place.column) : whiteLine(place.column);
+}
+
+Place moved(Place place, int columns, int rows) {
+    const int row = std::clamp(place.row + rows, 0, Rows - 1);
+    int column = place.column;
+    if (isRamp(row) && !isRamp(place.row))
+        column = column * ShadesInAColumn + ShadesInAColumn / 2;
+    else if (!isRamp(row) && isRamp(place.row))
+        column = std::min(column / ShadesInAColumn, PaletteColumns - 1);
+    const int last = isRamp(row) ? ShadeSteps : PaletteColumns - 1;
+    const int step = isRamp(row) ? ShadesInAStep : 1;
+    return {row, std::clamp(column + columns * step, 0, last)};
+}
+
+} // namespace tessaly::colour_surface

@@ -1,0 +1,74 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "core/options/colour_shades.h"
+
+namespace tessaly {
+
+/// What the colour picker's surface shows, in units of its own: a column of one unit for each shade
+/// across, and about five to a pixel down.
+///
+///      10                         267
+///     +---------------------------------+
+///     |  [ 0]   [ 1]   [ 2]   [ 3]      |    30   the classic colours,
+///     |  [ 4]   [ 5]   [ 6]   [ 7]      |   255   each box 55 by 200
+///     |  [ 8]   [ 9]   [10]   [11]      |   480
+///     |  [12]   [13]   [14]   [15]      |   705
+///     |  [black  . . . . . .  colour]   |   950   shades down to black
+///     |  [white  . . . . . .  colour]   |  1175   shades up to white
+///     +---------------------------------+
+namespace colour_surface {
+
+inline constexpr int Width = 277;
+inline constexpr int Height = 1405;
+inline constexpr int Rows = 6;
+inline constexpr int PaletteRows = 4;
+inline constexpr int PaletteColumns = 4;
+/// From here on downwards a pick is one of a shade.
+inline constexpr int RampsTop = 900;
+
+struct Box {
+    int left;
+    int top;
+    int width;
+    int height;
+
+    constexpr bool contains(double x, double y) const {
+        return x >= left && x < left + width && y >= top && y < top + height;
+    }
+};
+
+/// A box of the palette, by its number of 0 to 15.
+constexpr Box paletteBox(int index) {
+    return {10 + 65 * (index % PaletteColumns), 30 + 225 * (index / PaletteColumns), 55, 200};
+}
+/// The line of step `v`, 0 to `ShadeSteps`, in a ramp.
+constexpr Box blackLine(int v) {
+    return {10 + v, 950, 1, 200};
+}
+constexpr Box whiteLine(int v) {
+    return {10 + v, 1175, 1, 200};
+}
+
+/// The colour that the surface shows at a point, its ramps being those of `rampColour`.
+Colour colourAt(double x, double y, Colour rampColour, Colour background);
+
+/// A place that the keys can reach: a box of the palette, or a shade in a ramp.
+struct Place {
+    /// 0 to 3 for the palette, 4 for the black ramp, 5 for the white one.
+    int row = 0;
+    /// 0 to 3 in the palette, 0 to `ShadeSteps` in a ramp.
+    int column = 0;
+
+    friend bool operator==(const Place&, const Place&) = default;
+};
+
+Box boxOf(Place place);
+/// The place `columns` to the right and `rows` down, as far as there is one. In a ramp a column is
+/// a step of 8 shades; from one kind of row to the other the way leads straight down or up.
+Place moved(Place place, int columns, int rows);
+
+} // namespace colour_surface
+} // namespace tessaly

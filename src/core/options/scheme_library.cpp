@@ -1,0 +1,177 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "core/options/scheme_library.h"
+
+#include "core/base/data_files.h"
+#include "core/files/file_access.h"
+#include "core/files/line_reader.h"
+#include "core/files/text_lines.h"
+#include "core/options/scheme_messages.h"
+#include "core/options/scheme_record.h"
+
+#include <algorithm>
+#include <string_view>
+#include <utility>
+
+namespace tessaly {
+namespace {
+
+constexpr std::size_t SizeLimit = std::size_t{16} << 20;
+constexpr const char* ScratchCopy = "newall.cox";
+
+std::vector<std::string> listNames(std::string_view content) {
+    std::vector<std::string> names;
+    for (const TextLine& line : splitLines(content))
+        if (const auto name = listedName(line.text))
+            names.emplace_back(*name);
+    return names;
+}
+
+bool listsName(const std::vector<std::string>& names, const std::string& name) {
+    const std::string wanted = lowerCase(name);
+    return std::any_of(names.begin(), names.end(),
+                       [&](const std::string& listed) { return lowerCase(listed) == wanted; });
+}
+
+/// Reads the colour lines that follow the header at `headerIndex`.
+Outcome readColours(const std::vector<TextLine>& lines, std::size_t headerIndex,
+                    SchemeColours& colours) {
+    SchemeColours read = colours;
+    for (std::size_t slot = 0; slot < StoredSlotCount; ++slot) {
+        const std::size_t at = headerIndex + 1 + slot;
+        if (at >= lines.size())
+            return Outcome::failed("the colour scheme at the end has " + std::to_string(slot) +
+                                   " colours instead of " + std::to_string(StoredSlotCount));
+        const auto colour = parseColourLine(lines[at].text);
+        if (!colour)
+            return Outcome::failed("line " + std::to_string(at + 1) +
+                                   ": this is no colour (three numbers from 0 to 255): " +
+                                   std::string(lines[at].text.substr(0, 80)));
+        read[slot] = *colour;
+    }
+    colours = read;
+    return Outcome::done();
+}
+
+/// The line behind the record whose header is at `headerIndex`. The header of the next record ends
+/// a record that is too short, so that its neighbour does not go with it.
+std::size_t endOfRecord(const std::vector<TextLine>& lines, std::size_t headerIndex) {
+    const std::size_t furthest = std::min(lines.size(), headerIndex + 1 + StoredSlotCount);
+    std::size_t end = headerIndex + 1;
+    while (end < furthest && !listedName(lines[end].text))
+        ++end;
+    return end;
+}
+
+std::string withRecordsReplaced(const std::string& content, const std::string& header,
+                                const std::string& replacement) {
+    const std::vector<TextLine> lines = splitLines(content);
+    std::string result;
+    for (std::size_t i = 0; i < lines.size();) {
+        if (lines[i].text == header) {
+            result += replacement;
+            i = endOfRecord(lines, i);
+        } else {
+            result += lines[i++].raw;
+        }
+    }
+    return result;
+}
+
+Outcome reported(const Outcome& outcome, std::string (*message)(const std::string&)) {
+    return outcome.ok() ? outcome : Outcome::failed(message(outcome.problem));
+}
+
+} // namespace
+
+SchemeLibrary::SchemeLibrary(std::string programFolder)
+    : m_folder(std::move(programFolder)) {}
+
+Outcome SchemeLibrary::RefreshSchemeList() {
+    std::string content;
+    if (Outcome read = readSmallFile(m_folder + SchemeLibraryFile, SizeLimit, content); !read.ok())
+        return read;
+    m_names = listNames(content);
+    return Outcome::done();
+}
+
+Outcome SchemeLibrary::LoadScheme(const std::string& file, Appearance& appearance) const {
+    SchemeColours& colours = appearance.SchemeColours;
+    if (lowerCase(file) == BuiltInScheme) {
+        colours[slot::Background] = DesignBackground;
+        colours[slot::Button] = DesignBackground;
+        colours[slot::Menu] = Black;
+        return Outcome::done();
+    }
+    const std::string path = m_folder + SchemeLibraryFile;
+    std::string content;
+    if (Outcome read = readSmallFile(path, SizeLimit, content); !read.ok())
+        return read;
+    const std::vector<TextLine> lines = splitLines(content);
+    const auto header = std::find_if(lines.begin(), lines.end(),
+                                     [&](const TextLine& line) { return line.text == file; });
+    if (header == lines.end()) {
+        appearance.ActiveScheme = BuiltInScheme;
+        return Outcome::failed(scheme_messages::notFound(file));
+    }
+    const auto at = static_cast<std::size_t>(header - lines.begin());
+    const Outcome read = readColours(lines, at, colours);
+    return read.ok() ? read : Outcome::failed(path + ": " + read.problem);
+}
+
+Outcome SchemeLibrary::AddScheme(const std::string& name, const SchemeColours& colours) {
+    if (name.find_first_of("\r\n") != std::string::npos)
+        return Outcome::failed(scheme_messages::addingFailed("A name cannot hold a line break"));
+    bool isListed = false;
+    const Outcome added = rewrite([&](std::string& content) {
+        isListed = listsName(listNames(content), name);
+        if (isListed)
+            return Outcome::failed(scheme_messages::exists(name));
+        if (!content.empty() && !content.ends_with('\n'))
+            content += LineEnd;
+        content += schemeRecord(schemeHeader(name), colours);
+        return Outcome::done();
+    });
+    return isListed ? added : reported(added, scheme_messages::addingFailed);
+}
+
+Outcome SchemeLibrary::ReplaceScheme(const std::string& entry, const SchemeColours& colours) {
+    const std::string header = schemeHeader(entry);
+    return rewriteRecords(header, schemeRecord(header, colours));
+}
+
+Outcome SchemeLibrary::DeleteScheme(const std::string& entry) {
+    return rewriteRecords(schemeHeader(entry), {});
+}
+
+/// The new content goes to the scratch copy in full before the library is touched.
+Outcome SchemeLibrary::rewriteRecords(const std::string& header, const std::string& replacement) {
+    const Outcome rewritten = rewrite([&](std::string& content) {
+        content = withRecordsReplaced(content, header, replacement);
+        return replaceFile(m_folder + ScratchCopy, content);
+    });
+    return reported(rewritten, scheme_messages::updatingFailed);
+}
+
+Outcome SchemeLibrary::rewrite(const std::function<Outcome(std::string& content)>& change) {
+    const std::string library = m_folder + SchemeLibraryFile;
+    if (!FileExists(library))
+        return Outcome::failed(library + ": does not exist");
+    std::vector<std::string> names;
+    const auto changeAndList = [&](std::string& content) {
+        Outcome changed = change(content);
+        names = listNames(content);
+        return changed;
+    };
+    Outcome rewritten = rewriteSmallFile(library, SizeLimit, changeAndList);
+    if (rewritten.ok())
+        m_names = std::move(names);
+    return rewritten;
+}
+
+bool isSchemeInForce(const std::string& entry, const std::string& ActiveScheme) {
+    return lowerCase(ActiveScheme) == lowerCase(entry);
+}
+
+} // namespace tessaly

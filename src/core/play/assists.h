@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "core/board/board.h"
+
+#include <array>
+#include <string>
+
+namespace tessaly {
+
+/// The numbers of a hexagon that count for pencil marks: placed ones of givens and of touched
+/// cells, in cell order. A number that was loaded with a saved game and not touched since is open.
+std::string CountedNumbers(const Board& board, const Grid<bool>& touched, int hexagon);
+
+/// The numbers still possible for a cell by its own hexagon, its side partner and the partner's
+/// hexagon; the entry itself where the rules have nothing to say.
+std::string CandidateText(const Board& board, const Grid<bool>& touched, CellId cell);
+
+/// A cell and the number that belongs there; no cell when there is none.
+struct Single {
+    CellId cell;
+    std::string number;
+};
+
+/// The first open cell of a hexagon that lacks exactly one number, with that number.
+Single SingleCandidate(const Board& board, int hexagon);
+
+/// Writes pencil marks into all cells of the board, replacing those that were there.
+void fillPencilMarks(Board& board, const Grid<bool>& touched);
+
+/// Empties all cells that hold pencil marks.
+void clearPencilMarks(Board& board);
+
+/// The candidates of one hexagon, written over its entries for as long as the peek lasts.
+class CandidatePeek {
+public:
+    void begin(Board& board, const Grid<bool>& touched, int hexagon);
+    /// Writes the kept entries back; nothing when no peek is under way.
+    void end(Board& board);
+    int hexagon() const { return m_hexagon; }
+
+private:
+    int m_hexagon = 0;
+    Grid<std::string>::Row m_kept;
+};
+
+} // namespace tessaly

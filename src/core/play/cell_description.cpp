@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "core/play/cell_description.h"
+
+#include "core/board/tables.h"
+
+#include <array>
+
+namespace tessaly {
+namespace {
+
+constexpr std::array<std::string_view, CellCount + 1> Places{
+    "", "upper left", "top", "upper right", "lower right", "bottom", "lower left"};
+
+/// "1 3 5" for "135".
+std::string apart(std::string_view digits) {
+    std::string text;
+    for (char digit : digits) {
+        if (!text.empty())
+            text += ' ';
+        text += digit;
+    }
+    return text;
+}
+
+} // namespace
+
+std::string_view placeInWords(int position) {
+    return Places[static_cast<std::size_t>(position)];
+}
+
+std::string cellInWords(CellId cell) {
+    return "hexagon " + std::to_string(cell.hexagon) + ", " +
+           std::string(placeInWords(cell.position));
+}
+
+std::string entryInWords(const Board& board, CellId cell) {
+    const std::string& entry = board.CellNum[cell];
+    if (board.isBlank(cell.hexagon))
+        return "withheld";
+    if (entry.empty())
+        return "empty";
+    if (!isPlaced(entry))
+        return "marks " + apart(entry);
+    return (board.FixedCell[cell] ? "given " : "") + entry;
+}
+
+std::string neighbourInWords(const Board& board, CellId cell) {
+    const CellId neighbour = SideLink[cell];
+    if (!neighbour)
+        return "at the edge";
+    return "across: " + cellInWords(neighbour) + ", " + entryInWords(board, neighbour);
+}
+
+} // namespace tessaly

@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "core/board/board.h"
+#include "core/play/undo_list.h"
+
+#include <bitset>
+#include <string>
+
+namespace tessaly {
+
+/// Hexagons by number: what a change touched, and so what must be drawn again.
+using HexagonSet = std::bitset<HexagonCount + 1>;
+
+/// The decimal text of a number: "3" for 3.
+std::string NumText(int number);
+
+/// The puzzle under play: the board, what the player touched, and what can be taken back.
+/// Every change of a cell goes through here, its undo record pushed before the entry is written.
+class Game {
+public:
+    static constexpr std::size_t LongestEntry = 6;
+
+    Board board;
+    /// Whether an undo record was pushed for the cell since the puzzle was loaded.
+    Grid<bool> TouchedCell;
+    UndoList undoList;
+
+    /// Whether there is a puzzle on the board: every cell of one has a solution.
+    bool hasPuzzle() const { return !board.SolNum[AllCells.front()].empty(); }
+
+    /// Whether the player may enter anything in the cell: never while no puzzle is loaded.
+    bool isSelectable(CellId cell) const;
+
+    /// Forgets the play of the puzzle before: call after another puzzle was put on the board.
+    void startPuzzle();
+
+    /// Remembers the cell's entry before a change; nothing for a cell below hexagon 1, position 1.
+    void PushUndo(int hexagon, int position);
+
+    /// Replaces the entry by a number, or by nothing ("").
+    void place(CellId cell, const std::string& entry);
+
+    /// Appends a typed digit "0".."6": the first is a number, further ones make pencil marks. A
+    /// digit that is there already, or a seventh, is ignored. Only a digit into an empty cell can
+    /// be undone.
+    void typeDigit(CellId cell, char digit);
+
+    /// Copies placed numbers across sides into every cell that holds none, as one undo group,
+    /// hexagon by hexagon, so that an early copy feeds later ones. Adds the number of copies to
+    /// `count`.
+    void CopyAcrossSides(int& count);
+
+    /// Sets the last missing number of every hexagon that lacks just one, as one undo group.
+    /// Returns the number of cells set.
+    int setSingles();
+
+    /// Takes back the newest change, or a whole run of grouped ones; returns what to draw again.
+    HexagonSet undo();
+
+    /// Empties all that the player entered and forgets the undo records; the givens stay.
+    void reset();
+
+private:
+    void pushGrouped(CellId cell);
+};
+
+} // namespace tessaly

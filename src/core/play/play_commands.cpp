@@ -1,0 +1,127 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "core/play/play_commands.h"
+
+#include "core/play/assists.h"
+#include "core/play/solution_check.h"
+
+#include <string>
+
+namespace tessaly {
+namespace {
+
+/// A number as the message line writes it, with a blank where a sign would stand.
+std::string signedText(int number) {
+    return " " + std::to_string(number);
+}
+
+} // namespace
+
+PlayCommands::PlayCommands(Game& game, const BusyState& busy, const Appearance& appearance,
+                           Display& display, Prompts& prompts)
+    : m_game(game)
+    , m_busy(busy)
+    , m_appearance(appearance)
+    , m_display(display)
+    , m_prompts(prompts) {}
+
+bool PlayCommands::refusedWhileBusy() {
+    if (!m_busy.refuses(m_prompts))
+        return false;
+    m_display.yield();
+    return true;
+}
+
+bool PlayCommands::confirmed(std::string_view question) {
+    return m_prompts.message(question, "vbyesno+vbquestion") == answer::Yes;
+}
+
+void PlayCommands::cmdundo() {
+    if (refusedWhileBusy() || m_game.undoList.empty())
+        return;
+    m_display.showMessage("");
+    const HexagonSet changed = m_game.undo();
+    for (int hexagon = 1; hexagon <= HexagonCount; ++hexagon)
+        if (changed.test(static_cast<std::size_t>(hexagon)))
+            m_display.DrawHexagon(hexagon);
+    m_display.focusBoard();
+}
+
+void PlayCommands::cmdallpencil() {
+    if (refusedWhileBusy() || !confirmed("Existing Pencilmarks will be overwitten, Proceed?"))
+        return;
+    fillPencilMarks(m_game.board, m_game.TouchedCell);
+    m_display.DrawBoard();
+    m_display.showMessage("Pencilmarks updated");
+    m_display.focusBoard();
+}
+
+void PlayCommands::cmdallpencilClear() {
+    if (refusedWhileBusy() || !confirmed("Existing Pencilmarks will be cleared, Proceed?"))
+        return;
+    clearPencilMarks(m_game.board);
+    m_display.DrawBoard();
+    m_display.showMessage("Pencilmarks cleared");
+    m_display.focusBoard();
+}
+
+void PlayCommands::reportCount(int count, std::string_view done, std::string_view none) {
+    if (count < 1) {
+        m_display.showMessage(none);
+    } else {
+        m_display.DrawBoard();
+        m_display.showMessage(signedText(count).append(done));
+    }
+    m_display.focusBoard();
+}
+
+void PlayCommands::cmdsetpairs() {
+    if (refusedWhileBusy())
+        return;
+    int count = 0;
+    m_game.CopyAcrossSides(count);
+    reportCount(count, " Cells Fixed", "None Fixed");
+}
+
+void PlayCommands::cmdset1s() {
+    if (refusedWhileBusy())
+        return;
+    reportCount(m_game.setSingles(), " Cells Set", "None Set");
+}
+
+void PlayCommands::StatLab() {
+    if (refusedWhileBusy())
+        return;
+    if (const int wrong = firstWrongHexagon(m_game.board); wrong != 0) {
+        m_display.showMessage("Cell" + signedText(wrong) + " has incorrect numbers");
+        return;
+    }
+    if (isSolved(m_game.board)) {
+        m_prompts.message("All Done!", "vbok+vbhappy");
+        m_display.yield();
+    }
+    // Said after a finished board too: the praise was in the box.
+    m_display.showMessage("Not done yet ...");
+}
+
+void PlayCommands::cmdshowsolPressed() {
+    if (!refusedWhileBusy())
+        m_display.DrawSolution(m_appearance.SchemeColours[slot::Green]);
+}
+
+void PlayCommands::cmdshowsolReleased() {
+    if (!m_busy.isBusy())
+        m_display.DrawBoard();
+}
+
+void PlayCommands::cmdreset() {
+    if (refusedWhileBusy() || !confirmed("Clear ALL user entries?"))
+        return;
+    m_game.reset();
+    m_display.DrawBoard();
+    m_display.showMessage("");
+    m_display.focusBoard();
+}
+
+} // namespace tessaly

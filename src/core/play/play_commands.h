@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "core/base/prompts.h"
+#include "core/options/appearance.h"
+#include "core/play/busy.h"
+#include "core/play/display.h"
+#include "core/play/game.h"
+
+namespace tessaly {
+
+/// The play commands of the main window, by the names of the controls that start them. Each is
+/// refused with a message while puzzles are being created.
+class PlayCommands {
+public:
+    PlayCommands(Game& game, const BusyState& busy, const Appearance& appearance, Display& display,
+                 Prompts& prompts);
+
+    void cmdundo();
+    /// Pencil marks into all cells, after a question.
+    void cmdallpencil();
+    /// Takes all pencil marks away, after a question.
+    void cmdallpencilClear();
+    /// Copies placed numbers across the sides.
+    void cmdsetpairs();
+    /// Sets the last missing number of every hexagon that lacks one.
+    void cmdset1s();
+    /// Judges the board: names the first wrong hexagon, or says that all is done.
+    void StatLab();
+    /// Shows the solution from the press of the button to its release.
+    void cmdshowsolPressed();
+    void cmdshowsolReleased();
+    void cmdreset();
+
+private:
+    bool refusedWhileBusy();
+    bool confirmed(std::string_view question);
+    void reportCount(int count, std::string_view done, std::string_view none);
+
+    Game& m_game;
+    const BusyState& m_busy;
+    const Appearance& m_appearance;
+    Display& m_display;
+    Prompts& m_prompts;
+};
+
+} // namespace tessaly

@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "core/play/game.h"
+
+namespace tessaly {
+
+/// Walking over the board by keys, from one cell that may be selected to another. A cell that may
+/// not be is stepped over; no cell when there is none at all.
+
+/// The first and the last cell in reading order: from the top, each line from the left.
+CellId firstSelectable(const Game& game);
+CellId lastSelectable(const Game& game);
+
+/// The nearest cell in a direction (`columns` -1 left, 1 right; `rows` -1 up, 1 down), or `from`
+/// itself where there is none. From no cell the walk begins at the first or the last one.
+CellId cellBeside(const Game& game, CellId from, int columns, int rows);
+
+} // namespace tessaly

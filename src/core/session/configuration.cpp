@@ -1,0 +1,171 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "core/session/configuration.h"
+
+#include "core/files/file_access.h"
+#include "core/files/line_reader.h"
+#include "core/files/text_lines.h"
+
+#include <charconv>
+#include <limits>
+#include <string_view>
+#include <vector>
+
+namespace tessaly {
+namespace {
+
+constexpr std::string_view Blanks = " \t\r";
+constexpr Colour LastColour = White;
+
+bool isBlank(std::string_view text) {
+    return text.find_first_not_of(Blanks) == std::string_view::npos;
+}
+
+std::string_view trimmed(std::string_view text) {
+    if (isBlank(text))
+        return {};
+    const std::size_t first = text.find_first_not_of(Blanks);
+    return text.substr(first, text.find_last_not_of(Blanks) - first + 1);
+}
+
+/// Takes a list of numbers apart, one number after the other. Each is nothing when it is missing,
+/// garbled or out of the range that is asked for.
+class NumberList {
+public:
+    explicit NumberList(std::string_view text)
+        : m_rest(text) {}
+
+    std::optional<int> next(int lowest, int highest) {
+        const std::string_view text = nextField();
+        int value = 0;
+        const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+        const bool isNumber = error == std::errc() && end == text.data() + text.size();
+        if (!isNumber || value < lowest || value > highest)
+            return {};
+        return value;
+    }
+
+    std::optional<Colour> nextColour() {
+        const std::optional<int> value = next(0, static_cast<int>(LastColour));
+        return value ? std::optional(static_cast<Colour>(*value)) : std::nullopt;
+    }
+
+private:
+    std::string_view nextField() {
+        const std::size_t comma = m_rest.find(',');
+        const std::string_view field = m_rest.substr(0, comma);
+        m_rest.remove_prefix(comma == std::string_view::npos ? m_rest.size() : comma + 1);
+        return trimmed(field);
+    }
+
+    std::string_view m_rest;
+};
+
+void readNumbers(std::string_view line, Configuration& into) {
+    constexpr int Unlimited = std::numeric_limits<int>::max();
+    NumberList numbers(line);
+    into.PuzNum = numbers.next(1, Unlimited).value_or(into.PuzNum);
+    into.PrintLineWidth = numbers.next(1, Unlimited).value_or(into.PrintLineWidth);
+    into.HexaBorderWidth = numbers.next(1, MaxBorderWidth).value_or(into.HexaBorderWidth);
+    into.FixedNumberColour = numbers.nextColour();
+    into.UserNumberColour = numbers.nextColour();
+    into.HexaBorderColour = numbers.nextColour();
+    into.SplitHexas = numbers.next(0, 1).value_or(0) == 1;
+    into.HexaFillColour = numbers.nextColour();
+    into.NumBorder = numbers.next(0, 1).value_or(0) == 1;
+}
+
+Configuration readLines(const std::vector<TextLine>& lines) {
+    Configuration read;
+    const auto lineAt = [&](std::size_t i) { return i < lines.size() ? lines[i].text : ""; };
+    readNumbers(lineAt(0), read);
+    if (!isBlank(lineAt(1)))
+        read.ActiveScheme = lineAt(1);
+    if (!isBlank(lineAt(2)))
+        read.NumberFont = lineAt(2);
+    read.PuzPath = lineAt(3);
+    for (std::size_t i = 4; i < lines.size(); ++i)
+        if (!isBlank(lines[i].text))
+            read.recentFiles.append(std::string(lines[i].text));
+    return read;
+}
+
+std::string colourText(std::optional<Colour> colour) {
+    return colour ? std::to_string(*colour) : std::string();
+}
+
+std::string numberLine(const Configuration& from) {
+    const std::vector<std::string> numbers{
+        std::to_string(from.PuzNum),
+        std::to_string(from.PrintLineWidth),
+        std::to_string(from.HexaBorderWidth),
+        colourText(from.FixedNumberColour),
+        colourText(from.UserNumberColour),
+        colourText(from.HexaBorderColour),
+        std::to_string(from.SplitHexas ? 1 : 0),
+        colourText(from.HexaFillColour),
+        std::to_string(from.NumBorder ? 1 : 0),
+    };
+    std::string line;
+    for (const std::string& number : numbers)
+        line.append(line.empty() ? "" : ",").append(number);
+    return line;
+}
+
+void addLine(std::string_view line, std::string& content) {
+    if (line.find('\n') == std::string_view::npos)
+        content.append(line);
+    content.append(LineEnd);
+}
+
+} // namespace
+
+void Configuration::remember(const Appearance& appearance) {
+    PrintLineWidth = appearance.PrintLineWidth;
+    HexaBorderWidth = appearance.HexaBorderWidth;
+    SplitHexas = appearance.SplitHexas;
+    NumBorder = appearance.NumBorder;
+    FixedNumberColour = appearance.FixedNumberColour;
+    UserNumberColour = appearance.UserNumberColour;
+    HexaBorderColour = appearance.HexaBorderColour;
+    HexaFillColour = appearance.HexaFillColour;
+    ActiveScheme = appearance.ActiveScheme;
+    NumberFont = appearance.NumberFont;
+}
+
+void Configuration::applyTo(Appearance& appearance) const {
+    appearance.PrintLineWidth = PrintLineWidth;
+    appearance.HexaBorderWidth = HexaBorderWidth;
+    appearance.SplitHexas = SplitHexas;
+    appearance.NumBorder = NumBorder;
+    appearance.NumberFont = NumberFont;
+    appearance.UserNumberColour =
+        UserNumberColour.value_or(appearance.SchemeColours[slot::DarkRed]);
+    appearance.HexaBorderColour = HexaBorderColour.value_or(Black);
+    appearance.HexaFillColour = HexaFillColour.value_or(appearance.SchemeColours[slot::Button]);
+    appearance.FixedNumberColour =
+        FixedNumberColour.value_or(readableOn(appearance.HexaFillColour));
+}
+
+Configuration ReadcfgFile(const std::string& path) {
+    constexpr std::size_t Limit = std::size_t{1} << 20;
+    std::string content;
+    // Nobody is waiting for an answer here: what cannot be read counts as not there.
+    if (!readSmallFile(path, Limit, content).ok())
+        return {};
+    return readLines(splitLines(content));
+}
+
+Outcome SavecfgFile(const std::string& path, const Configuration& configuration) {
+    std::string content;
+    addLine(numberLine(configuration), content);
+    addLine(configuration.ActiveScheme, content);
+    addLine(configuration.NumberFont, content);
+    addLine(configuration.PuzPath, content);
+    for (const std::string& file : configuration.recentFiles.paths())
+        addLine(file, content);
+    return replaceFile(path, content);
+}
+
+} // namespace tessaly

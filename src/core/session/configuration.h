@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "core/base/outcome.h"
+#include "core/session/recent_files.h"
+#include "core/options/appearance.h"
+
+#include <optional>
+#include <string>
+
+namespace tessaly {
+
+/// What is remembered from one run to the next. The default value is that of a first run.
+///
+/// Paths and names are bytes. One that holds a line feed cannot be stored in a file of lines: it
+/// is left out, which is the same as an empty one, rather than read back as two.
+struct Configuration {
+    /// The puzzle shown last, 1 or more.
+    int PuzNum = 1;
+    int PrintLineWidth = DefaultPrintLineWidth;
+    int HexaBorderWidth = DefaultBorderWidth;
+    bool SplitHexas = false;
+    bool NumBorder = false;
+    /// Colours that were never chosen are nothing here: they come from the scheme.
+    std::optional<Colour> FixedNumberColour;
+    std::optional<Colour> UserNumberColour;
+    std::optional<Colour> HexaBorderColour;
+    std::optional<Colour> HexaFillColour;
+    std::string ActiveScheme = DefaultScheme;
+    std::string NumberFont = DefaultNumberFont;
+    /// The full path of the last puzzle file; may be empty.
+    std::string PuzPath;
+    RecentFiles recentFiles;
+
+    /// Takes the settings over from `appearance`.
+    void remember(const Appearance& appearance);
+
+    /// Puts the settings but the scheme onto `appearance`, whose scheme is loaded: colours that
+    /// were never chosen come from its slots, or are black, or white where black does not read.
+    void applyTo(Appearance& appearance) const;
+
+    friend bool operator==(const Configuration&, const Configuration&) = default;
+};
+
+/// Reads "tessaly.cfg". It never fails: each value that is missing, garbled or out of its range
+/// takes its default, one by one, and a file that cannot be read gives the configuration of a first
+/// run.
+///
+/// Lines: (1) nine whole numbers separated by commas: `PuzNum`, `PrintLineWidth`,
+/// `HexaBorderWidth`, `FixedNumberColour`, `UserNumberColour`, `HexaBorderColour`, `SplitHexas`,
+/// `HexaFillColour`, `NumBorder`, a colour that was never chosen being empty; (2) the scheme;
+/// (3) the font; (4) the last puzzle file; (5) and on, the recent files.
+Configuration ReadcfgFile(const std::string& path);
+
+/// Writes the file anew: whole, or not at all.
+Outcome SavecfgFile(const std::string& path, const Configuration& configuration);
+
+} // namespace tessaly

@@ -1,0 +1,147 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "core/session/developer_commands.h"
+
+#include "core/play/solution_check.h"
+#include "core/solver/deduction.h"
+#include "core/solver/planted_hint.h"
+
+#include <vector>
+
+namespace tessaly {
+namespace {
+
+/// "035" is cell 5 of hexagon 3.
+std::string cellCode(int hexagon, int position) {
+    return (hexagon < 10 ? "0" : "") + std::to_string(hexagon) + std::to_string(position);
+}
+
+/// The cell that three digits name; no cell when they name none.
+CellId cellOfCode(std::string_view code) {
+    if (code.size() != 3 || code.find_first_not_of("0123456789") != std::string_view::npos)
+        return {};
+    const CellId cell{10 * (code[0] - '0') + code[1] - '0', code[2] - '0'};
+    const bool isCell = isHexagon(cell.hexagon) && cell.position >= 1 && cell.position <= CellCount;
+    return isCell ? cell : CellId{};
+}
+
+bool isEntry(std::string_view text) {
+    return text.size() <= Game::LongestEntry &&
+           text.find_first_not_of("123456") == std::string_view::npos;
+}
+
+/// The codes of what is wrong: an empty cell's own, and position 0 for a hexagon with a number
+/// twice.
+std::vector<std::string> findWrongPlaces(const Board& board) {
+    std::vector<std::string> places;
+    for (int hexagon = 1; hexagon <= HexagonCount; ++hexagon) {
+        for (int position = 1; position <= CellCount; ++position)
+            if (board.CellNum[{hexagon, position}].empty())
+                places.push_back(cellCode(hexagon, position));
+        if (holdsWrongNumbers(board, hexagon))
+            places.push_back(cellCode(hexagon, 0));
+    }
+    return places;
+}
+
+std::string describe(const std::vector<std::string>& places) {
+    constexpr std::size_t MostShown = 12; // as fit into a message box
+    std::string text;
+    for (std::size_t i = 0; i < places.size() && i < MostShown; ++i)
+        text += (i > 0 ? "\r\n" : "") + ("Error in cell " + places[i]);
+    if (places.size() > MostShown)
+        text += "\r\nand " + std::to_string(places.size() - MostShown) + " more";
+    return text;
+}
+
+} // namespace
+
+DeveloperCommands::DeveloperCommands(Session& session, Display& display, Prompts& prompts)
+    : m_session(session)
+    , m_display(display)
+    , m_prompts(prompts) {}
+
+void DeveloperCommands::solveInSteps(bool debug) {
+    if (m_session.busy.refuses(m_prompts))
+        return;
+    const WhileSet running(m_session.busy.commandRunning);
+    DebugSolve(m_session.game.board, debug, *this);
+}
+
+void DeveloperCommands::applyXcellRule() {
+    if (m_session.busy.refuses(m_prompts))
+        return;
+    const WhileSet running(m_session.busy.commandRunning);
+    std::int32_t counter = 0;
+    FixXcellPairsVerbose(m_session.game.board, counter, *this);
+}
+
+void DeveloperCommands::autoSolveHard(bool carryOut) {
+    if (m_session.busy.refuses(m_prompts))
+        return;
+    const Board& board = m_session.game.board;
+    message("AutosolveHard, fixed, Cell=" + std::to_string(board.BlankHex) + ", Pos=" +
+            std::to_string(board.HintCell) + ", number=" + std::to_string(board.HintNum));
+    if (carryOut)
+        solveWithHint();
+}
+
+void DeveloperCommands::solveWithHint() {
+    Board& board = m_session.game.board;
+    {
+        const WhileSet running(m_session.busy.commandRunning);
+        plantHint(board);
+        SolveByDeduction(board, [this] { m_display.yield(); });
+        redraw();
+    }
+    if (CheckHexagons(board, board.BlankHex) != SettledAndSound)
+        message("Error");
+}
+
+void DeveloperCommands::checkCells() {
+    if (m_session.busy.refuses(m_prompts))
+        return;
+    Board& board = m_session.game.board;
+    board.SkipHex = NoHexagon;
+    redraw();
+    const std::vector<std::string> places = findWrongPlaces(board);
+    message(places.empty() ? "done" : describe(places));
+}
+
+void DeveloperCommands::setManualValue() {
+    if (m_session.busy.refuses(m_prompts))
+        return;
+    const std::string answer =
+        m_prompts.ask("Cell code and entry, such as 035 4 (035 alone empties the cell):");
+    if (answer.empty())
+        return;
+    const std::string code = answer.substr(0, answer.find(' '));
+    const std::string entry = Without(answer.substr(code.size()), " ");
+    const CellId cell = cellOfCode(code);
+    if (!cell || !isEntry(entry)) {
+        m_prompts.message("No cell and entry: " + answer, "vbok+vbcritical");
+        return;
+    }
+    m_session.game.place(cell, entry);
+    m_display.DrawHexagon(cell.hexagon);
+}
+
+void DeveloperCommands::message(const std::string& text) {
+    m_prompts.message(text, "vbok");
+}
+
+void DeveloperCommands::redraw() {
+    m_display.DrawBoard();
+}
+
+void DeveloperCommands::yield() {
+    m_display.yield();
+}
+
+std::string developerText(const Board& board) {
+    return std::to_string(board.BlankHex) + "," + std::to_string(board.HintCell) + "," +
+           std::to_string(board.HintNum);
+}
+
+} // namespace tessaly

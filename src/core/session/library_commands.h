@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "core/session/file_choice.h"
+#include "core/session/library_display.h"
+#include "core/base/prompts.h"
+#include "core/session/session.h"
+#include "core/play/display.h"
+
+namespace tessaly {
+
+/// The commands that move through puzzle files and change them, by the names of the controls that
+/// start them. Each is refused with a message while puzzles are being created. The window lives on
+/// while a large file is read or copied; what arrives meanwhile is ignored.
+class LibraryCommands {
+public:
+    LibraryCommands(Session& session, Display& display, LibraryDisplay& libraryDisplay,
+                    Prompts& prompts, FileChoice& fileChoice);
+
+    /// Lets the user choose a puzzle file and shows its first puzzle.
+    void mnuload();
+    /// Shows a puzzle of a file and remembers the file as a recent one.
+    void load(const std::string& path, int number = 1);
+    /// Steps to the previous (item 0) or the next puzzle (item 1), around the ends of the file.
+    void cmdarrow(int item);
+    /// Shows a puzzle by its number; a number that the file does not have is ignored.
+    void goTo(int number);
+    /// Appends the puzzle to a file that the user chooses, and shows it there.
+    void mnusavex();
+    /// The same with the file that "Save to" offers.
+    void mnusaveto();
+    /// Removes the puzzle from its file, after a question.
+    void mnudelete();
+    /// Opens a recent file, by its place in the list.
+    void oldfiles_Click(int item);
+
+    /// Shows the puzzle that was shown when the program ended last, or the empty board, and the
+    /// recent files.
+    void reopen(const std::string& path, int number);
+
+    /// Reads a puzzle onto the board and shows it. When that fails the board stays as it was and
+    /// the message line says so.
+    PuzzleRead ReadPuzzle(const std::string& path, int number);
+
+private:
+    void showEmptyBoard();
+    /// Reads a puzzle of the current file; tells the user when the file cannot be read.
+    void step(int number);
+    /// How many puzzles the current file holds now; as many as before when it cannot be read.
+    int recount();
+    std::string temporaryFile() const;
+    Outcome appendAndShow(const std::string& path, int& number);
+    bool appendTo(const std::string& path);
+    Outcome remove(const CurrentPuzzle& puzzle);
+    void setSaveTarget(const std::string& path);
+    void tellCritical(const std::string& text);
+
+    Session& m_session;
+    Display& m_display;
+    LibraryDisplay& m_libraryDisplay;
+    Prompts& m_prompts;
+    FileChoice& m_fileChoice;
+};
+
+} // namespace tessaly

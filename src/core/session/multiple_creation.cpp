@@ -1,0 +1,146 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "core/session/multiple_creation.h"
+
+#include "core/files/file_access.h"
+#include "core/board/puzzle_record.h"
+#include "core/solver/generator.h"
+
+#include <future>
+
+namespace tessaly {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+/// How much work a crash can lose. Flushing the disk takes as long as making many puzzles.
+constexpr std::chrono::milliseconds WorkAtRisk{100};
+
+/// One in a hundred more hard ones than easy ones, unlike a single creation.
+Difficulty drawForEach(DifficultyChoice choice, Chance& chance) {
+    constexpr std::uint32_t LastOfHard = 50;
+    if (choice)
+        return *choice;
+    return chance.below(100) > LastOfHard ? Difficulty::Easy : Difficulty::Hard;
+}
+
+} // namespace
+
+MultipleCreation::MultipleCreation(Session& session, LibraryCommands& library,
+                                   const MultipleCreationWindow& window, Chance chance)
+    : m_session(session)
+    , m_library(library)
+    , m_window(window)
+    , m_fill(arrangementsOf(session.arrangements))
+    , m_chance(chance) {}
+
+void MultipleCreation::run() {
+    if (m_session.busy.refuses(m_window.prompts))
+        return;
+    const std::optional<CreationOrder> order = m_window.orders.choose();
+    m_window.display.yield();
+    if (order && confirmed(*order))
+        carryOut(*order);
+}
+
+bool MultipleCreation::confirmed(const CreationOrder& order) {
+    const std::string question = "Create Multiple Puzzles:\r\nOutput File: " + order.path +
+                                 "\r\nDifficulty Level: " + std::string(nameOf(order.difficulty)) +
+                                 "\r\nNumber of Puzzles:" + std::to_string(order.count) +
+                                 "\r\n\r\nCreating Multiple Puzzle will take time...\r\nProceed?";
+    return m_window.prompts.message(question, "vbinformation+vbyesno") == answer::Yes;
+}
+
+void MultipleCreation::carryOut(const CreationOrder& order) {
+    int made = 0;
+    Outcome outcome;
+    {
+        const WhileSet creating(m_session.busy.creating);
+        m_window.progress.beginProgress(order.path);
+        outcome = createAll(order, made);
+        m_window.progress.endProgress();
+    }
+    if (m_stopped)
+        return;
+    showPuzzleAgain();
+    report(order, made, outcome);
+}
+
+Outcome MultipleCreation::createAll(const CreationOrder& order, int& made) {
+    const RunClock clock;
+    m_known.clear();
+    m_stopped = false;
+    while (made < order.count && !m_stopped) {
+        int madeNow = made;
+        const std::string records = createSome(order, madeNow);
+        if (Outcome written = append(order.path, records); !written.ok())
+            return written;
+        made = madeNow;
+        m_window.progress.showProgress(clock.progress(made, order.count));
+        m_window.display.yield();
+    }
+    return Outcome::done();
+}
+
+/// Appends to the file on a thread of its own: a disk may take its time.
+Outcome MultipleCreation::append(const std::string& path, const std::string& records) {
+    auto writing = std::async([&] { return appendLines(path, records); });
+    while (writing.wait_for(Turn) == std::future_status::timeout)
+        m_window.display.yield();
+    return writing.get();
+}
+
+std::string MultipleCreation::createSome(const CreationOrder& order, int& made) {
+    std::string records;
+    auto now = Clock::now();
+    const auto end = now + WorkAtRisk;
+    auto nextTurn = now + Turn;
+    for (; now < end && made < order.count && !m_stopped; now = Clock::now()) {
+        ++made;
+        records += createOne(order, made) + "\r\n";
+        if (Clock::now() >= nextTurn) {
+            m_window.display.yield();
+            nextTurn = Clock::now() + Turn;
+        }
+    }
+    return records;
+}
+
+std::string MultipleCreation::createOne(const CreationOrder& order, int number) {
+    Board board;
+    for (;;) {
+        const Difficulty difficulty = drawForEach(order.difficulty, m_chance);
+        m_window.display.showMessage("Creating " + std::string(nameOf(difficulty)) + " Puzzle " +
+                                     std::to_string(number) + " of " + std::to_string(order.count));
+        CreatePuzzle(board, difficulty, m_chance, m_fill);
+        std::string record = PuzzleRecord(board);
+        if (m_known.insert(record).second)
+            return record;
+    }
+}
+
+/// Reads the puzzle in play again, for its file may have grown, and keeps what the player entered.
+void MultipleCreation::showPuzzleAgain() {
+    const CurrentPuzzle before = m_session.puzzle;
+    if (before.PuzNum == 0) {
+        m_window.library.showNoPuzzle();
+        return;
+    }
+    const Game play = m_session.game;
+    if (m_library.ReadPuzzle(before.PuzPath, before.PuzNum).record != before.record)
+        return;
+    m_session.game = play;
+    m_window.display.DrawBoard();
+}
+
+void MultipleCreation::report(const CreationOrder& order, int made, const Outcome& outcome) {
+    const std::string count = std::to_string(made);
+    m_window.display.showMessage(count + " Puzles Created");
+    if (!outcome.ok())
+        m_window.prompts.message(outcome.problem, "vbok+vbcritical");
+    m_window.prompts.message(count + " Puzzles added to file:\r\n" + order.path,
+                             "vbinformation+vbok");
+}
+
+} // namespace tessaly

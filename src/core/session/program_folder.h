@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "core/base/outcome.h"
+
+#include <string>
+
+namespace tessaly {
+
+/// What decides which folder the program runs from. Folders may be given with or without their
+/// last "/"; an empty one is unknown.
+struct ProgramFolderSources {
+    /// The folder that the user named on the command line.
+    std::string given;
+    std::string executableFolder;
+    /// Where an installation keeps the data files.
+    std::string shareFolder;
+    /// $XDG_DATA_HOME and $HOME.
+    std::string dataHome;
+    std::string home;
+
+    /// Those of the running process, the share folder being the installed one as seen from the
+    /// executable. `given` is empty.
+    static ProgramFolderSources ofThisProcess();
+};
+
+/// Finds the program's folder, into `folder` with a "/" at its end: the given one; else the
+/// executable's when it holds "all.col"; else "tessaly" in the user's data home.
+///
+/// The last is made at the first start and filled from the share folder, all or nothing. On later
+/// starts the program's own files there ("hexabinx.txt", "tessaly.htm" and its drawings) are
+/// renewed when shipped ones are newer; everything else is the user's and is left alone, even when
+/// it is gone.
+Outcome findProgramFolder(const ProgramFolderSources& sources, std::string& folder);
+
+} // namespace tessaly

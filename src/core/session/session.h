@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "core/board/arrangements.h"
+#include "core/board/difficulty.h"
+#include "core/session/library_display.h"
+#include "core/board/puzzle_file.h"
+#include "core/session/recent_files.h"
+#include "core/options/appearance.h"
+#include "core/play/busy.h"
+#include "core/play/game.h"
+
+#include <string>
+
+namespace tessaly {
+
+/// The puzzle that was shown when the game ended last.
+struct LastPuzzle {
+    std::string path;
+    int number = 1;
+};
+
+/// All that lives for the whole run of the game, owned once and handed on by reference.
+struct Session {
+    /// Where the program's data files lie; ends in "/".
+    std::string ProgramFolder;
+    ArrangementTable arrangements;
+    Appearance appearance;
+
+    PuzzleFiles files;
+    RecentFiles recentFiles;
+    /// The file that "Save to" offers; empty for none.
+    std::string saveTarget;
+
+    LastPuzzle last;
+    CurrentPuzzle puzzle;
+    Game game;
+    /// What the difficulty label shows, and so what the next puzzle will be.
+    DifficultyChoice difficulty;
+    BusyState busy;
+    /// Whether the developer's commands are shown.
+    bool developer = false;
+};
+
+} // namespace tessaly

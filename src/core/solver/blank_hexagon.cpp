@@ -1,0 +1,155 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "core/solver/blank_hexagon.h"
+
+#include "core/board/digit_set.h"
+#include "core/board/tables.h"
+#include "core/solver/packed_rules.h"
+#include "core/solver/removal_plan.h"
+
+#include <algorithm>
+#include <array>
+#include <span>
+
+namespace tessaly {
+namespace {
+
+constexpr auto NoYield = [] {};
+constexpr auto EveryCell = [](const PackedBoard& board) { return board.everyCellIsSettled(); };
+
+/// Looks for the hint of a hard puzzle whose blank hexagon is chosen.
+class HintSearch {
+public:
+    HintSearch(PuzzleDraft& draft, int blankHex)
+        : m_draft(draft)
+        , m_blankHex(blankHex)
+        , m_stuck(draft.givensWithout(blankHex)) {
+        m_isStuck = !m_stuck.deduceUntil(false, EveryCell);
+    }
+
+    bool isStuck() const { return m_isStuck; }
+
+    std::optional<BlankChoice> run(Chance& chance) {
+        std::array<CellId, CellCount> cells;
+        const std::span<CellId> hints = collectCells(cells);
+        chance.shuffle(hints);
+        for (CellId cell : hints)
+            if (isHint(cell)) {
+                m_draft.give(cell);
+                return BlankChoice{m_blankHex, cell.position, m_draft.solutionDigit(cell)};
+            }
+        return std::nullopt;
+    }
+
+private:
+    /// The open cells that touch the blank hexagon from outside.
+    std::span<CellId> collectCells(std::array<CellId, CellCount>& cells) const {
+        std::size_t count = 0;
+        for (int position = 1; position <= CellCount; ++position) {
+            const CellId cell = SideLink[{m_blankHex, position}];
+            if (cell && mayHoldHint(cell) && m_stuck.board().isOpen(cell))
+                cells[count++] = cell;
+        }
+        return std::span(cells).first(count);
+    }
+
+    bool isHint(CellId cell) const {
+        return with(cell).deduceUntil(true, EveryCell) &&
+               !with(cell).deduceUntil(false, EveryCell) && noOtherDigitSucceeds(cell);
+    }
+
+    /// Tries the other candidates in ascending order, as far as it has to: a digit that leaves the
+    /// board unsettled ends the trials, and with them the cell unless the right one came before.
+    bool noOtherDigitSucceeds(CellId cell) const {
+        const int solution = m_draft.solutionDigit(cell);
+        const HexagonWord cells = m_stuck.board().hexagon(cell.hexagon);
+        const DigitSet candidates = DigitSet::fromBits(word::byteAt(cells, cell.position));
+        for (DigitSet rest = candidates; !rest.empty(); rest = rest.withoutFirst()) {
+            const int digit = rest.first();
+            if (digit == solution)
+                continue;
+            const int verdict = verdictOn(cell, digit);
+            if (verdict == Unsettled)
+                return digit > solution;
+            if (verdict == Sound)
+                return false;
+        }
+        return true;
+    }
+
+    int verdictOn(CellId cell, int digit) const {
+        PackedRules trial = m_stuck;
+        trial.settle(cell, digit);
+        trial.solveBasic(true, NoYield);
+        return CheckHexagons(trial.board(), m_blankHex);
+    }
+
+    PackedRules with(CellId cell) const {
+        PackedRules rules = m_stuck;
+        rules.settle(cell, m_draft.solutionDigit(cell));
+        return rules;
+    }
+
+    static constexpr int Sound = 99;
+    static constexpr int Unsettled = 0;
+
+    PuzzleDraft& m_draft;
+    int m_blankHex;
+    /// The givens without the blank hexagon, as far as rules 1 to 3 go.
+    PackedRules m_stuck;
+    bool m_isStuck = false;
+};
+
+bool fallsToBasicRules(const PuzzleDraft& draft) {
+    return PackedRules(draft.givens()).deduceUntil(false, EveryCell);
+}
+
+/// Whether rules 1 to 3 settle a board without a hexagon's givens when they do with them: they do
+/// once they have settled those.
+bool fallsWithout(const PuzzleDraft& draft, int hexagon) {
+    const HexagonWord given = draft.givenMask(hexagon);
+    return PackedRules(draft.givensWithout(hexagon))
+        .deduceUntil(false, [hexagon, given](const PackedBoard& board) {
+            return (board.openFlags(hexagon) & given) == 0;
+        });
+}
+
+std::optional<BlankChoice> tryBlank(PuzzleDraft& draft, Difficulty difficulty, int hexagon,
+                                    Chance& chance) {
+    if (difficulty == Difficulty::Easy)
+        return fallsWithout(draft, hexagon) ? std::optional(BlankChoice{hexagon}) : std::nullopt;
+    HintSearch search(draft, hexagon);
+    return search.isStuck() ? search.run(chance) : std::nullopt;
+}
+
+} // namespace
+
+bool mayHoldHint(CellId cell) {
+    return std::find(NeverGiven.begin(), NeverGiven.end(), cell) == NeverGiven.end();
+}
+
+CellId hintedCell(int blankHex, int hintCell) {
+    if (!isHexagon(blankHex) || hintCell < 1 || hintCell > CellCount)
+        return {};
+    return SideLink[{blankHex, opposite(hintCell)}];
+}
+
+std::optional<BlankChoice> chooseBlank(PuzzleDraft& draft, Difficulty difficulty, Chance& chance,
+                                       const std::function<void(int hexagon)>& beforeTrial) {
+    if (difficulty == Difficulty::Easy && !fallsToBasicRules(draft))
+        return std::nullopt;
+    std::array<int, BlankHexagonChoices.size()> hexagons = BlankHexagonChoices;
+    chance.shuffle(hexagons);
+    for (int hexagon : hexagons) {
+        if (beforeTrial)
+            beforeTrial(hexagon);
+        if (const auto choice = tryBlank(draft, difficulty, hexagon, chance)) {
+            draft.giveHexagon(hexagon);
+            return choice;
+        }
+    }
+    return std::nullopt;
+}
+
+} // namespace tessaly

@@ -1,0 +1,130 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "core/solver/generator.h"
+
+#include "core/solver/blank_hexagon.h"
+#include "core/solver/packed_board.h"
+#include "core/solver/puzzle_draft.h"
+#include "core/solver/thinning.h"
+
+namespace tessaly {
+namespace {
+
+/// Keeps the board that is watched in step with the draft, where anybody watches.
+class Watched {
+public:
+    Watched(Board& board, const CreationObserver& observer)
+        : m_board(board)
+        , m_observer(observer) {}
+
+    void yield() const {
+        if (m_observer.yield)
+            m_observer.yield();
+    }
+
+    void message(const std::string& text) const {
+        if (m_observer.message)
+            m_observer.message(text);
+    }
+
+    bool isDrawn() const { return static_cast<bool>(m_observer.redraw); }
+
+    void show(int hexagon, HexagonWord cells) const {
+        for (int position = 1; position <= CellCount; ++position)
+            unpackEntry(word::byteAt(cells, position), m_board.CellNum[{hexagon, position}]);
+        m_observer.redraw(hexagon);
+    }
+
+    void show(const HexagonWords& cells) const {
+        for (int hexagon = 1; isDrawn() && hexagon <= HexagonCount; ++hexagon)
+            show(hexagon, cells[static_cast<std::size_t>(hexagon)]);
+    }
+
+private:
+    Board& m_board;
+    const CreationObserver& m_observer;
+};
+
+HexagonWords findFilling(Chance& chance, const SearchFill& fill, const Watched& watched) {
+    SearchFill::OnChange onChange;
+    if (watched.isDrawn())
+        onChange = [&watched](int hexagon, HexagonWord cells) { watched.show(hexagon, cells); };
+    for (;;) {
+        watched.yield();
+        HexagonWords cells{};
+        const FillResult result = fill.fill(cells, chance, onChange);
+        if (result.filled)
+            return cells;
+        watched.message("No solution in " + std::to_string(result.attempts) +
+                        " iterations, solution aborted");
+    }
+}
+
+void thinGivens(PuzzleDraft& draft, Prospect prospect, const Watched& watched) {
+    thinGivens(draft, prospect, [&draft, &watched] {
+        watched.yield();
+        watched.show(draft.givens());
+    });
+}
+
+std::optional<BlankChoice> chooseBlank(PuzzleDraft& draft, Difficulty difficulty, Chance& chance,
+                                       const Watched& watched) {
+    return chooseBlank(draft, difficulty, chance, [&](int hexagon) {
+        watched.yield();
+        if (watched.isDrawn())
+            watched.show(draft.givensWithout(hexagon));
+    });
+}
+
+void writeChoice(const BlankChoice& choice, Difficulty difficulty, Board& board) {
+    board.difficulty = difficulty;
+    board.BlankHex = choice.blankHex;
+    board.HintCell = choice.hintCell;
+    board.HintNum = choice.hintNum;
+}
+
+} // namespace
+
+Difficulty drawDifficulty(DifficultyChoice choice, Chance& chance) {
+    if (choice)
+        return *choice;
+    return chance.below(100) < 50 ? Difficulty::Easy : Difficulty::Hard;
+}
+
+void CreatePuzzle(Board& board, Difficulty difficulty, Chance& chance, const SearchFill& fill,
+                  const CreationObserver& observer) {
+    const Watched watched(board, observer);
+    board.SkipHex = NoHexagon;
+    board.BlankHex = NoHexagon;
+    watched.show({});
+    for (;;) {
+        // Whatever an attempt draws, the next one starts from the same place.
+        Chance own(chance.next());
+        PuzzleDraft draft(findFilling(own, fill, watched));
+        const Prospect prospect = prospectOf(draft, difficulty);
+        if (prospect == Prospect::Hopeless)
+            continue;
+        thinGivens(draft, prospect, watched);
+        if (const auto choice = chooseBlank(draft, difficulty, own, watched)) {
+            draft.writeTo(board);
+            writeChoice(*choice, difficulty, board);
+            watched.show(draft.givens());
+            return;
+        }
+    }
+}
+
+bool ChooseBlankHexagon(Board& board, Difficulty difficulty, Chance& chance,
+                        const CreationObserver& observer) {
+    const Watched watched(board, observer);
+    board.SkipHex = NoHexagon;
+    board.BlankHex = NoHexagon;
+    PuzzleDraft draft(board);
+    const auto choice = chooseBlank(draft, difficulty, chance, watched);
+    draft.writeTo(board);
+    writeChoice(choice.value_or(BlankChoice{}), difficulty, board);
+    return choice.has_value();
+}
+
+} // namespace tessaly

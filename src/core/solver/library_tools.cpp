@@ -1,0 +1,129 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "core/solver/library_tools.h"
+
+#include "core/files/file_access.h"
+#include "core/files/line_reader.h"
+#include "core/board/puzzle_file.h"
+#include "core/board/puzzle_record.h"
+#include "core/board/record_lines.h"
+#include "core/solver/deduction.h"
+#include "core/solver/planted_hint.h"
+
+#include <unordered_set>
+#include <vector>
+
+namespace tessaly {
+namespace {
+
+/// Whole lines on their way into a file, in pieces of a good size.
+class LineWriter {
+public:
+    explicit LineWriter(const ContentSink& sink)
+        : m_sink(sink) {}
+
+    Outcome add(std::string_view line) {
+        constexpr std::size_t PieceSize = std::size_t{256} * 1024;
+        m_lines += line;
+        m_lines += LineEnd;
+        return m_lines.size() < PieceSize ? Outcome::done() : flush();
+    }
+    Outcome flush() {
+        Outcome written = m_sink.write(m_lines);
+        m_lines.clear();
+        return written;
+    }
+
+private:
+    const ContentSink& m_sink;
+    std::string m_lines;
+};
+
+Outcome readLine(const RecordLine& line, Board& board) {
+    return line.isOverLong ? Outcome::failed(std::string(OverLongProblem))
+                           : readRecord(line.text, board);
+}
+
+/// Reads every record onto a board and hands both to `take`. The first one that is broken or that
+/// `take` cannot go on after ends it.
+Outcome forEachPuzzle(const std::string& path, const KeepGoing& keepGoing,
+                      const std::function<Outcome(std::string_view line, Board& board)>& take) {
+    Board board;
+    Outcome outcome;
+    const Outcome read = readRecordLines(path, [&](RecordLine line) {
+        outcome = readLine(line, board);
+        if (!outcome.ok())
+            outcome.problem = lineProblem(path, line.number, outcome.problem);
+        else
+            outcome = take(line.text, board);
+        if (outcome.ok() && keepGoing && !keepGoing(line.number))
+            outcome = Outcome::failed(StoppedProblem);
+        return outcome.ok();
+    });
+    return read.ok() ? outcome : read;
+}
+
+Outcome writePuzzles(const std::string& path, OutputMode mode, const ContentWriter& writer) {
+    return mode == OutputMode::Replace ? replaceFile(path, writer)
+                                       : PuzzleFiles().appendPuzzles(path, writer);
+}
+
+} // namespace
+
+Outcome expandPuzzles(const ToolFiles& files, OutputMode mode, TopBottomHeader header,
+                      const KeepGoing& keepGoing) {
+    return writePuzzles(files.output, mode, [&](const ContentSink& sink) {
+        LineWriter writer(sink);
+        const auto expand = [&](std::string_view, const Board& board) {
+            for (const std::string& variant : variantsOf(PuzzleRecord(board), header))
+                if (Outcome added = writer.add(variant); !added.ok())
+                    return added;
+            return Outcome::done();
+        };
+        const Outcome expanded = forEachPuzzle(files.input, keepGoing, expand);
+        return expanded.ok() ? writer.flush() : expanded;
+    });
+}
+
+Outcome verifyPuzzles(const ToolFiles& files, VerifyCount& count, const KeepGoing& keepGoing) {
+    count = {};
+    return writePuzzles(files.output, OutputMode::Append, [&](const ContentSink& sink) {
+        LineWriter writer(sink);
+        const auto verify = [&](std::string_view, Board& board) {
+            const std::string record = PuzzleRecord(board);
+            plantHint(board);
+            SolveByDeduction(board);
+            ++count.tried;
+            if (CheckHexagons(board, board.BlankHex) != SettledAndSound)
+                return Outcome::done();
+            ++count.solved;
+            return writer.add(record);
+        };
+        const Outcome verified = forEachPuzzle(files.input, keepGoing, verify);
+        return verified.ok() ? writer.flush() : verified;
+    });
+}
+
+Outcome shufflePuzzles(const ToolFiles& files, Chance& chance, const KeepGoing& keepGoing) {
+    // Read while the output is locked, for it may be the same file.
+    return replaceFile(files.output, [&](const ContentSink& sink) {
+        std::unordered_set<std::string> known;
+        std::vector<const std::string*> lines;
+        const auto keep = [&](std::string_view line, const Board&) {
+            if (const auto [place, isNew] = known.emplace(line); isNew)
+                lines.push_back(&*place);
+            return Outcome::done();
+        };
+        if (Outcome read = forEachPuzzle(files.input, keepGoing, keep); !read.ok())
+            return read;
+        chance.shuffle(lines);
+        LineWriter writer(sink);
+        for (const std::string* line : lines)
+            if (Outcome added = writer.add(*line); !added.ok())
+                return added;
+        return writer.flush();
+    });
+}
+
+} // namespace tessaly

@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "core/base/outcome.h"
+#include "core/solver/chance.h"
+#include "core/solver/puzzle_variants.h"
+
+#include <functional>
+#include <string>
+
+/// What makes a library of many puzzles out of a few, proves it and mixes it. Each tool reads a
+/// puzzle file and writes another, all of it or, when a record is broken, nothing.
+namespace tessaly {
+
+/// Told after each record how many were read; false ends the run, with `StoppedProblem`.
+using KeepGoing = std::function<bool(int records)>;
+
+inline constexpr const char* StoppedProblem = "stopped; nothing was written";
+
+/// The file that a tool reads and the one that it writes.
+struct ToolFiles {
+    std::string input;
+    std::string output;
+};
+
+enum class OutputMode { Replace, Append };
+
+/// Writes the eight variants of every puzzle.
+Outcome expandPuzzles(const ToolFiles& files, OutputMode mode, TopBottomHeader header,
+                      const KeepGoing& keepGoing = {});
+
+/// How many puzzles were tried, and how many of them the rules solve.
+struct VerifyCount {
+    int tried = 0;
+    int solved = 0;
+};
+
+/// Appends those puzzles that the deduction rules solve, the hint of hard ones in place.
+Outcome verifyPuzzles(const ToolFiles& files, VerifyCount& count, const KeepGoing& keepGoing = {});
+
+/// Writes the lines in random order, each only once. The files may be the same.
+Outcome shufflePuzzles(const ToolFiles& files, Chance& chance, const KeepGoing& keepGoing = {});
+
+} // namespace tessaly

@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "core/board/difficulty.h"
+#include "core/solver/search_fill.h"
+
+#include <cstdint>
+#include <functional>
+#include <string>
+
+namespace tessaly {
+
+/// A seed stands for an endless series of puzzles; the same seed for the same series, however many
+/// threads work on it.
+struct PuzzleSeries {
+    DifficultyChoice difficulty;
+    std::uint64_t seed = 0;
+
+    /// The record of puzzle `index`, from 0.
+    std::string record(std::uint64_t index, const SearchFill& fill) const;
+};
+
+/// Makes the records of a series on `jobs` threads and hands them out in order, on the thread that
+/// called, until `take` answers false.
+void makeSeries(const PuzzleSeries& series, int jobs, const SearchFill& fill,
+                const std::function<bool(const std::string& record)>& take);
+
+} // namespace tessaly

@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "ui/controls/choice_mark.h"
+
+#include <QCheckBox>
+#include <QRadioButton>
+
+namespace tessaly {
+
+/// A check box or an option button whose mark reads on every colour of ground.
+template <class Button, ChoiceMark Mark>
+class ChoiceButton : public Button {
+public:
+    explicit ChoiceButton(const QString& caption, QWidget* parent = nullptr)
+        : Button(caption, parent) {
+        this->setAttribute(Qt::WA_Hover);
+    }
+
+    QSize sizeHint() const override { return choiceSize(*this); }
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    bool hitButton(const QPoint& position) const override {
+        return this->rect().contains(position);
+    }
+    void paintEvent(QPaintEvent*) override { drawChoice(*this, Mark); }
+};
+
+using TickBox = ChoiceButton<QCheckBox, ChoiceMark::Tick>;
+using OptionDot = ChoiceButton<QRadioButton, ChoiceMark::Dot>;
+
+} // namespace tessaly

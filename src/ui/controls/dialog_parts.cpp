@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "ui/controls/dialog_parts.h"
+
+#include "ui/controls/box_control.h"
+#include "ui/controls/file_name_picker.h"
+
+#include <QCoreApplication>
+#include <QDialog>
+#include <QVBoxLayout>
+
+namespace tessaly {
+
+using namespace Qt::StringLiterals;
+
+QVBoxLayout* addRows(QDialog& dialog) {
+    auto* rows = new QVBoxLayout(&dialog);
+    rows->setContentsMargins(dialog::Margin, dialog::Margin, dialog::Margin, dialog::Margin);
+    rows->setSpacing(dialog::Spacing);
+    return rows;
+}
+
+QHBoxLayout* makeButtonRow(std::initializer_list<BoxControl*> buttons) {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(dialog::Spacing);
+    row->addStretch();
+    for (BoxControl* button : buttons) {
+        button->setFixedSize(dialog::ButtonSize);
+        row->addWidget(button);
+    }
+    return row;
+}
+
+FNDialog* makeFilePicker(FileDialogs& fileDialogs, Prompts& prompts, QWidget* parent) {
+    auto* picker = named(u"gf1"_s, new FNDialog(fileDialogs, prompts, parent));
+    picker->setToolTip(FNDialog::tr("Choose another file"));
+    picker->setFixedSize(dialog::ButtonSize.height(), dialog::ButtonSize.height());
+    return picker;
+}
+
+} // namespace tessaly

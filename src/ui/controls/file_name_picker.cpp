@@ -1,0 +1,102 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "ui/controls/file_name_picker.h"
+
+#include "ui/controls/path_text.h"
+
+#include <QDir>
+#include <QHBoxLayout>
+#include <QStandardPaths>
+
+namespace tessaly {
+namespace {
+
+constexpr int LongestPath = 254;
+
+/// Brings the process back to the directory in which it was, wherever a dialog has led it.
+class CurrentDirectoryKeeper {
+public:
+    CurrentDirectoryKeeper() = default;
+    CurrentDirectoryKeeper(const CurrentDirectoryKeeper&) = delete;
+    CurrentDirectoryKeeper& operator=(const CurrentDirectoryKeeper&) = delete;
+    ~CurrentDirectoryKeeper() { QDir::setCurrent(m_directory); }
+
+private:
+    QString m_directory = QDir::currentPath();
+};
+
+/// Why the path cannot be taken; empty when it can.
+QString problemWith(const QString& path) {
+    if (path.size() > LongestPath)
+        return QStringLiteral("The path of this file is longer than %1 characters, so it cannot "
+                              "be used:\r\n")
+                   .arg(LongestPath) %
+               path;
+    return problemWithName(path);
+}
+
+QStringList patternsIn(const QString& types) {
+    QStringList patterns;
+    for (const QString& piece : types.split(QLatin1Char(';')))
+        if (!piece.trimmed().isEmpty())
+            patterns << piece.trimmed();
+    return patterns;
+}
+
+} // namespace
+
+FNDialog::FNDialog(FileDialogs& dialogs, Prompts& prompts, QWidget* parent)
+    : QWidget(parent)
+    , m_dialogs(dialogs)
+    , m_prompts(prompts)
+    , m_button(new BoxControl(QStringLiteral("..."), this)) {
+    m_button->setObjectName(QStringLiteral("Command1"));
+    m_button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_button);
+    setFocusProxy(m_button);
+    connect(m_button, &BoxControl::clicked, this, &FNDialog::clicked);
+    connect(m_button, &BoxControl::mousePressed, this, &FNDialog::mousePressed);
+    connect(m_button, &BoxControl::mouseMoved, this, &FNDialog::mouseMoved);
+    connect(m_button, &BoxControl::mouseReleased, this, &FNDialog::mouseReleased);
+    connect(m_button, &BoxControl::keyPressed, this, &FNDialog::keyPressed);
+    connect(m_button, &BoxControl::keyReleased, this, &FNDialog::keyReleased);
+}
+
+void FNDialog::setTitle(const QString& title) {
+    m_title = title;
+    m_button->setAccessibleName(title); // the caption says nothing to whoever cannot see it
+}
+
+QString FNDialog::GetFileName(const QString& mode) {
+    const CurrentDirectoryKeeper keeper;
+    const bool saving = mode.compare(QLatin1String("SAVE"), Qt::CaseInsensitive) == 0;
+    return accepted(saving ? m_dialogs.nameToSave(question(), window())
+                           : m_dialogs.nameToOpen(question(), window()));
+}
+
+FileQuestion FNDialog::question() const {
+    QString folder = m_defaultDir;
+    if (folder.isEmpty())
+        folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    if (!folder.endsWith(QDir::separator()))
+        folder += QDir::separator();
+    return {m_title, folder, m_fileTypesName % QStringLiteral(" (") % m_fileTypes % QChar(u')'),
+            patternsIn(m_fileTypes)};
+}
+
+QString FNDialog::accepted(const QString& path) {
+    if (path.isEmpty())
+        return {};
+    QString full = QDir::isAbsolutePath(path) ? path : QDir::current().filePath(path);
+    const QString problem = problemWith(full);
+    if (problem.isEmpty())
+        return full;
+    m_prompts.message(problem.toStdString(), "vbok+vbcritical");
+    return {};
+}
+
+} // namespace tessaly

@@ -1,0 +1,153 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "ui/drawing/board_picture.h"
+
+#include "core/base/product.h"
+#include "ui/drawing/page_text.h"
+#include "core/play/board_geometry.h"
+#include "ui/drawing/board_renderer.h"
+#include "ui/drawing/board_surface.h"
+#include "ui/drawing/hexagon_tag.h"
+#include "ui/drawing/qt_colour.h"
+
+#include <QPainter>
+
+#include <cmath>
+
+namespace tessaly {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr Colour CopyLine = Black;
+constexpr Colour CopyBackground = White;
+constexpr double LeastContrast = 3; // of WCAG 2, for large text
+
+/// A digit's height in a size of text, about.
+constexpr double DigitHeight = 0.72;
+
+QRectF toQt(const Rect& rectangle) {
+    return {rectangle.left, rectangle.top, rectangle.width(), rectangle.height()};
+}
+
+class CopyLabels {
+public:
+    CopyLabels(QPainter& painter, const Appearance& appearance)
+        : m_painter(painter)
+        , m_style{QString::fromStdString(appearance.NumberFont), MarkSize, QFont::Normal} {}
+
+    /// The number in the middle of a hexagon, on a patch of white.
+    void number(int hexagon) {
+        constexpr double Width = 300 / TwipsPerUnit;
+        constexpr double Height = 200 / TwipsPerUnit;
+        const Point centre = hexagonCentre(hexagon);
+        m_painter.fillRect(toQt(rectAbout(centre, Width, Height)), toQColor(CopyBackground));
+        write(centre, QString::number(hexagon).rightJustified(2, u'0'), CopyLine);
+    }
+
+    void difficulty(const Board& board) {
+        const std::string_view name = board.DifName();
+        write(hexagonCentre(board.BlankHex),
+              QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size())),
+              CopyBackground);
+    }
+
+    void footer() {
+        constexpr double Left = 300 / TwipsPerUnit;
+        m_painter.setPen(toQColor(CopyLine));
+        drawText(m_painter, {Left, MarkSize},
+                 QString::fromLatin1(Product::Name) + u' ' +
+                     QString::fromLatin1(Product::WebAddress),
+                 m_style, TextAnchor::Left, PictureWidth / 3);
+    }
+
+private:
+    void write(Point centre, const QString& text, Colour colour) {
+        m_painter.setPen(toQColor(colour));
+        drawText(m_painter, {centre.x, centre.y + DigitHeight * MarkSize / 2}, text, m_style,
+                 TextAnchor::Middle, HexagonSide);
+    }
+
+    QPainter& m_painter;
+    PageText m_style;
+};
+
+void drawCopyLabels(QPainter& painter, const Board& board, const Appearance& appearance) {
+    CopyLabels labels(painter, appearance);
+    for (int hexagon = 1; hexagon <= HexagonCount; ++hexagon)
+        if (!board.isBlank(hexagon))
+            labels.number(hexagon);
+    labels.footer();
+    if (isHexagon(board.BlankHex))
+        labels.difficulty(board);
+}
+
+void drawTags(QPainter& painter, const Board& board, const Appearance& appearance) {
+    for (int hexagon = 1; hexagon <= HexagonCount; ++hexagon)
+        if (!board.isBlank(hexagon))
+            drawTag(painter, toQt(tagRectangle(hexagon)), hexagon, appearance);
+}
+
+void drawLabels(QPainter& painter, const BoardPicture& picture, const Appearance& appearance) {
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (picture.look == BoardPicture::Look::Copy)
+        drawCopyLabels(painter, picture.board, appearance);
+    else
+        drawTags(painter, picture.board, appearance);
+}
+
+Colour solutionColour(const BoardPicture& picture) {
+    return picture.look == BoardPicture::Look::Copy ? CopyLine
+                                                    : picture.appearance.SchemeColours[slot::Green];
+}
+
+} // namespace
+
+Appearance appearanceOf(const BoardPicture& picture) {
+    Appearance appearance = picture.appearance;
+    if (picture.look == BoardPicture::Look::Game)
+        return appearance;
+    appearance.HexaBorderColour = CopyLine;
+    appearance.FixedNumberColour = CopyLine;
+    appearance.HexaFillColour = CopyBackground;
+    appearance.SchemeColours[slot::Background] = CopyBackground;
+    if (contrastRatio(appearance.UserNumberColour, CopyBackground) < LeastContrast)
+        appearance.UserNumberColour = CopyLine;
+    return appearance;
+}
+
+QImage drawImage(const BoardPicture& picture, double scale) {
+    const Appearance appearance = appearanceOf(picture);
+    BoardSurface surface;
+    surface.setSize({static_cast<int>(std::lround(PictureWidth * scale)),
+                     static_cast<int>(std::lround(PictureHeight * scale))});
+    surface.setAppearance(appearance);
+    if (picture.solution)
+        surface.DrawSolution(picture.board, solutionColour(picture));
+    else
+        surface.DrawBoard(picture.board);
+    QImage image = surface.image();
+    {
+        QPainter painter(&image);
+        painter.setTransform(surface.boardToDevice());
+        drawLabels(painter, picture, appearance);
+    }
+    constexpr double DotsPerMeter = 96 / 0.0254;
+    image.setDotsPerMeterX(static_cast<int>(std::lround(DotsPerMeter * scale)));
+    image.setDotsPerMeterY(static_cast<int>(std::lround(DotsPerMeter * scale)));
+    return image;
+}
+
+void paintPicture(QPainter& painter, const BoardPicture& picture) {
+    const Appearance appearance = appearanceOf(picture);
+    painter.fillRect(QRectF(0, 0, PictureWidth, PictureHeight),
+                     toQColor(appearance.SchemeColours[slot::Background]));
+    BoardRenderer renderer(painter, picture.board, appearance);
+    renderer.DrawBoard();
+    if (picture.solution)
+        renderer.DrawSolution(solutionColour(picture));
+    drawLabels(painter, picture, appearance);
+}
+
+} // namespace tessaly

@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "core/options/appearance.h"
+
+#include <QRectF>
+
+class QPainter;
+
+namespace tessaly {
+
+/// How a tag looks under the pointer.
+enum class TagState { Plain, Hovered, Pressed };
+
+/// Draws the tag in the middle of a hexagon, with the hexagon's number, into `area`. Its text grows
+/// with the area, which on a board in board units is the hexagon's `tagRectangle`.
+void drawTag(QPainter& painter, const QRectF& area, int hexagon, const Appearance& appearance,
+             TagState state = TagState::Plain);
+
+} // namespace tessaly

@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "ui/drawing/picture_document.h"
+
+#include "core/files/file_access.h"
+#include "ui/drawing/picture_file.h"
+#include "ui/drawing/sink_device.h"
+#include "core/play/board_geometry.h"
+
+#include <QPageLayout>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QSvgGenerator>
+
+#include <algorithm>
+#include <array>
+
+namespace tessaly {
+namespace {
+
+QString extensionOf(const std::filesystem::path& path) {
+    return QString::fromStdString(path.extension().native()).toLower();
+}
+
+/// Paints a picture on a device of `dotsPerUnit` for each board unit.
+Outcome paintOn(QPaintDevice& device, const BoardPicture& picture, double dotsPerUnit) {
+    QPainter painter;
+    if (!painter.begin(&device))
+        return Outcome::failed("the picture cannot be made");
+    painter.scale(dotsPerUnit, dotsPerUnit);
+    paintPicture(painter, picture);
+    painter.end();
+    return Outcome::done();
+}
+
+Outcome paintSvg(QIODevice& file, const BoardPicture& picture, double scale) {
+    const QSizeF size(PictureWidth * scale, PictureHeight * scale);
+    QSvgGenerator svg;
+    svg.setOutputDevice(&file);
+    svg.setResolution(96);
+    svg.setSize(size.toSize());
+    svg.setViewBox(QRectF(QPointF(), size));
+    return paintOn(svg, picture, scale);
+}
+
+Outcome paintPdf(QIODevice& file, const BoardPicture& picture, double scale) {
+    QPdfWriter pdf(&file);
+    const QSizeF points = QSizeF(PictureWidth, PictureHeight) * PointsPerUnit * scale;
+    const QPageSize size(points, QPageSize::Point, {}, QPageSize::ExactMatch);
+    pdf.setPageLayout(QPageLayout(size, QPageLayout::Portrait, {}));
+    return paintOn(pdf, picture, scale * pdf.logicalDpiX() / 96);
+}
+
+} // namespace
+
+bool isPictureDocument(const std::filesystem::path& path) {
+    constexpr std::array Extensions{".png", ".svg", ".pdf"};
+    const QString extension = extensionOf(path);
+    return std::any_of(Extensions.begin(), Extensions.end(),
+                       [&](const char* known) { return extension == QLatin1String(known); });
+}
+
+Outcome writePictureDocument(const std::filesystem::path& path, const BoardPicture& picture,
+                             double scale) {
+    const QString extension = extensionOf(path);
+    if (extension == QLatin1String(".png"))
+        return writePicture(path, drawImage(picture, scale), PictureFormat::Png);
+    const bool isSvg = extension == QLatin1String(".svg");
+    return replaceFile(path, [&](const ContentSink& sink) {
+        SinkDevice file(sink);
+        const Outcome painted =
+            isSvg ? paintSvg(file, picture, scale) : paintPdf(file, picture, scale);
+        return painted.ok() ? file.finish() : painted;
+    });
+}
+
+} // namespace tessaly

@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "core/base/outcome.h"
+#include "ui/drawing/board_picture.h"
+
+#include <filesystem>
+
+namespace tessaly {
+
+/// Whether a name ends in ".png", ".svg" or ".pdf", in any capitals.
+bool isPictureDocument(const std::filesystem::path& path);
+
+/// Writes a picture of the board, `scale` pixels (at 96 dpi) a board unit, as its name says, whole
+/// or not at all.
+Outcome writePictureDocument(const std::filesystem::path& path, const BoardPicture& picture,
+                             double scale);
+
+} // namespace tessaly

@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "ui/help/help_window.h"
+
+#include "ui/controls/box_control.h"
+#include "ui/help/help_browser.h"
+#include "ui/controls/path_text.h"
+#include "ui/drawing/qt_colour.h"
+#include "ui/controls/scheme_palette.h"
+
+#include <QFileInfo>
+#include <QShowEvent>
+
+namespace tessaly {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr QSize FirstSize(780, 720);
+constexpr QSize LeastSize(360, 240);
+// The browser leaves 120 twips of the window's width and 480 of its height, at 15 twips a pixel.
+constexpr int BesideBrowser = 120 / 15;
+constexpr int BeneathBrowser = 480 / 15;
+constexpr int Margin = BesideBrowser / 2;
+constexpr QSize ButtonSize(96, 28);
+constexpr std::size_t ButtonColourSlot = slot::Button;
+
+} // namespace
+
+Form4::Form4(const Appearance& appearance, QWidget* parent)
+    : QDialog(parent)
+    , m_appearance(appearance)
+    , m_browser(new HelpBrowser(this))
+    , m_back(addButton(u"Back"_s, u"Command1"_s))
+    , m_forward(addButton(u"Forward"_s, u"Command2"_s))
+    , m_exit(addButton(u"Exit"_s, u"Command3"_s)) {
+    setObjectName(u"Form4"_s);
+    setWindowTitle(u"Tessaly Help"_s);
+    setModal(true);
+    setMinimumSize(LeastSize);
+    m_browser->setObjectName(u"WebBrowser1"_s);
+    m_browser->move(Margin, Margin);
+    connect(m_back, &BoxControl::clicked, this, [this] {
+        if (isAtAnchor())
+            m_browser->backward();
+    });
+    connect(m_forward, &BoxControl::clicked, this, [this] {
+        if (isAtAnchor())
+            m_browser->forward();
+    });
+    connect(m_exit, &BoxControl::clicked, this, &QDialog::hide);
+    connect(m_browser, &HelpBrowser::historyChanged, this, &Form4::enableButtons);
+    resize(FirstSize);
+}
+
+BoxControl* Form4::addButton(const QString& caption, const QString& name) {
+    auto* button = new BoxControl(caption, this);
+    button->setObjectName(name);
+    button->resize(ButtonSize);
+    return button;
+}
+
+void Form4::showEvent(QShowEvent* event) {
+    if (!event->spontaneous())
+        activate();
+    QDialog::showEvent(event);
+}
+
+void Form4::activate() {
+    setPalette(schemePalette(m_appearance));
+    const QColor face = toQColor(m_appearance.SchemeColours[ButtonColourSlot]);
+    for (BoxControl* button : {m_back, m_forward, m_exit})
+        button->setFaceColour(face);
+    m_browser->wear(m_appearance);
+    m_browser->navigate(
+        QUrl::fromLocalFile(QFileInfo(QFile::decodeName(m_tag.c_str())).absoluteFilePath()));
+    m_browser->setFocus();
+    enableButtons();
+}
+
+void Form4::resizeEvent(QResizeEvent* event) {
+    QDialog::resizeEvent(event);
+    m_browser->resize(width() - BesideBrowser, height() - BeneathBrowser - m_browser->y());
+    const int top = height() - (BeneathBrowser + ButtonSize.height()) / 2;
+    m_back->move(Margin, top);
+    m_forward->move(m_back->geometry().right() + 1 + Margin, top);
+    m_exit->move(width() - Margin - ButtonSize.width(), top);
+}
+
+bool Form4::isAtAnchor() const {
+    return m_browser->source().hasFragment();
+}
+
+void Form4::enableButtons() {
+    m_back->setEnabled(isAtAnchor() && m_browser->isBackwardAvailable());
+    m_forward->setEnabled(isAtAnchor() && m_browser->isForwardAvailable());
+}
+
+} // namespace tessaly

@@ -1,0 +1,162 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "ui/options/colour_picker.h"
+
+#include "ui/options/colour_surface_view.h"
+#include "ui/drawing/qt_colour.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QSignalBlocker>
+#include <QSlider>
+
+namespace tessaly {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr int Spacing = 12;
+constexpr int PartWidth = 32;
+constexpr int PictureHeight = 14;
+constexpr int SampleHeight = 40;
+constexpr int LargestPart = 255;
+constexpr int LargeStep = 20;
+
+/// What is no plain colour counts as black.
+Colour translated(Colour colour) {
+    return colour <= White ? colour : Black;
+}
+
+/// The colour with one part of it only.
+Colour pure(int part, int value) {
+    return static_cast<Colour>(value) << 8 * part;
+}
+
+void setColours(QLabel& label, const QColor& background, const QColor& text) {
+    QPalette palette = label.palette();
+    palette.setColor(QPalette::Window, background);
+    palette.setColor(QPalette::WindowText, text);
+    label.setPalette(palette);
+}
+
+/// The label is a patch of colour with an edge, for its colour may be that of the ground.
+void showAsSwatch(QLabel& label) {
+    label.setAutoFillBackground(true);
+    label.setFrameShape(QFrame::Box);
+}
+
+void setSwatch(QLabel& label, Colour colour) {
+    constexpr double EdgeStrength = 0.35;
+    const QColor background = toQColor(colour);
+    setColours(label, background, blended(background, readableOn(background), EdgeStrength));
+}
+
+} // namespace
+
+ColPik::ColPik(QWidget* parent)
+    : QWidget(parent)
+    , m_surface(new ColourSurfaceView(this)) {
+    m_surface->setObjectName(u"surface"_s);
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(Spacing);
+    row->addWidget(m_surface);
+    auto* side = new QVBoxLayout;
+    auto* bars = new QHBoxLayout;
+    bars->setSpacing(Spacing / 2);
+    addPart(0, u"Red"_s, tr("Red"), *bars);
+    addPart(1, u"Green"_s, tr("Green"), *bars);
+    addPart(2, u"Blue"_s, tr("Blue"), *bars);
+    side->addLayout(bars, 1);
+    side->addLayout(makeSample());
+    row->addLayout(side);
+    connect(m_surface, &ColourSurfaceView::picked, this, [this](Colour colour, bool onRamp) {
+        m_rampsEnabled = !onRamp;
+        SetColour(colour);
+        m_rampsEnabled = true;
+        Q_EMIT picked(colour);
+    });
+    setSchemeColor(m_scheme);
+    SetColour(Black);
+}
+
+void ColPik::addPart(int index, const QString& name, const QString& accessibleName,
+                     QHBoxLayout& row) {
+    auto* column = new QVBoxLayout;
+    column->setSpacing(4);
+    const Part part{new QSlider(Qt::Vertical, this), new QLabel(u"255"_s, this), new QLabel(this)};
+    part.bar->setObjectName(u"hsr"_s + name);
+    part.bar->setAccessibleName(accessibleName);
+    part.bar->setRange(0, LargestPart);
+    part.bar->setPageStep(LargeStep);
+    part.degree->setObjectName(u"lbl%1Degree"_s.arg(name));
+    part.degree->setAlignment(Qt::AlignCenter);
+    part.degree->setFixedWidth(PartWidth);
+    part.picture->setObjectName(u"PicRGB_%1"_s.arg(index));
+    part.picture->setFixedSize(PartWidth, PictureHeight);
+    showAsSwatch(*part.picture);
+    column->addWidget(part.degree);
+    column->addWidget(part.bar, 1, Qt::AlignHCenter);
+    column->addWidget(part.picture);
+    row.addLayout(column);
+    m_parts[static_cast<std::size_t>(index)] = part;
+    connect(part.bar, &QSlider::valueChanged, this, [this] {
+        SetColour(RGB(m_parts[0].bar->value(), m_parts[1].bar->value(), m_parts[2].bar->value()));
+    });
+}
+
+QVBoxLayout* ColPik::makeSample() {
+    auto* column = new QVBoxLayout;
+    column->setSpacing(4);
+    m_caption = new QLabel(tr("Selected Colour"), this);
+    m_caption->setObjectName(u"Label2"_s);
+    m_caption->setAlignment(Qt::AlignCenter);
+    m_sample = new QLabel(this);
+    m_sample->setObjectName(u"Label1"_s);
+    m_sample->setFixedHeight(SampleHeight);
+    showAsSwatch(*m_sample);
+    column->addWidget(m_caption);
+    column->addWidget(m_sample);
+    return column;
+}
+
+void ColPik::setSelColor(Colour colour) {
+    m_rampsEnabled = true;
+    SetColour(colour);
+}
+
+void ColPik::setSchemeColor(Colour colour) {
+    m_scheme = colour;
+    setColours(*m_caption, toQColor(colour), readableOn(toQColor(colour)));
+    m_surface->setBackground(colour);
+}
+
+QColor ColPik::backColor() const {
+    return toQColor(m_scheme);
+}
+
+void ColPik::setBackColor(const QColor& colour) {
+    setSchemeColor(toColour(colour));
+}
+
+void ColPik::SetColour(Colour colour) {
+    m_selected = translated(colour);
+    showParts();
+    if (m_rampsEnabled)
+        m_surface->setRampColour(m_selected);
+}
+
+void ColPik::showParts() {
+    const std::array values{RedOf(m_selected), GreenOf(m_selected), BlueOf(m_selected)};
+    for (std::size_t i = 0; i < m_parts.size(); ++i) {
+        const QSignalBlocker blocker(m_parts[i].bar);
+        m_parts[i].bar->setValue(values[i]);
+        m_parts[i].degree->setText(QString::number(values[i]));
+        setSwatch(*m_parts[i].picture, pure(static_cast<int>(i), values[i]));
+    }
+    setSwatch(*m_sample, m_selected);
+    m_sample->setAccessibleName(toQColor(m_selected).name());
+}
+
+} // namespace tessaly

@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "core/options/colour.h"
+
+#include <QColor>
+#include <QWidget>
+
+#include <array>
+
+class QHBoxLayout;
+class QLabel;
+class QSlider;
+class QVBoxLayout;
+
+namespace tessaly {
+
+class ColourSurfaceView;
+
+/// Chooses one colour: one of the classic ones, a shade between it and black or white, or any other
+/// by its parts of red, green and blue.
+class ColPik : public QWidget {
+    Q_OBJECT
+    Q_PROPERTY(bool Enabled READ isEnabled WRITE setEnabled)
+    Q_PROPERTY(QColor BackColor READ backColor WRITE setBackColor)
+
+public:
+    explicit ColPik(QWidget* parent = nullptr);
+
+    /// The selected colour.
+    Colour SelColor() const { return m_selected; }
+    void setSelColor(Colour colour);
+
+    /// The colour of the ground that everything lies on.
+    Colour SchemeColor() const { return m_scheme; }
+    void setSchemeColor(Colour colour);
+
+    QColor backColor() const;
+    void setBackColor(const QColor& colour);
+
+Q_SIGNALS:
+    /// A colour was picked on the surface.
+    void picked(tessaly::Colour colour);
+
+private:
+    struct Part {
+        QSlider* bar;    // hsrRed, hsrGreen, hsrBlue
+        QLabel* degree;  // lblRedDegree, ...
+        QLabel* picture; // PicRGB
+    };
+
+    void addPart(int index, const QString& name, const QString& accessibleName, QHBoxLayout& row);
+    QVBoxLayout* makeSample();
+    void SetColour(Colour colour);
+    void showParts();
+
+    ColourSurfaceView* m_surface;
+    std::array<Part, 3> m_parts{};
+    QLabel* m_sample = nullptr;  // Label1
+    QLabel* m_caption = nullptr; // Label2
+    Colour m_selected = Black;
+    Colour m_scheme = RGB(255, 192, 192);
+    /// Off while a shade is being picked, so that the ramps keep showing the shades it was one of.
+    bool m_rampsEnabled = true;
+};
+
+} // namespace tessaly

@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "core/base/prompts.h"
+#include "core/board/puzzle_file.h"
+#include "ui/drawing/booklet_printing.h"
+#include "core/output/page_layout.h"
+#include "ui/output/print_order.h"
+#include "core/play/display.h"
+
+class QPrinter;
+class QWidget;
+
+namespace tessaly {
+
+class FNDialog;
+class PrintProgress;
+class Printers;
+struct Session;
+
+/// What the window lends to printing.
+struct PrintWindow {
+    QWidget* window;
+    Display& display;
+    Prompts& prompts;
+    FNDialog& picker;
+    PrintOrderChoice& orders;
+    PrintProgress& progress;
+};
+
+/// The items of the "Print" menu (`mnuprintx`).
+class PrintCommands {
+public:
+    PrintCommands(Session& session, Printers& printers, const PrintWindow& window);
+
+    /// Prints the puzzle shown, as it stands on the board, its solution, or both, as the user sets
+    /// it up in the platform's dialog.
+    void printShown(bool puzzle, bool solution);
+    /// Prints some puzzles of a file and their solutions.
+    void printMultiple();
+    /// Ends a print that is under way; nothing of it is printed.
+    void stop();
+
+private:
+    Outcome paint(QPrinter& printer, const PrintJob& job);
+    void carryOut(const PrintOrder& order);
+    PrintResult printToFile(const std::string& path, const PrintJob& job);
+    PrintResult printTo(const QString& printer, const PrintJob& job);
+    PrintResult write(const std::filesystem::path& pdf, PaperSize paper, const PrintJob& job);
+    void tell(const Outcome& outcome, const std::string& success);
+
+    Session& m_session;
+    Printers& m_printers;
+    PrintWindow m_window;
+    PuzzleFiles m_files;
+    /// The program's printer once one was chosen; empty for a PDF file.
+    std::optional<QString> m_printer;
+    bool m_closing = false;
+};
+
+} // namespace tessaly

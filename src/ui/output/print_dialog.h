@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "core/options/appearance.h"
+#include "ui/output/print_order.h"
+
+#include <QDialog>
+
+#include <array>
+
+class QCheckBox;
+class QComboBox;
+class QGroupBox;
+class QHBoxLayout;
+class QLineEdit;
+class QRadioButton;
+
+namespace tessaly {
+
+class FileDialogs;
+class FNDialog;
+class Printers;
+class Prompts;
+
+/// The dialog "Print Puzzles From File". Its property "tag" is "Y" after it was closed in order to
+/// print, else "X".
+class Form5 : public QDialog, public PrintOrderChoice {
+    Q_OBJECT
+    Q_PROPERTY(QString tag MEMBER m_tag)
+
+public:
+    /// The last of the printers, which is there on every machine.
+    static constexpr const char* PrintToPdf = "Print to PDF";
+
+    /// All must outlive the form; puzzle files are offered in `programFolder`.
+    Form5(const Appearance& appearance, Printers& printers, FileDialogs& fileDialogs,
+          Prompts& prompts, std::string programFolder, QWidget* parent = nullptr);
+
+    std::optional<PrintOrder> choose(const PrintSuggestion& suggestion) override;
+
+private:
+    QGroupBox* addFrame(const QString& title, const QString& name);
+    void makePrinterFrame();
+    void makeFileFrame(FileDialogs& fileDialogs);
+    void makeRangeFrame();
+    void makePageFrame();
+    QHBoxLayout* makeButtons();
+    void paint();
+    void load(const PrintSuggestion& suggestion);
+    void chooseFile();
+    void acceptRange();
+    PrintOrder order() const;
+
+    const Appearance& m_appearance;
+    Printers& m_printers;
+    Prompts& m_prompts;
+    std::string m_programFolder;
+    QString m_tag;
+    std::string m_path;
+    int m_count = 0;
+
+    QComboBox* m_printer = nullptr; // Combo1
+    QLineEdit* m_file = nullptr;    // FileNow
+    FNDialog* m_picker = nullptr;   // gf1
+    QLineEdit* m_from = nullptr;    // Text1
+    QLineEdit* m_to = nullptr;      // Text2
+    std::array<QRadioButton*, PuzzlesPerPage.size()> m_perPage{};
+    QCheckBox* m_solutions = nullptr;
+};
+
+} // namespace tessaly

@@ -1,0 +1,254 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "ui/play/board_view.h"
+
+#include "ui/play/board_accessible.h"
+#include "ui/play/board_keys.h"
+#include "ui/drawing/qt_colour.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <cmath>
+
+namespace tessaly {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr double SmallestScale = 0.6;
+/// How far the frame of the focus reaches into the view.
+constexpr int FocusInset = 3;
+
+PointerButton pointerButton(Qt::MouseButton button) {
+    switch (button) {
+    case Qt::LeftButton:
+        return PointerButton::Left;
+    case Qt::RightButton:
+        return PointerButton::Right;
+    default:
+        return PointerButton::Other;
+    }
+}
+
+} // namespace
+
+BoardView::BoardView(const Board& board, const Appearance& appearance, QWidget* parent)
+    : QWidget(parent)
+    , m_board(board)
+    , m_appearance(appearance)
+    , m_marker(this)
+    , m_popup(this) {
+    BoardAccessible::install();
+    setObjectName(u"Picture2"_s);
+    setAccessibleName(tr("Board"));
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    setAttribute(Qt::WA_Hover);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setMinimumSize(static_cast<int>(std::ceil(SmallestScale * PictureWidth)),
+                   static_cast<int>(std::ceil(SmallestScale * PictureHeight)));
+    for (int hexagon = 1; hexagon <= HexagonCount; ++hexagon)
+        m_tags[static_cast<std::size_t>(hexagon)] = new HexagonTagWidget(hexagon, appearance, this);
+    applyAppearance();
+}
+
+void BoardView::setInput(BoardInput& input) {
+    m_input = &input;
+    for (HexagonTagWidget* tag : m_tags) {
+        if (tag == nullptr)
+            continue;
+        connect(tag, &HexagonTagWidget::pressed, this,
+                [this](int hexagon) { m_input->Celltags_MouseDown(hexagon); });
+        connect(tag, &HexagonTagWidget::released, this, [this] { m_input->Celltags_MouseUp(); });
+    }
+    connect(&m_popup, &NumberPopup::clicked, this,
+            [this](int button) { m_input->Num16_Click(button); });
+    connect(&m_popup, &NumberPopup::timedOut, this, [this] { m_input->Timer1_Timer(); });
+}
+
+QSize BoardView::sizeHint() const {
+    return {static_cast<int>(PictureWidth), static_cast<int>(PictureHeight)};
+}
+
+void BoardView::DrawHexagon(int hexagon) {
+    if (!isHexagon(hexagon))
+        return;
+    const QRect changed = m_surface.DrawHexagon(m_board, hexagon);
+    showTag(hexagon);
+    if (m_markedCell.hexagon == hexagon)
+        BoardAccessible::tellEntry(*this);
+    const double ratio = devicePixelRatioF();
+    update(QRectF(changed.x() / ratio, changed.y() / ratio, changed.width() / ratio,
+                  changed.height() / ratio)
+               .toAlignedRect());
+}
+
+void BoardView::DrawBoard() {
+    m_solutionColour.reset();
+    m_surface.DrawBoard(m_board);
+    for (int hexagon = 1; hexagon <= HexagonCount; ++hexagon)
+        showTag(hexagon);
+    update();
+}
+
+void BoardView::DrawSolution(Colour colour) {
+    m_solutionColour = colour;
+    m_surface.DrawSolution(m_board, colour);
+    update();
+}
+
+void BoardView::applyAppearance() {
+    m_surface.setAppearance(m_appearance);
+    m_marker.setColour(toQColor(m_appearance.SchemeColours[slot::Red]));
+    DrawBoard();
+}
+
+void BoardView::showTag(int hexagon) {
+    m_tags[static_cast<std::size_t>(hexagon)]->setVisible(!m_board.isBlank(hexagon));
+}
+
+void BoardView::showSelection(CellId cell) {
+    const bool hasMoved = m_markedCell != cell;
+    m_markedCell = cell;
+    if (cell)
+        m_marker.setGeometry(onWidget(markerRectangle(cell)));
+    m_marker.setVisible(static_cast<bool>(cell));
+    if (!hasMoved)
+        return;
+    update(QRegion(rect()) - rect().adjusted(FocusInset, FocusInset, -FocusInset, -FocusInset));
+    BoardAccessible::tellFocus(*this);
+}
+
+bool BoardView::canSelect(CellId cell) const {
+    return m_input != nullptr && m_input->canSelect(cell);
+}
+
+void BoardView::pointAt(CellId cell) {
+    if (m_input != nullptr)
+        m_input->Picture2_MouseMove(numberCentre(cell));
+}
+
+QRect BoardView::rectangleOf(CellId cell) const {
+    return onWidget(hitRectangle(cell));
+}
+
+CellId BoardView::cellUnder(QPoint point) const {
+    return cellAt(onBoard(point));
+}
+
+void BoardView::showPopup(Point corner, bool upwards) {
+    m_popup.open(boardToWidget().map(QPointF(corner.x, corner.y)).toPoint(), upwards);
+}
+
+void BoardView::hidePopup() {
+    if (m_popup.isAncestorOf(QApplication::focusWidget()))
+        setFocus(); // before the focus goes to whatever stands next
+    m_popup.close();
+}
+
+void BoardView::forgetSelection() {
+    if (m_input != nullptr)
+        m_input->forgetSelection();
+}
+
+QTransform BoardView::boardToWidget() const {
+    const double ratio = devicePixelRatioF();
+    return m_surface.boardToDevice() * QTransform::fromScale(1 / ratio, 1 / ratio);
+}
+
+QRect BoardView::onWidget(const Rect& rectangle) const {
+    const QRectF onBoard(rectangle.left, rectangle.top, rectangle.width(), rectangle.height());
+    return boardToWidget().mapRect(onBoard).toAlignedRect();
+}
+
+Point BoardView::onBoard(QPointF position) const {
+    const QPointF point = boardToWidget().inverted().map(position);
+    return {point.x(), point.y()};
+}
+
+void BoardView::updateSurface() {
+    m_surface.setSize((QSizeF(size()) * devicePixelRatioF()).toSize());
+    m_surface.DrawBoard(m_board);
+    if (m_solutionColour)
+        m_surface.DrawSolution(m_board, *m_solutionColour);
+    placeChildren();
+    update();
+}
+
+void BoardView::placeChildren() {
+    for (HexagonTagWidget* tag : m_tags)
+        if (tag != nullptr)
+            tag->setGeometry(onWidget(tagRectangle(tag->hexagon())));
+    showSelection(m_markedCell);
+}
+
+void BoardView::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    const double ratio = devicePixelRatioF();
+    const QRect target = event->rect();
+    const QRectF source(target.x() * ratio, target.y() * ratio, target.width() * ratio,
+                        target.height() * ratio);
+    painter.drawImage(QRectF(target), m_surface.image(), source);
+    if (hasFocus() && !m_markedCell && !underMouse())
+        drawFocus(painter);
+}
+
+/// The marker shows where the focus is as long as a cell is selected; otherwise the board wears a
+/// frame, but not under the pointer, where it would come and go between the cells.
+void BoardView::drawFocus(QPainter& painter) const {
+    const QColor ground = toQColor(m_appearance.SchemeColours[slot::Background]);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(blended(ground, readableOn(ground), 0.5), 1));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
+}
+
+void BoardView::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    hidePopup();
+    updateSurface();
+}
+
+bool BoardView::event(QEvent* event) {
+    if (event->type() == QEvent::ScreenChangeInternal)
+        updateSurface();
+    return QWidget::event(event);
+}
+
+void BoardView::mouseMoveEvent(QMouseEvent* event) {
+    if (m_input != nullptr)
+        m_input->Picture2_MouseMove(onBoard(event->position()));
+}
+
+void BoardView::mousePressEvent(QMouseEvent* event) {
+    if (m_input != nullptr)
+        m_input->Picture2_MouseDown(pointerButton(event->button()), onBoard(event->position()));
+}
+
+void BoardView::mouseReleaseEvent(QMouseEvent* event) {
+    if (m_input != nullptr)
+        m_input->Picture2_MouseUp(pointerButton(event->button()));
+}
+
+void BoardView::leaveEvent(QEvent* event) {
+    QWidget::leaveEvent(event);
+    if (m_input != nullptr)
+        m_input->pointerLeft();
+}
+
+void BoardView::keyPressEvent(QKeyEvent* event) {
+    if (m_input == nullptr || moveSelection(*m_input, *event))
+        return;
+    if (!asksForMenu(*event)) {
+        pressKey(*m_input, *event);
+        return;
+    }
+    m_input->openPopupAtSelection();
+    if (m_popup.isVisible())
+        m_popup.setFocus();
+}
+
+} // namespace tessaly

@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "core/board/board.h"
+#include "core/options/appearance.h"
+#include "core/play/board_input.h"
+#include "ui/drawing/board_surface.h"
+#include "ui/play/hexagon_tag_widget.h"
+#include "ui/play/number_popup.h"
+#include "ui/play/selection_marker.h"
+
+#include <QWidget>
+
+#include <array>
+#include <optional>
+
+namespace tessaly {
+
+/// The board in the window (`Picture2`): shows the board's picture at whatever size it is given,
+/// with the tags, the marker and the pop-up on top, and turns events into calls of `BoardInput`.
+class BoardView : public QWidget {
+    Q_OBJECT
+
+public:
+    BoardView(const Board& board, const Appearance& appearance, QWidget* parent = nullptr);
+
+    /// Whom the events go to; nobody until this is called.
+    void setInput(BoardInput& input);
+
+    void DrawHexagon(int hexagon);
+    void DrawBoard();
+    void DrawSolution(Colour colour);
+    /// The colours or the font have changed: draws everything anew.
+    void applyAppearance();
+
+    void showSelection(CellId cell);
+    void showPopup(Point corner, bool upwards);
+    void hidePopup();
+    /// Another puzzle is on the board, or none.
+    void forgetSelection();
+
+    const Board& board() const { return m_board; }
+    CellId selection() const { return m_markedCell; }
+    /// Whether the player may enter anything in the cell.
+    bool canSelect(CellId cell) const;
+    /// Selects a cell, as the pointer over it does.
+    void pointAt(CellId cell);
+    /// Where a cell lies, and which cell lies where, in this widget's logical pixels.
+    QRect rectangleOf(CellId cell) const;
+    CellId cellUnder(QPoint point) const;
+
+    /// From board units to this widget's logical pixels.
+    QTransform boardToWidget() const;
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    bool event(QEvent* event) override;
+
+private:
+    void updateSurface();
+    void placeChildren();
+    void showTag(int hexagon);
+    void drawFocus(QPainter& painter) const;
+
+    QRect onWidget(const Rect& rectangle) const;
+    Point onBoard(QPointF position) const;
+
+    const Board& m_board;
+    const Appearance& m_appearance;
+    BoardInput* m_input = nullptr;
+    BoardSurface m_surface;
+    std::array<HexagonTagWidget*, HexagonCount + 1> m_tags{}; // Celltags
+    SelectionMarker m_marker;                                 // Shape1
+    NumberPopup m_popup;                                      // Picture1
+    CellId m_markedCell;
+    /// The colour of the solution while it is shown.
+    std::optional<Colour> m_solutionColour;
+};
+
+} // namespace tessaly

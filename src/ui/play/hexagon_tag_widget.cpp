@@ -1,0 +1,102 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "ui/play/hexagon_tag_widget.h"
+
+#include "ui/drawing/hexagon_tag.h"
+#include "ui/drawing/qt_colour.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace tessaly {
+
+using namespace Qt::StringLiterals;
+
+HexagonTagWidget::HexagonTagWidget(int hexagon, const Appearance& appearance, QWidget* parent)
+    : QWidget(parent)
+    , m_hexagon(hexagon)
+    , m_appearance(appearance) {
+    setObjectName(u"Celltags_%1"_s.arg(hexagon));
+    setFocusPolicy(Qt::TabFocus);
+    setCursor(Qt::PointingHandCursor);
+    setAccessibleName(tr("Hexagon %1").arg(hexagon));
+    setAccessibleDescription(tr("Hold to see the candidates of its cells"));
+}
+
+void HexagonTagWidget::press() {
+    m_down = true;
+    update();
+    Q_EMIT pressed(m_hexagon);
+}
+
+void HexagonTagWidget::release() {
+    if (!m_down)
+        return;
+    m_down = false;
+    update();
+    Q_EMIT released();
+}
+
+void HexagonTagWidget::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const bool noticed = underMouse() || hasFocus();
+    const TagState state = m_down    ? TagState::Pressed
+                           : noticed ? TagState::Hovered
+                                     : TagState::Plain;
+    drawTag(painter, rect(), m_hexagon, m_appearance, state);
+    if (hasFocus())
+        drawFocus(painter);
+}
+
+void HexagonTagWidget::drawFocus(QPainter& painter) const {
+    constexpr double Thickness = 2;
+    const QRectF frame =
+        QRectF(rect()).adjusted(Thickness / 2, Thickness / 2, -Thickness / 2, -Thickness / 2);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(readableOn(toQColor(m_appearance.HexaFillColour)), Thickness));
+    painter.drawRoundedRect(frame, frame.height() / 2, frame.height() / 2);
+}
+
+void HexagonTagWidget::mousePressEvent(QMouseEvent*) {
+    press();
+}
+
+void HexagonTagWidget::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->buttons() == Qt::NoButton)
+        release();
+}
+
+void HexagonTagWidget::keyPressEvent(QKeyEvent* event) {
+    if (event->key() != Qt::Key_Space) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    if (!event->isAutoRepeat())
+        press();
+}
+
+void HexagonTagWidget::keyReleaseEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Space && !event->isAutoRepeat())
+        release();
+    else
+        QWidget::keyReleaseEvent(event);
+}
+
+void HexagonTagWidget::focusOutEvent(QFocusEvent* event) {
+    release();
+    QWidget::focusOutEvent(event);
+}
+
+void HexagonTagWidget::enterEvent(QEnterEvent* event) {
+    update();
+    QWidget::enterEvent(event);
+}
+
+void HexagonTagWidget::leaveEvent(QEvent* event) {
+    update();
+    QWidget::leaveEvent(event);
+}
+
+} // namespace tessaly

@@ -1,0 +1,131 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "ui/play/number_popup.h"
+
+#include "ui/controls/box_control.h"
+
+#include <QGridLayout>
+#include <QKeyEvent>
+
+#include <algorithm>
+#include <chrono>
+
+namespace tessaly {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr std::chrono::seconds OpenTime{6};
+constexpr int ButtonSize = 34;
+constexpr int Margin = 4;
+constexpr int Spacing = 3;
+constexpr int Columns = 5;
+
+/// The buttons as they stand in the panel: the numbers left, the pictured ones right.
+constexpr std::array<std::array<int, Columns>, 2> Places{{
+    {0, 1, 2, BoardInput::PopupEraser, BoardInput::PopupClose},
+    {3, 4, 5, BoardInput::PopupSideCopy, BoardInput::PopupSingle},
+}};
+
+BoxControl* makeButton(int index, QWidget* parent) {
+    switch (index) {
+    case BoardInput::PopupEraser:
+        return new BoxControl(Picture::Eraser, NumberPopup::tr("Erase"), parent);
+    case BoardInput::PopupSideCopy:
+        return new BoxControl(Picture::CopySides, NumberPopup::tr("Copy numbers across sides"),
+                              parent);
+    case BoardInput::PopupClose:
+        return new BoxControl(Picture::Close, NumberPopup::tr("Close"), parent);
+    case BoardInput::PopupSingle:
+        return new BoxControl(Picture::SingleCandidate,
+                              NumberPopup::tr("Set the last missing number of this hexagon"),
+                              parent);
+    default:
+        return new BoxControl(QString::number(index + 1), parent);
+    }
+}
+
+} // namespace
+
+NumberPopup::NumberPopup(QWidget* parent)
+    : QFrame(parent)
+    , m_timer(new QTimer(this)) {
+    setObjectName(u"Picture1"_s);
+    setFrameShape(QFrame::StyledPanel);
+    setAutoFillBackground(true);
+    setCursor(Qt::ArrowCursor);
+    setAttribute(Qt::WA_NoMousePropagation); // a press between the buttons is none on the board
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(Margin, Margin, Margin, Margin);
+    grid->setSpacing(Spacing);
+    for (int row = 0; row < static_cast<int>(Places.size()); ++row)
+        for (int column = 0; column < Columns; ++column) {
+            const int index =
+                Places[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)];
+            addButton(index, makeButton(index, this), row, column);
+        }
+    setFocusProxy(m_buttons.front());
+    m_timer->setObjectName(u"Timer1"_s);
+    m_timer->setSingleShot(true);
+    connect(m_timer, &QTimer::timeout, this, &NumberPopup::timedOut);
+    hide();
+}
+
+void NumberPopup::addButton(int index, BoxControl* button, int row, int column) {
+    button->setObjectName(u"Num16_%1"_s.arg(index));
+    button->setFixedSize(ButtonSize, ButtonSize);
+    connect(button, &BoxControl::clicked, this, [this, index] { Q_EMIT clicked(index); });
+    static_cast<QGridLayout*>(layout())->addWidget(button, row, column);
+    m_buttons[static_cast<std::size_t>(index)] = button;
+}
+
+void NumberPopup::open(QPoint corner, bool upwards) {
+    const QSize size = sizeHint();
+    const QSize room = parentWidget()->size();
+    const int top = upwards ? corner.y() - size.height() : corner.y();
+    setGeometry(std::clamp(corner.x(), 0, std::max(0, room.width() - size.width())),
+                std::clamp(top, 0, std::max(0, room.height() - size.height())), size.width(),
+                size.height());
+    raise();
+    show();
+    m_timer->start(OpenTime);
+}
+
+void NumberPopup::close() {
+    m_timer->stop();
+    hide();
+}
+
+void NumberPopup::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+    case Qt::Key_Escape:
+        Q_EMIT clicked(BoardInput::PopupClose);
+        return;
+    case Qt::Key_Left:
+        return moveFocus(-1, 0);
+    case Qt::Key_Right:
+        return moveFocus(1, 0);
+    case Qt::Key_Up:
+        return moveFocus(0, -1);
+    case Qt::Key_Down:
+        return moveFocus(0, 1);
+    default:
+        QFrame::keyPressEvent(event);
+    }
+}
+
+void NumberPopup::moveFocus(int columns, int rows) {
+    auto* grid = static_cast<QGridLayout*>(layout());
+    for (int row = 0; row < grid->rowCount(); ++row)
+        for (int column = 0; column < Columns; ++column) {
+            if (!grid->itemAtPosition(row, column)->widget()->hasFocus())
+                continue;
+            const int newRow = std::clamp(row + rows, 0, grid->rowCount() - 1);
+            const int newColumn = std::clamp(column + columns, 0, Columns - 1);
+            grid->itemAtPosition(newRow, newColumn)->widget()->setFocus(Qt::TabFocusReason);
+            return;
+        }
+}
+
+} // namespace tessaly

@@ -1,0 +1,151 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "ui/window/multiple_creation_dialog.h"
+
+#include "ui/controls/box_control.h"
+#include "ui/controls/choice_buttons.h"
+#include "ui/controls/dialog_parts.h"
+#include "ui/controls/elided_label.h"
+#include "ui/controls/file_name_picker.h"
+#include "ui/controls/path_text.h"
+#include "ui/controls/puzzle_file_choice.h"
+#include "ui/controls/scheme_palette.h"
+
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <limits>
+
+namespace tessaly {
+namespace {
+
+using namespace Qt::StringLiterals;
+using dialog::ButtonSize;
+using dialog::Spacing;
+
+constexpr const char* DefaultFile = "multipuzfile.txt";
+constexpr int Width = 420;
+
+} // namespace
+
+Form3::Form3(const Appearance& appearance, FileDialogs& fileDialogs, Prompts& prompts,
+             std::string programFolder, QWidget* parent)
+    : QDialog(parent)
+    , m_appearance(appearance)
+    , m_prompts(prompts)
+    , m_programFolder(std::move(programFolder)) {
+    setObjectName(u"Form3"_s);
+    setWindowTitle(tr("Create Multiple Puzzles"));
+    QVBoxLayout* rows = addRows(*this);
+    rows->addWidget(makeDifficultyFrame());
+    rows->addWidget(makeNumberFrame());
+    rows->addWidget(makeFileFrame(fileDialogs));
+    rows->addStretch();
+    rows->addLayout(makeButtons());
+    setMinimumWidth(Width);
+    showFile(m_programFolder + DefaultFile);
+}
+
+QWidget* Form3::makeDifficultyFrame() {
+    auto* frame = new QGroupBox(tr("Difficulty Level"), this);
+    auto* row = new QHBoxLayout(frame);
+    row->setSpacing(2 * Spacing);
+    m_random = named(u"Option1_0"_s, new OptionDot(u"Random"_s, frame));
+    m_easy = named(u"Option1_1"_s, new OptionDot(u"Easy"_s, frame));
+    m_hard = named(u"Option1_2"_s, new OptionDot(u"Hard"_s, frame));
+    m_random->setChecked(true);
+    for (QRadioButton* option : {m_random, m_easy, m_hard})
+        row->addWidget(option);
+    row->addStretch();
+    return frame;
+}
+
+QWidget* Form3::makeNumberFrame() {
+    auto* frame = new QGroupBox(tr("Number of Puzzles"), this);
+    auto* row = new QHBoxLayout(frame);
+    m_number = named(u"Text1"_s, new QLineEdit(u"10"_s, frame));
+    m_number->setAccessibleName(frame->title());
+    m_number->setMaximumWidth(ButtonSize.width());
+    row->addWidget(m_number);
+    row->addStretch();
+    return frame;
+}
+
+QWidget* Form3::makeFileFrame(FileDialogs& fileDialogs) {
+    auto* frame = new QGroupBox(tr("Output File"), this);
+    auto* rows = new QVBoxLayout(frame);
+    auto* row = new QHBoxLayout;
+    m_file = named(u"Label2"_s, new ElidedLabel(frame));
+    m_file->setTextFormat(Qt::PlainText);
+    m_picker = makeFilePicker(fileDialogs, m_prompts, frame);
+    row->addWidget(m_file, 1);
+    row->addWidget(m_picker);
+    m_default = named(u"Check3"_s, new TickBox(tr("Use the default file"), frame));
+    m_default->setChecked(true);
+    rows->addLayout(row);
+    rows->addWidget(m_default);
+    connect(m_picker, &FNDialog::clicked, this, &Form3::chooseFile);
+    connect(m_default, &QCheckBox::toggled, this, [this](bool ticked) {
+        if (ticked)
+            showFile(m_programFolder + DefaultFile);
+    });
+    return frame;
+}
+
+QHBoxLayout* Form3::makeButtons() {
+    auto* ok = named(u"Command1"_s, new BoxControl(u"OK"_s, this));
+    auto* cancel = named(u"Command2"_s, new BoxControl(u"Cancel"_s, this));
+    connect(ok, &BoxControl::clicked, this, &Form3::acceptOrder);
+    connect(cancel, &BoxControl::clicked, this, &QDialog::reject);
+    connect(m_number, &QLineEdit::returnPressed, this, &Form3::acceptOrder);
+    return makeButtonRow({ok, cancel});
+}
+
+void Form3::chooseFile() {
+    const std::string chosen =
+        PuzzleFileChoice(*m_picker, m_programFolder).chooseToSave("Select an output Puzzle file");
+    if (chosen.empty())
+        return;
+    m_default->setChecked(false);
+    showFile(chosen);
+}
+
+void Form3::showFile(const std::string& path) {
+    m_path = path;
+    m_file->setText(pathText(path));
+    m_file->setToolTip(pathText(path));
+}
+
+int Form3::number() const {
+    const qlonglong number = m_number->text().trimmed().toLongLong();
+    return static_cast<int>(std::min<qlonglong>(number, std::numeric_limits<int>::max()));
+}
+
+DifficultyChoice Form3::difficulty() const {
+    if (m_easy->isChecked())
+        return Difficulty::Easy;
+    return m_hard->isChecked() ? DifficultyChoice(Difficulty::Hard) : std::nullopt;
+}
+
+void Form3::acceptOrder() {
+    if (number() >= 1)
+        accept();
+    else
+        m_prompts.message("Incorrect number of puzzles", "vbcritical+vbok");
+}
+
+std::optional<CreationOrder> Form3::choose() {
+    setPalette(schemePalette(m_appearance));
+    m_number->setFocus();
+    m_number->selectAll();
+    if (exec() != QDialog::Accepted)
+        return {};
+    return CreationOrder{m_path, difficulty(), number()};
+}
+
+} // namespace tessaly

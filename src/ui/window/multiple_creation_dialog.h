@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "core/options/appearance.h"
+#include "core/session/multiple_creation.h"
+
+#include <QDialog>
+
+class QCheckBox;
+class QHBoxLayout;
+class QLabel;
+class QLineEdit;
+class QRadioButton;
+
+namespace tessaly {
+
+class FileDialogs;
+class FNDialog;
+
+/// The dialog that sets up the creation of many puzzles.
+class Form3 : public QDialog, public CreationOrderChoice {
+    Q_OBJECT
+
+public:
+    /// All must outlive the form; the files are offered in `programFolder`.
+    Form3(const Appearance& appearance, FileDialogs& fileDialogs, Prompts& prompts,
+          std::string programFolder, QWidget* parent = nullptr);
+
+    std::optional<CreationOrder> choose() override;
+
+private:
+    QWidget* makeDifficultyFrame();
+    QWidget* makeNumberFrame();
+    QWidget* makeFileFrame(FileDialogs& fileDialogs);
+    QHBoxLayout* makeButtons();
+    void chooseFile();
+    void showFile(const std::string& path);
+    void acceptOrder();
+    int number() const;
+    DifficultyChoice difficulty() const;
+
+    const Appearance& m_appearance;
+    Prompts& m_prompts;
+    std::string m_programFolder;
+    std::string m_path;
+
+    QRadioButton* m_random = nullptr; // Option1_0
+    QRadioButton* m_easy = nullptr;   // Option1_1
+    QRadioButton* m_hard = nullptr;   // Option1_2
+    QLineEdit* m_number = nullptr;    // Text1
+    QLabel* m_file = nullptr;         // Label2
+    QCheckBox* m_default = nullptr;   // Check3
+    FNDialog* m_picker = nullptr;     // gf1
+};
+
+} // namespace tessaly

@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "ui/window/status_line.h"
+
+#include "ui/controls/box_control.h"
+#include "ui/controls/elided_label.h"
+#include "ui/controls/path_text.h"
+
+#include <QAccessible>
+#include <QHBoxLayout>
+
+namespace tessaly {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr int LineHeight = 34;
+constexpr int Spacing = 12;
+
+ElidedLabel* makeLabel(const QString& name, QWidget* parent) {
+    auto* label = new ElidedLabel(parent);
+    label->setObjectName(name);
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+} // namespace
+
+StatusLine::StatusLine(QWidget* parent)
+    : QWidget(parent)
+    , StatLab(new BoxControl(tr("Check"), this))
+    , m_fileName(makeLabel(u"PuzFileName"_s, this))
+    , m_message(makeLabel(u"MsgLab"_s, this)) {
+    StatLab->setObjectName(u"StatLab"_s);
+    StatLab->setToolTip(u"Check Solution"_s);
+    StatLab->setFixedHeight(LineHeight);
+    m_message->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    setFixedHeight(LineHeight);
+    auto* line = new QHBoxLayout(this);
+    line->setContentsMargins(0, 0, 0, 0);
+    line->setSpacing(Spacing);
+    line->addWidget(m_fileName, 2);
+    line->addWidget(m_message, 3);
+    line->addWidget(StatLab);
+}
+
+void StatusLine::showFile(const std::string& path) {
+    m_fileName->setText(pathText(fileNameOf(path)));
+    m_fileName->setToolTip(pathText(path));
+}
+
+void StatusLine::showFileText(const QString& text) {
+    m_fileName->setText(text);
+    m_fileName->setToolTip({});
+}
+
+void StatusLine::showMessage(std::string_view text) {
+    m_message->setText(pathText(text));
+    if (text.empty())
+        return;
+    QAccessibleEvent alert(m_message, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
+
+} // namespace tessaly

@@ -1,0 +1,110 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "ui/window/tool_row.h"
+
+#include "ui/controls/run_progress_bar.h"
+#include "ui/controls/box_control.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+
+#include <algorithm>
+
+namespace tessaly {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr int ButtonSize = 40;
+constexpr int PictureSize = 24;
+constexpr int Spacing = 6;
+constexpr int GroupSpacing = 18;
+/// Room for the numbers of a library of a million puzzles.
+constexpr QLatin1String WidestNumber("1000000");
+
+/// Room for this count even while there is none, so that the row rarely moves.
+constexpr QLatin1String UsualCount(" of 1000");
+
+} // namespace
+
+ToolRow::ToolRow(QWidget* parent)
+    : QWidget(parent)
+    , m_row(new QHBoxLayout(this)) {
+    m_row->setContentsMargins(0, 0, 0, 0);
+    m_row->setSpacing(Spacing);
+    cmdload = addButton(Picture::Load, u"Load a Puzzle File"_s, u"cmdload"_s);
+    cmdarrow[0] = addButton(Picture::Previous, u"Previous Puzzle"_s, u"cmdarrow_0"_s);
+    addNumberBox();
+    cmdarrow[1] = addButton(Picture::Next, u"Next Puzzle"_s, u"cmdarrow_1"_s);
+    addGap();
+    cmdcreate = addButton(Picture::Create, u"Create a New Puzzle"_s, u"cmdcreate"_s);
+    DifLab = addDifficultyLabel();
+    addGap();
+    progress = new RunProgressBar(this);
+    m_row->addWidget(progress, 1);
+    addGap();
+    cmdundo = addButton(Picture::Undo, u"Undo"_s, u"cmdundo"_s);
+    cmdreset = addButton(Picture::Reset, u"Reset Puzzle"_s, u"cmdreset"_s);
+    cmdshowsol = addButton(Picture::ShowSolution, u"Show Solution"_s, u"cmdshowsol"_s);
+    cmdshowsol->setHeldByShortcut(true);
+}
+
+BoxControl* ToolRow::addButton(Picture picture, const QString& toolTip, const QString& name) {
+    auto* button = new BoxControl(picture, toolTip, this);
+    button->setObjectName(name);
+    button->setFixedSize(ButtonSize, ButtonSize);
+    button->setIconSize({PictureSize, PictureSize});
+    m_row->addWidget(button);
+    return button;
+}
+
+/// Sets the next group apart, as long as nothing else needs the room.
+void ToolRow::addGap() {
+    m_row->addSpacerItem(new QSpacerItem(GroupSpacing, 0, QSizePolicy::Maximum));
+}
+
+void ToolRow::addNumberBox() {
+    m_puzNumNow = new QLineEdit(this);
+    m_puzNumNow->setObjectName(u"PuzNumNow"_s);
+    m_puzNumNow->setAccessibleName(tr("Puzzle number"));
+    m_puzNumNow->setToolTip(tr("Puzzle number; Enter goes there"));
+    m_puzNumNow->setAcceptDrops(false); // a file that is dropped there is for the window
+    m_puzNumNow->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    m_puzNumNow->setMaxLength(WidestNumber.size());
+    m_puzNumNow->setFixedSize(fontMetrics().horizontalAdvance(WidestNumber) + 2 * Spacing,
+                              ButtonSize);
+    connect(m_puzNumNow, &QLineEdit::returnPressed, this,
+            [this] { Q_EMIT numberEntered(m_puzNumNow->text().trimmed().toInt()); });
+    m_puzNumber = new QLabel(this);
+    m_puzNumber->setObjectName(u"puznumber"_s);
+    m_puzNumber->setTextFormat(Qt::PlainText);
+    m_row->addWidget(m_puzNumNow);
+    m_row->addWidget(m_puzNumber);
+}
+
+BoxControl* ToolRow::addDifficultyLabel() {
+    auto* label = new BoxControl(this);
+    label->setObjectName(u"DifLab"_s);
+    label->setToolTip(u"Difficulty Level"_s);
+    label->setFixedSize(fontMetrics().horizontalAdvance(u"Random"_s) + 4 * Spacing, ButtonSize);
+    m_row->addWidget(label);
+    return label;
+}
+
+void ToolRow::showPuzzleNumber(int number, int count) {
+    m_puzNumNow->setText(count > 0 ? QString::number(number) : QString());
+    m_puzNumber->setText(count > 0 ? u" of %1"_s.arg(count) : QString());
+    m_puzNumber->setMinimumWidth(std::max(m_puzNumber->fontMetrics().horizontalAdvance(UsualCount),
+                                          m_puzNumber->sizeHint().width()));
+}
+
+void ToolRow::showDifficulty(DifficultyChoice difficulty) {
+    const std::string_view name = nameOf(difficulty);
+    const QKeySequence keys = DifLab->shortcut(); // which a button loses with its text
+    DifLab->setText(QLatin1String(name.data(), static_cast<qsizetype>(name.size())));
+    DifLab->setShortcut(keys);
+}
+
+} // namespace tessaly

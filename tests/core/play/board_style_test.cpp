@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "core/play/board_style.h"
+
+#include "core/play/entry_layout.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <string>
+
+namespace tessaly {
+namespace {
+
+/// What an entry shows: "n" and the digit, or the six places of the marks.
+std::string shown(std::string_view entry) {
+    std::string places(MarkPlaces, '.');
+    std::string number;
+    layOutEntry(
+        entry, [&](int digit) { number = "n" + std::to_string(digit); },
+        [&](int digit, int place) {
+            places[static_cast<std::size_t>(place)] = static_cast<char>('0' + digit);
+        });
+    return number.empty() ? places : number;
+}
+
+TEST(EntryLayout, MarksStandRightAlignedInTwoRows) {
+    EXPECT_EQ(shown(""), "......");
+    EXPECT_EQ(shown("4"), "n4");
+    EXPECT_EQ(shown("0"), "n0");
+    EXPECT_EQ(shown("35"), "....35");
+    EXPECT_EQ(shown("5214"), "..5214");
+    EXPECT_EQ(shown("123456"), "123456");
+    EXPECT_EQ(shown("0123456"), "012345");
+    EXPECT_EQ(shown("x"), "......");
+}
+
+TEST(BoardStyle, SpacedHexagonsAreBorderedByTheBackground) {
+    Appearance appearance;
+    appearance.SchemeColours[slot::Background] = RGB(200, 201, 202);
+    appearance.HexaBorderColour = RGB(1, 2, 3);
+    EXPECT_EQ(boardStyle(appearance).border, RGB(1, 2, 3));
+    EXPECT_EQ(boardStyle(appearance).borderWidth, 2);
+
+    appearance.SplitHexas = true;
+    const BoardStyle split = boardStyle(appearance);
+    EXPECT_EQ(split.border, RGB(200, 201, 202));
+    EXPECT_GT(split.borderWidth, 2);
+    EXPECT_EQ(split.line, RGB(1, 2, 3));
+    EXPECT_EQ(split.solid, RGB(1, 2, 3));
+}
+
+TEST(BoardStyle, PaperTakesThePrintedLineWidthButKeepsItsCells) {
+    Appearance appearance;
+    appearance.HexaBorderWidth = 5;
+    appearance.PrintLineWidth = 3;
+    EXPECT_EQ(paperStyle(appearance).borderWidth, 3);
+    appearance.PrintLineWidth = std::numeric_limits<int>::max();
+    EXPECT_LT(paperStyle(appearance).borderWidth, 20);
+}
+
+} // namespace
+} // namespace tessaly

@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "ui/drawing/numerals.h"
+
+#include "core/play/board_geometry.h"
+#include "core/play/entry_layout.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace tessaly {
+namespace {
+
+/// How far a point lies inside of the line from `a` to `b`, a triangle's side drawn clockwise.
+double inside(QPointF p, Point a, Point b) {
+    const double dx = b.x - a.x;
+    const double dy = b.y - a.y;
+    return (dx * (p.y() - a.y) - dy * (p.x() - a.x)) / std::hypot(dx, dy);
+}
+
+/// How near the ink comes to the lines about a cell; negative when it crosses them.
+double clearance(const QPainterPath& ink, Point origin, QPointF pen, CellId cell) {
+    const auto [tip, from, to] = cellTriangle(cell);
+    EXPECT_FALSE(ink.isEmpty());
+    double least = 1e9;
+    for (QPointF p : ink.translated(pen + QPointF(origin.x, origin.y)).toFillPolygon())
+        least = std::min({least, inside(p, tip, from), inside(p, from, to), inside(p, to, tip)});
+    return least;
+}
+
+class NumeralsOfAFont : public testing::TestWithParam<const char*> {};
+
+TEST_P(NumeralsOfAFont, StandClearOfTheLines) {
+    const DigitFace face(GetParam());
+    const DigitFace bold(GetParam(), true);
+    const Numerals numerals(face, {}, Fit::Exact);
+    const Numerals solution(bold, {}, Fit::Exact);
+    for (int position = 1; position <= CellCount; ++position)
+        for (int digit = 0; digit <= 6; ++digit) {
+            const CellId cell{10, position};
+            const Point middle = numberCentre(cell);
+            EXPECT_GT(clearance(numerals.number(digit), middle, numerals.numberPen(), cell), 3);
+            EXPECT_GT(clearance(solution.number(digit), middle, solution.numberPen(), cell), 3);
+            for (int place = 0; place < MarkPlaces; ++place)
+                EXPECT_GT(clearance(numerals.mark(digit), marksCentre(cell),
+                                    numerals.markPen(place), cell),
+                          1.5)
+                    << "digit " << digit << " in place " << place << " of cell " << position;
+        }
+}
+
+TEST_P(NumeralsOfAFont, MarksStandInColumns) {
+    const DigitFace face(GetParam());
+    const Numerals numerals(face, {2.37, 2.41}, Fit::ToPixels);
+    const double column = numerals.markPen(1).x() - numerals.markPen(0).x();
+    EXPECT_GE(column, std::floor(face.columnWidth() * MarkSize * 2.37));
+    EXPECT_EQ(column, std::round(column));
+    for (int place = 0; place < MarksInARow; ++place) {
+        EXPECT_EQ(numerals.markPen(place).x(), numerals.markPen(0).x() + place * column);
+        EXPECT_EQ(numerals.markPen(place + MarksInARow).x(), numerals.markPen(place).x());
+        EXPECT_GT(numerals.markPen(place + MarksInARow).y(), numerals.markPen(place).y());
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Fonts, NumeralsOfAFont,
+                         testing::Values("Liberation Sans", "Liberation Serif", "Liberation Mono",
+                                         "DejaVu Sans", "DejaVu Serif", "Arial",
+                                         "a font that is not there"),
+                         [](const auto& parameter) {
+                             std::string name = parameter.param;
+                             std::erase(name, ' ');
+                             return name;
+                         });
+
+} // namespace
+} // namespace tessaly

@@ -1,0 +1,197 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "manual/drawings.h"
+#include "manual/examples.h"
+#include "core/play/solution_check.h"
+#include "ui/game_window.h"
+#include "ui/golden_picture.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QLineEdit>
+#include <QRegularExpression>
+#include <QTextBlock>
+#include <QTextBrowser>
+
+#include <algorithm>
+#include <set>
+
+namespace tessaly {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+QString manualText() {
+    QFile file(QStringLiteral(TESSALY_DATA "/tessaly.htm"));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    return QString::fromUtf8(file.readAll());
+}
+
+/// What an expression's first group matches, all through the manual.
+QStringList allOf(const char* expression) {
+    QStringList found;
+    QRegularExpressionMatchIterator match =
+        QRegularExpression(QString::fromLatin1(expression)).globalMatch(manualText());
+    while (match.hasNext())
+        found << match.next().captured(1);
+    return found;
+}
+
+template <class List>
+std::set<QString> setOf(const List& list) {
+    return {list.begin(), list.end()};
+}
+
+TEST(Manual, EveryLinkLeadsToAnAnchorAndEveryAnchorIsInTheContents) {
+    const QStringList links = allOf("href=\"([^\"]*)\"");
+    const QStringList anchors = allOf("<h[23] id=\"([^\"]*)\"");
+    EXPECT_EQ(setOf(anchors).size(), static_cast<std::size_t>(anchors.size())) << "an anchor twice";
+    std::set<QString> targets;
+    for (const QString& link : links) {
+        EXPECT_TRUE(link.startsWith(u'#')) << link.toStdString() << " leads out of the page";
+        if (link != u"#top")
+            targets.insert(link.mid(1));
+    }
+    EXPECT_GT(anchors.size(), 15);
+    EXPECT_EQ(setOf(anchors), targets);
+    EXPECT_EQ(allOf("id=\"(top)\"").size(), 1);
+
+    // As the browser of the help window understands them.
+    QTextBrowser browser;
+    browser.setHtml(manualText());
+    std::set<QString> known;
+    for (QTextBlock block = browser.document()->begin(); block.isValid(); block = block.next())
+        for (auto part = block.begin(); !part.atEnd(); ++part)
+            known.merge(setOf(part.fragment().charFormat().anchorNames()));
+    for (const QString& target : targets)
+        EXPECT_TRUE(known.contains(target)) << target.toStdString();
+}
+
+TEST(Manual, EveryDrawingIsShownInItsSizeWithAText) {
+    std::set<QString> shown;
+    QRegularExpressionMatchIterator match =
+        QRegularExpression(u"<img ([^>]*)>"_s).globalMatch(manualText());
+    const QRegularExpression form(u"^src=\"manual/([a-z0-9-]+)\\.png\" width=\"(\\d+)\" "
+                                  "height=\"(\\d+)\" alt=\"[^\"]+\"$"_s);
+    while (match.hasNext()) {
+        const QString attributes = match.next().captured(1).simplified();
+        const QRegularExpressionMatch parts = form.match(attributes);
+        ASSERT_TRUE(parts.hasMatch()) << attributes.toStdString();
+        const QImage picture(QStringLiteral(TESSALY_DATA "/manual/%1.png").arg(parts.captured(1)));
+        EXPECT_EQ(picture.size() / manual::DrawingScale,
+                  QSize(parts.captured(2).toInt(), parts.captured(3).toInt()))
+            << attributes.toStdString();
+        shown.insert(parts.captured(1));
+    }
+    std::set<QString> drawn;
+    for (const manual::Drawing& drawing : manual::drawings())
+        drawn.insert(drawing.name);
+    EXPECT_EQ(shown, drawn);
+}
+
+TEST(Manual, TheShippedDrawingsAreWhatTheProgramDraws) {
+    for (const auto& [name, picture] : manual::drawings()) {
+        const QImage shipped(QStringLiteral(TESSALY_DATA "/manual/%1.png").arg(name));
+        ASSERT_EQ(shipped.size(), picture.size()) << name.toStdString() << ": ninja manual";
+        EXPECT_LE(compare(shipped, picture).pixels, 20) << name.toStdString() << ": ninja manual";
+    }
+}
+
+TEST(Manual, NamesEveryCommandOfTheWindow) {
+    const GameWindow game;
+    const QString manual = manualText();
+    for (const QAction* action : game.window->findChildren<QAction*>()) {
+        const QString caption = QString(action->text()).remove(u'&');
+        if (action->objectName().isEmpty() || caption.isEmpty() || caption == u"OldFiles"_s ||
+            caption == u"Cancel"_s)
+            continue;
+        EXPECT_TRUE(manual.contains(u"<b>"_s + caption + u"</b>"_s)) << caption.toStdString();
+        if (const QKeySequence key = action->shortcut(); !key.isEmpty()) {
+            EXPECT_TRUE(manual.contains(key.toString())) << key.toString().toStdString();
+        }
+    }
+    for (const char16_t* name :
+         {u"cmdload", u"cmdarrow_0", u"cmdarrow_1", u"cmdcreate", u"DifLab", u"cmdundo",
+          u"cmdreset", u"cmdshowsol", u"cmdallpencil", u"cmdsetpairs", u"cmdset1s", u"StatLab"}) {
+        const auto* control = game.window->findChild<QWidget*>(QString::fromUtf16(name));
+        ASSERT_NE(control, nullptr);
+        EXPECT_TRUE(manual.contains(control->toolTip())) << control->toolTip().toStdString();
+    }
+}
+
+/// Solves the first puzzle of the library with nothing but what the manual's first puzzle tells.
+class Newcomer {
+public:
+    explicit Newcomer(GameWindow& game)
+        : m_game(game) {}
+
+    void press(const QString& control) { QTest::mouseClick(&m_game.find(control), Qt::LeftButton); }
+
+    /// What a hexagon shows while the number in its middle is held.
+    Grid<std::string>::Row look(int hexagon) {
+        auto& tag = m_game.find(u"Celltags_%1"_s.arg(hexagon));
+        QTest::mousePress(&tag, Qt::LeftButton);
+        Grid<std::string>::Row seen = m_game.session.game.board.CellNum[hexagon];
+        QTest::mouseRelease(&tag, Qt::LeftButton);
+        return seen;
+    }
+
+    /// Writes down what is sure in a hexagon.
+    void workOn(int hexagon) {
+        const auto seen = look(hexagon);
+        for (int position = 1; position <= CellCount; ++position) {
+            const std::string& own = seen[static_cast<std::size_t>(position)];
+            for (char digit : own)
+                if (own.size() == 1 || places(seen, digit) == 1)
+                    write({hexagon, position}, digit);
+        }
+    }
+
+    bool isDone() const { return isSolved(m_game.session.game.board); }
+
+private:
+    static std::ptrdiff_t places(const Grid<std::string>::Row& seen, char digit) {
+        return std::count_if(seen.begin(), seen.end(), [digit](const std::string& entry) {
+            return entry.find(digit) != std::string::npos;
+        });
+    }
+
+    void write(CellId cell, char digit) {
+        if (!m_game.session.game.board.CellNum[cell].empty())
+            return;
+        m_game.pointAt(cell);
+        QTest::keyClick(&m_game.board(), digit);
+    }
+
+    GameWindow& m_game;
+};
+
+TEST(Manual, AnEasyPuzzleIsSolvedInTheWindowAsItTells) {
+    GameWindow game;
+    const std::string path = game.folder.path() + "easy.txt";
+    std::filesystem::copy_file(TESSALY_DATA "/puzzles/easy.txt", path);
+    game.window->library().load(path);
+    game.find<QLineEdit>(u"PuzNumNow"_s).setText(QString::number(manual::FirstNumber));
+    QTest::keyClick(&game.find(u"PuzNumNow"_s), Qt::Key_Return);
+    Newcomer newcomer(game);
+    newcomer.press(u"cmdsetpairs"_s);
+    EXPECT_EQ(game.message(), u" 3 Cells Fixed"_s);
+    EXPECT_EQ(newcomer.look(3), (Grid<std::string>::Row{"", "13", "5", "4", "2", "1236", "123"}));
+    int rounds = 0;
+    for (; rounds < 20 && !newcomer.isDone(); ++rounds) {
+        for (int hexagon = 1; hexagon <= HexagonCount; ++hexagon)
+            if (hexagon != game.session.game.board.BlankHex)
+                newcomer.workOn(hexagon);
+        newcomer.press(u"cmdsetpairs"_s);
+        newcomer.press(u"cmdset1s"_s);
+    }
+    EXPECT_TRUE(newcomer.isDone());
+    newcomer.press(u"StatLab"_s);
+    ASSERT_FALSE(game.prompts.shown.empty());
+    EXPECT_EQ(game.prompts.shown.back().text, "All Done!");
+}
+
+} // namespace
+} // namespace tessaly

@@ -1,0 +1,104 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "ui/window/file_drop.h"
+
+#include "ui/game_window.h"
+
+#include <QDialog>
+#include <QDragEnterEvent>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QUrl>
+
+namespace tessaly {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class FileDropTest : public testing::Test {
+protected:
+    /// Drags what `encodedUrls` name onto the window and lets it go there, if it is welcome.
+    bool dropped(const QList<QByteArray>& encodedUrls, Qt::DropActions actions = Qt::CopyAction) {
+        QMimeData data;
+        QList<QUrl> urls;
+        for (const QByteArray& url : encodedUrls)
+            urls << QUrl::fromEncoded(url);
+        data.setUrls(urls);
+        QWidget& window = *game.window;
+        const QPoint place(50, 50);
+        QDragEnterEvent enter(place, actions, &data, Qt::LeftButton, Qt::NoModifier);
+        enter.setDropAction(Qt::MoveAction);
+        enter.ignore();
+        QApplication::sendEvent(&window, &enter);
+        if (!enter.isAccepted())
+            return false;
+        EXPECT_EQ(enter.dropAction(), Qt::CopyAction) << "the file stays with who gives it";
+        QDropEvent drop(place, actions, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&window, &drop);
+        EXPECT_EQ(game.session.puzzle.PuzNum, 0) << "not before the drop is over";
+        QApplication::processEvents();
+        return true;
+    }
+    static QByteArray urlOf(const std::string& path) {
+        return QUrl::fromLocalFile(QString::fromStdString(path)).toEncoded();
+    }
+
+    GameWindow game;
+};
+
+TEST_F(FileDropTest, APuzzleFileIsLoadedWhateverItsName) {
+    const std::string easy = game.folder.puzzles("easy.txt");
+    const std::string odd = game.folder.path() + "50% \"of\"\n#1? ü.dat";
+    std::filesystem::copy_file(easy, odd);
+    EXPECT_TRUE(dropped({urlOf(odd)}, Qt::CopyAction | Qt::MoveAction));
+    EXPECT_EQ(game.session.puzzle.PuzPath, odd);
+    EXPECT_EQ(game.session.recentFiles.paths(), std::vector<std::string>{odd});
+    game.session.puzzle = {};
+    EXPECT_TRUE(dropped({"file://localhost" + QByteArray::fromStdString(easy)}));
+    EXPECT_EQ(game.session.puzzle.PuzPath, easy);
+    EXPECT_FALSE(game.find<QLineEdit>(u"PuzNumNow"_s).acceptDrops());
+}
+
+TEST_F(FileDropTest, WhatIsNotOneFileOfThisComputerIsNotWelcome) {
+    const std::string easy = game.folder.puzzles("easy.txt");
+    const QByteArray good = urlOf(easy);
+    EXPECT_FALSE(dropped({}));
+    EXPECT_FALSE(dropped({good, good}));
+    EXPECT_FALSE(dropped({urlOf(game.folder.path())}));
+    EXPECT_FALSE(dropped({urlOf(game.folder.path() + "gone.txt")}));
+    EXPECT_FALSE(dropped({"file://elsewhere" + QByteArray::fromStdString(easy)}));
+    EXPECT_FALSE(dropped({"https://tessaly.example/easy.txt"}));
+    EXPECT_FALSE(dropped({good}, Qt::MoveAction));
+    QDialog dialog(game.window.get());
+    dialog.setModal(true);
+    dialog.show();
+    EXPECT_FALSE(dropped({good})) << "a dialog is open";
+    dialog.hide();
+    EXPECT_TRUE(dropped({good}));
+}
+
+TEST_F(FileDropTest, ANameThatIsNotUtf8IsRefusedAndTakenForNoOther) {
+    const std::string easy = game.folder.puzzles("easy.txt");
+    const QByteArray folder = QByteArray::fromStdString(game.folder.path());
+    std::filesystem::copy_file(easy, game.folder.path() + "caf\xe9.txt");
+    std::filesystem::copy_file(easy, game.folder.path() + "caf%E9.txt");
+    EXPECT_TRUE(dropped({"file://" + folder + "caf%E9.txt"}));
+    ASSERT_EQ(game.prompts.shown.size(), 1U);
+    EXPECT_NE(game.prompts.shown.back().text.find("not valid UTF-8"), std::string::npos);
+    EXPECT_EQ(game.session.puzzle.PuzNum, 0);
+}
+
+TEST_F(FileDropTest, AFileWithoutPuzzlesAndADropWhilePuzzlesAreCreatedAreSaid) {
+    const std::string notes = game.folder.path() + "notes.txt";
+    test::put(notes, "no puzzle\n");
+    EXPECT_TRUE(dropped({urlOf(notes)}));
+    EXPECT_EQ(game.prompts.shown.back().text, "Error reading file:\r\n" + notes);
+    game.session.busy.creating = true;
+    EXPECT_TRUE(dropped({urlOf(game.folder.puzzles("easy.txt"))}));
+    EXPECT_EQ(game.prompts.shown.back().text, "Let AutoCreate finish first");
+    EXPECT_EQ(game.session.puzzle.PuzNum, 0);
+}
+
+} // namespace
+} // namespace tessaly
