@@ -1,6 +1,3 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "bitmask_search.h"
 
 #include "core/board/digit_set.h"

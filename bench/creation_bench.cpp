@@ -1,6 +1,3 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 // The creation of many puzzles in the window, beside the same by the command line tool on one
 // thread; and how long the window is deaf meanwhile.
 

@@ -1,6 +1,3 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 // The engine beside two yardsticks: the plain reading of the rules and of the generator, and a
 // plain search with bit masks. Both sides do the same work by turns in one run, so that a busy
 // machine is busy for both; told is the best time of each ("ours", "plain", in microseconds of

@@ -1,11 +1,8 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 // Puzzle files of a million records, beside what the system's own tools need for the same bytes.
 // The page cache is warm in all of them. TMPDIR says on which disk the files are made.
 
-#include "core/files/file_access.h"
 #include "core/board/puzzle_file.h"
+#include "core/files/file_access.h"
 
 #include "support/temporary_folder.h"
 

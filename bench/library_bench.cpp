@@ -1,6 +1,3 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 // The tools for puzzle libraries on 100,000 different records, files flushed to the disk included.
 // TMPDIR says on which disk the files are made.
 

@@ -1,8 +1,5 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
-#include "ui/drawing/board_surface.h"
 #include "support/sample_board.h"
+#include "ui/drawing/board_surface.h"
 
 #include <benchmark/benchmark.h>
 

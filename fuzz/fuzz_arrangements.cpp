@@ -1,6 +1,3 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 // The arrangement file. A table that is read has words of six letters only, each counted.
 
 #include "core/board/arrangements.h"

@@ -1,6 +1,3 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 // The configuration file. Whatever was read, saving and reading it again gives the same.
 
 #include "core/session/configuration.h"

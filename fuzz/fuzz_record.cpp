@@ -1,6 +1,3 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 // One line of a puzzle file. What is read is written the same way, and a refusal changes nothing.
 
 #include "core/board/puzzle_record.h"

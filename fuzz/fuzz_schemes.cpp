@@ -1,11 +1,8 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 // The library of colour schemes: listing, loading, and the three changes.
 
 #include "core/files/file_access.h"
-#include "fuzz_target.h"
 #include "core/options/scheme_library.h"
+#include "fuzz_target.h"
 #include "support/temporary_folder.h"
 
 #include <algorithm>

@@ -1,13 +1,10 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 // The solver on any 114 texts of digits. It ends, and it does to every cell what a plain reading of
 // the rules does. The input holds the texts one after another, with any other character between
 // them; the first two of its bytes name the blank hexagon and the one that is skipped.
 
-#include "fuzz_target.h"
 #include "core/solver/deduction.h"
 #include "core/solver/solution_counter.h"
+#include "fuzz_target.h"
 #include "support/plain_rules.h"
 
 using namespace tessaly;

@@ -1,6 +1,3 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 // Hands the files of a folder to a fuzz target, one after another: what once broke it is tried
 // again by every run of the tests, with any compiler. fuzz_replay_... FOLDER
 

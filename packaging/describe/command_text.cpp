@@ -1,6 +1,3 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "command_text.h"
 
 #include <CLI/CLI.hpp>

@@ -1,13 +1,10 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 // Writes what an installation says about the two programs' command lines, made from the options
 // that --help tells: describe PROGRAM man|bash|zsh|fish [APPENDIX]
 
-#include "core/session/game_options.h"
 #include "cli/drawing_commands.h"
 #include "cli/program.h"
 #include "command_text.h"
+#include "core/session/game_options.h"
 
 #include <CLI/CLI.hpp>
 

@@ -1,8 +1,5 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
-#include "core/base/product.h"
 #include "command_text.h"
+#include "core/base/product.h"
 
 #include <algorithm>
 

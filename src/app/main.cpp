@@ -1,18 +1,15 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
-#include "core/session/game_options.h"
-#include "core/base/product.h"
 #include "app/screenshot.h"
+#include "core/base/product.h"
 #include "core/files/file_access.h"
+#include "core/session/game_options.h"
 #include "core/session/program_folder.h"
 #include "core/session/session_memory.h"
-#include "ui/output/printers.h"
 #include "ui/controls/file_dialogs.h"
 #include "ui/controls/icon_set.h"
-#include "ui/window/main_window.h"
 #include "ui/controls/message_box.h"
 #include "ui/controls/scheme_palette.h"
+#include "ui/output/printers.h"
+#include "ui/window/main_window.h"
 
 #include <QApplication>
 

@@ -1,6 +1,3 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "app/screenshot.h"
 
 #include "ui/drawing/picture_file.h"

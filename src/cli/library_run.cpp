@@ -1,10 +1,7 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "cli/library_run.h"
 
-#include "core/board/puzzle_file.h"
 #include "cli/progress_bar.h"
+#include "core/board/puzzle_file.h"
 
 #include <CLI/CLI.hpp>
 

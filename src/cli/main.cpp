@@ -1,9 +1,6 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
-#include "core/files/file_access.h"
 #include "cli/drawing_commands.h"
 #include "cli/standard_output.h"
+#include "core/files/file_access.h"
 
 #include <csignal>
 #include <iostream>

@@ -1,11 +1,8 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "cli/print_command.h"
 
-#include "core/board/puzzle_file.h"
 #include "cli/offscreen.h"
 #include "cli/progress_bar.h"
+#include "core/board/puzzle_file.h"
 #include "core/output/page_layout.h"
 #include "ui/drawing/pdf_file.h"
 

@@ -1,15 +1,12 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "cli/program.h"
 
-#include "core/base/product.h"
 #include "cli/bench_command.h"
 #include "cli/check_command.h"
 #include "cli/create_command.h"
 #include "cli/shuffle_command.h"
 #include "cli/solve_command.h"
 #include "cli/variants_command.h"
+#include "core/base/product.h"
 
 #include <CLI/CLI.hpp>
 

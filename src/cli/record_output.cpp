@@ -1,13 +1,10 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "cli/record_output.h"
 
-#include "core/files/file_access.h"
-#include "core/files/line_reader.h"
+#include "cli/console.h"
 #include "core/board/puzzle_record.h"
 #include "core/board/record_lines.h"
-#include "cli/console.h"
+#include "core/files/file_access.h"
+#include "core/files/line_reader.h"
 
 #include <functional>
 #include <ostream>

@@ -1,13 +1,10 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "cli/render_command.h"
 
+#include "cli/offscreen.h"
+#include "core/board/puzzle_file.h"
+#include "core/options/scheme_library.h"
 #include "core/session/configuration.h"
 #include "core/session/program_folder.h"
-#include "core/board/puzzle_file.h"
-#include "cli/offscreen.h"
-#include "core/options/scheme_library.h"
 #include "ui/drawing/picture_document.h"
 
 #include <CLI/CLI.hpp>

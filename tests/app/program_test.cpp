@@ -1,6 +1,3 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 // The game as it is started: what its command line does, and what it says when it cannot start.
 
 #include "ui/game_window.h"

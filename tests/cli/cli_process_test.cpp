@@ -1,10 +1,7 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 // What a process of its own shows: the program with its real standard output, limits and signals.
 
-#include "core/board/puzzle_record.h"
 #include "cli/console.h"
+#include "core/board/puzzle_record.h"
 
 #include "support/child_process.h"
 #include "support/command_line.h"

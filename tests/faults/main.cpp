@@ -1,6 +1,3 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 // Does one operation on files, so that a tracer can hurt it, and judges what came of it:
 //
 //     tessaly_faults make RECORDS FOLDER             fills a folder; -1 makes no puzzle file

@@ -1,13 +1,10 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "faults/scene.h"
 
-#include "core/session/configuration.h"
-#include "core/files/file_access.h"
 #include "core/board/puzzle_file.h"
+#include "core/files/file_access.h"
 #include "core/options/scheme_library.h"
 #include "core/options/scheme_record.h"
+#include "core/session/configuration.h"
 #include "core/solver/library_tools.h"
 
 #include "support/sample_records.h"

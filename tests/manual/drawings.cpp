@@ -1,14 +1,11 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "manual/drawings.h"
 
 #include "core/board/tables.h"
-#include "manual/examples.h"
 #include "core/play/board_geometry.h"
+#include "manual/examples.h"
+#include "ui/controls/icon_set.h"
 #include "ui/drawing/board_renderer.h"
 #include "ui/drawing/hexagon_tag.h"
-#include "ui/controls/icon_set.h"
 
 #include <QPainter>
 

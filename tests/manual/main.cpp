@@ -1,6 +1,3 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 // Draws the manual's pictures anew: tessaly_manual FOLDER, which is data/manual of the sources. A
 // test compares what lies there with what this would draw.
 

@@ -1,15 +1,12 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 // Draws the windows of the game in the states that a player sees them in, one PNG each, to be
 // looked at. Not a test: tessaly_pictures FOLDER; QT_SCALE_FACTOR=2 gives them at 200 %.
 
 #include "core/options/scheme_library.h"
-#include "ui/output/print_progress.h"
-#include "ui/window/developer_row.h"
+#include "ui/controls/message_box.h"
 #include "ui/controls/run_progress_bar.h"
 #include "ui/game_window.h"
-#include "ui/controls/message_box.h"
+#include "ui/output/print_progress.h"
+#include "ui/window/developer_row.h"
 #include "ui/window/tool_row.h"
 
 #include <QApplication>

@@ -1,14 +1,11 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #pragma once
 
 #include "core/session/session_memory.h"
-#include "ui/play/board_view.h"
 #include "support/scripted_file_dialogs.h"
 #include "support/scripted_printers.h"
 #include "support/scripted_prompts.h"
 #include "support/temporary_folder.h"
+#include "ui/play/board_view.h"
 #include "ui/window/main_window.h"
 
 #include <QLabel>

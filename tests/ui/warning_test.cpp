@@ -1,6 +1,3 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
 

@@ -1,13 +1,10 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "core/board/puzzle_file.h"
 
+#include "core/board/puzzle_record.h"
 #include "core/files/file_access.h"
 #include "core/files/file_copying.h"
 #include "core/files/line_reader.h"
 #include "core/files/locked_writing.h"
-#include "core/board/puzzle_record.h"
 
 #include <algorithm>
 

@@ -1,13 +1,10 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #pragma once
 
+#include "core/base/outcome.h"
+#include "core/base/yield.h"
 #include "core/board/board.h"
 #include "core/files/content_sink.h"
 #include "core/files/line_index.h"
-#include "core/base/outcome.h"
-#include "core/base/yield.h"
 
 #include <filesystem>
 #include <string>

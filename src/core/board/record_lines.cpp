@@ -1,10 +1,7 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "core/board/record_lines.h"
 
-#include "core/files/line_reader.h"
 #include "core/board/puzzle_record.h"
+#include "core/files/line_reader.h"
 
 namespace tessaly {
 

@@ -1,10 +1,7 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #pragma once
 
-#include "core/files/content_sink.h"
 #include "core/base/outcome.h"
+#include "core/files/content_sink.h"
 
 #include <filesystem>
 #include <functional>

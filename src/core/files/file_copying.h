@@ -1,12 +1,9 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #pragma once
 
+#include "core/base/yield.h"
 #include "core/files/content_sink.h"
 #include "core/files/line_index.h"
 #include "core/files/locked_file.h"
-#include "core/base/yield.h"
 
 namespace tessaly {
 

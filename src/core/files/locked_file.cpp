@@ -1,6 +1,3 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "core/files/locked_file.h"
 
 #include "core/files/file_lock.h"

@@ -1,6 +1,3 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "core/options/scheme_library.h"
 
 #include "core/base/data_files.h"

@@ -1,6 +1,3 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "core/play/board_input.h"
 
 #include "core/play/selection_walk.h"

@@ -1,11 +1,8 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #pragma once
 
 #include "core/base/outcome.h"
-#include "core/session/recent_files.h"
 #include "core/options/appearance.h"
+#include "core/session/recent_files.h"
 
 #include <optional>
 #include <string>

@@ -1,10 +1,7 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #pragma once
 
-#include "core/session/session.h"
 #include "core/play/display.h"
+#include "core/session/session.h"
 #include "core/solver/debug_solve.h"
 
 namespace tessaly {

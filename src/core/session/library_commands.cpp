@@ -1,10 +1,7 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "core/session/library_commands.h"
 
-#include "core/files/file_access.h"
 #include "core/board/puzzle_record.h"
+#include "core/files/file_access.h"
 
 #include <algorithm>
 

@@ -1,13 +1,10 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #pragma once
 
+#include "core/base/prompts.h"
+#include "core/play/display.h"
 #include "core/session/file_choice.h"
 #include "core/session/library_display.h"
-#include "core/base/prompts.h"
 #include "core/session/session.h"
-#include "core/play/display.h"
 
 namespace tessaly {
 

@@ -1,12 +1,9 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #pragma once
 
-#include "core/session/session.h"
 #include "core/play/display.h"
-#include "core/solver/library_tools.h"
 #include "core/session/run_progress.h"
+#include "core/session/session.h"
+#include "core/solver/library_tools.h"
 
 #include <atomic>
 #include <string_view>

@@ -1,11 +1,8 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #pragma once
 
 #include "core/session/library_commands.h"
-#include "core/solver/chance.h"
 #include "core/session/run_progress.h"
+#include "core/solver/chance.h"
 #include "core/solver/search_fill.h"
 
 #include <functional>

@@ -1,16 +1,13 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #pragma once
 
 #include "core/board/arrangements.h"
 #include "core/board/difficulty.h"
-#include "core/session/library_display.h"
 #include "core/board/puzzle_file.h"
-#include "core/session/recent_files.h"
 #include "core/options/appearance.h"
 #include "core/play/busy.h"
 #include "core/play/game.h"
+#include "core/session/library_display.h"
+#include "core/session/recent_files.h"
 
 #include <string>
 

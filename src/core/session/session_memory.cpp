@@ -1,12 +1,9 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "core/session/session_memory.h"
 
-#include "core/session/configuration.h"
 #include "core/base/data_files.h"
 #include "core/files/file_access.h"
 #include "core/options/scheme_library.h"
+#include "core/session/configuration.h"
 
 #include <algorithm>
 

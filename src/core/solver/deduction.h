@@ -1,10 +1,7 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #pragma once
 
-#include "core/board/board.h"
 #include "core/base/yield.h"
+#include "core/board/board.h"
 
 #include <cstdint>
 

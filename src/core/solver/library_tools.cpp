@@ -1,13 +1,10 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "core/solver/library_tools.h"
 
-#include "core/files/file_access.h"
-#include "core/files/line_reader.h"
 #include "core/board/puzzle_file.h"
 #include "core/board/puzzle_record.h"
 #include "core/board/record_lines.h"
+#include "core/files/file_access.h"
+#include "core/files/line_reader.h"
 #include "core/solver/deduction.h"
 #include "core/solver/planted_hint.h"
 

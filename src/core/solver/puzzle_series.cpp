@@ -1,6 +1,3 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "core/solver/puzzle_series.h"
 
 #include "core/board/puzzle_record.h"

@@ -1,11 +1,8 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "ui/controls/message_box.h"
 
+#include "core/session/message_style.h"
 #include "ui/controls/box_control.h"
 #include "ui/controls/dialog_parts.h"
-#include "core/session/message_style.h"
 #include "ui/controls/message_text.h"
 #include "ui/controls/picture_view.h"
 #include "ui/controls/scheme_palette.h"

@@ -1,6 +1,3 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "ui/controls/output_file_choice.h"
 
 #include "ui/controls/file_name_picker.h"

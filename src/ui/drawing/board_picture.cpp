@@ -1,14 +1,11 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "ui/drawing/board_picture.h"
 
 #include "core/base/product.h"
-#include "ui/drawing/page_text.h"
 #include "core/play/board_geometry.h"
 #include "ui/drawing/board_renderer.h"
 #include "ui/drawing/board_surface.h"
 #include "ui/drawing/hexagon_tag.h"
+#include "ui/drawing/page_text.h"
 #include "ui/drawing/qt_colour.h"
 
 #include <QPainter>

@@ -1,6 +1,3 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "ui/drawing/booklet_printing.h"
 
 #include "ui/drawing/page_painter.h"

@@ -1,10 +1,7 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #pragma once
 
-#include "ui/drawing/booklet_printing.h"
 #include "core/output/page_layout.h"
+#include "ui/drawing/booklet_printing.h"
 
 #include <filesystem>
 

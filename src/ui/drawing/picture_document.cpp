@@ -1,12 +1,9 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "ui/drawing/picture_document.h"
 
 #include "core/files/file_access.h"
+#include "core/play/board_geometry.h"
 #include "ui/drawing/picture_file.h"
 #include "ui/drawing/sink_device.h"
-#include "core/play/board_geometry.h"
 
 #include <QPageLayout>
 #include <QPainter>

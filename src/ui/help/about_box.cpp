@@ -1,14 +1,11 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "ui/help/about_box.h"
 
 #include "core/base/product.h"
 #include "ui/controls/box_control.h"
 #include "ui/controls/dialog_parts.h"
 #include "ui/controls/picture_view.h"
-#include "ui/drawing/qt_colour.h"
 #include "ui/controls/scheme_palette.h"
+#include "ui/drawing/qt_colour.h"
 
 #include <QEvent>
 #include <QHBoxLayout>

@@ -1,13 +1,10 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "ui/help/help_window.h"
 
 #include "ui/controls/box_control.h"
-#include "ui/help/help_browser.h"
 #include "ui/controls/path_text.h"
-#include "ui/drawing/qt_colour.h"
 #include "ui/controls/scheme_palette.h"
+#include "ui/drawing/qt_colour.h"
+#include "ui/help/help_browser.h"
 
 #include <QFileInfo>
 #include <QShowEvent>

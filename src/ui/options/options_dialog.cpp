@@ -1,18 +1,15 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "ui/options/options_dialog.h"
 
+#include "ui/controls/box_control.h"
 #include "ui/controls/choice_list.h"
+#include "ui/controls/dialog_parts.h"
+#include "ui/controls/path_text.h"
+#include "ui/controls/scheme_palette.h"
+#include "ui/drawing/qt_colour.h"
 #include "ui/options/colour_picker.h"
 #include "ui/options/option_samples.h"
 #include "ui/options/options_form.h"
 #include "ui/options/sample_board.h"
-#include "ui/controls/box_control.h"
-#include "ui/controls/dialog_parts.h"
-#include "ui/controls/path_text.h"
-#include "ui/drawing/qt_colour.h"
-#include "ui/controls/scheme_palette.h"
 
 #include <QCheckBox>
 #include <QLabel>

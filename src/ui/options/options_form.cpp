@@ -1,16 +1,13 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "ui/options/options_form.h"
 
-#include "ui/controls/choice_list.h"
-#include "ui/options/colour_picker.h"
-#include "ui/options/option_samples.h"
 #include "core/session/options_editor.h"
-#include "ui/options/sample_board.h"
 #include "ui/controls/box_control.h"
 #include "ui/controls/choice_buttons.h"
+#include "ui/controls/choice_list.h"
 #include "ui/controls/dialog_parts.h"
+#include "ui/options/colour_picker.h"
+#include "ui/options/option_samples.h"
+#include "ui/options/sample_board.h"
 
 #include <QFontDatabase>
 #include <QGroupBox>

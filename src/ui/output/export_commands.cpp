@@ -1,14 +1,11 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "ui/output/export_commands.h"
 
 #include "core/board/puzzle_record.h"
 #include "core/session/session.h"
-#include "ui/drawing/board_picture.h"
 #include "ui/controls/output_file_choice.h"
-#include "ui/drawing/picture_file.h"
 #include "ui/controls/path_text.h"
+#include "ui/drawing/board_picture.h"
+#include "ui/drawing/picture_file.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

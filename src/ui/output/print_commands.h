@@ -1,14 +1,11 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #pragma once
 
 #include "core/base/prompts.h"
 #include "core/board/puzzle_file.h"
-#include "ui/drawing/booklet_printing.h"
 #include "core/output/page_layout.h"
-#include "ui/output/print_order.h"
 #include "core/play/display.h"
+#include "ui/drawing/booklet_printing.h"
+#include "ui/output/print_order.h"
 
 class QPrinter;
 class QWidget;

@@ -1,20 +1,17 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "ui/output/print_dialog.h"
 
 #include "core/base/leading_number.h"
 #include "core/base/prompts.h"
 #include "core/board/puzzle_file.h"
-#include "ui/output/printers.h"
 #include "ui/controls/box_control.h"
 #include "ui/controls/choice_buttons.h"
 #include "ui/controls/dialog_parts.h"
 #include "ui/controls/file_name_picker.h"
 #include "ui/controls/path_text.h"
 #include "ui/controls/puzzle_file_choice.h"
-#include "ui/drawing/qt_colour.h"
 #include "ui/controls/scheme_palette.h"
+#include "ui/drawing/qt_colour.h"
+#include "ui/output/printers.h"
 
 #include <QComboBox>
 #include <QGroupBox>

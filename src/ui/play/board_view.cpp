@@ -1,11 +1,8 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "ui/play/board_view.h"
 
+#include "ui/drawing/qt_colour.h"
 #include "ui/play/board_accessible.h"
 #include "ui/play/board_keys.h"
-#include "ui/drawing/qt_colour.h"
 
 #include <QApplication>
 #include <QEvent>

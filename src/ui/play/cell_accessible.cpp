@@ -1,10 +1,7 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "ui/play/cell_accessible.h"
 
-#include "ui/play/board_view.h"
 #include "core/play/cell_description.h"
+#include "ui/play/board_view.h"
 
 #include <QWindow>
 

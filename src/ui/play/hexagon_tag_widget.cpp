@@ -1,6 +1,3 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "ui/play/hexagon_tag_widget.h"
 
 #include "ui/drawing/hexagon_tag.h"

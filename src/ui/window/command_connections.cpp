@@ -1,13 +1,10 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "ui/window/command_connections.h"
 
 #include "core/session/session.h"
+#include "ui/controls/box_control.h"
 #include "ui/play/board_view.h"
 #include "ui/play/palette_panel.h"
 #include "ui/window/developer_row.h"
-#include "ui/controls/box_control.h"
 #include "ui/window/main_menu.h"
 #include "ui/window/status_line.h"
 #include "ui/window/tool_row.h"

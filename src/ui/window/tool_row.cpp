@@ -1,10 +1,7 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "ui/window/tool_row.h"
 
-#include "ui/controls/run_progress_bar.h"
 #include "ui/controls/box_control.h"
+#include "ui/controls/run_progress_bar.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

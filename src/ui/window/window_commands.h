@@ -1,21 +1,18 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #pragma once
 
-#include "core/session/library_commands.h"
-#include "ui/output/export_commands.h"
-#include "ui/output/print_commands.h"
-#include "ui/output/print_dialog.h"
-#include "ui/output/print_progress.h"
 #include "core/play/board_input.h"
 #include "core/play/play_commands.h"
 #include "core/session/creation_commands.h"
 #include "core/session/developer_commands.h"
+#include "core/session/library_commands.h"
 #include "core/session/maintenance_commands.h"
 #include "core/session/multiple_creation.h"
-#include "ui/window/multiple_creation_dialog.h"
 #include "ui/controls/puzzle_file_choice.h"
+#include "ui/output/export_commands.h"
+#include "ui/output/print_commands.h"
+#include "ui/output/print_dialog.h"
+#include "ui/output/print_progress.h"
+#include "ui/window/multiple_creation_dialog.h"
 
 namespace tessaly {
 

@@ -1,12 +1,9 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "ui/window/window_display.h"
 
 #include "core/session/session.h"
+#include "ui/controls/run_progress_bar.h"
 #include "ui/play/board_view.h"
 #include "ui/play/palette_panel.h"
-#include "ui/controls/run_progress_bar.h"
 #include "ui/window/main_menu.h"
 #include "ui/window/status_line.h"
 #include "ui/window/tool_row.h"

@@ -1,11 +1,8 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #pragma once
 
-#include "core/session/library_display.h"
 #include "core/play/board_input.h"
 #include "core/play/display.h"
+#include "core/session/library_display.h"
 #include "core/session/multiple_creation.h"
 
 namespace tessaly {

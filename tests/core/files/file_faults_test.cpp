@@ -1,14 +1,11 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 // What becomes of files when a system call fails, or another program acts between two of them.
 
 #include "core/board/arrangements.h"
+#include "core/board/puzzle_file.h"
+#include "core/board/record_lines.h"
 #include "core/files/file_access.h"
 #include "core/files/file_lock.h"
 #include "core/files/locked_file.h"
-#include "core/board/puzzle_file.h"
-#include "core/board/record_lines.h"
 #include "core/files/scratch_file.h"
 #include "core/session/shipped_files.h"
 

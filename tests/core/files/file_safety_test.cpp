@@ -1,11 +1,8 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 // What needs more than one process: full disks, other users, two instances side by side.
 
+#include "core/board/puzzle_file.h"
 #include "core/files/file_access.h"
 #include "core/files/locked_file.h"
-#include "core/board/puzzle_file.h"
 #include "core/files/scratch_file.h"
 
 #include "support/child_process.h"

@@ -1,10 +1,7 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
-#include "core/session/options_editor.h"
 #include "core/options/scheme_builder.h"
 #include "core/options/scheme_library.h"
 #include "core/options/scheme_record.h"
+#include "core/session/options_editor.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>

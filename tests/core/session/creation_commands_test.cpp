@@ -1,10 +1,7 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "core/session/creation_commands.h"
 
-#include "core/files/file_access.h"
 #include "core/board/puzzle_record.h"
+#include "core/files/file_access.h"
 #include "support/recording_display.h"
 #include "support/recording_library_display.h"
 #include "support/sample_puzzles.h"

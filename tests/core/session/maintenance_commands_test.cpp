@@ -1,10 +1,7 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "core/session/maintenance_commands.h"
 
-#include "core/solver/deduction.h"
 #include "core/session/developer_commands.h"
+#include "core/solver/deduction.h"
 #include "support/recording_display.h"
 #include "support/recording_library_display.h"
 #include "support/recording_progress.h"

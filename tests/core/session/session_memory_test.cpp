@@ -1,10 +1,7 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "core/session/session_memory.h"
 
-#include "core/session/configuration.h"
 #include "core/files/scratch_file.h"
+#include "core/session/configuration.h"
 #include "support/file_calls.h"
 #include "support/temporary_folder.h"
 

@@ -1,6 +1,3 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "ui/controls/file_name_picker.h"
 
 #include "support/scripted_file_dialogs.h"

@@ -1,10 +1,7 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "ui/controls/message_box.h"
 
-#include "ui/controls/box_control.h"
 #include "core/session/message_style.h"
+#include "ui/controls/box_control.h"
 #include "ui/drawing/qt_colour.h"
 
 #include <gtest/gtest.h>

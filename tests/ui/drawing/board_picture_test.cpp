@@ -1,11 +1,8 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "core/play/board_geometry.h"
-#include "ui/drawing/board_surface.h"
-#include "ui/drawing/hexagon_tag.h"
 #include "support/sample_appearances.h"
 #include "support/sample_board.h"
+#include "ui/drawing/board_surface.h"
+#include "ui/drawing/hexagon_tag.h"
 #include "ui/golden_picture.h"
 
 #include <gtest/gtest.h>

@@ -1,12 +1,9 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "ui/drawing/board_surface.h"
 
 #include "core/play/board_geometry.h"
-#include "ui/drawing/board_renderer.h"
 #include "support/sample_appearances.h"
 #include "support/sample_board.h"
+#include "ui/drawing/board_renderer.h"
 
 #include <gtest/gtest.h>
 

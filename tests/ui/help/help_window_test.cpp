@@ -1,13 +1,10 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "ui/help/help_window.h"
 
-#include "ui/help/about_box.h"
 #include "ui/controls/box_control.h"
-#include "ui/game_window.h"
-#include "ui/help/help_browser.h"
 #include "ui/drawing/qt_colour.h"
+#include "ui/game_window.h"
+#include "ui/help/about_box.h"
+#include "ui/help/help_browser.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,6 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
+#include "core/play/solution_check.h"
 #include "manual/drawings.h"
 #include "manual/examples.h"
-#include "core/play/solution_check.h"
 #include "ui/game_window.h"
 #include "ui/golden_picture.h"
 

@@ -1,10 +1,7 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "ui/options/colour_picker.h"
 
-#include "ui/options/colour_surface_view.h"
 #include "ui/drawing/qt_colour.h"
+#include "ui/options/colour_surface_view.h"
 
 #include <gtest/gtest.h>
 

@@ -1,15 +1,12 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "ui/options/options_dialog.h"
 
+#include "core/options/scheme_builder.h"
 #include "core/session/configuration.h"
+#include "ui/drawing/qt_colour.h"
+#include "ui/game_window.h"
 #include "ui/options/colour_picker.h"
 #include "ui/options/colour_surface_view.h"
 #include "ui/options/option_samples.h"
-#include "core/options/scheme_builder.h"
-#include "ui/game_window.h"
-#include "ui/drawing/qt_colour.h"
 
 #include <QAction>
 #include <QApplication>

@@ -1,12 +1,9 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "ui/output/export_commands.h"
 
 #include "core/board/puzzle_record.h"
-#include "ui/drawing/board_picture.h"
 #include "support/sample_appearances.h"
 #include "support/sample_board.h"
+#include "ui/drawing/board_picture.h"
 #include "ui/game_window.h"
 #include "ui/golden_picture.h"
 

@@ -1,6 +1,3 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "support/pdf_document.h"
 #include "support/sample_puzzles.h"
 #include "ui/controls/box_control.h"

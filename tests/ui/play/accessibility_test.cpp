@@ -1,12 +1,9 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
-#include "ui/options/options_dialog.h"
-#include "ui/play/board_accessible.h"
 #include "core/play/cell_description.h"
 #include "core/play/selection_walk.h"
-#include "ui/window/multiple_creation_dialog.h"
 #include "ui/game_window.h"
+#include "ui/options/options_dialog.h"
+#include "ui/play/board_accessible.h"
+#include "ui/window/multiple_creation_dialog.h"
 
 #include <QAccessible>
 #include <QApplication>

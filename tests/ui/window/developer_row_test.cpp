@@ -1,11 +1,8 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "ui/window/developer_row.h"
 
-#include "ui/controls/run_progress_bar.h"
 #include "support/sample_puzzles.h"
 #include "ui/controls/box_control.h"
+#include "ui/controls/run_progress_bar.h"
 #include "ui/game_window.h"
 
 #include <gtest/gtest.h>

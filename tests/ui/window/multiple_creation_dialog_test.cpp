@@ -1,11 +1,8 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "ui/game_window.h"
 
 #include "core/board/puzzle_record.h"
-#include "ui/controls/run_progress_bar.h"
 #include "ui/controls/box_control.h"
+#include "ui/controls/run_progress_bar.h"
 
 #include <QAction>
 #include <QApplication>

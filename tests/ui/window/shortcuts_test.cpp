@@ -1,11 +1,8 @@
-// SPDX-FileCopyrightText: 2026 The Tessaly developers
-// SPDX-License-Identifier: MIT
-
 #include "ui/window/shortcuts.h"
 
-#include "ui/play/key_codes.h"
 #include "ui/controls/box_control.h"
 #include "ui/game_window.h"
+#include "ui/play/key_codes.h"
 
 #include <QApplication>
 #include <QLineEdit>
