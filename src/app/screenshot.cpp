@@ -1,6 +1,6 @@
 #include "app/screenshot.h"
 
-#include "ui/drawing/picture_file.h"
+#include "ui/drawing/picture_document.h"
 
 #include <QApplication>
 #include <QImage>

@@ -3,10 +3,21 @@
 #include "core/files/file_descriptor.h"
 
 #include <algorithm>
+#include <cmath>
 #include <ostream>
 #include <string>
+#include <string_view>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace tessaly {
+namespace {
+
+constexpr auto Interval = std::chrono::milliseconds(100);
+constexpr std::int64_t Width = 30;
+constexpr const char* EmptyLine = "\r\x1B[K";
+
+} // namespace
 
 int fail(const Console& console, std::string_view problem) {
     std::string line(problem);
@@ -17,6 +28,80 @@ int fail(const Console& console, std::string_view problem) {
 
 Outcome flushed(std::ostream& out) {
     return out.flush() ? Outcome::done() : fileProblem("standard output", "cannot be written");
+}
+
+ProgressBar::ProgressBar(const Console& console, std::int64_t total)
+    : m_console(console)
+    , m_total(std::max<std::int64_t>(total, 1)) {}
+
+void ProgressBar::show(std::int64_t done) {
+    const Clock::time_point now = Clock::now();
+    if (!m_console.errIsTerminal || now < m_next)
+        return;
+    m_next = now + Interval;
+    const std::chrono::duration<double> passed = now - m_start;
+    const double left = passed.count() * static_cast<double>(m_total - done) /
+                        static_cast<double>(std::max<std::int64_t>(done, 1));
+    std::string bar(static_cast<std::size_t>(Width * done / m_total), '#');
+    bar.resize(static_cast<std::size_t>(Width), '.');
+    m_console.err << EmptyLine << '[' << bar << "] " << done << " of " << m_total << ", "
+                  << std::llround(left) << " s left" << std::flush;
+}
+
+void ProgressBar::clear() {
+    if (m_console.errIsTerminal)
+        m_console.err << EmptyLine << std::flush;
+}
+
+StandardOutput::StandardOutput(int fd)
+    : m_fd(fd)
+    , m_buffer(std::size_t{1} << 16) {
+    setp(m_buffer.data(), m_buffer.data() + m_buffer.size());
+}
+
+StandardOutput::~StandardOutput() {
+    writeOut();
+}
+
+StandardOutput::int_type StandardOutput::overflow(int_type c) {
+    if (!writeOut())
+        return traits_type::eof();
+    if (!traits_type::eq_int_type(c, traits_type::eof()))
+        sputc(traits_type::to_char_type(c));
+    return traits_type::not_eof(c);
+}
+
+int StandardOutput::sync() {
+    return writeOut() ? 0 : -1;
+}
+
+bool StandardOutput::writeOut() {
+    std::string_view rest(pbase(), static_cast<std::size_t>(pptr() - pbase()));
+    setp(m_buffer.data(), m_buffer.data() + m_buffer.size());
+    while (!rest.empty() && !m_failed) {
+        const auto written = retried([&] { return ::write(m_fd, rest.data(), rest.size()); });
+        if (written < 0) {
+            m_failed = true;
+            takeBackPartOfLine();
+            break;
+        }
+        const std::string_view done = rest.substr(0, static_cast<std::size_t>(written));
+        const std::size_t lineEnd = done.rfind('\n');
+        m_partOfLine = lineEnd == std::string_view::npos ? m_partOfLine + done.size()
+                                                         : done.size() - lineEnd - 1;
+        rest.remove_prefix(done.size());
+    }
+    return !m_failed;
+}
+
+void StandardOutput::takeBackPartOfLine() const {
+    struct stat state {};
+    const off_t end = ::lseek(m_fd, 0, SEEK_CUR);
+    const bool endsHere =
+        ::fstat(m_fd, &state) == 0 && S_ISREG(state.st_mode) && state.st_size == end;
+    if (endsHere && m_partOfLine > 0 &&
+        ::ftruncate(m_fd, end - static_cast<off_t>(m_partOfLine)) == 0)
+        ::lseek(m_fd, 0, SEEK_END);
 }
 
 } // namespace tessaly

@@ -2,9 +2,14 @@
 
 #include "core/base/outcome.h"
 
+#include <chrono>
+#include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <iosfwd>
+#include <streambuf>
 #include <string_view>
+#include <vector>
 
 namespace tessaly {
 
@@ -33,5 +38,49 @@ int fail(const Console& console, std::string_view problem);
 
 /// Flushes standard output; a failure when something, now or before, could not be written.
 Outcome flushed(std::ostream& out);
+
+/// Shows on the terminal, where there is one, how far a long run is and how long the rest will
+/// take.
+class ProgressBar {
+public:
+    ProgressBar(const Console& console, std::int64_t total);
+
+    void show(std::int64_t done);
+    /// Leaves the line empty.
+    void clear();
+
+private:
+    using Clock = std::chrono::steady_clock;
+
+    const Console& m_console;
+    std::int64_t m_total;
+    Clock::time_point m_start = Clock::now();
+    Clock::time_point m_next = m_start;
+};
+
+/// Writes to an open file (standard output, mostly) and leaves whole lines there: when a write
+/// fails in the middle of a line, as on a full disk, the part of the line is taken back where that
+/// can be done, that is, where it is the end of a regular file.
+class StandardOutput : public std::streambuf {
+public:
+    explicit StandardOutput(int fd);
+    StandardOutput(const StandardOutput&) = delete;
+    StandardOutput& operator=(const StandardOutput&) = delete;
+    ~StandardOutput() override;
+
+protected:
+    int_type overflow(int_type c) override;
+    int sync() override;
+
+private:
+    bool writeOut();
+    void takeBackPartOfLine() const;
+
+    int m_fd;
+    std::vector<char> m_buffer;
+    /// How many bytes of a line that is not ended were written.
+    std::size_t m_partOfLine = 0;
+    bool m_failed = false;
+};
 
 } // namespace tessaly

@@ -1,6 +1,6 @@
 #include "cli/create_command.h"
 
-#include "cli/progress_bar.h"
+#include "cli/console.h"
 #include "cli/record_output.h"
 #include "core/solver/puzzle_series.h"
 

@@ -1,6 +1,6 @@
 #include "cli/library_run.h"
 
-#include "cli/progress_bar.h"
+#include "cli/console.h"
 #include "core/board/puzzle_file.h"
 
 #include <CLI/CLI.hpp>
@@ -29,6 +29,37 @@ int runLibraryTool(const Console& console, const ToolFiles& files,
         return exit_status::Done;
     fail(console, outcome.problem);
     return console.isInterrupted() ? exit_status::Interrupted : exit_status::Failed;
+}
+
+CLI::App& ShuffleCommand::addTo(CLI::App& program) {
+    CLI::App& command = *program.add_subcommand(
+        "shuffle", "Write the puzzles of a file in random order, each only once");
+    command.footer("Example: tessaly-cli shuffle easy.txt --seed 1 --output mixed.txt");
+    addToolFiles(command, m_files);
+    command.add_option("--seed", m_seed, "Gives the same order whenever it is given")
+        ->type_name("S");
+    return command;
+}
+
+int ShuffleCommand::run(const Console& console) {
+    Chance chance(m_seed.value_or(Chance::freshSeed()));
+    return runLibraryTool(console, m_files, [&](const KeepGoing& keepGoing) {
+        return shufflePuzzles(m_files, chance, keepGoing);
+    });
+}
+
+CLI::App& VariantsCommand::addTo(CLI::App& program) {
+    CLI::App& command = *program.add_subcommand(
+        "variants", "Write eight variants of every puzzle: itself, four mirrorings, three turns");
+    command.footer("Example: tessaly-cli variants easy.txt --output more.txt");
+    addToolFiles(command, m_files);
+    return command;
+}
+
+int VariantsCommand::run(const Console& console) {
+    return runLibraryTool(console, m_files, [this](const KeepGoing& keepGoing) {
+        return expandPuzzles(m_files, OutputMode::Replace, TopBottomHeader::Follows, keepGoing);
+    });
 }
 
 } // namespace tessaly

@@ -1,5 +1,5 @@
+#include "cli/console.h"
 #include "cli/drawing_commands.h"
-#include "cli/standard_output.h"
 #include "core/files/file_access.h"
 
 #include <csignal>

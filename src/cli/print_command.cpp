@@ -1,7 +1,7 @@
 #include "cli/print_command.h"
 
+#include "cli/console.h"
 #include "cli/offscreen.h"
-#include "cli/progress_bar.h"
 #include "core/board/puzzle_file.h"
 #include "core/output/page_layout.h"
 #include "ui/drawing/pdf_file.h"

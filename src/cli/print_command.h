@@ -1,7 +1,7 @@
 #pragma once
 
 #include "cli/command.h"
-#include "core/output/print_job.h"
+#include "core/output/booklet.h"
 
 #include <optional>
 #include <string>

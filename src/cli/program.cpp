@@ -3,9 +3,8 @@
 #include "cli/bench_command.h"
 #include "cli/check_command.h"
 #include "cli/create_command.h"
-#include "cli/shuffle_command.h"
+#include "cli/library_run.h"
 #include "cli/solve_command.h"
-#include "cli/variants_command.h"
 #include "core/base/product.h"
 
 #include <CLI/CLI.hpp>

@@ -1,4 +1,4 @@
-#include "cli/standard_output.h"
+#include "cli/console.h"
 
 #include "core/files/file_descriptor.h"
 

@@ -3,7 +3,6 @@
 #include "core/board/puzzle_file.h"
 #include "core/files/file_access.h"
 #include "core/options/scheme_library.h"
-#include "core/options/scheme_record.h"
 #include "core/session/configuration.h"
 #include "core/solver/library_tools.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/controls/file_dialogs.h"
+#include "ui/controls/file_name_picker.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/session/session_memory.h"
+#include "core/session/configuration.h"
 #include "support/scripted_file_dialogs.h"
 #include "support/scripted_printers.h"
 #include "support/scripted_prompts.h"

@@ -2,9 +2,8 @@
 
 #include "core/board/puzzle_record.h"
 #include "core/files/file_access.h"
-#include "core/files/file_copying.h"
 #include "core/files/line_reader.h"
-#include "core/files/locked_writing.h"
+#include "core/files/locked_file.h"
 
 #include <algorithm>
 

@@ -1,7 +1,10 @@
 #pragma once
 
 #include "core/base/outcome.h"
+#include "core/base/yield.h"
 #include "core/files/content_sink.h"
+#include "core/files/line_index.h"
+#include "core/files/locked_file.h"
 
 #include <filesystem>
 #include <functional>
@@ -12,7 +15,21 @@
 /// disk fills, a file holds its old or its new content, whole, and `done` is answered only when the
 /// new content is on the disk. Symbolic links are followed; what is no regular file is refused and
 /// never waited on; other instances of the program are kept from writing the same file meanwhile.
+
 namespace tessaly {
+
+/// Writes a part of a file into the sink, calling `yield` for every piece.
+Outcome copyPart(const LockedFile& file, LineSpan part, const ContentSink& sink,
+                 const Yield& yield);
+
+/// Removes a line from a file that the caller has locked; all other bytes stay as they are. They
+/// are also written to the scratch file `copy`, unless that is the very file.
+///
+/// The copy is overwritten where it stands and in the same pass, for a second new file would double
+/// the time that a million records take. So it is no more than scratch: a process that dies
+/// meanwhile leaves old lines behind the new ones in it.
+Outcome removeLine(const LockedFile& file, LineSpan line, const std::filesystem::path& copy,
+                   const Yield& yield);
 
 /// Whether there is a regular file; false for the empty path and for one that ends in "/".
 bool FileExists(const std::filesystem::path& path);

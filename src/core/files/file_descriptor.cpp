@@ -1,9 +1,12 @@
 #include "core/files/file_descriptor.h"
 
+#include <algorithm>
 #include <chrono>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <system_error>
+#include <thread>
 #include <unistd.h>
 
 namespace tessaly {
@@ -16,6 +19,16 @@ std::int64_t inNanoseconds(const timespec& time) {
 FileState stateFrom(const struct stat& status) {
     return {status.st_dev, status.st_ino, status.st_size, inNanoseconds(status.st_mtim),
             inNanoseconds(status.st_ctim)};
+}
+
+using namespace std::chrono_literals;
+
+// Long enough for the rewriting of a huge file, short enough not to look like a hang for ever when
+// the other instance is stopped.
+constexpr auto Patience = 10s;
+
+bool lacksLocks(int error) {
+    return error == ENOLCK || error == EOPNOTSUPP || error == ENOSYS || error == EBADF;
 }
 
 } // namespace
@@ -105,6 +118,29 @@ std::int64_t readAt(const FileDescriptor& file, char* bytes, std::size_t size,
         done += static_cast<std::size_t>(got);
     }
     return static_cast<std::int64_t>(done);
+}
+
+LockAnswer takeLock(const FileDescriptor& file) {
+    if (retried([&] { return ::flock(file.get(), LOCK_EX | LOCK_NB); }) == 0 || lacksLocks(errno))
+        return LockAnswer::Taken;
+    return errno == EWOULDBLOCK ? LockAnswer::Busy : LockAnswer::Failed;
+}
+
+void releaseLock(const FileDescriptor& file) {
+    if (file.isOpen())
+        retried([&] { return ::flock(file.get(), LOCK_UN); });
+}
+
+bool patiently(const std::function<bool()>& attempt) {
+    const auto end = std::chrono::steady_clock::now() + Patience;
+    std::chrono::microseconds pause = 100us;
+    while (!attempt()) {
+        if (std::chrono::steady_clock::now() > end)
+            return false;
+        std::this_thread::sleep_for(pause);
+        pause = std::min<std::chrono::microseconds>(2 * pause, 5ms);
+    }
+    return true;
 }
 
 } // namespace tessaly

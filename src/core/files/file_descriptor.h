@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string_view>
 #include <utility>
@@ -79,5 +80,16 @@ Outcome openForReading(const std::filesystem::path& path, FileDescriptor& file);
 /// Reads up to `size` bytes from `offset`; fewer only at the end of the file. The number of bytes,
 /// or -1 with `errno` set.
 std::int64_t readAt(const FileDescriptor& file, char* bytes, std::size_t size, std::int64_t offset);
+
+enum class LockAnswer { Taken, Busy, Failed };
+
+/// Asks for the advisory lock of an open file or folder, without waiting. The lock ends when the
+/// file is closed. Where the file system knows no locks, the answer is `Taken`.
+LockAnswer takeLock(const FileDescriptor& file);
+
+void releaseLock(const FileDescriptor& file);
+
+/// Calls `attempt` until it answers true, for ten seconds at most. Whether it did.
+bool patiently(const std::function<bool()>& attempt);
 
 } // namespace tessaly

@@ -2,8 +2,10 @@
 
 namespace tessaly {
 namespace {
+
 constexpr std::size_t BufferSize = std::size_t{64} * 1024;
-}
+
+} // namespace
 
 LineReader::LineReader(std::size_t longest)
     : m_longest(longest)
@@ -68,6 +70,20 @@ LineReader::Result LineReader::finish() {
         m_overLong = true;
     }
     return m_overLong ? Result::OverLong : Result::Line;
+}
+
+std::vector<TextLine> splitLines(std::string_view content) {
+    std::vector<TextLine> lines;
+    while (!content.empty()) {
+        const std::size_t feed = content.find('\n');
+        const std::size_t rawSize = feed == std::string_view::npos ? content.size() : feed + 1;
+        std::string_view text = withoutReturn(content.substr(0, feed));
+        if (lines.empty() && text.starts_with(ByteOrderMark))
+            text.remove_prefix(ByteOrderMark.size());
+        lines.push_back({text, content.substr(0, rawSize)});
+        content.remove_prefix(rawSize);
+    }
+    return lines;
 }
 
 } // namespace tessaly

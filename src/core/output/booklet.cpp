@@ -1,5 +1,7 @@
 #include "core/output/booklet.h"
 
+#include "core/board/puzzle_file.h"
+
 #include <algorithm>
 
 namespace tessaly {
@@ -24,6 +26,34 @@ BookletPage Booklet::page(int number) const {
         number -= pagesOf(part);
     }
     return {};
+}
+
+PrintJob jobOf(const PrintRange& range, PuzzleFiles& files) {
+    std::vector<BookletPart> parts{{false, range.puzzlesPerPage}};
+    if (range.solutions)
+        parts.push_back({true, SolutionsPerPage});
+    const auto boardOf = [&files, path = range.path](int number, Board& board) {
+        const PuzzleRead read = files.ReadPuzzle(path, number, board);
+        board.ResetToGivens();
+        return read.ok() ? Outcome::done() : Outcome::failed(read.reason);
+    };
+    const std::string name = range.path.substr(range.path.find_last_of('/') + 1);
+    return {Booklet(range.to - range.from + 1, parts), range.from, boardOf,
+            name + ", " + std::to_string(range.from) + " to " + std::to_string(range.to)};
+}
+
+PrintJob jobOf(const Board& board, int number, bool puzzle, bool solution) {
+    std::vector<BookletPart> parts;
+    if (puzzle)
+        parts.push_back({false, 1});
+    if (solution)
+        parts.push_back({true, 1});
+    const auto boardOf = [board](int, Board& copy) {
+        copy = board;
+        return Outcome::done();
+    };
+    return {Booklet(1, parts), number, boardOf,
+            (puzzle ? "Puz# " : "Sol# ") + std::to_string(number)};
 }
 
 } // namespace tessaly

@@ -1,10 +1,17 @@
 #pragma once
 
+#include "core/base/outcome.h"
+#include "core/board/board.h"
+
 #include <array>
+#include <functional>
+#include <string>
 #include <utility>
 #include <vector>
 
 namespace tessaly {
+
+class PuzzleFiles;
 
 /// How many puzzles a page of a booklet may hold, and how many solutions it does.
 inline constexpr std::array<int, 4> PuzzlesPerPage{1, 2, 4, 6};
@@ -45,5 +52,33 @@ private:
     int m_puzzles;
     std::vector<BookletPart> m_parts;
 };
+
+/// What is printed: a booklet of boards with the numbers `firstNumber`, `firstNumber + 1`, ...
+struct PrintJob {
+    Booklet booklet;
+    int firstNumber = 1;
+    /// Gives the board of a number; called for every part of the booklet anew.
+    std::function<Outcome(int number, Board& board)> boardOf;
+    /// What the document is called.
+    std::string title;
+};
+
+/// Some of a file's puzzles, and how they are laid out.
+struct PrintRange {
+    static constexpr int UsualPuzzlesPerPage = 4;
+
+    std::string path;
+    int from = 1;
+    int to = 1;
+    int puzzlesPerPage = UsualPuzzlesPerPage;
+    bool solutions = true;
+};
+
+/// The job of printing a range: the puzzles as they were made, without what a player has entered,
+/// for a booklet is there to be solved, and then their solutions. `files` must outlive the job.
+PrintJob jobOf(const PrintRange& range, PuzzleFiles& files);
+
+/// The job of printing one board as it stands, each part on a page of its own.
+PrintJob jobOf(const Board& board, int number, bool puzzle, bool solution);
 
 } // namespace tessaly

@@ -1,7 +1,6 @@
 #include "core/play/play_commands.h"
 
 #include "core/play/assists.h"
-#include "core/play/solution_check.h"
 
 #include <string>
 

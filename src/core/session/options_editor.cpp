@@ -2,8 +2,7 @@
 
 #include "core/options/print_line.h"
 #include "core/options/scheme_builder.h"
-#include "core/options/scheme_messages.h"
-#include "core/options/scheme_record.h"
+#include "core/options/scheme_library.h"
 
 #include <algorithm>
 #include <utility>

@@ -2,8 +2,8 @@
 
 #include "core/board/digit_set.h"
 #include "core/board/tables.h"
+#include "core/solver/generator.h"
 #include "core/solver/packed_rules.h"
-#include "core/solver/removal_plan.h"
 
 #include <algorithm>
 #include <array>

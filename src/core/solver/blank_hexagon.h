@@ -2,7 +2,7 @@
 
 #include "core/board/difficulty.h"
 #include "core/solver/chance.h"
-#include "core/solver/puzzle_draft.h"
+#include "core/solver/generator.h"
 
 #include <functional>
 #include <optional>

@@ -6,7 +6,6 @@
 #include "core/files/file_access.h"
 #include "core/files/line_reader.h"
 #include "core/solver/deduction.h"
-#include "core/solver/planted_hint.h"
 
 #include <unordered_set>
 #include <vector>
@@ -67,6 +66,15 @@ Outcome writePuzzles(const std::string& path, OutputMode mode, const ContentWrit
 }
 
 } // namespace
+
+void plantHint(Board& board) {
+    const CellId cell{board.BlankHex, board.HintCell};
+    if (!isHexagon(cell.hexagon) || cell.position < 1 || cell.position > CellCount)
+        return;
+    board.CellNum[cell] = std::to_string(board.HintNum);
+    board.FixedCell[cell] = true;
+    board.SkipHex = NoHexagon;
+}
 
 Outcome expandPuzzles(const ToolFiles& files, OutputMode mode, TopBottomHeader header,
                       const KeepGoing& keepGoing) {

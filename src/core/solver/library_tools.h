@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/base/outcome.h"
+#include "core/board/board.h"
 #include "core/solver/chance.h"
 #include "core/solver/puzzle_variants.h"
 
@@ -9,7 +10,13 @@
 
 /// What makes a library of many puzzles out of a few, proves it and mixes it. Each tool reads a
 /// puzzle file and writes another, all of it or, when a record is broken, nothing.
+
 namespace tessaly {
+
+/// Puts the hint number of a puzzle at the hint position of its blank hexagon and makes it a given;
+/// nothing when there is no blank hexagon or no hint. Developers' tools read a record like this,
+/// although the number was found for the neighbour of the blank hexagon that has that position.
+void plantHint(Board& board);
 
 /// Told after each record how many were read; false ends the run, with `StoppedProblem`.
 using KeepGoing = std::function<bool(int records)>;

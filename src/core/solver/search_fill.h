@@ -3,7 +3,7 @@
 #include "core/board/arrangements.h"
 #include "core/board/digit_set.h"
 #include "core/solver/chance.h"
-#include "core/solver/hexagon_word.h"
+#include "core/solver/packed_board.h"
 
 #include <array>
 #include <cstdint>

@@ -1,18 +1,177 @@
 #include "ui/controls/box_control.h"
 
-#include "ui/controls/box_face.h"
-#include "ui/controls/key_hold.h"
 #include "ui/drawing/qt_colour.h"
 
+#include <QColor>
 #include <QContextMenuEvent>
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QLinearGradient>
 #include <QMetaMethod>
+#include <QObject>
 #include <QPainter>
 #include <QPointer>
+#include <QRectF>
 #include <QShortcutEvent>
 #include <QToolTip>
 
+#include <algorithm>
+#include <cmath>
+
+class QPainter;
+
 namespace tessaly {
 namespace {
+
+constexpr int PaddingBesideCaption = 14;
+constexpr int PaddingBesidePicture = 7;
+constexpr int PaddingAbove = 7;
+constexpr int Gap = 7;
+
+QSize pictureSize(const BoxContents& contents) {
+    return contents.picture == Picture::None ? QSize(0, 0) : contents.pictureSize;
+}
+
+QSize captionSize(const BoxContents& contents, const QFontMetrics& font) {
+    return contents.caption.isEmpty() ? QSize(0, 0)
+                                      : font.size(Qt::TextShowMnemonic, contents.caption);
+}
+
+int gapIn(const BoxContents& contents) {
+    return contents.picture == Picture::None || contents.caption.isEmpty() ? 0 : Gap;
+}
+
+/// How the face of a button looks at the moment.
+struct BoxFace {
+    QColor colour;
+    bool sunk = false;
+    /// Stays down until it is let up again, and says so by a line around it.
+    bool latched = false;
+    bool hovered = false;
+    bool focused = false;
+    bool enabled = true;
+};
+
+/// Draws the face with its border, one pixel thick and lit from the upper left, on whole pixels of
+/// the device.
+void drawBoxFace(QPainter& painter, const QRectF& area, const BoxFace& face);
+
+constexpr double CornerRadius = 4;
+
+bool isDark(const QColor& face) {
+    return readableOn(face) == QColor(Qt::white);
+}
+
+/// How long one pixel of the border is, in the painter's units: a whole number of device pixels.
+double borderWidth(const QPainter& painter) {
+    const double scale = std::max(painter.deviceTransform().m11(), 0.1);
+    return std::max(1.0, std::floor(scale)) / scale;
+}
+
+/// `area` moved to the nearest whole pixels of the device.
+QRectF onPixels(const QPainter& painter, const QRectF& area) {
+    const QTransform toDevice = painter.deviceTransform();
+    const QRectF device = toDevice.mapRect(area);
+    const QRectF whole(QPointF(std::round(device.left()), std::round(device.top())),
+                       QPointF(std::round(device.right()), std::round(device.bottom())));
+    return toDevice.inverted().mapRect(whole);
+}
+
+/// Light above and left, dark below and right, changing at the upper right and lower left corners.
+QBrush borderBrush(const QRectF& area, const QColor& face, bool sunk) {
+    QColor lit = blended(face, Qt::white, isDark(face) ? 0.3 : 0.65);
+    QColor shaded = blended(face, Qt::black, 0.4);
+    if (sunk)
+        std::swap(lit, shaded);
+    // Across the line between those two corners, as long as the upper left one is away from it.
+    const double width = area.width();
+    const double height = area.height();
+    const QPointF axis =
+        QPointF(height, width) * (width * height / std::max(1.0, width * width + height * height));
+    QLinearGradient gradient(area.center() - axis, area.center() + axis);
+    gradient.setColorAt(0, lit);
+    gradient.setColorAt(0.45, lit);
+    gradient.setColorAt(0.55, shaded);
+    gradient.setColorAt(1, shaded);
+    return gradient;
+}
+
+QColor faceShade(const BoxFace& face) {
+    if (!face.enabled)
+        return face.colour;
+    if (face.sunk)
+        return blended(face.colour, readableOn(face.colour), 0.10);
+    if (face.hovered)
+        return blended(face.colour, Qt::white, isDark(face.colour) ? 0.12 : 0.35);
+    return face.colour;
+}
+
+void drawRing(QPainter& painter, const QRectF& area, const QColor& colour, double inset) {
+    const double width = 2 * borderWidth(painter);
+    inset += width / 2;
+    painter.setPen(QPen(colour, width));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(area.adjusted(inset, inset, -inset, -inset), CornerRadius - inset / 2,
+                            CornerRadius - inset / 2);
+}
+
+void drawBoxFace(QPainter& painter, const QRectF& area, const BoxFace& face) {
+    const QRectF outer = onPixels(painter, area);
+    const double border = borderWidth(painter);
+    const QColor shade = faceShade(face);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(borderBrush(outer, face.colour, face.sunk));
+    painter.drawRoundedRect(outer, CornerRadius, CornerRadius);
+    painter.setBrush(shade);
+    painter.drawRoundedRect(outer.adjusted(border, border, -border, -border), CornerRadius - border,
+                            CornerRadius - border);
+    if (face.latched)
+        drawRing(painter, outer, readableOn(shade), 0);
+    if (face.focused)
+        drawRing(painter, outer, blended(shade, readableOn(shade), 0.5), 2 * border);
+    painter.restore();
+}
+
+/// Waits until a key that is down comes up, or until the window can no longer see it come up;
+/// says so once, whoever has the focus.
+class KeyHold : public QObject {
+    Q_OBJECT
+
+public:
+    KeyHold(int key, QObject* parent);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+Q_SIGNALS:
+    void ended();
+
+private:
+    int m_key;
+};
+
+bool isReleaseOf(int key, const QEvent& event) {
+    if (event.type() != QEvent::KeyRelease)
+        return false;
+    const auto& released = static_cast<const QKeyEvent&>(event);
+    return released.key() == key && !released.isAutoRepeat();
+}
+
+KeyHold::KeyHold(int key, QObject* parent)
+    : QObject(parent)
+    , m_key(key) {
+    QCoreApplication::instance()->installEventFilter(this);
+}
+
+bool KeyHold::eventFilter(QObject*, QEvent* event) {
+    if (isReleaseOf(m_key, *event) || event->type() == QEvent::WindowDeactivate) {
+        QCoreApplication::instance()->removeEventFilter(this);
+        deleteLater();
+        Q_EMIT ended();
+    }
+    return false;
+}
 
 constexpr int PictureSize = 24;
 
@@ -21,6 +180,30 @@ bool isEnter(const QKeyEvent& event) {
 }
 
 } // namespace
+
+QSize sizeAround(const BoxContents& contents, const QFontMetrics& font) {
+    const QSize picture = pictureSize(contents);
+    const QSize caption = captionSize(contents, font);
+    const int padding = contents.caption.isEmpty() ? PaddingBesidePicture : PaddingBesideCaption;
+    return {picture.width() + gapIn(contents) + caption.width() + 2 * padding,
+            std::max(picture.height(), caption.height()) + 2 * PaddingAbove};
+}
+
+void drawBoxContents(QPainter& painter, const QRectF& area, const BoxContents& contents,
+                     const QColor& colour) {
+    const QSizeF picture = pictureSize(contents);
+    const double captionLeft = picture.width() + gapIn(contents);
+    const double width = captionLeft + captionSize(contents, painter.fontMetrics()).width();
+    QRectF used(0, 0, width, area.height());
+    used.moveCenter(area.center());
+
+    QRectF place(used.topLeft(), picture);
+    place.moveTop(std::round(area.center().y() - picture.height() / 2));
+    drawPicture(painter, place, contents.picture, colour);
+    painter.setPen(colour);
+    painter.drawText(used.adjusted(captionLeft, 0, 0, 0), Qt::AlignCenter | Qt::TextShowMnemonic,
+                     contents.caption);
+}
 
 BoxControl::BoxControl(QWidget* parent)
     : QAbstractButton(parent) {
@@ -217,3 +400,5 @@ BoxContents BoxControl::contents() const {
 }
 
 } // namespace tessaly
+
+#include "box_control.moc"

@@ -1,16 +1,35 @@
 #pragma once
 
-#include "ui/controls/box_contents.h"
+#include "ui/controls/icon_set.h"
 
 #include <QAbstractButton>
 #include <QColor>
+#include <QFontMetrics>
 #include <QKeyEvent>
 #include <QKeySequence>
 #include <QMouseEvent>
+#include <QString>
 
+class QColor;
+class QPainter;
 class QShortcutEvent;
 
 namespace tessaly {
+
+/// What stands on the face of a button: a picture left of a caption, or one of the two alone, in
+/// the middle. Sizes are in logical pixels.
+struct BoxContents {
+    Picture picture = Picture::None;
+    QSize pictureSize;
+    /// With "&" before its mnemonic, if it has one.
+    QString caption;
+};
+
+/// The size of a button whose contents have room enough.
+QSize sizeAround(const BoxContents& contents, const QFontMetrics& font);
+
+void drawBoxContents(QPainter& painter, const QRectF& area, const BoxContents& contents,
+                     const QColor& colour);
 
 /// The button of every command: a captioned or pictured face with a raised border that sinks while
 /// pressed. The left button, Space and Enter click it (clicked(), with pressed() and released()

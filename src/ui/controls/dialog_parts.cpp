@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QDialog>
+#include <QPainter>
 #include <QVBoxLayout>
 
 namespace tessaly {
@@ -34,6 +35,17 @@ FNDialog* makeFilePicker(FileDialogs& fileDialogs, Prompts& prompts, QWidget* pa
     picker->setToolTip(FNDialog::tr("Choose another file"));
     picker->setFixedSize(dialog::ButtonSize.height(), dialog::ButtonSize.height());
     return picker;
+}
+
+QSize ElidedLabel::minimumSizeHint() const {
+    return {0, QLabel::minimumSizeHint().height()};
+}
+
+void ElidedLabel::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::WindowText));
+    const QString shown = fontMetrics().elidedText(text(), Qt::ElideMiddle, width());
+    painter.drawText(rect(), static_cast<int>(alignment()), shown);
 }
 
 } // namespace tessaly

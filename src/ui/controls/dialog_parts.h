@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QLabel>
 #include <QSize>
 #include <QString>
 
@@ -13,8 +14,8 @@ class QWidget;
 namespace tessaly {
 
 class BoxControl;
-class FileDialogs;
 class FNDialog;
+class FileDialogs;
 class Prompts;
 
 /// The measures that the dialogs have in common, in logical pixels.
@@ -39,5 +40,17 @@ QHBoxLayout* makeButtonRow(std::initializer_list<BoxControl*> buttons);
 
 /// The square button `gf1` beside the name of a file, which asks for another one.
 FNDialog* makeFilePicker(FileDialogs& fileDialogs, Prompts& prompts, QWidget* parent);
+
+/// A label that cuts its text in the middle where there is no room for all of it.
+class ElidedLabel : public QLabel {
+    Q_OBJECT
+
+public:
+    using QLabel::QLabel;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
 
 } // namespace tessaly

@@ -3,11 +3,37 @@
 #include "ui/controls/path_text.h"
 
 #include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QStandardPaths>
 
+#include <filesystem>
+
 namespace tessaly {
+
+using namespace Qt::StringLiterals;
+
 namespace {
+
+/// The kind with its patterns behind it, as Qt reads them. Only the kind is shown.
+QString filterOf(const FileQuestion& question) {
+    return question.kind % QStringLiteral(" (") % question.patterns.join(QLatin1Char(' ')) %
+           QStringLiteral(")");
+}
+
+QString ask(const FileQuestion& question, QWidget* owner, QFileDialog::AcceptMode mode) {
+    QFileDialog dialog(owner, question.title, question.folder);
+    dialog.setAcceptMode(mode);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
+    if (!question.patterns.isEmpty())
+        dialog.setNameFilter(filterOf(question));
+    if (dialog.exec() != QDialog::Accepted)
+        return {};
+    return dialog.selectedFiles().value(0);
+}
 
 constexpr int LongestPath = 254;
 
@@ -41,7 +67,21 @@ QStringList patternsIn(const QString& types) {
     return patterns;
 }
 
+bool holdsSomething(const std::string& path) {
+    std::error_code error;
+    const auto size = std::filesystem::file_size(path, error);
+    return !error && size != 0;
+}
+
 } // namespace
+
+QString PlatformFileDialogs::nameToOpen(const FileQuestion& question, QWidget* owner) {
+    return ask(question, owner, QFileDialog::AcceptOpen);
+}
+
+QString PlatformFileDialogs::nameToSave(const FileQuestion& question, QWidget* owner) {
+    return ask(question, owner, QFileDialog::AcceptSave);
+}
 
 FNDialog::FNDialog(FileDialogs& dialogs, Prompts& prompts, QWidget* parent)
     : QWidget(parent)
@@ -94,6 +134,44 @@ QString FNDialog::accepted(const QString& path) {
         return full;
     m_prompts.message(problem.toStdString(), "vbok+vbcritical");
     return {};
+}
+
+PuzzleFileChoice::PuzzleFileChoice(FNDialog& picker, std::string programFolder)
+    : m_picker(picker)
+    , m_programFolder(std::move(programFolder)) {}
+
+std::string PuzzleFileChoice::choose(std::string_view title, const char* mode) {
+    m_picker.setTitle(pathText(title));
+    m_picker.setFileTypes(u"*.txt;*.dat"_s);
+    m_picker.setFileTypesName(u"Tessaly Files"_s);
+    m_picker.setDefaultDir(pathText(m_programFolder));
+    return m_picker.GetFileName(QString::fromLatin1(mode)).toStdString();
+}
+
+std::string PuzzleFileChoice::chooseToOpen(std::string_view title) {
+    return choose(title, "OPEN");
+}
+
+std::string PuzzleFileChoice::chooseToSave(std::string_view title) {
+    return choose(title, "SAVE");
+}
+
+std::string chooseOutputFile(const OutputFileQuestion& question, FNDialog& picker,
+                             Prompts& prompts) {
+    picker.setTitle(question.title);
+    picker.setFileTypes(question.types);
+    picker.setFileTypesName(question.typesName);
+    picker.setDefaultDir(question.folder);
+    QString chosen = picker.GetFileName(QStringLiteral("SAVE"));
+    if (chosen.isEmpty())
+        return {};
+    if (QFileInfo(chosen).suffix().isEmpty())
+        chosen += question.extension;
+    const std::string path = chosen.toStdString();
+    const bool wanted =
+        !holdsSomething(path) ||
+        prompts.message("OverWrite file: " + path + " ?", "vbyesno+vbquestion") == answer::Yes;
+    return wanted ? path : std::string();
 }
 
 } // namespace tessaly

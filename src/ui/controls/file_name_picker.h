@@ -1,12 +1,46 @@
 #pragma once
 
 #include "core/base/prompts.h"
+#include "core/session/file_choice.h"
 #include "ui/controls/box_control.h"
-#include "ui/controls/file_dialogs.h"
 
+#include <QString>
+#include <QStringList>
 #include <QWidget>
 
+#include <string>
+
+class QWidget;
+
 namespace tessaly {
+
+/// What a dialog for a file's name shows.
+struct FileQuestion {
+    QString title;
+    /// Where it opens; ends in a separator.
+    QString folder;
+    /// What kind of files it lists, as shown to the user, and their patterns ("*.txt"). Without
+    /// patterns it lists every file.
+    QString kind;
+    QStringList patterns;
+};
+
+/// Whom a file's name is asked from. Both questions answer the full path, or nothing when the user
+/// thought better of it; neither asks whether the file exists or may be replaced.
+class FileDialogs {
+public:
+    virtual ~FileDialogs() = default;
+
+    virtual QString nameToOpen(const FileQuestion& question, QWidget* owner) = 0;
+    virtual QString nameToSave(const FileQuestion& question, QWidget* owner) = 0;
+};
+
+/// The dialogs of the desktop.
+class PlatformFileDialogs : public FileDialogs {
+public:
+    QString nameToOpen(const FileQuestion& question, QWidget* owner) override;
+    QString nameToSave(const FileQuestion& question, QWidget* owner) override;
+};
 
 /// A small button whose form asks it, when it is clicked, for the name of a file to open or to
 /// save to.
@@ -75,5 +109,36 @@ private:
     QString m_defaultDir;
     QString m_title;
 };
+
+/// Asks for puzzle files with a file-name picker.
+class PuzzleFileChoice : public FileChoice {
+public:
+    /// The picker must outlive the choice; it opens in `programFolder`.
+    PuzzleFileChoice(FNDialog& picker, std::string programFolder);
+
+    std::string chooseToOpen(std::string_view title) override;
+    std::string chooseToSave(std::string_view title) override;
+
+private:
+    std::string choose(std::string_view title, const char* mode);
+
+    FNDialog& m_picker;
+    std::string m_programFolder;
+};
+
+/// Which file something is to be written to.
+struct OutputFileQuestion {
+    QString title;
+    QString types;
+    QString typesName;
+    QString folder;
+    /// Put behind a name that has none; may be empty.
+    QString extension;
+};
+
+/// Asks for a file to write to, and once more when there is something in it already. Empty when the
+/// user thinks better of it.
+std::string chooseOutputFile(const OutputFileQuestion& question, FNDialog& picker,
+                             Prompts& prompts);
 
 } // namespace tessaly

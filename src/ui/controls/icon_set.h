@@ -3,6 +3,7 @@
 #include <QColor>
 #include <QIcon>
 #include <QPixmap>
+#include <QWidget>
 
 class QPainter;
 
@@ -54,5 +55,19 @@ QPixmap pixmapOf(Picture picture, int size, const QColor& colour, double deviceP
 
 /// The program's own icon, in the sizes that window systems ask for.
 QIcon productIcon();
+
+/// Shows one picture, sharp at every device-pixel ratio.
+class PictureView : public QWidget {
+    Q_OBJECT
+
+public:
+    PictureView(Picture picture, int size, QWidget* parent = nullptr);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    Picture m_picture;
+};
 
 } // namespace tessaly

@@ -3,17 +3,30 @@
 #include "core/session/message_style.h"
 #include "ui/controls/box_control.h"
 #include "ui/controls/dialog_parts.h"
-#include "ui/controls/message_text.h"
-#include "ui/controls/picture_view.h"
+#include "ui/controls/icon_set.h"
 #include "ui/controls/scheme_palette.h"
-#include "ui/controls/text_prompt.h"
 
 #include <QAccessible>
+#include <QDialog>
 #include <QGuiApplication>
 #include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScreen>
+#include <QScrollBar>
+#include <QTextDocument>
+#include <QTextEdit>
+
+#include <algorithm>
+
+class QLabel;
+class QLineEdit;
 
 namespace tessaly {
 namespace {
+
+/// About this many letters stand in a line.
+constexpr int LettersInLine = 64;
 
 constexpr int IconSize = 48;
 constexpr int Margin = 28;
@@ -30,7 +43,104 @@ QString textOf(std::string_view utf8) {
     return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
 }
 
+/// Asks for one line of text, in the scheme that is in force.
+class TextPrompt : public QDialog {
+    Q_OBJECT
+
+public:
+    explicit TextPrompt(const Appearance& appearance, QWidget* parent = nullptr);
+
+    /// Shows the question and waits; nothing when the user gives no text.
+    QString ask(const QString& question);
+
+private:
+    QLabel* m_question;
+    QLineEdit* m_line;
+};
+
+using namespace Qt::StringLiterals;
+
+constexpr int PromptMargin = 24;
+constexpr int LineWidth = 320;
+
+TextPrompt::TextPrompt(const Appearance& appearance, QWidget* parent)
+    : QDialog(parent)
+    , m_question(new QLabel(this))
+    , m_line(new QLineEdit(this)) {
+    setObjectName(u"TextPrompt"_s);
+    setWindowTitle(QGuiApplication::applicationDisplayName());
+    setPalette(schemePalette(appearance));
+    m_question->setTextFormat(Qt::PlainText);
+    m_question->setBuddy(m_line);
+    m_line->setObjectName(u"line"_s);
+    m_line->setMinimumSize(LineWidth, dialog::ButtonSize.height());
+    auto* ok = named(u"ok"_s, new BoxControl(u"Ok"_s, this));
+    auto* cancel = named(u"cancel"_s, new BoxControl(u"Cancel"_s, this));
+    connect(ok, &BoxControl::clicked, this, &QDialog::accept);
+    connect(cancel, &BoxControl::clicked, this, &QDialog::reject);
+    connect(m_line, &QLineEdit::returnPressed, this, &QDialog::accept);
+
+    QVBoxLayout* rows = addRows(*this);
+    rows->setContentsMargins(PromptMargin, PromptMargin, PromptMargin, PromptMargin);
+    rows->setSizeConstraint(QLayout::SetFixedSize);
+    rows->addWidget(m_question);
+    rows->addWidget(m_line);
+    rows->addLayout(makeButtonRow({ok, cancel}));
+}
+
+QString TextPrompt::ask(const QString& question) {
+    m_question->setText(question);
+    m_line->setAccessibleName(question);
+    m_line->setFocus();
+    return exec() == Accepted ? m_line->text() : QString();
+}
+
 } // namespace
+
+/// A text of any length, wrapped to a comfortable width: between words where it can, within a
+/// word (a long path) where it must. It can be selected with the pointer and copied. What does
+/// not fit on the screen scrolls.
+class MessageText : public QTextEdit {
+    Q_OBJECT
+
+public:
+    explicit MessageText(QWidget* parent = nullptr);
+
+    /// Shows `text` and takes the size that it needs.
+    void showText(const QString& text);
+};
+
+MessageText::MessageText(QWidget* parent)
+    : QTextEdit(parent) {
+    setReadOnly(true);
+    setTextInteractionFlags(Qt::TextSelectableByMouse);
+    // The keys belong to the buttons.
+    setFocusPolicy(Qt::NoFocus);
+    setFrameShape(QFrame::NoFrame);
+    viewport()->setAutoFillBackground(false);
+    setLineWrapMode(QTextEdit::FixedPixelWidth);
+    setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    document()->setDocumentMargin(0);
+    QFont larger = font();
+    larger.setPointSizeF(larger.pointSizeF() * 1.1);
+    setFont(larger);
+}
+
+void MessageText::showText(const QString& text) {
+    setPlainText(text);
+    ensurePolished();
+    document()->setDefaultFont(font());
+    const int longestLine = fontMetrics().size(Qt::TextExpandTabs, toPlainText()).width() + 1;
+    const int width = std::min(longestLine, LettersInLine * fontMetrics().averageCharWidth());
+    setLineWrapColumnOrWidth(width);
+    const int height = qCeil(document()->size().height());
+    const int highest = screen()->availableGeometry().height() * 3 / 5;
+    const bool scrolls = height > highest;
+    setVerticalScrollBarPolicy(scrolls ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
+    setFixedSize(width + (scrolls ? verticalScrollBar()->sizeHint().width() : 0),
+                 std::min(height, highest));
+}
 
 MsgForm::MsgForm(const Appearance& appearance, QWidget* parent)
     : QDialog(parent)
@@ -118,3 +228,5 @@ std::string MsgForm::ask(std::string_view question) {
 }
 
 } // namespace tessaly
+
+#include "message_box.moc"

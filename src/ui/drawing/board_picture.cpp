@@ -5,7 +5,7 @@
 #include "ui/drawing/board_renderer.h"
 #include "ui/drawing/board_surface.h"
 #include "ui/drawing/hexagon_tag.h"
-#include "ui/drawing/page_text.h"
+#include "ui/drawing/page_painter.h"
 #include "ui/drawing/qt_colour.h"
 
 #include <QPainter>

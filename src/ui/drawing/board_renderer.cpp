@@ -2,8 +2,7 @@
 
 #include "core/board/tables.h"
 #include "core/play/board_geometry.h"
-#include "core/play/entry_layout.h"
-#include "core/play/hatching.h"
+#include "core/play/board_style.h"
 #include "ui/drawing/qt_colour.h"
 
 #include <QPainter>

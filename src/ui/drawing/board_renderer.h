@@ -3,7 +3,6 @@
 #include "core/board/board.h"
 #include "core/options/appearance.h"
 #include "core/play/board_style.h"
-#include "ui/drawing/digit_text.h"
 #include "ui/drawing/numerals.h"
 
 #include <QLineF>

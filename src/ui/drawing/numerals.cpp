@@ -1,10 +1,11 @@
 #include "ui/drawing/numerals.h"
 
 #include "core/play/board_geometry.h"
-#include "core/play/entry_layout.h"
+#include "core/play/board_style.h"
 
 #include <QFont>
 #include <QGuiApplication>
+#include <QPainter>
 #include <QRawFont>
 #include <QTransform>
 
@@ -113,6 +114,27 @@ QPointF Numerals::markPen(int place) const {
     const double left = fitted(-m_mark.column * MarksInARow / 2);
     const double firstBaseline = fitted((m_mark.height - m_rowPitch) / 2);
     return {left + column * m_mark.column, firstBaseline + row * m_rowPitch};
+}
+
+DigitText::DigitText(const DigitFace& face, double size)
+    : m_face(face) {
+    m_run.setRawFont(face.font(size));
+}
+
+void DigitText::add(int digit, QPointF start) {
+    m_indexes << m_face.index(digit);
+    m_starts << start;
+}
+
+void DigitText::draw(QPainter& painter, const QColor& colour) {
+    if (m_indexes.isEmpty())
+        return;
+    m_run.setGlyphIndexes(m_indexes);
+    m_run.setPositions(m_starts);
+    painter.setPen(colour);
+    painter.drawGlyphRun({}, m_run);
+    m_indexes.clear();
+    m_starts.clear();
 }
 
 } // namespace tessaly

@@ -2,13 +2,48 @@
 
 #include "core/base/product.h"
 #include "core/files/file_access.h"
-#include "ui/drawing/sink_device.h"
+#include "ui/drawing/page_painter.h"
 
 #include <QPageLayout>
+#include <QPagedPaintDevice>
+#include <QPainter>
 #include <QPdfWriter>
 
 namespace tessaly {
 namespace {
+
+constexpr double PointsPerInch = 72;
+
+Outcome paintPage(PagePainter& painter, const PrintJob& job, const BookletPage& page,
+                  const PageLayout& layout) {
+    Board board;
+    for (int place = 0; place < page.count; ++place) {
+        const int number = job.firstNumber + page.first + place;
+        if (Outcome read = job.boardOf(number, board); !read.ok())
+            return read;
+        painter.drawBoard(board, number, page.part.solutions, layout.boardArea(place));
+    }
+    return Outcome::done();
+}
+
+PrintResult paintPages(QPagedPaintDevice& device, QPainter& painter, const PrintJob& job,
+                       const Appearance& appearance, const GoOn& goOn) {
+    painter.scale(device.logicalDpiX() / PointsPerInch, device.logicalDpiY() / PointsPerInch);
+    PagePainter pages(painter, appearance);
+    const int pageCount = job.booklet.pageCount();
+    for (int number = 0; number < pageCount; ++number) {
+        if (!goOn(number))
+            return {{}, true};
+        if (number > 0 && !device.newPage())
+            return {Outcome::failed("A new page cannot be begun."), false};
+        const BookletPage page = job.booklet.page(number);
+        const PageLayout layout(paperOf(device), page.part.boardsPerPage);
+        if (Outcome painted = paintPage(pages, job, page, layout); !painted.ok())
+            return {painted, false};
+        pages.drawFooter(layout.footer(), number + 1, pageCount);
+    }
+    return {};
+}
 
 void setUp(QPdfWriter& writer, PaperSize paper, const std::string& title) {
     const QPageSize size(QSizeF(paper.width, paper.height), QPageSize::Point, {},
@@ -20,6 +55,48 @@ void setUp(QPdfWriter& writer, PaperSize paper, const std::string& title) {
 }
 
 } // namespace
+
+SinkDevice::SinkDevice(const ContentSink& sink)
+    : m_sink(sink) {
+    setOpenMode(QIODevice::WriteOnly | QIODevice::Unbuffered);
+}
+
+qint64 SinkDevice::writeData(const char* bytes, qint64 count) {
+    constexpr qsizetype LargePiece = qsizetype{256} * 1024;
+    if (!m_outcome.ok())
+        return -1;
+    m_held.append(bytes, count);
+    if (m_held.size() >= LargePiece)
+        pass();
+    return m_outcome.ok() ? count : -1;
+}
+
+void SinkDevice::pass() {
+    m_outcome = m_sink.write({m_held.constData(), static_cast<std::size_t>(m_held.size())});
+    m_held.clear();
+}
+
+Outcome SinkDevice::finish() {
+    if (m_outcome.ok())
+        pass();
+    return m_outcome;
+}
+
+PaperSize paperOf(const QPagedPaintDevice& device) {
+    const QRectF sheet = device.pageLayout().fullRectPoints();
+    return {sheet.width(), sheet.height()};
+}
+
+PrintResult paintBooklet(QPagedPaintDevice& device, const PrintJob& job,
+                         const Appearance& appearance, const GoOn& goOn) {
+    QPainter painter;
+    if (!painter.begin(&device))
+        return {Outcome::failed("The printer cannot be used."), false};
+    PrintResult result = paintPages(device, painter, job, appearance, goOn);
+    if (!painter.end() && result.isComplete())
+        return {Outcome::failed("The pages cannot be finished."), false};
+    return result;
+}
 
 PrintResult writePdf(const std::filesystem::path& path, PaperSize paper, const PrintJob& job,
                      const Appearance& appearance, const GoOn& goOn) {

@@ -1,11 +1,60 @@
 #pragma once
 
+#include "core/files/content_sink.h"
+#include "core/options/appearance.h"
+#include "core/output/booklet.h"
 #include "core/output/page_layout.h"
-#include "ui/drawing/booklet_printing.h"
+
+#include <QByteArray>
+#include <QIODevice>
 
 #include <filesystem>
+#include <functional>
+
+class QPagedPaintDevice;
 
 namespace tessaly {
+
+/// Passes on to a file what Qt writes. Qt does not look whether that worked: `finish` tells.
+class SinkDevice : public QIODevice {
+public:
+    /// Open for writing from the start. The sink must outlive the device.
+    explicit SinkDevice(const ContentSink& sink);
+
+    bool isSequential() const override { return true; }
+    /// Writes what is still held back; how all writing went.
+    Outcome finish();
+
+protected:
+    qint64 readData(char*, qint64) override { return -1; }
+    qint64 writeData(const char* bytes, qint64 count) override;
+
+private:
+    void pass();
+
+    const ContentSink& m_sink;
+    QByteArray m_held;
+    Outcome m_outcome;
+};
+
+/// Called before each page is painted with its number, from 0; when it answers false the printing
+/// ends.
+using GoOn = std::function<bool(int page)>;
+
+/// How painting ended. When it was stopped nothing is wrong, but not all pages are there.
+struct PrintResult {
+    Outcome outcome;
+    bool stopped = false;
+
+    bool isComplete() const { return outcome.ok() && !stopped; }
+};
+
+/// The whole sheet that a device prints on.
+PaperSize paperOf(const QPagedPaintDevice& device);
+
+/// Paints a booklet onto paper, on the whole sheet.
+PrintResult paintBooklet(QPagedPaintDevice& device, const PrintJob& job,
+                         const Appearance& appearance, const GoOn& goOn);
 
 /// Writes a booklet into a PDF file, with its fonts in it. The file is there, whole, when the
 /// result is complete; otherwise the path holds what it held before.

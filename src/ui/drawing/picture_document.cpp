@@ -2,9 +2,10 @@
 
 #include "core/files/file_access.h"
 #include "core/play/board_geometry.h"
-#include "ui/drawing/picture_file.h"
-#include "ui/drawing/sink_device.h"
+#include "ui/drawing/pdf_file.h"
 
+#include <QBuffer>
+#include <QImage>
 #include <QPageLayout>
 #include <QPainter>
 #include <QPdfWriter>
@@ -50,6 +51,22 @@ Outcome paintPdf(QIODevice& file, const BoardPicture& picture, double scale) {
 }
 
 } // namespace
+
+PictureFormat pictureFormatOf(const std::filesystem::path& path) {
+    const QString extension = QString::fromStdString(path.extension().native());
+    return extension.compare(QLatin1String(".png"), Qt::CaseInsensitive) == 0 ? PictureFormat::Png
+                                                                              : PictureFormat::Bmp;
+}
+
+Outcome writePicture(const std::filesystem::path& path, const QImage& picture,
+                     PictureFormat format) {
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    if (!picture.save(&buffer, format == PictureFormat::Png ? "PNG" : "BMP"))
+        return Outcome::failed(path.native() + ": the picture cannot be made");
+    return replaceFile(path, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
+}
 
 bool isPictureDocument(const std::filesystem::path& path) {
     constexpr std::array Extensions{".png", ".svg", ".pdf"};

@@ -5,7 +5,18 @@
 
 #include <filesystem>
 
+class QImage;
+
 namespace tessaly {
+
+enum class PictureFormat { Bmp, Png };
+
+/// PNG for a name that ends in ".png", in any capitals, else BMP.
+PictureFormat pictureFormatOf(const std::filesystem::path& path);
+
+/// Writes a picture to a file, whole or not at all.
+Outcome writePicture(const std::filesystem::path& path, const QImage& picture,
+                     PictureFormat format);
 
 /// Whether a name ends in ".png", ".svg" or ".pdf", in any capitals.
 bool isPictureDocument(const std::filesystem::path& path);

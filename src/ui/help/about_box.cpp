@@ -3,7 +3,7 @@
 #include "core/base/product.h"
 #include "ui/controls/box_control.h"
 #include "ui/controls/dialog_parts.h"
-#include "ui/controls/picture_view.h"
+#include "ui/controls/icon_set.h"
 #include "ui/controls/scheme_palette.h"
 #include "ui/drawing/qt_colour.h"
 

@@ -3,13 +3,28 @@
 #include "core/options/appearance.h"
 
 #include <QDialog>
+#include <QTextBrowser>
 
 #include <string>
 
 namespace tessaly {
 
 class BoxControl;
-class HelpBrowser;
+
+/// Shows the pages of the manual in the colours of a scheme. Pictures are drawn at twice their
+/// size, so that they are sharp on every screen.
+class HelpBrowser : public QTextBrowser {
+    Q_OBJECT
+
+public:
+    explicit HelpBrowser(QWidget* parent = nullptr);
+
+    void wear(const Appearance& appearance);
+    /// Shows a page from its start. A page that is not there shows a text that says so.
+    void navigate(const QUrl& page);
+
+    QVariant loadResource(int type, const QUrl& name) override;
+};
 
 /// The help window: the manual in a browser. Each time it is shown it takes the colours of the
 /// scheme in force and goes to the page that its tag names; coming back to it from another program

@@ -1,7 +1,7 @@
 #include "ui/output/print_commands.h"
 
 #include "core/session/session.h"
-#include "ui/controls/output_file_choice.h"
+#include "ui/controls/file_name_picker.h"
 #include "ui/drawing/pdf_file.h"
 #include "ui/output/print_progress.h"
 #include "ui/output/printers.h"

@@ -4,8 +4,8 @@
 #include "core/board/puzzle_file.h"
 #include "core/output/page_layout.h"
 #include "core/play/display.h"
-#include "ui/drawing/booklet_printing.h"
-#include "ui/output/print_order.h"
+#include "ui/drawing/pdf_file.h"
+#include "ui/output/print_dialog.h"
 
 class QPrinter;
 class QWidget;

@@ -1,11 +1,14 @@
 #pragma once
 
 #include "core/options/appearance.h"
-#include "ui/output/print_order.h"
+#include "core/output/booklet.h"
 
 #include <QDialog>
+#include <QString>
 
 #include <array>
+#include <optional>
+#include <string>
 
 class QCheckBox;
 class QComboBox;
@@ -16,10 +19,32 @@ class QRadioButton;
 
 namespace tessaly {
 
-class FileDialogs;
 class FNDialog;
+class FileDialogs;
 class Printers;
 class Prompts;
+
+/// What is to be printed, and where.
+struct PrintOrder {
+    PrintRange range;
+    /// The device name; empty for a PDF file.
+    QString printer;
+};
+
+/// What the dialog starts with.
+struct PrintSuggestion {
+    std::string path;
+    int count = 0;
+    /// The printer that the program uses: a device name, empty for a PDF file, or none yet.
+    std::optional<QString> printer;
+};
+
+/// Asks what to print: the dialog, as the command sees it. Nothing when the user cancels.
+class PrintOrderChoice {
+public:
+    virtual ~PrintOrderChoice() = default;
+    virtual std::optional<PrintOrder> choose(const PrintSuggestion& suggestion) = 0;
+};
 
 /// The dialog "Print Puzzles From File". Its property "tag" is "Y" after it was closed in order to
 /// print, else "X".

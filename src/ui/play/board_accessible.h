@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QAccessibleWidget>
-
 #include "core/board/vocabulary.h"
+
+#include <QAccessibleWidget>
 
 #include <array>
 

@@ -1,11 +1,43 @@
 #include "ui/play/board_keys.h"
 
 #include "core/play/board_input.h"
-#include "ui/play/key_codes.h"
 
 #include <QKeyEvent>
 
 namespace tessaly {
+namespace {
+
+/// Ctrl+H is a backspace to a terminal, and Ctrl+1 may come as a digit; neither is one to a player.
+bool isPartOfAShortcut(const QKeyEvent& event) {
+    return (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
+}
+
+} // namespace
+
+int keyCodeOf(const QKeyEvent& event) {
+    if (isPartOfAShortcut(event))
+        return 0;
+    switch (event.key()) {
+    case Qt::Key_Backspace:
+        return 8;
+    case Qt::Key_Escape:
+        return 27;
+    case Qt::Key_Delete:
+        return 46;
+    default:
+        break;
+    }
+    const bool isDigit = event.key() >= Qt::Key_0 && event.key() <= Qt::Key_9;
+    const bool onNumericPad = event.modifiers().testFlag(Qt::KeypadModifier);
+    return isDigit && !onNumericPad ? event.key() - Qt::Key_0 + '0' : 0;
+}
+
+int characterCodeOf(const QKeyEvent& event) {
+    if (isPartOfAShortcut(event))
+        return 0;
+    const QString text = event.text();
+    return text.size() == 1 ? text.front().unicode() : 0;
+}
 
 bool moveSelection(BoardInput& input, const QKeyEvent& event) {
     switch (event.key()) {

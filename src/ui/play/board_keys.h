@@ -6,6 +6,14 @@ namespace tessaly {
 
 class BoardInput;
 
+/// The classic key code of a key, as `BoardInput` takes it: 8, 27, 46 and, for the digits of the
+/// main keyboard, 48..57. 0 for keys that the board has no use for, the numeric pad's among them,
+/// and for keys pressed together with Ctrl, Alt or Meta.
+int keyCodeOf(const QKeyEvent& event);
+
+/// The code of the character that a key gives; 0 for none, or with Ctrl, Alt or Meta.
+int characterCodeOf(const QKeyEvent& event);
+
 /// Moves the selection if that is what the key is for: the arrows, Home and End. Whether it was.
 bool moveSelection(BoardInput& input, const QKeyEvent& event);
 

@@ -1,17 +1,23 @@
 #include "ui/play/board_view.h"
 
+#include "core/play/board_geometry.h"
 #include "ui/drawing/qt_colour.h"
 #include "ui/play/board_accessible.h"
 #include "ui/play/board_keys.h"
+#include "ui/play/palette_panel.h"
 
 #include <QApplication>
 #include <QEvent>
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <algorithm>
 #include <cmath>
 
 namespace tessaly {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using namespace Qt::StringLiterals;
@@ -31,7 +37,35 @@ PointerButton pointerButton(Qt::MouseButton button) {
     }
 }
 
+constexpr int Spacing = 12;
+
+QSize sideBySide(QSize board, QSize palette) {
+    return {board.width() + Spacing + palette.width(), std::max(board.height(), palette.height())};
+}
+
 } // namespace
+
+SelectionMarker::SelectionMarker(QWidget* parent)
+    : QWidget(parent) {
+    setObjectName(u"Shape1"_s);
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    hide();
+}
+
+void SelectionMarker::setColour(const QColor& colour) {
+    m_colour = colour;
+    update();
+}
+
+void SelectionMarker::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const double thickness = std::max(1.5, width() / 14.0);
+    const double inset = thickness / 2;
+    const QRectF frame = QRectF(rect()).adjusted(inset, inset, -inset, -inset);
+    painter.setPen(QPen(m_colour, thickness));
+    painter.drawRoundedRect(frame, frame.width() / 4, frame.width() / 4);
+}
 
 BoardView::BoardView(const Board& board, const Appearance& appearance, QWidget* parent)
     : QWidget(parent)
@@ -246,6 +280,33 @@ void BoardView::keyPressEvent(QKeyEvent* event) {
     m_input->openPopupAtSelection();
     if (m_popup.isVisible())
         m_popup.setFocus();
+}
+
+PlayArea::PlayArea(BoardView* board, PalettePanel* palette, QWidget* parent)
+    : QWidget(parent)
+    , m_board(board)
+    , m_palette(palette) {
+    board->setParent(this);
+    palette->setParent(this);
+    QWidget::setTabOrder(board, palette);
+}
+
+QSize PlayArea::sizeHint() const {
+    return sideBySide(m_board->sizeHint(), m_palette->sizeHint());
+}
+
+QSize PlayArea::minimumSizeHint() const {
+    return sideBySide(m_board->minimumSize(), m_palette->minimumSizeHint());
+}
+
+void PlayArea::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    const int side = PalettePanel::widthForHeight(height());
+    const int widestBoard = static_cast<int>(std::ceil(height() * PictureWidth / PictureHeight));
+    const int boardWidth = std::min(width() - Spacing - side, widestBoard);
+    const int left = (width() - boardWidth - Spacing - side) / 2;
+    m_board->setGeometry(left, 0, boardWidth, height());
+    m_palette->setGeometry(left + boardWidth + Spacing, 0, side, height());
 }
 
 } // namespace tessaly

@@ -6,7 +6,6 @@
 #include "ui/drawing/board_surface.h"
 #include "ui/play/hexagon_tag_widget.h"
 #include "ui/play/number_popup.h"
-#include "ui/play/selection_marker.h"
 
 #include <QWidget>
 
@@ -14,6 +13,23 @@
 #include <optional>
 
 namespace tessaly {
+
+class PalettePanel;
+
+/// The marker around the number of the selected cell (`Shape1`). The pointer goes through it.
+class SelectionMarker : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit SelectionMarker(QWidget* parent);
+    void setColour(const QColor& colour);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QColor m_colour;
+};
 
 /// The board in the window (`Picture2`): shows the board's picture at whatever size it is given,
 /// with the tags, the marker and the pop-up on top, and turns events into calls of `BoardInput`.
@@ -82,6 +98,25 @@ private:
     CellId m_markedCell;
     /// The colour of the solution while it is shown.
     std::optional<Colour> m_solutionColour;
+};
+
+/// The middle of the main window: the board and, close at its right whatever the window's shape,
+/// the palette. Takes both as its children.
+class PlayArea : public QWidget {
+    Q_OBJECT
+
+public:
+    PlayArea(BoardView* board, PalettePanel* palette, QWidget* parent = nullptr);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    BoardView* m_board;
+    PalettePanel* m_palette;
 };
 
 } // namespace tessaly

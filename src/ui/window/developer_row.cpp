@@ -1,7 +1,7 @@
 #include "ui/window/developer_row.h"
 
 #include "ui/controls/box_control.h"
-#include "ui/controls/choice_buttons.h"
+#include "ui/controls/choice_mark.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

@@ -2,7 +2,6 @@
 
 #include "ui/window/main_menu.h"
 #include "ui/window/window_commands.h"
-#include "ui/window/window_display.h"
 
 #include <QMainWindow>
 

@@ -1,12 +1,10 @@
 #include "ui/window/multiple_creation_dialog.h"
 
 #include "ui/controls/box_control.h"
-#include "ui/controls/choice_buttons.h"
+#include "ui/controls/choice_mark.h"
 #include "ui/controls/dialog_parts.h"
-#include "ui/controls/elided_label.h"
 #include "ui/controls/file_name_picker.h"
 #include "ui/controls/path_text.h"
-#include "ui/controls/puzzle_file_choice.h"
 #include "ui/controls/scheme_palette.h"
 
 #include <QGroupBox>

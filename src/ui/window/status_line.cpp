@@ -1,7 +1,7 @@
 #include "ui/window/status_line.h"
 
 #include "ui/controls/box_control.h"
-#include "ui/controls/elided_label.h"
+#include "ui/controls/dialog_parts.h"
 #include "ui/controls/path_text.h"
 
 #include <QAccessible>

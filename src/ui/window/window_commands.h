@@ -1,13 +1,15 @@
 #pragma once
 
 #include "core/play/board_input.h"
+#include "core/play/display.h"
 #include "core/play/play_commands.h"
 #include "core/session/creation_commands.h"
 #include "core/session/developer_commands.h"
 #include "core/session/library_commands.h"
+#include "core/session/library_display.h"
 #include "core/session/maintenance_commands.h"
 #include "core/session/multiple_creation.h"
-#include "ui/controls/puzzle_file_choice.h"
+#include "ui/controls/file_name_picker.h"
 #include "ui/output/export_commands.h"
 #include "ui/output/print_commands.h"
 #include "ui/output/print_dialog.h"
@@ -16,10 +18,60 @@
 
 namespace tessaly {
 
-class FileDialogs;
+class BoardView;
 class FNDialog;
+class FileDialogs;
+class MainMenu;
+class PalettePanel;
 class Printers;
-class WindowDisplay;
+class StatusLine;
+class ToolRow;
+struct Session;
+
+/// The regions of the main window.
+struct WindowRegions {
+    MainMenu& menu;
+    ToolRow& tools;
+    BoardView& board;
+    PalettePanel& palette;
+    StatusLine& status;
+};
+
+/// What the commands show, passed on to the region of the window that shows it.
+class WindowDisplay final : public Display,
+                            public InputDisplay,
+                            public LibraryDisplay,
+                            public RunProgressDisplay {
+public:
+    WindowDisplay(const Session& session, const WindowRegions& regions);
+
+    void DrawHexagon(int hexagon) override;
+    void DrawBoard() override;
+    void DrawSolution(Colour colour) override;
+    void showMessage(std::string_view text) override;
+    void focusBoard() override;
+    void yield() override;
+
+    void showSelection(CellId cell) override;
+    void showPopup(Point corner, bool upwards) override;
+    void hidePopup() override;
+    void showPalette(int pressedItem) override;
+
+    void showPuzzle(const CurrentPuzzle& puzzle) override;
+    void showNoPuzzle() override;
+    void showDifficulty(DifficultyChoice difficulty) override;
+    void showSaveTarget(const std::string& path) override;
+    void showRecentFiles(const RecentFiles& files) override;
+    void showBusy(bool busy) override;
+
+    void beginProgress(const std::string& path) override;
+    void showProgress(const RunProgress& progress) override;
+    void endProgress() override;
+
+private:
+    const Session& m_session;
+    WindowRegions m_regions;
+};
 
 /// What the commands show and ask with.
 struct CommandWindow {

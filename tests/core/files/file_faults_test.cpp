@@ -4,10 +4,9 @@
 #include "core/board/puzzle_file.h"
 #include "core/board/record_lines.h"
 #include "core/files/file_access.h"
-#include "core/files/file_lock.h"
+#include "core/files/file_descriptor.h"
 #include "core/files/locked_file.h"
-#include "core/files/scratch_file.h"
-#include "core/session/shipped_files.h"
+#include "core/session/program_folder.h"
 
 #include "faults/scene.h"
 #include "support/file_calls.h"

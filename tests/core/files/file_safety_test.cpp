@@ -3,7 +3,6 @@
 #include "core/board/puzzle_file.h"
 #include "core/files/file_access.h"
 #include "core/files/locked_file.h"
-#include "core/files/scratch_file.h"
 
 #include "support/child_process.h"
 #include "support/sample_records.h"

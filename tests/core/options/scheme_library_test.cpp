@@ -1,6 +1,5 @@
 #include "core/options/scheme_library.h"
 
-#include "core/options/scheme_record.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,5 @@
 #include "core/options/scheme_builder.h"
 #include "core/options/scheme_library.h"
-#include "core/options/scheme_record.h"
 #include "core/session/options_editor.h"
 #include "support/temporary_folder.h"
 

@@ -1,4 +1,4 @@
-#include "core/output/print_job.h"
+#include "core/output/booklet.h"
 
 #include "core/board/puzzle_file.h"
 #include "support/sample_board.h"

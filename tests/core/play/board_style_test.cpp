@@ -1,7 +1,5 @@
 #include "core/play/board_style.h"
 
-#include "core/play/entry_layout.h"
-
 #include <gtest/gtest.h>
 
 #include <limits>

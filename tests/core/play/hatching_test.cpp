@@ -1,4 +1,4 @@
-#include "core/play/hatching.h"
+#include "core/play/board_style.h"
 
 #include <gtest/gtest.h>
 

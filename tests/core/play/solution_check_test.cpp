@@ -1,4 +1,4 @@
-#include "core/play/solution_check.h"
+#include "core/play/assists.h"
 
 #include "support/sample_puzzles.h"
 

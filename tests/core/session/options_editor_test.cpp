@@ -2,7 +2,7 @@
 
 #include "core/options/print_line.h"
 #include "core/options/scheme_builder.h"
-#include "core/options/scheme_record.h"
+#include "core/options/scheme_library.h"
 #include "support/scripted_prompts.h"
 #include "support/temporary_folder.h"
 

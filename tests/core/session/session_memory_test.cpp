@@ -1,7 +1,6 @@
-#include "core/session/session_memory.h"
-
-#include "core/files/scratch_file.h"
 #include "core/session/configuration.h"
+
+#include "core/files/locked_file.h"
 #include "support/file_calls.h"
 #include "support/temporary_folder.h"
 

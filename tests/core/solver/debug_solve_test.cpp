@@ -1,4 +1,4 @@
-#include "core/solver/debug_solve.h"
+#include "core/session/developer_commands.h"
 
 #include "core/board/tables.h"
 #include "core/solver/deduction.h"

@@ -1,7 +1,6 @@
 #include "core/solver/library_tools.h"
 
 #include "core/solver/deduction.h"
-#include "core/solver/planted_hint.h"
 #include "support/full_disk.h"
 #include "support/sample_puzzles.h"
 #include "support/sample_records.h"

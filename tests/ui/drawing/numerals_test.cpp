@@ -1,7 +1,7 @@
 #include "ui/drawing/numerals.h"
 
 #include "core/play/board_geometry.h"
-#include "core/play/entry_layout.h"
+#include "core/play/board_style.h"
 
 #include <gtest/gtest.h>
 

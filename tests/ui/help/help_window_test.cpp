@@ -4,7 +4,6 @@
 #include "ui/drawing/qt_colour.h"
 #include "ui/game_window.h"
 #include "ui/help/about_box.h"
-#include "ui/help/help_browser.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "core/play/solution_check.h"
+#include "core/play/assists.h"
 #include "manual/drawings.h"
 #include "manual/examples.h"
 #include "ui/game_window.h"

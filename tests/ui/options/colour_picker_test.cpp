@@ -1,7 +1,6 @@
 #include "ui/options/colour_picker.h"
 
 #include "ui/drawing/qt_colour.h"
-#include "ui/options/colour_surface_view.h"
 
 #include <gtest/gtest.h>
 

@@ -5,8 +5,6 @@
 #include "ui/drawing/qt_colour.h"
 #include "ui/game_window.h"
 #include "ui/options/colour_picker.h"
-#include "ui/options/colour_surface_view.h"
-#include "ui/options/option_samples.h"
 
 #include <QAction>
 #include <QApplication>

@@ -2,7 +2,7 @@
 
 #include "ui/controls/box_control.h"
 #include "ui/game_window.h"
-#include "ui/play/key_codes.h"
+#include "ui/play/board_keys.h"
 
 #include <QApplication>
 #include <QLineEdit>
