@@ -18,3 +18,8 @@ target_compile_definitions(
   INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY
             QT_NO_URL_CAST_FROM_STRING QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_NO_KEYWORDS
             QT_USE_QSTRINGBUILDER QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+
+# Headers that nearly every file takes in are read once. For ccache a compiler of GNU's has to leave its mark on them.
+add_compile_options($<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
+set(tessaly_standard_headers <algorithm> <array> <cstdint> <filesystem> <functional> <map> <memory> <optional> <span>
+                             <string> <string_view> <utility> <vector>)

@@ -10,6 +10,10 @@ function(tessaly_add_test_program name)
     ${name} PRIVATE TESSALY_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data"
                     TESSALY_DATA="${PROJECT_SOURCE_DIR}/data")
   target_link_libraries(${name} PRIVATE tessaly_flags ${ARG_LIBRARIES})
+  target_precompile_headers(${name} PRIVATE ${tessaly_standard_headers} <gtest/gtest.h>)
+  if("Qt6::Test" IN_LIST ARG_LIBRARIES)
+    target_precompile_headers(${name} PRIVATE <QtTest> <QtWidgets>)
+  endif()
 endfunction()
 
 # Adds a test program; every test of it becomes one of CTest's.

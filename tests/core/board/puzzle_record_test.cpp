@@ -55,7 +55,7 @@ TEST(PuzzleRecord, ProgressIsWrittenOnlyForSingleNumbersOfThePlayer) {
     board.CellNum[19][6] = "0";
     const std::string record = PuzzleRecord(board);
     ASSERT_EQ(record.size(), RecordLengthWithProgress);
-    EXPECT_EQ(record, withProgress(std::string(BoardCellCount - 1, ' ') + "0"));
+    EXPECT_EQ(record, withProgress(std::string(BoardCellCount - 1, ' ').append("0")));
 }
 
 TEST(PuzzleRecord, ProgressMayBeCutShortAndIgnoresWhatIsNoNumber) {
