@@ -1,5 +1,6 @@
 #include "core/files/locked_file.h"
 
+#include "core/base/fnv_hash.h"
 #include "core/files/file_descriptor.h"
 #include "core/files/line_reader.h"
 
@@ -53,12 +54,10 @@ FileDescriptor openFolder(const std::filesystem::path& folder) {
 constexpr std::string_view ScratchStart = ".tessaly-";
 constexpr std::string_view ScratchEnd = ".tmp";
 
-/// The 64-bit FNV-1a hash (Fowler, Noll and Vo).
 std::uint64_t hashOf(std::string_view text) {
-    std::uint64_t hash = 0xcbf29ce484222325;
-    for (unsigned char c : text)
-        hash = (hash ^ c) * 0x100000001b3;
-    return hash;
+    FnvHash hash;
+    hash.add(text);
+    return hash.value();
 }
 
 enum class Named { Yes, No, Unknown };

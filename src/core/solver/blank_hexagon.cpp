@@ -2,7 +2,7 @@
 
 #include "core/board/digit_set.h"
 #include "core/board/tables.h"
-#include "core/solver/generator.h"
+#include "core/solver/deduction.h"
 #include "core/solver/packed_rules.h"
 
 #include <algorithm>
@@ -13,7 +13,6 @@ namespace tessaly {
 namespace {
 
 constexpr auto NoYield = [] {};
-constexpr auto EveryCell = [](const PackedBoard& board) { return board.everyCellIsSettled(); };
 
 /// Looks for the hint of a hard puzzle whose blank hexagon is chosen.
 class HintSearch {
@@ -22,7 +21,7 @@ public:
         : m_draft(draft)
         , m_blankHex(blankHex)
         , m_stuck(draft.givensWithout(blankHex)) {
-        m_isStuck = !m_stuck.deduceUntil(false, EveryCell);
+        m_isStuck = !m_stuck.deduceEveryCell(false);
     }
 
     bool isStuck() const { return m_isStuck; }
@@ -52,8 +51,8 @@ private:
     }
 
     bool isHint(CellId cell) const {
-        return with(cell).deduceUntil(true, EveryCell) &&
-               !with(cell).deduceUntil(false, EveryCell) && noOtherDigitSucceeds(cell);
+        return with(cell).deduceEveryCell(true) && !with(cell).deduceEveryCell(false) &&
+               noOtherDigitSucceeds(cell);
     }
 
     /// Tries the other candidates in ascending order, as far as it has to: a digit that leaves the
@@ -69,7 +68,7 @@ private:
             const int verdict = verdictOn(cell, digit);
             if (verdict == Unsettled)
                 return digit > solution;
-            if (verdict == Sound)
+            if (verdict == SettledAndSound)
                 return false;
         }
         return true;
@@ -88,9 +87,6 @@ private:
         return rules;
     }
 
-    static constexpr int Sound = 99;
-    static constexpr int Unsettled = 0;
-
     PuzzleDraft& m_draft;
     int m_blankHex;
     /// The givens without the blank hexagon, as far as rules 1 to 3 go.
@@ -99,7 +95,7 @@ private:
 };
 
 bool fallsToBasicRules(const PuzzleDraft& draft) {
-    return PackedRules(draft.givens()).deduceUntil(false, EveryCell);
+    return PackedRules(draft.givens()).deduceEveryCell(false);
 }
 
 /// Whether rules 1 to 3 settle a board without a hexagon's givens when they do with them: they do

@@ -2,12 +2,16 @@
 
 #include "core/board/difficulty.h"
 #include "core/solver/chance.h"
-#include "core/solver/generator.h"
+#include "core/solver/puzzle_draft.h"
 
+#include <array>
 #include <functional>
 #include <optional>
 
 namespace tessaly {
+
+/// The hexagons that may become the blank one.
+inline constexpr std::array<int, 6> BlankHexagonChoices{7, 5, 8, 13, 15, 12};
 
 /// The blank hexagon of a puzzle, and the hint of a hard one (0 in an easy one): a position in the
 /// hexagon across that side of the blank one which faces it, and the number there.

@@ -35,11 +35,15 @@ int SolveByDeduction(Board& board, const Yield& yield = {});
 /// which leaves `counter` at -1, else at 0.
 void SolveBasic(Board& board, bool useXcells, std::int32_t& counter, const Yield& yield = {});
 
-/// The consistency of a finished board: -1 when a cell is empty or a hexagon holds a settled number
-/// twice, 99 when exactly 108 cells are settled and sound, else 0. The hexagon `leftOut` is not
-/// looked at; `NoHexagon` leaves out none.
-int CheckHexagons(const Board& board, int leftOut);
+/// What `CheckHexagons` answers.
+inline constexpr int Contradictory = -1;
+inline constexpr int Unsettled = 0;
 inline constexpr int SettledAndSound = 99;
+
+/// The consistency of a finished board: `Contradictory` when a cell is empty or a hexagon holds a
+/// settled number twice, `SettledAndSound` when exactly 108 cells (18 hexagons) are settled, else
+/// `Unsettled`. The hexagon `leftOut` is not looked at; `NoHexagon` leaves out none.
+int CheckHexagons(const Board& board, int leftOut);
 
 /// How many cells have two or more candidates.
 int countOpenCells(const Board& board);

@@ -1,104 +1,14 @@
 #include "core/solver/generator.h"
 
-#include "core/board/difficulty.h"
 #include "core/board/tables.h"
 #include "core/solver/blank_hexagon.h"
-#include "core/solver/packed_board.h"
 #include "core/solver/packed_rules.h"
+#include "core/solver/puzzle_draft.h"
 
 #include <algorithm>
-#include <functional>
 
 namespace tessaly {
 namespace {
-
-constexpr HexagonWords makeFirstGivens() {
-    HexagonWords given{};
-    for (CellId cell : AllCells)
-        if (!SideLink[cell])
-            given[static_cast<std::size_t>(cell.hexagon)] |= word::maskOf(cell.position);
-    for (const RemovalEntry& entry : RemovalPlan)
-        for (CellId cell : {entry.first, entry.second})
-            if (cell)
-                given[static_cast<std::size_t>(cell.hexagon)] |= word::maskOf(cell.position);
-    return given;
-}
-
-constexpr HexagonWords FirstGivens = makeFirstGivens();
-
-/// What is known of a fresh draft at once.
-enum class Prospect {
-    /// No blank hexagon can make a puzzle of the difficulty, whatever givens are withdrawn.
-    Hopeless,
-    /// The four rules do not settle the board from its givens: none of them can be withdrawn.
-    Unsolvable,
-    Solvable,
-};
-
-Prospect prospectOf(const PuzzleDraft& draft, Difficulty difficulty);
-
-/// Withdraws each entry of the removal plan in turn that the four rules can do without, and in the
-/// end the cells that are never given. `afterEntry` is called after each entry.
-void thinGivens(PuzzleDraft& draft, Prospect prospect,
-                const std::function<void()>& afterEntry = {});
-
-constexpr auto EveryCell = [](const PackedBoard& board) { return board.everyCellIsSettled(); };
-
-/// Whether the number of one more cell beside a choice of blank hexagon would settle the board.
-/// From fewer givens no hint can do what it does not do here.
-bool aHintWouldHelp(const PuzzleDraft& draft, const PackedRules& stuck) {
-    return std::any_of(BlankHexagonChoices.begin(), BlankHexagonChoices.end(), [&](int blankHex) {
-        for (int position = 1; position <= CellCount; ++position) {
-            const CellId hint = SideLink[{blankHex, position}];
-            if (!mayHoldHint(hint) || stuck.board().isSettled(hint))
-                continue;
-            PackedRules trial = stuck;
-            trial.settle(hint, draft.solutionDigit(hint));
-            if (trial.deduceUntil(true, EveryCell))
-                return true;
-        }
-        return false;
-    });
-}
-
-/// Whether the four rules settle the board without the cells of an entry when they do with them:
-/// they do once they have settled those.
-bool canDoWithout(const PuzzleDraft& draft, const RemovalEntry& entry) {
-    return PackedRules(draft.givens()).deduceUntil(true, [&entry](const PackedBoard& board) {
-        return board.isSettled(entry.first) && (!entry.second || board.isSettled(entry.second));
-    });
-}
-
-void tryToWithdraw(PuzzleDraft& draft, const RemovalEntry& entry) {
-    const PuzzleDraft before = draft;
-    draft.withdraw(entry.first);
-    if (entry.second)
-        draft.withdraw(entry.second);
-    if (!canDoWithout(draft, entry))
-        draft = before;
-}
-
-Prospect prospectOf(const PuzzleDraft& draft, Difficulty difficulty) {
-    PackedRules rules(draft.givens());
-    if (rules.deduceUntil(false, EveryCell))
-        return Prospect::Solvable;
-    if (difficulty == Difficulty::Easy)
-        return Prospect::Hopeless;
-    if (rules.deduceUntil(true, EveryCell))
-        return Prospect::Solvable;
-    return aHintWouldHelp(draft, rules) ? Prospect::Unsolvable : Prospect::Hopeless;
-}
-
-void thinGivens(PuzzleDraft& draft, Prospect prospect, const std::function<void()>& afterEntry) {
-    for (const RemovalEntry& entry : RemovalPlan) {
-        if (prospect == Prospect::Solvable)
-            tryToWithdraw(draft, entry);
-        if (afterEntry)
-            afterEntry();
-    }
-    for (CellId cell : NeverGiven)
-        draft.withdraw(cell);
-}
 
 /// Keeps the board that is watched in step with the draft, where anybody watches.
 class Watched {
@@ -150,11 +60,71 @@ HexagonWords findFilling(Chance& chance, const SearchFill& fill, const Watched& 
     }
 }
 
+/// What is known of a fresh draft at once.
+enum class Prospect {
+    /// No blank hexagon can make a puzzle of the difficulty, whatever givens are withdrawn.
+    Hopeless,
+    /// The four rules do not settle the board from its givens: none of them can be withdrawn.
+    Unsolvable,
+    Solvable,
+};
+
+/// Whether the number of one more cell beside a choice of blank hexagon would settle the board.
+/// From fewer givens no hint can do what it does not do here.
+bool aHintWouldHelp(const PuzzleDraft& draft, const PackedRules& stuck) {
+    return std::any_of(BlankHexagonChoices.begin(), BlankHexagonChoices.end(), [&](int blankHex) {
+        for (int position = 1; position <= CellCount; ++position) {
+            const CellId hint = SideLink[{blankHex, position}];
+            if (!mayHoldHint(hint) || stuck.board().isSettled(hint))
+                continue;
+            PackedRules trial = stuck;
+            trial.settle(hint, draft.solutionDigit(hint));
+            if (trial.deduceEveryCell(true))
+                return true;
+        }
+        return false;
+    });
+}
+
+Prospect prospectOf(const PuzzleDraft& draft, Difficulty difficulty) {
+    PackedRules rules(draft.givens());
+    if (rules.deduceEveryCell(false))
+        return Prospect::Solvable;
+    if (difficulty == Difficulty::Easy)
+        return Prospect::Hopeless;
+    if (rules.deduceEveryCell(true))
+        return Prospect::Solvable;
+    return aHintWouldHelp(draft, rules) ? Prospect::Unsolvable : Prospect::Hopeless;
+}
+
+/// Whether the four rules settle the board without the cells of an entry when they do with them:
+/// they do once they have settled those.
+bool canDoWithout(const PuzzleDraft& draft, const RemovalEntry& entry) {
+    return PackedRules(draft.givens()).deduceUntil(true, [&entry](const PackedBoard& board) {
+        return board.isSettled(entry.first) && (!entry.second || board.isSettled(entry.second));
+    });
+}
+
+void tryToWithdraw(PuzzleDraft& draft, const RemovalEntry& entry) {
+    const PuzzleDraft before = draft;
+    draft.withdraw(entry.first);
+    if (entry.second)
+        draft.withdraw(entry.second);
+    if (!canDoWithout(draft, entry))
+        draft = before;
+}
+
+/// Withdraws each entry of the removal plan in turn that the four rules can do without, and in the
+/// end the cells that are never given.
 void thinGivens(PuzzleDraft& draft, Prospect prospect, const Watched& watched) {
-    thinGivens(draft, prospect, [&draft, &watched] {
+    for (const RemovalEntry& entry : RemovalPlan) {
+        if (prospect == Prospect::Solvable)
+            tryToWithdraw(draft, entry);
         watched.yield();
         watched.show(draft.givens());
-    });
+    }
+    for (CellId cell : NeverGiven)
+        draft.withdraw(cell);
 }
 
 std::optional<BlankChoice> chooseBlank(PuzzleDraft& draft, Difficulty difficulty, Chance& chance,
@@ -174,39 +144,6 @@ void writeChoice(const BlankChoice& choice, Difficulty difficulty, Board& board)
 }
 
 } // namespace
-
-PuzzleDraft::PuzzleDraft(const HexagonWords& solution)
-    : m_solution(solution)
-    , m_given(FirstGivens) {}
-
-PuzzleDraft::PuzzleDraft(const Board& board)
-    : m_solution(packEntries(board.SolNum)) {
-    for (CellId cell : AllCells)
-        if (board.FixedCell[cell])
-            give(cell);
-}
-
-HexagonWords PuzzleDraft::givens() const {
-    HexagonWords cells{};
-    for (std::size_t i = 1; i < cells.size(); ++i)
-        cells[i] = m_solution[i] & m_given[i];
-    return cells;
-}
-
-HexagonWords PuzzleDraft::givensWithout(int hexagon) const {
-    HexagonWords cells = givens();
-    cells[index(hexagon)] = 0;
-    return cells;
-}
-
-void PuzzleDraft::writeTo(Board& board) const {
-    board.CellNum = {};
-    board.SolNum = {};
-    unpackChanges({}, givens(), board.CellNum);
-    unpackChanges({}, m_solution, board.SolNum);
-    for (CellId cell : AllCells)
-        board.FixedCell[cell] = isGiven(cell);
-}
 
 Difficulty drawDifficulty(DifficultyChoice choice, Chance& chance) {
     if (choice)

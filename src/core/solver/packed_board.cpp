@@ -71,9 +71,4 @@ bool PackedBoard::everyCellIsSettled() const {
                        [](HexagonWord flags) { return flags == 0; });
 }
 
-bool PackedBoard::hasOpenCell() const {
-    return std::any_of(m_cells.begin() + 1, m_cells.end(),
-                       [](HexagonWord cells) { return word::flagSeveral(cells) != 0; });
-}
-
 } // namespace tessaly

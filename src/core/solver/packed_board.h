@@ -170,22 +170,6 @@ constexpr HexagonWords makeInnerSideFlags() {
     return flags;
 }
 
-constexpr std::array<std::uint32_t, HexagonCount + 1> makeAround() {
-    std::array<std::uint32_t, HexagonCount + 1> around{};
-    for (CellId cell : AllCells)
-        if (SideLink[cell])
-            around[static_cast<std::size_t>(cell.hexagon)] |= 1U << SideLink[cell].hexagon;
-    return around;
-}
-
-constexpr std::array<std::uint32_t, HexagonCount + 1> makeXcellsOf() {
-    std::array<std::uint32_t, HexagonCount + 1> xcellsOf{};
-    for (std::size_t xcell = 1; xcell <= XcellCount; ++xcell)
-        for (CellId cell : XcellTable[xcell])
-            xcellsOf[static_cast<std::size_t>(cell.hexagon)] |= 1U << xcell;
-    return xcellsOf;
-}
-
 /// For each hexagon, something for any set of its cells (bit 0 is cell 1).
 using CellSetTable =
     std::array<std::array<std::uint32_t, std::size_t{1} << CellCount>, HexagonCount + 1>;
@@ -218,6 +202,9 @@ inline constexpr CellSetTable HexagonsAcross = makeHexagonsAcross();
 inline constexpr CellSetTable XcellsTouched = makeXcellsTouched();
 
 } // namespace detail
+
+/// The top bit of each cell of a hexagon (index 1..19) that has a cell across its side.
+inline constexpr HexagonWords InnerSideFlags = detail::makeInnerSideFlags();
 
 /// What has to be looked at again because something changed since it was last looked at: a bit for
 /// each hexagon (or xcell) with its number.
@@ -254,9 +241,6 @@ struct RuleAgendas {
     Agenda singles{Agenda::allUpTo(HexagonCount)};
     Agenda xcells{Agenda::allUpTo(XcellCount)};
 };
-
-/// The top bit of each cell of a hexagon (index 1..19) that has a cell across its side.
-inline constexpr HexagonWords InnerSideFlags = detail::makeInnerSideFlags();
 
 /// The cells of a board as words, with what the rules ask about them again and again kept ready.
 class PackedBoard {
@@ -322,7 +306,6 @@ public:
         return (word::flagSeveral(hexagon(cell.hexagon)) & word::maskOf(cell.position)) != 0;
     }
     bool everyCellIsSettled() const;
-    bool hasOpenCell() const;
 
 private:
     static constexpr std::size_t index(int hexagon) { return static_cast<std::size_t>(hexagon); }

@@ -2,6 +2,7 @@
 
 #include "core/board/digit_set.h"
 #include "core/board/tables.h"
+#include "core/solver/deduction.h"
 
 #include <algorithm>
 #include <bit>
@@ -224,11 +225,11 @@ int CheckHexagons(const PackedBoard& board, int leftOut) {
         const int count = word::countFlags(settled);
         const bool hasEmptyCell = word::flagNonZero(board.hexagon(hexagon)) != word::Flags;
         if (hasEmptyCell || std::popcount(word::unite(board.settled(hexagon))) != count)
-            return -1;
+            return Contradictory;
         settledCount += count;
     }
     constexpr int AllButOneHexagon = BoardCellCount - CellCount;
-    return settledCount == AllButOneHexagon ? 99 : 0;
+    return settledCount == AllButOneHexagon ? SettledAndSound : Unsettled;
 }
 
 } // namespace tessaly

@@ -115,6 +115,12 @@ public:
         }
     }
 
+    /// The same until every cell is settled.
+    bool deduceEveryCell(bool useXcells) {
+        return deduceUntil(useXcells,
+                           [](const PackedBoard& board) { return board.everyCellIsSettled(); });
+    }
+
     const PackedBoard& board() const { return m_board; }
     /// Settles a cell.
     void settle(CellId cell, int digit);
@@ -134,9 +140,7 @@ private:
     const Texts* m_texts;
 };
 
-/// The consistency of a finished board: -1 when a cell is empty or a settled digit stands twice in
-/// a hexagon, 99 when exactly 108 cells (18 hexagons) are settled, else 0. `leftOut` is not looked
-/// at.
+/// The answer of the rules' `CheckHexagons` on packed cells.
 int CheckHexagons(const PackedBoard& board, int leftOut);
 
 } // namespace tessaly

@@ -27,14 +27,12 @@ namespace {
 ///                            16
 ///
 /// Two planes share a word: digits 1, 3, 5 the lower half, digits 2, 4, 6 the upper one.
-namespace planes {
-
 using Word = std::uint64_t;
 
-inline constexpr int HalfBits = 32;
-inline constexpr std::size_t WordsPerCell = 3;
+constexpr int HalfBits = 32;
+constexpr std::size_t WordsPerCell = 3;
 
-constexpr Word twice(Word half) {
+constexpr Word inBothHalves(Word half) {
     return half | (half << HalfBits);
 }
 /// What either half of a word holds, in both.
@@ -45,11 +43,11 @@ constexpr Word bothHalves(Word word) {
     return word & ((word >> HalfBits) | (word << HalfBits));
 }
 
-inline constexpr std::array<int, HexagonCount + 1> BitOf{-1, 12, 7, 18, 2, 13, 24, 8,  19, 3,
-                                                         14, 25, 9, 20, 4, 15, 26, 10, 21, 16};
+constexpr std::array<int, HexagonCount + 1> BitOf{-1, 12, 7, 18, 2, 13, 24, 8,  19, 3,
+                                                  14, 25, 9, 20, 4, 15, 26, 10, 21, 16};
 
 /// How many bits away the hexagon across side k (index 0 is side 1) lies.
-inline constexpr std::array<int, CellCount> Step{-6, -1, 5, 6, 1, -5};
+constexpr std::array<int, CellCount> Step{-6, -1, 5, 6, 1, -5};
 
 constexpr Word shifted(Word word, int by) {
     return by < 0 ? word >> -by : word << by;
@@ -66,18 +64,19 @@ constexpr Word makeEveryHexagon() {
     return bits;
 }
 
-constexpr std::array<Word, CellCount> makeInner() {
+constexpr std::array<Word, CellCount> makeInnerSides() {
     std::array<Word, CellCount> inner{};
     for (CellId cell : AllCells)
         if (SideLink[cell])
-            inner[static_cast<std::size_t>(cell.position - 1)] |= twice(hexagonBit(cell.hexagon));
+            inner[static_cast<std::size_t>(cell.position - 1)] |=
+                inBothHalves(hexagonBit(cell.hexagon));
     return inner;
 }
 
 /// All hexagons, in both halves of a word.
-inline constexpr Word Every = twice(makeEveryHexagon());
+constexpr Word EveryHexagon = inBothHalves(makeEveryHexagon());
 /// For each side the hexagons that have a neighbour across it, in both halves.
-inline constexpr std::array<Word, CellCount> Inner = makeInner();
+constexpr std::array<Word, CellCount> InnerSides = makeInnerSides();
 
 constexpr bool stepsLeadAcrossSides() {
     for (CellId cell : AllCells) {
@@ -91,17 +90,14 @@ constexpr bool stepsLeadAcrossSides() {
 }
 static_assert(stepsLeadAcrossSides());
 
-} // namespace planes
-
-using planes::Word;
-using CellPlanes = std::array<Word, planes::WordsPerCell>;
+using CellPlanes = std::array<Word, WordsPerCell>;
 
 /// The digits that every cell may still hold.
 class Candidates {
 public:
     enum class State { Impossible, Open, Solved };
 
-    Candidates() { m_cells.fill({planes::Every, planes::Every, planes::Every}); }
+    Candidates() { m_cells.fill({EveryHexagon, EveryHexagon, EveryHexagon}); }
 
     /// Leaves a cell only those of its digits that `digits` has.
     void restrict(CellId cell, DigitSet digits) {
@@ -141,7 +137,7 @@ private:
         return static_cast<std::size_t>(digit - 1) / 2;
     }
     static constexpr Word bitOf(int hexagon, int digit) {
-        return planes::hexagonBit(hexagon) << (digit % 2 == 0 ? planes::HalfBits : 0);
+        return hexagonBit(hexagon) << (digit % 2 == 0 ? HalfBits : 0);
     }
     CellPlanes& cellPlanes(CellId cell) {
         return m_cells[static_cast<std::size_t>(cell.position - 1)];
@@ -169,13 +165,13 @@ private:
 void Candidates::matchSides() {
     constexpr std::size_t Half = CellCount / 2;
     for (std::size_t side = 0; side < Half; ++side)
-        for (std::size_t i = 0; i < planes::WordsPerCell; ++i) {
+        for (std::size_t i = 0; i < WordsPerCell; ++i) {
             Word& here = m_cells[side][i];
             Word& there = m_cells[side + Half][i];
-            const Word inner = here & planes::Inner[side];
-            const Word innerThere = there & planes::Inner[side + Half];
-            here &= planes::shifted(innerThere, planes::Step[side + Half]) | ~planes::Inner[side];
-            there &= planes::shifted(inner, planes::Step[side]) | ~planes::Inner[side + Half];
+            const Word inner = here & InnerSides[side];
+            const Word innerThere = there & InnerSides[side + Half];
+            here &= shifted(innerThere, Step[side + Half]) | ~InnerSides[side];
+            there &= shifted(inner, Step[side]) | ~InnerSides[side + Half];
         }
 }
 
@@ -190,13 +186,13 @@ Candidates::State Candidates::settle() {
     CellPlanes seen{};
     CellPlanes again{};
     for (std::size_t cell = 0; cell < CellCount; ++cell)
-        for (std::size_t i = 0; i < planes::WordsPerCell; ++i) {
+        for (std::size_t i = 0; i < WordsPerCell; ++i) {
             Word& word = m_cells[cell][i];
             word &= settled.single[cell] | ~settled.placed[i];
             again[i] |= seen[i] & word;
             seen[i] |= word;
         }
-    if ((seen[0] & seen[1] & seen[2]) != planes::Every)
+    if ((seen[0] & seen[1] & seen[2]) != EveryHexagon)
         return State::Impossible;
     settleLone(again);
     return State::Open;
@@ -205,23 +201,22 @@ Candidates::State Candidates::settle() {
 Candidates::Settled Candidates::findSettled() const {
     Settled settled{};
     Word conflict = 0;
-    Word allSingle = planes::Every;
+    Word allSingle = EveryHexagon;
     for (std::size_t cell = 0; cell < CellCount; ++cell) {
         const auto& [a, b, c] = m_cells[cell];
         const Word any = a | b | c;
         const Word several = (a & b) | ((a | b) & c);
-        conflict |= planes::Every & ~planes::eitherHalf(any);
-        settled.single[cell] =
-            planes::eitherHalf(any) & ~(planes::eitherHalf(several) | planes::bothHalves(any));
+        conflict |= EveryHexagon & ~eitherHalf(any);
+        settled.single[cell] = eitherHalf(any) & ~(eitherHalf(several) | bothHalves(any));
         allSingle &= settled.single[cell];
-        for (std::size_t i = 0; i < planes::WordsPerCell; ++i) {
+        for (std::size_t i = 0; i < WordsPerCell; ++i) {
             const Word placed = m_cells[cell][i] & settled.single[cell];
             conflict |= settled.placed[i] & placed;
             settled.placed[i] |= placed;
         }
     }
     settled.conflict = conflict != 0;
-    settled.all = allSingle == planes::Every;
+    settled.all = allSingle == EveryHexagon;
     return settled;
 }
 
@@ -231,12 +226,12 @@ void Candidates::settleLone(const CellPlanes& again) {
     for (CellPlanes& cell : m_cells) {
         CellPlanes lone;
         Word anyLone = 0;
-        for (std::size_t i = 0; i < planes::WordsPerCell; ++i) {
+        for (std::size_t i = 0; i < WordsPerCell; ++i) {
             lone[i] = cell[i] & ~again[i];
             anyLone |= lone[i];
         }
-        const Word others = ~planes::eitherHalf(anyLone);
-        for (std::size_t i = 0; i < planes::WordsPerCell; ++i)
+        const Word others = ~eitherHalf(anyLone);
+        for (std::size_t i = 0; i < WordsPerCell; ++i)
             cell[i] &= others | lone[i];
     }
 }
