@@ -56,7 +56,7 @@ void openPuzzle(const GameOptions& options, const LastPuzzle& last, LibraryComma
         return;
     }
     library.reopen({}, 1);
-    library.load(std::filesystem::absolute(options.file).lexically_normal().string());
+    library.load(std::filesystem::absolute(options.file).lexically_normal());
     if (options.puzzle > 1)
         library.goTo(options.puzzle);
 }

@@ -21,7 +21,7 @@ int PrintedPrompts::message(std::string_view text, std::string_view) {
     return 0;
 }
 
-Outcome writeScreenshot(QWidget& window, const std::string& path) {
+Outcome writeScreenshot(QWidget& window, const std::filesystem::path& path) {
     QApplication::processEvents();
     return writePicture(path, window.grab().toImage(), PictureFormat::Png);
 }

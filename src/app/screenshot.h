@@ -3,6 +3,7 @@
 #include "core/base/outcome.h"
 #include "core/base/prompts.h"
 
+#include <filesystem>
 #include <iosfwd>
 #include <string>
 
@@ -26,6 +27,6 @@ private:
 };
 
 /// Writes the picture of a window to a PNG file.
-Outcome writeScreenshot(QWidget& window, const std::string& path);
+Outcome writeScreenshot(QWidget& window, const std::filesystem::path& path);
 
 } // namespace tessaly

@@ -32,15 +32,15 @@ PaperSize paperCalled(const std::string& name) {
 /// Whether the file has the puzzles that are asked for.
 Outcome checkRange(const PrintRange& range, int count) {
     const auto missing = [&](int number) {
-        return Outcome::failed(range.path + ": there is no puzzle " + std::to_string(number) +
-                               " among its " + std::to_string(count));
+        return Outcome::failed(range.path.native() + ": there is no puzzle " +
+                               std::to_string(number) + " among its " + std::to_string(count));
     };
     if (range.from > count)
         return missing(range.from);
     if (range.to > count)
         return missing(range.to);
     if (range.from > range.to)
-        return Outcome::failed(range.path + ": puzzle " + std::to_string(range.from) +
+        return Outcome::failed(range.path.native() + ": puzzle " + std::to_string(range.from) +
                                " comes after puzzle " + std::to_string(range.to));
     return Outcome::done();
 }

@@ -23,7 +23,7 @@ std::size_t puzzleHash(std::string_view record) {
 
 } // namespace
 
-RecordOutput::RecordOutput(std::ostream& stream, std::string path)
+RecordOutput::RecordOutput(std::ostream& stream, std::filesystem::path path)
     : m_stream(stream)
     , m_path(std::move(path)) {}
 

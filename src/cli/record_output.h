@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <filesystem>
 #include <iosfwd>
 #include <string>
 #include <string_view>
@@ -17,7 +18,7 @@ namespace tessaly {
 class RecordOutput {
 public:
     /// Without a path, to the stream.
-    RecordOutput(std::ostream& stream, std::string path);
+    RecordOutput(std::ostream& stream, std::filesystem::path path);
 
     /// Learns which puzzles the file holds; there need not be one.
     Outcome open();
@@ -34,7 +35,7 @@ private:
     using Clock = std::chrono::steady_clock;
 
     std::ostream& m_stream;
-    std::string m_path;
+    std::filesystem::path m_path;
     /// A hash for each record. Two different records with one hash are no harm: the second is
     /// passed over like a repeated one.
     std::unordered_set<std::size_t> m_known;

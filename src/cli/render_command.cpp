@@ -16,7 +16,7 @@ namespace {
 
 /// How the game looks in a scheme when nothing else was set.
 Outcome wear(const std::string& scheme, Appearance& appearance) {
-    std::string folder;
+    std::filesystem::path folder;
     if (Outcome found = findProgramFolder(ProgramFolderSources::ofThisProcess(), folder);
         !found.ok())
         return found;

@@ -73,7 +73,7 @@ Outcome readArrangements(std::string_view line, ArrangementTable& table) {
     return Outcome::done();
 }
 
-Outcome Set6Combos(const std::string& path, ArrangementTable& table) {
+Outcome Set6Combos(const std::filesystem::path& path, ArrangementTable& table) {
     constexpr std::size_t Longest = 65536;
     LineReader reader(Longest);
     if (Outcome opened = reader.open(path); !opened.ok())
@@ -82,14 +82,14 @@ Outcome Set6Combos(const std::string& path, ArrangementTable& table) {
     case LineReader::Result::Failed:
         return reader.problem();
     case LineReader::Result::OverLong:
-        return Outcome::failed(path + ": the first line is longer than " + std::to_string(Longest) +
-                               " characters");
+        return Outcome::failed(path.native() + ": the first line is longer than " +
+                               std::to_string(Longest) + " characters");
     case LineReader::Result::Line:
     case LineReader::Result::End:
         break;
     }
     const Outcome read = readArrangements(reader.line(), table);
-    return read.ok() ? read : Outcome::failed(path + ": " + read.problem);
+    return read.ok() ? read : Outcome::failed(path.native() + ": " + read.problem);
 }
 
 } // namespace tessaly

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstddef>
+#include <filesystem>
 #include <string>
 #include <string_view>
 
@@ -33,6 +34,6 @@ struct ArrangementTable {
 Outcome readArrangements(std::string_view line, ArrangementTable& table);
 
 /// Fills the table from the file at `path`. A problem names the file and what is wrong with it.
-Outcome Set6Combos(const std::string& path, ArrangementTable& table);
+Outcome Set6Combos(const std::filesystem::path& path, ArrangementTable& table);
 
 } // namespace tessaly

@@ -5,7 +5,8 @@
 
 namespace tessaly {
 
-Outcome readRecordLines(const std::string& path, const std::function<bool(RecordLine)>& visit) {
+Outcome readRecordLines(const std::filesystem::path& path,
+                        const std::function<bool(RecordLine)>& visit) {
     LineReader reader(2 * RecordLengthWithProgress);
     if (Outcome opened = reader.open(path); !opened.ok())
         return opened;
@@ -29,8 +30,8 @@ Outcome readRecordLines(const std::string& path, const std::function<bool(Record
     }
 }
 
-std::string lineProblem(const std::string& path, int number, std::string_view problem) {
-    return path + ": line " + std::to_string(number) + ": " + std::string(problem);
+std::string lineProblem(const std::filesystem::path& path, int number, std::string_view problem) {
+    return path.native() + ": line " + std::to_string(number) + ": " + std::string(problem);
 }
 
 } // namespace tessaly

@@ -2,6 +2,7 @@
 
 #include "core/base/outcome.h"
 
+#include <filesystem>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -19,10 +20,11 @@ struct RecordLine {
 
 /// Goes through the records of a puzzle file until `visit` answers false. Blank lines at the end of
 /// the file are no records.
-Outcome readRecordLines(const std::string& path, const std::function<bool(RecordLine)>& visit);
+Outcome readRecordLines(const std::filesystem::path& path,
+                        const std::function<bool(RecordLine)>& visit);
 
 /// "FILE: line N: what is wrong".
-std::string lineProblem(const std::string& path, int number, std::string_view problem);
+std::string lineProblem(const std::filesystem::path& path, int number, std::string_view problem);
 
 inline constexpr std::string_view OverLongProblem = "the line is longer than any record";
 

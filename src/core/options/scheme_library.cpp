@@ -193,12 +193,12 @@ std::optional<Colour> parseColourLine(std::string_view line) {
     return RGB(channels[0], channels[1], channels[2]);
 }
 
-SchemeLibrary::SchemeLibrary(std::string programFolder)
+SchemeLibrary::SchemeLibrary(std::filesystem::path programFolder)
     : m_folder(std::move(programFolder)) {}
 
 Outcome SchemeLibrary::RefreshSchemeList() {
     std::string content;
-    if (Outcome read = readSmallFile(m_folder + SchemeLibraryFile, SizeLimit, content); !read.ok())
+    if (Outcome read = readSmallFile(m_folder / SchemeLibraryFile, SizeLimit, content); !read.ok())
         return read;
     m_names = listNames(content);
     return Outcome::done();
@@ -212,7 +212,7 @@ Outcome SchemeLibrary::LoadScheme(const std::string& file, Appearance& appearanc
         colours[slot::Menu] = Black;
         return Outcome::done();
     }
-    const std::string path = m_folder + SchemeLibraryFile;
+    const std::filesystem::path path = m_folder / SchemeLibraryFile;
     std::string content;
     if (Outcome read = readSmallFile(path, SizeLimit, content); !read.ok())
         return read;
@@ -225,7 +225,7 @@ Outcome SchemeLibrary::LoadScheme(const std::string& file, Appearance& appearanc
     }
     const auto at = static_cast<std::size_t>(header - lines.begin());
     const Outcome read = readColours(lines, at, colours);
-    return read.ok() ? read : Outcome::failed(path + ": " + read.problem);
+    return read.ok() ? read : Outcome::failed(path.native() + ": " + read.problem);
 }
 
 Outcome SchemeLibrary::AddScheme(const std::string& name, const SchemeColours& colours) {
@@ -257,15 +257,15 @@ Outcome SchemeLibrary::DeleteScheme(const std::string& entry) {
 Outcome SchemeLibrary::rewriteRecords(const std::string& header, const std::string& replacement) {
     const Outcome rewritten = rewrite([&](std::string& content) {
         content = withRecordsReplaced(content, header, replacement);
-        return replaceFile(m_folder + ScratchCopy, content);
+        return replaceFile(m_folder / ScratchCopy, content);
     });
     return reported(rewritten, scheme_messages::updatingFailed);
 }
 
 Outcome SchemeLibrary::rewrite(const std::function<Outcome(std::string& content)>& change) {
-    const std::string library = m_folder + SchemeLibraryFile;
+    const std::filesystem::path library = m_folder / SchemeLibraryFile;
     if (!FileExists(library))
-        return Outcome::failed(library + ": does not exist");
+        return Outcome::failed(library.native() + ": does not exist");
     std::vector<std::string> names;
     const auto changeAndList = [&](std::string& content) {
         Outcome changed = change(content);

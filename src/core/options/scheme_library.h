@@ -3,6 +3,7 @@
 #include "core/base/outcome.h"
 #include "core/options/appearance.h"
 
+#include <filesystem>
 #include <functional>
 #include <optional>
 #include <string>
@@ -92,8 +93,7 @@ inline std::string updatingFailed(const std::string& why) {
 /// not touch. When one fails, nothing is changed and its `Outcome` is the text for the user.
 class SchemeLibrary {
 public:
-    /// `programFolder` ends in "/".
-    explicit SchemeLibrary(std::string programFolder);
+    explicit SchemeLibrary(std::filesystem::path programFolder);
 
     /// The listed names, without ".col", in the file's order, as of the last refresh or change.
     const std::vector<std::string>& names() const { return m_names; }
@@ -118,7 +118,7 @@ private:
     Outcome rewriteRecords(const std::string& header, const std::string& replacement);
     Outcome rewrite(const std::function<Outcome(std::string& content)>& change);
 
-    std::string m_folder;
+    std::filesystem::path m_folder;
     std::vector<std::string> m_names;
 };
 

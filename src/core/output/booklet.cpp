@@ -37,7 +37,7 @@ PrintJob jobOf(const PrintRange& range, PuzzleFiles& files) {
         board.ResetToGivens();
         return read.ok() ? Outcome::done() : Outcome::failed(read.reason);
     };
-    const std::string name = range.path.substr(range.path.find_last_of('/') + 1);
+    const std::string name = range.path.filename().native();
     return {Booklet(range.to - range.from + 1, parts), range.from, boardOf,
             name + ", " + std::to_string(range.from) + " to " + std::to_string(range.to)};
 }

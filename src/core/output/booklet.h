@@ -4,6 +4,7 @@
 #include "core/board/board.h"
 
 #include <array>
+#include <filesystem>
 #include <functional>
 #include <string>
 #include <utility>
@@ -67,7 +68,7 @@ struct PrintJob {
 struct PrintRange {
     static constexpr int UsualPuzzlesPerPage = 4;
 
-    std::string path;
+    std::filesystem::path path;
     int from = 1;
     int to = 1;
     int puzzlesPerPage = UsualPuzzlesPerPage;

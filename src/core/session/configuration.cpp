@@ -86,7 +86,7 @@ Configuration readLines(const std::vector<TextLine>& lines) {
     read.PuzPath = lineAt(3);
     for (std::size_t i = 4; i < lines.size(); ++i)
         if (!isBlank(lines[i].text))
-            read.recentFiles.append(std::string(lines[i].text));
+            read.recentFiles.append(lines[i].text);
     return read;
 }
 
@@ -118,31 +118,31 @@ void addLine(std::string_view line, std::string& content) {
     content.append(LineEnd);
 }
 
-std::string configurationPath(const Session& session) {
-    return session.ProgramFolder + ConfigurationFile;
+std::filesystem::path configurationPath(const Session& session) {
+    return session.ProgramFolder / ConfigurationFile;
 }
 
 /// The schemes must be listed before anything can be coloured by them.
-Outcome checkSchemes(const std::string& folder) {
-    const std::string path = folder + SchemeLibraryFile;
+Outcome checkSchemes(const std::filesystem::path& folder) {
+    const std::filesystem::path path = folder / SchemeLibraryFile;
     SchemeLibrary schemes(folder);
     if (Outcome read = schemes.RefreshSchemeList(); !read.ok())
         return read;
     if (schemes.names().empty())
-        return Outcome::failed(path + ": there is no colour scheme in it");
+        return Outcome::failed(path.native() + ": there is no colour scheme in it");
     return Outcome::done();
 }
 
 /// The files that the game cannot run without.
 Outcome loadRequiredFiles(Session& session) {
-    if (!FileExists(session.ProgramFolder + SchemeLibraryFile))
+    if (!FileExists(session.ProgramFolder / SchemeLibraryFile))
         return Outcome::failed("File: all.col is missing\r\nProgram cannot run without this file");
     if (Outcome checked = checkSchemes(session.ProgramFolder); !checked.ok())
         return checked;
-    return Set6Combos(session.ProgramFolder + ArrangementFile, session.arrangements);
+    return Set6Combos(session.ProgramFolder / ArrangementFile, session.arrangements);
 }
 
-bool hasScheme(const std::string& folder, const std::string& scheme) {
+bool hasScheme(const std::filesystem::path& folder, const std::string& scheme) {
     Appearance tried;
     return SchemeLibrary(folder).LoadScheme(scheme, tried).ok();
 }
@@ -189,7 +189,7 @@ void Configuration::applyTo(Appearance& appearance) const {
         FixedNumberColour.value_or(readableOn(appearance.HexaFillColour));
 }
 
-Configuration ReadcfgFile(const std::string& path) {
+Configuration ReadcfgFile(const std::filesystem::path& path) {
     constexpr std::size_t Limit = std::size_t{1} << 20;
     std::string content;
     // Nobody is waiting for an answer here: what cannot be read counts as not there.
@@ -198,14 +198,14 @@ Configuration ReadcfgFile(const std::string& path) {
     return readLines(splitLines(content));
 }
 
-Outcome SavecfgFile(const std::string& path, const Configuration& configuration) {
+Outcome SavecfgFile(const std::filesystem::path& path, const Configuration& configuration) {
     std::string content;
     addLine(numberLine(configuration), content);
     addLine(configuration.ActiveScheme, content);
     addLine(configuration.NumberFont, content);
-    addLine(configuration.PuzPath, content);
-    for (const std::string& file : configuration.recentFiles.paths())
-        addLine(file, content);
+    addLine(configuration.PuzPath.native(), content);
+    for (const std::filesystem::path& file : configuration.recentFiles.paths())
+        addLine(file.native(), content);
     return replaceFile(path, content);
 }
 
@@ -215,11 +215,11 @@ LoadedSession loadSession(Session& session, const std::string& firstScheme) {
     loaded.outcome = loadRequiredFiles(session);
     if (!loaded.outcome.ok())
         return loaded;
-    const std::string path = configurationPath(session);
+    const std::filesystem::path path = configurationPath(session);
     Configuration configuration = ReadcfgFile(path);
     session.last = {configuration.PuzPath, configuration.PuzNum};
     if (!FileExists(path)) {
-        session.last.path = session.ProgramFolder + EasyLibraryFile;
+        session.last.path = session.ProgramFolder / EasyLibraryFile;
         if (hasScheme(session.ProgramFolder, firstScheme))
             configuration.ActiveScheme = firstScheme;
     }

@@ -5,6 +5,7 @@
 #include "core/session/recent_files.h"
 #include "core/session/session.h"
 
+#include <filesystem>
 #include <optional>
 #include <string>
 
@@ -29,7 +30,7 @@ struct Configuration {
     std::string ActiveScheme = DefaultScheme;
     std::string NumberFont = DefaultNumberFont;
     /// The full path of the last puzzle file; may be empty.
-    std::string PuzPath;
+    std::filesystem::path PuzPath;
     RecentFiles recentFiles;
 
     /// Takes the settings over from `appearance`.
@@ -50,10 +51,10 @@ struct Configuration {
 /// `HexaBorderWidth`, `FixedNumberColour`, `UserNumberColour`, `HexaBorderColour`, `SplitHexas`,
 /// `HexaFillColour`, `NumBorder`, a colour that was never chosen being empty; (2) the scheme;
 /// (3) the font; (4) the last puzzle file; (5) and on, the recent files.
-Configuration ReadcfgFile(const std::string& path);
+Configuration ReadcfgFile(const std::filesystem::path& path);
 
 /// Writes the file anew: whole, or not at all.
-Outcome SavecfgFile(const std::string& path, const Configuration& configuration);
+Outcome SavecfgFile(const std::filesystem::path& path, const Configuration& configuration);
 
 /// What start-up found besides what went into the session.
 struct LoadedSession {

@@ -64,9 +64,9 @@ void CreationCommands::create(Difficulty difficulty) {
 }
 
 void CreationCommands::appendAndShow() {
-    const std::string path = m_session.puzzle.PuzPath.empty()
-                                 ? m_session.ProgramFolder + std::string(TemporaryPuzzleFile)
-                                 : m_session.puzzle.PuzPath;
+    const std::filesystem::path path = m_session.puzzle.PuzPath.empty()
+                                           ? m_session.ProgramFolder / TemporaryPuzzleFile
+                                           : m_session.puzzle.PuzPath;
     int number = 0;
     const Outcome saved =
         m_session.files.appendPuzzle(path, PuzzleRecord(m_session.game.board), number);

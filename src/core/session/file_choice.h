@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <string>
 #include <string_view>
 
@@ -11,8 +12,8 @@ public:
     virtual ~FileChoice() = default;
 
     /// The full path of the chosen file; empty when none was chosen.
-    virtual std::string chooseToOpen(std::string_view title) = 0;
-    virtual std::string chooseToSave(std::string_view title) = 0;
+    virtual std::filesystem::path chooseToOpen(std::string_view title) = 0;
+    virtual std::filesystem::path chooseToSave(std::string_view title) = 0;
 };
 
 } // namespace tessaly

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <iosfwd>
 #include <optional>
 #include <string>
@@ -13,12 +14,12 @@ namespace tessaly {
 /// What the game is asked for on its command line. Empty texts were not given.
 struct GameOptions {
     /// The puzzle file to open in the place of the remembered one.
-    std::string file;
+    std::filesystem::path file;
     /// The number of the puzzle in the file, from 1; 0 was not given.
     int puzzle = 0;
-    std::string folder;
+    std::filesystem::path folder;
     /// Where to write the picture of the window as it first appears, and end.
-    std::string screenshot;
+    std::filesystem::path screenshot;
     bool developer = false;
 };
 

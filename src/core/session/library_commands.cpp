@@ -52,7 +52,7 @@ void LibraryCommands::tellCritical(const std::string& text) {
     m_prompts.message(text, Critical);
 }
 
-PuzzleRead LibraryCommands::ReadPuzzle(const std::string& path, int number) {
+PuzzleRead LibraryCommands::ReadPuzzle(const std::filesystem::path& path, int number) {
     const WhileAtWork atWork(m_session, m_libraryDisplay);
     PuzzleRead read = m_session.files.ReadPuzzle(path, number, m_session.game.board);
     if (!read.ok()) {
@@ -70,16 +70,16 @@ PuzzleRead LibraryCommands::ReadPuzzle(const std::string& path, int number) {
 void LibraryCommands::mnuload() {
     if (m_session.busy.refuses(m_prompts))
         return;
-    const std::string path = m_fileChoice.chooseToOpen("Select a Puzzle file to open");
+    const std::filesystem::path path = m_fileChoice.chooseToOpen("Select a Puzzle file to open");
     if (!path.empty())
         load(path);
 }
 
-void LibraryCommands::load(const std::string& path, int number) {
+void LibraryCommands::load(const std::filesystem::path& path, int number) {
     if (m_session.busy.refuses(m_prompts))
         return;
     if (!ReadPuzzle(path, number).ok()) {
-        m_prompts.message("Error reading file:\r\n" + path, FileProblem);
+        m_prompts.message("Error reading file:\r\n" + path.native(), FileProblem);
         return;
     }
     setSaveTarget(path);
@@ -109,8 +109,8 @@ void LibraryCommands::cmdarrow(int item) {
     step(std::max(item == 0 ? previous : next, 1));
 }
 
-std::string LibraryCommands::temporaryFile() const {
-    return m_session.ProgramFolder + std::string(TemporaryPuzzleFile);
+std::filesystem::path LibraryCommands::temporaryFile() const {
+    return m_session.ProgramFolder / TemporaryPuzzleFile;
 }
 
 int LibraryCommands::recount() {
@@ -127,12 +127,12 @@ void LibraryCommands::goTo(int number) {
         step(number);
 }
 
-void LibraryCommands::setSaveTarget(const std::string& path) {
+void LibraryCommands::setSaveTarget(const std::filesystem::path& path) {
     m_session.saveTarget = path;
     m_libraryDisplay.showSaveTarget(path);
 }
 
-Outcome LibraryCommands::appendAndShow(const std::string& path, int& number) {
+Outcome LibraryCommands::appendAndShow(const std::filesystem::path& path, int& number) {
     const WhileAtWork atWork(m_session, m_libraryDisplay);
     const std::string record = PuzzleRecord(m_session.game.board);
     if (Outcome saved = m_session.files.appendPuzzle(path, record, number); !saved.ok())
@@ -140,20 +140,21 @@ Outcome LibraryCommands::appendAndShow(const std::string& path, int& number) {
     return {ReadPuzzle(path, number).reason};
 }
 
-bool LibraryCommands::appendTo(const std::string& path) {
+bool LibraryCommands::appendTo(const std::filesystem::path& path) {
     int number = 0;
     if (const Outcome saved = appendAndShow(path, number); !saved.ok()) {
         tellCritical(saved.problem);
         return false;
     }
-    m_prompts.message("Puzzle#" + std::to_string(number) + " added to file " + path, Information);
+    m_prompts.message("Puzzle#" + std::to_string(number) + " added to file " + path.native(),
+                      Information);
     return true;
 }
 
 void LibraryCommands::mnusavex() {
     if (m_session.busy.refuses(m_prompts) || !m_session.game.hasPuzzle())
         return;
-    const std::string path = m_fileChoice.chooseToSave("Select an output Puzzle file");
+    const std::filesystem::path path = m_fileChoice.chooseToSave("Select an output Puzzle file");
     if (path.empty())
         return;
     if (appendTo(path))
@@ -193,21 +194,22 @@ Outcome LibraryCommands::remove(const CurrentPuzzle& puzzle) {
 void LibraryCommands::oldfiles_Click(int item) {
     if (m_session.busy.refuses(m_prompts, "Cancel Puzzle Creation first"))
         return;
-    const std::string path = m_session.recentFiles.paths().at(static_cast<std::size_t>(item));
+    const std::filesystem::path path =
+        m_session.recentFiles.paths().at(static_cast<std::size_t>(item));
     if (!FileExists(path)) {
-        m_prompts.message("File not found:\r\n" + path, FileProblem);
+        m_prompts.message("File not found:\r\n" + path.native(), FileProblem);
         return;
     }
     if (const PuzzleRead read = ReadPuzzle(path, 1); read.ok())
         setSaveTarget(path);
     else
-        m_prompts.message("Error reading file:\r\n" + path, FileProblem);
+        m_prompts.message("Error reading file:\r\n" + path.native(), FileProblem);
 }
 
-void LibraryCommands::reopen(const std::string& path, int number) {
+void LibraryCommands::reopen(const std::filesystem::path& path, int number) {
     int count = 0;
     m_libraryDisplay.showRecentFiles(m_session.recentFiles);
-    if (trimmed(path).empty() || path == temporaryFile() || !FileExists(path) ||
+    if (trimmed(path.native()).empty() || path == temporaryFile() || !FileExists(path) ||
         !m_session.files.CountLines(path, count).ok()) {
         showEmptyBoard();
         return;

@@ -6,6 +6,8 @@
 #include "core/session/library_display.h"
 #include "core/session/session.h"
 
+#include <filesystem>
+
 namespace tessaly {
 
 /// The commands that move through puzzle files and change them, by the names of the controls that
@@ -19,7 +21,7 @@ public:
     /// Lets the user choose a puzzle file and shows its first puzzle.
     void mnuload();
     /// Shows a puzzle of a file and remembers the file as a recent one.
-    void load(const std::string& path, int number = 1);
+    void load(const std::filesystem::path& path, int number = 1);
     /// Steps to the previous (item 0) or the next puzzle (item 1), around the ends of the file.
     void cmdarrow(int item);
     /// Shows a puzzle by its number; a number that the file does not have is ignored.
@@ -35,11 +37,11 @@ public:
 
     /// Shows the puzzle that was shown when the program ended last, or the empty board, and the
     /// recent files.
-    void reopen(const std::string& path, int number);
+    void reopen(const std::filesystem::path& path, int number);
 
     /// Reads a puzzle onto the board and shows it. When that fails the board stays as it was and
     /// the message line says so.
-    PuzzleRead ReadPuzzle(const std::string& path, int number);
+    PuzzleRead ReadPuzzle(const std::filesystem::path& path, int number);
 
 private:
     void showEmptyBoard();
@@ -47,11 +49,11 @@ private:
     void step(int number);
     /// How many puzzles the current file holds now; as many as before when it cannot be read.
     int recount();
-    std::string temporaryFile() const;
-    Outcome appendAndShow(const std::string& path, int& number);
-    bool appendTo(const std::string& path);
+    std::filesystem::path temporaryFile() const;
+    Outcome appendAndShow(const std::filesystem::path& path, int& number);
+    bool appendTo(const std::filesystem::path& path);
     Outcome remove(const CurrentPuzzle& puzzle);
-    void setSaveTarget(const std::string& path);
+    void setSaveTarget(const std::filesystem::path& path);
     void tellCritical(const std::string& text);
 
     Session& m_session;

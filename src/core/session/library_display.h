@@ -3,6 +3,7 @@
 #include "core/board/difficulty.h"
 #include "core/session/recent_files.h"
 
+#include <filesystem>
 #include <string>
 
 namespace tessaly {
@@ -10,7 +11,7 @@ namespace tessaly {
 /// Which puzzle of which file is on the board.
 struct CurrentPuzzle {
     /// The puzzle file; empty when there is none.
-    std::string PuzPath;
+    std::filesystem::path PuzPath;
     /// The puzzle shown, from 1; 0 when none is.
     int PuzNum = 0;
     /// The records in the file.
@@ -31,7 +32,7 @@ public:
     /// What the difficulty label shows.
     virtual void showDifficulty(DifficultyChoice difficulty) = 0;
     /// The file that "Save to" offers; empty for none.
-    virtual void showSaveTarget(const std::string& path) = 0;
+    virtual void showSaveTarget(const std::filesystem::path& path) = 0;
     virtual void showRecentFiles(const RecentFiles& files) = 0;
     /// Shows or ends the busy pointer.
     virtual void showBusy(bool busy) = 0;

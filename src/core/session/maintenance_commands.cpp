@@ -50,9 +50,7 @@ void MaintenanceCommands::Randomize() {
 bool MaintenanceCommands::run(std::string_view input, std::string_view output, const Tool& tool) {
     if (m_session.busy.refuses(m_window.prompts))
         return false;
-    const auto inFolder = [this](std::string_view name) {
-        return m_session.ProgramFolder + std::string(name);
-    };
+    const auto inFolder = [this](std::string_view name) { return m_session.ProgramFolder / name; };
     Outcome outcome;
     {
         const WhileSet running(m_session.busy.commandRunning);

@@ -42,7 +42,7 @@ void MultipleCreation::run() {
 }
 
 bool MultipleCreation::confirmed(const CreationOrder& order) {
-    const std::string question = "Create Multiple Puzzles:\r\nOutput File: " + order.path +
+    const std::string question = "Create Multiple Puzzles:\r\nOutput File: " + order.path.native() +
                                  "\r\nDifficulty Level: " + std::string(nameOf(order.difficulty)) +
                                  "\r\nNumber of Puzzles:" + std::to_string(order.count) +
                                  "\r\n\r\nCreating Multiple Puzzle will take time...\r\nProceed?";
@@ -81,7 +81,7 @@ Outcome MultipleCreation::createAll(const CreationOrder& order, int& made) {
 }
 
 /// Appends to the file on a thread of its own: a disk may take its time.
-Outcome MultipleCreation::append(const std::string& path, const std::string& records) {
+Outcome MultipleCreation::append(const std::filesystem::path& path, const std::string& records) {
     auto writing = std::async([&] { return appendLines(path, records); });
     while (writing.wait_for(Turn) == std::future_status::timeout)
         m_window.display.yield();
@@ -136,7 +136,7 @@ void MultipleCreation::report(const CreationOrder& order, int made, const Outcom
     m_window.display.showMessage(count + " Puzles Created");
     if (!outcome.ok())
         m_window.prompts.message(outcome.problem, "vbok+vbcritical");
-    m_window.prompts.message(count + " Puzzles added to file:\r\n" + order.path,
+    m_window.prompts.message(count + " Puzzles added to file:\r\n" + order.path.native(),
                              "vbinformation+vbok");
 }
 

@@ -5,6 +5,7 @@
 #include "core/solver/chance.h"
 #include "core/solver/search_fill.h"
 
+#include <filesystem>
 #include <functional>
 #include <optional>
 #include <string>
@@ -15,7 +16,7 @@ namespace tessaly {
 /// What a long creation was asked for.
 struct CreationOrder {
     /// The puzzle file that the new puzzles are appended to.
-    std::string path;
+    std::filesystem::path path;
     DifficultyChoice difficulty;
     int count = 0;
 };
@@ -54,7 +55,7 @@ private:
     /// Creates until all are made, the file cannot be written, or the run is stopped; `made` counts
     /// those that are on the disk.
     Outcome createAll(const CreationOrder& order, int& made);
-    Outcome append(const std::string& path, const std::string& records);
+    Outcome append(const std::filesystem::path& path, const std::string& records);
     /// The records of a short while, counted in `made`.
     std::string createSome(const CreationOrder& order, int& made);
     /// A record that was not made in this run before.

@@ -32,7 +32,8 @@ Colour neutralOn(Colour background) {
     return readableOn(background);
 }
 
-OptionsEditor::OptionsEditor(Appearance& settings, std::string programFolder, Prompts& prompts)
+OptionsEditor::OptionsEditor(Appearance& settings, std::filesystem::path programFolder,
+                             Prompts& prompts)
     : m_settings(settings)
     , m_library(std::move(programFolder))
     , m_prompts(prompts)

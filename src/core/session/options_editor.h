@@ -4,6 +4,7 @@
 #include "core/options/appearance.h"
 #include "core/options/scheme_library.h"
 
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -21,7 +22,7 @@ public:
     enum ColourButton { FixedNumber, HexaFill, HexaBorder, UserNumber };
 
     /// `settings` and `prompts` must outlive the editor.
-    OptionsEditor(Appearance& settings, std::string programFolder, Prompts& prompts);
+    OptionsEditor(Appearance& settings, std::filesystem::path programFolder, Prompts& prompts);
 
     /// Starts anew: the samples show the settings, the list of schemes is read, none is selected.
     void open();

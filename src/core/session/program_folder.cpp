@@ -93,8 +93,8 @@ std::string environment(const char* name) {
 }
 
 /// The folder's path, absolute, with "/" at its end.
-std::string asFolder(const fs::path& path) {
-    return (fs::absolute(path).lexically_normal() / "").native();
+fs::path asFolder(const fs::path& path) {
+    return fs::absolute(path).lexically_normal() / "";
 }
 
 /// Where no /proc is mounted, in a bare root, the kernel's word at the start must do.
@@ -110,27 +110,27 @@ fs::path executablePath() {
 /// directories a relative $XDG_DATA_HOME does not count.
 fs::path userFolder(const ProgramFolderSources& sources) {
     const fs::path name = "tessaly";
-    if (const fs::path dataHome = sources.dataHome; dataHome.is_absolute())
-        return dataHome / name;
-    if (const fs::path home = sources.home; home.is_absolute())
-        return home / ".local" / "share" / name;
+    if (sources.dataHome.is_absolute())
+        return sources.dataHome / name;
+    if (sources.home.is_absolute())
+        return sources.home / ".local" / "share" / name;
     return {};
 }
 
-bool holdsLibrary(const std::string& folder) {
+bool holdsLibrary(const fs::path& folder) {
     std::error_code ignored;
-    return !folder.empty() && fs::is_regular_file(fs::path(folder) / SchemeLibraryFile, ignored);
+    return !folder.empty() && fs::is_regular_file(folder / SchemeLibraryFile, ignored);
 }
 
-Outcome useGiven(const std::string& given, std::string& folder) {
+Outcome useGiven(const fs::path& given, fs::path& folder) {
     std::error_code error;
     if (!fs::is_directory(given, error))
-        return Outcome::failed(given + ": " + (error ? error.message() : "is no folder"));
+        return Outcome::failed(given.native() + ": " + (error ? error.message() : "is no folder"));
     folder = asFolder(given);
     return Outcome::done();
 }
 
-Outcome useUserFolder(const fs::path& user, const std::string& share, std::string& folder) {
+Outcome useUserFolder(const fs::path& user, const fs::path& share, fs::path& folder) {
     std::error_code error;
     const fs::file_status status = fs::status(user, error);
     if (status.type() == fs::file_type::none)
@@ -188,13 +188,13 @@ ProgramFolderSources ProgramFolderSources::ofThisProcess() {
     const fs::path executable = executablePath();
     const fs::path folder = executable.parent_path();
     return {.given = {},
-            .executableFolder = folder.native(),
-            .shareFolder = (folder / TESSALY_SHARE).lexically_normal().native(),
+            .executableFolder = folder,
+            .shareFolder = (folder / TESSALY_SHARE).lexically_normal(),
             .dataHome = environment("XDG_DATA_HOME"),
             .home = environment("HOME")};
 }
 
-Outcome findProgramFolder(const ProgramFolderSources& sources, std::string& folder) {
+Outcome findProgramFolder(const ProgramFolderSources& sources, fs::path& folder) {
     if (!sources.given.empty())
         return useGiven(sources.given, folder);
     if (holdsLibrary(sources.executableFolder)) {

@@ -3,7 +3,6 @@
 #include "core/base/outcome.h"
 
 #include <filesystem>
-#include <string>
 
 namespace tessaly {
 
@@ -22,13 +21,13 @@ void renewShippedFiles(const std::filesystem::path& share, const std::filesystem
 /// last "/"; an empty one is unknown.
 struct ProgramFolderSources {
     /// The folder that the user named on the command line.
-    std::string given;
-    std::string executableFolder;
+    std::filesystem::path given;
+    std::filesystem::path executableFolder;
     /// Where an installation keeps the data files.
-    std::string shareFolder;
+    std::filesystem::path shareFolder;
     /// $XDG_DATA_HOME and $HOME.
-    std::string dataHome;
-    std::string home;
+    std::filesystem::path dataHome;
+    std::filesystem::path home;
 
     /// Those of the running process, the share folder being the installed one as seen from the
     /// executable. `given` is empty.
@@ -42,6 +41,6 @@ struct ProgramFolderSources {
 /// starts the program's own files there ("hexabinx.txt", "tessaly.htm" and its drawings) are
 /// renewed when shipped ones are newer; everything else is the user's and is left alone, even when
 /// it is gone.
-Outcome findProgramFolder(const ProgramFolderSources& sources, std::string& folder);
+Outcome findProgramFolder(const ProgramFolderSources& sources, std::filesystem::path& folder);
 
 } // namespace tessaly

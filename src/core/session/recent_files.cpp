@@ -5,7 +5,7 @@
 
 namespace tessaly {
 
-void RecentFiles::AddRecentFile(const std::string& path) {
+void RecentFiles::AddRecentFile(const std::filesystem::path& path) {
     if (std::find(m_paths.begin(), m_paths.end(), path) != m_paths.end())
         return;
     if (m_paths.size() == Capacity)
@@ -13,7 +13,7 @@ void RecentFiles::AddRecentFile(const std::string& path) {
     m_paths.insert(m_paths.begin(), path);
 }
 
-void RecentFiles::append(std::string path) {
+void RecentFiles::append(std::filesystem::path path) {
     if (m_paths.size() < Capacity)
         m_paths.push_back(std::move(path));
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <string>
+#include <filesystem>
 #include <vector>
 
 namespace tessaly {
@@ -11,18 +11,18 @@ public:
     static constexpr std::size_t Capacity = 5;
 
     /// Puts `path` at the head, where the oldest may fall off the end. A path that is listed
-    /// already (compared byte by byte) keeps its place.
-    void AddRecentFile(const std::string& path);
+    /// already keeps its place.
+    void AddRecentFile(const std::filesystem::path& path);
 
     /// Puts `path` behind the others, as when a stored list is read; a full list stays as it is.
-    void append(std::string path);
+    void append(std::filesystem::path path);
 
-    const std::vector<std::string>& paths() const { return m_paths; }
+    const std::vector<std::filesystem::path>& paths() const { return m_paths; }
 
     friend bool operator==(const RecentFiles&, const RecentFiles&) = default;
 
 private:
-    std::vector<std::string> m_paths;
+    std::vector<std::filesystem::path> m_paths;
 };
 
 } // namespace tessaly

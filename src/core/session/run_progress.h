@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <filesystem>
 #include <string>
 
 namespace tessaly {
@@ -35,7 +36,7 @@ class RunProgressDisplay {
 public:
     virtual ~RunProgressDisplay() = default;
     /// `path` is the file that the run is about.
-    virtual void beginProgress(const std::string& path) = 0;
+    virtual void beginProgress(const std::filesystem::path& path) = 0;
     virtual void showProgress(const RunProgress& progress) = 0;
     virtual void endProgress() = 0;
 };

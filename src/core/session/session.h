@@ -9,27 +9,28 @@
 #include "core/session/library_display.h"
 #include "core/session/recent_files.h"
 
+#include <filesystem>
 #include <string>
 
 namespace tessaly {
 
 /// The puzzle that was shown when the game ended last.
 struct LastPuzzle {
-    std::string path;
+    std::filesystem::path path;
     int number = 1;
 };
 
 /// All that lives for the whole run of the game, owned once and handed on by reference.
 struct Session {
     /// Where the program's data files lie; ends in "/".
-    std::string ProgramFolder;
+    std::filesystem::path ProgramFolder;
     ArrangementTable arrangements;
     Appearance appearance;
 
     PuzzleFiles files;
     RecentFiles recentFiles;
     /// The file that "Save to" offers; empty for none.
-    std::string saveTarget;
+    std::filesystem::path saveTarget;
 
     LastPuzzle last;
     CurrentPuzzle puzzle;

@@ -43,7 +43,7 @@ Outcome readLine(const RecordLine& line, Board& board) {
 
 /// Reads every record onto a board and hands both to `take`. The first one that is broken or that
 /// `take` cannot go on after ends it.
-Outcome forEachPuzzle(const std::string& path, const KeepGoing& keepGoing,
+Outcome forEachPuzzle(const std::filesystem::path& path, const KeepGoing& keepGoing,
                       const std::function<Outcome(std::string_view line, Board& board)>& take) {
     Board board;
     Outcome outcome;
@@ -60,7 +60,8 @@ Outcome forEachPuzzle(const std::string& path, const KeepGoing& keepGoing,
     return read.ok() ? outcome : read;
 }
 
-Outcome writePuzzles(const std::string& path, OutputMode mode, const ContentWriter& writer) {
+Outcome writePuzzles(const std::filesystem::path& path, OutputMode mode,
+                     const ContentWriter& writer) {
     return mode == OutputMode::Replace ? replaceFile(path, writer)
                                        : PuzzleFiles().appendPuzzles(path, writer);
 }

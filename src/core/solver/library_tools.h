@@ -5,6 +5,7 @@
 #include "core/solver/chance.h"
 #include "core/solver/puzzle_variants.h"
 
+#include <filesystem>
 #include <functional>
 #include <string>
 
@@ -25,8 +26,8 @@ inline constexpr const char* StoppedProblem = "stopped; nothing was written";
 
 /// The file that a tool reads and the one that it writes.
 struct ToolFiles {
-    std::string input;
-    std::string output;
+    std::filesystem::path input;
+    std::filesystem::path output;
 };
 
 enum class OutputMode { Replace, Append };

@@ -67,7 +67,7 @@ QStringList patternsIn(const QString& types) {
     return patterns;
 }
 
-bool holdsSomething(const std::string& path) {
+bool holdsSomething(const std::filesystem::path& path) {
     std::error_code error;
     const auto size = std::filesystem::file_size(path, error);
     return !error && size != 0;
@@ -136,28 +136,28 @@ QString FNDialog::accepted(const QString& path) {
     return {};
 }
 
-PuzzleFileChoice::PuzzleFileChoice(FNDialog& picker, std::string programFolder)
+PuzzleFileChoice::PuzzleFileChoice(FNDialog& picker, std::filesystem::path programFolder)
     : m_picker(picker)
     , m_programFolder(std::move(programFolder)) {}
 
-std::string PuzzleFileChoice::choose(std::string_view title, const char* mode) {
-    m_picker.setTitle(pathText(title));
+std::filesystem::path PuzzleFileChoice::choose(std::string_view title, const char* mode) {
+    m_picker.setTitle(textOf(title));
     m_picker.setFileTypes(u"*.txt;*.dat"_s);
     m_picker.setFileTypesName(u"Tessaly Files"_s);
     m_picker.setDefaultDir(pathText(m_programFolder));
-    return m_picker.GetFileName(QString::fromLatin1(mode)).toStdString();
+    return pathOf(m_picker.GetFileName(QString::fromLatin1(mode)));
 }
 
-std::string PuzzleFileChoice::chooseToOpen(std::string_view title) {
+std::filesystem::path PuzzleFileChoice::chooseToOpen(std::string_view title) {
     return choose(title, "OPEN");
 }
 
-std::string PuzzleFileChoice::chooseToSave(std::string_view title) {
+std::filesystem::path PuzzleFileChoice::chooseToSave(std::string_view title) {
     return choose(title, "SAVE");
 }
 
-std::string chooseOutputFile(const OutputFileQuestion& question, FNDialog& picker,
-                             Prompts& prompts) {
+std::filesystem::path chooseOutputFile(const OutputFileQuestion& question, FNDialog& picker,
+                                       Prompts& prompts) {
     picker.setTitle(question.title);
     picker.setFileTypes(question.types);
     picker.setFileTypesName(question.typesName);
@@ -167,11 +167,11 @@ std::string chooseOutputFile(const OutputFileQuestion& question, FNDialog& picke
         return {};
     if (QFileInfo(chosen).suffix().isEmpty())
         chosen += question.extension;
-    const std::string path = chosen.toStdString();
+    const std::filesystem::path path = pathOf(chosen);
     const bool wanted =
-        !holdsSomething(path) ||
-        prompts.message("OverWrite file: " + path + " ?", "vbyesno+vbquestion") == answer::Yes;
-    return wanted ? path : std::string();
+        !holdsSomething(path) || prompts.message("OverWrite file: " + path.native() + " ?",
+                                                 "vbyesno+vbquestion") == answer::Yes;
+    return wanted ? path : std::filesystem::path();
 }
 
 } // namespace tessaly

@@ -8,6 +8,7 @@
 #include <QStringList>
 #include <QWidget>
 
+#include <filesystem>
 #include <string>
 
 class QWidget;
@@ -114,16 +115,16 @@ private:
 class PuzzleFileChoice : public FileChoice {
 public:
     /// The picker must outlive the choice; it opens in `programFolder`.
-    PuzzleFileChoice(FNDialog& picker, std::string programFolder);
+    PuzzleFileChoice(FNDialog& picker, std::filesystem::path programFolder);
 
-    std::string chooseToOpen(std::string_view title) override;
-    std::string chooseToSave(std::string_view title) override;
+    std::filesystem::path chooseToOpen(std::string_view title) override;
+    std::filesystem::path chooseToSave(std::string_view title) override;
 
 private:
-    std::string choose(std::string_view title, const char* mode);
+    std::filesystem::path choose(std::string_view title, const char* mode);
 
     FNDialog& m_picker;
-    std::string m_programFolder;
+    std::filesystem::path m_programFolder;
 };
 
 /// Which file something is to be written to.
@@ -138,7 +139,7 @@ struct OutputFileQuestion {
 
 /// Asks for a file to write to, and once more when there is something in it already. Empty when the
 /// user thinks better of it.
-std::string chooseOutputFile(const OutputFileQuestion& question, FNDialog& picker,
-                             Prompts& prompts);
+std::filesystem::path chooseOutputFile(const OutputFileQuestion& question, FNDialog& picker,
+                                       Prompts& prompts);
 
 } // namespace tessaly

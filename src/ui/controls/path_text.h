@@ -2,14 +2,23 @@
 
 #include <QString>
 
+#include <filesystem>
 #include <string>
 #include <string_view>
 
 namespace tessaly {
 
+/// The texts of the core as those of the screen.
+inline QString textOf(std::string_view utf8) {
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
 /// Paths are bytes; on the screen they are UTF-8.
-inline QString pathText(std::string_view path) {
-    return QString::fromUtf8(path.data(), static_cast<qsizetype>(path.size()));
+inline QString pathText(const std::filesystem::path& path) {
+    return textOf(path.native());
+}
+inline std::filesystem::path pathOf(const QString& path) {
+    return path.toStdString();
 }
 
 /// Whether a path from the screen still names the file that was chosen there. A name on the disk
@@ -19,10 +28,5 @@ bool isExactPath(const QString& path);
 
 /// Why a file of that name cannot be taken, for the player; empty when it can.
 QString problemWithName(const QString& path);
-
-/// The file name of a path: what stands after its last "/".
-inline std::string_view fileNameOf(std::string_view path) {
-    return path.substr(path.find_last_of('/') + 1);
-}
 
 } // namespace tessaly

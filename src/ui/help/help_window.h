@@ -5,6 +5,7 @@
 #include <QDialog>
 #include <QTextBrowser>
 
+#include <filesystem>
 #include <string>
 
 namespace tessaly {
@@ -37,7 +38,7 @@ public:
     explicit Form4(const Appearance& appearance, QWidget* parent = nullptr);
 
     /// The full path of the page to show.
-    void setTag(const std::string& path) { m_tag = path; }
+    void setTag(const std::filesystem::path& path) { m_tag = path; }
 
 protected:
     void showEvent(QShowEvent* event) override;
@@ -51,7 +52,7 @@ private:
     void enableButtons();
 
     const Appearance& m_appearance;
-    std::string m_tag;
+    std::filesystem::path m_tag;
     HelpBrowser* m_browser; // WebBrowser1
     BoxControl* m_back;     // Command1
     BoxControl* m_forward;  // Command2

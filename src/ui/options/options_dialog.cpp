@@ -320,7 +320,7 @@ QLayout* OptionsForm::makeDialogButtons() {
     return row;
 }
 
-Form2x::Form2x(Appearance& settings, const std::string& programFolder, Prompts& prompts,
+Form2x::Form2x(Appearance& settings, const std::filesystem::path& programFolder, Prompts& prompts,
                QWidget* parent)
     : QDialog(parent)
     , m_editor(settings, programFolder, prompts)
@@ -409,13 +409,13 @@ void Form2x::activate() {
     showScheme();
     showSchemes();
     m_form->printLine->setText(QString::number(samples.PrintLineWidth));
-    selectFont(*m_form->fonts, pathText(samples.NumberFont));
+    selectFont(*m_form->fonts, textOf(samples.NumberFont));
 }
 
 void Form2x::showSchemes() {
     m_form->schemes->clear();
     for (const std::string& name : m_editor.schemeNames())
-        m_form->schemes->addItem(pathText(name));
+        m_form->schemes->addItem(textOf(name));
     m_form->schemes->showRow(rowOf(m_editor.schemeInForce()));
     m_form->schemes->select(rowOf(m_editor.selectedScheme()));
     showSchemeCaption();
@@ -449,7 +449,7 @@ void Form2x::showSamples() {
 }
 
 void Form2x::showNumberSample(QLabel& label, Colour colour) {
-    QFont font(pathText(m_editor.samples().NumberFont), SamplePointSize);
+    QFont font(textOf(m_editor.samples().NumberFont), SamplePointSize);
     label.setFont(font);
     QPalette colours = palette();
     colours.setColor(QPalette::WindowText, toQColor(colour));
@@ -457,7 +457,7 @@ void Form2x::showNumberSample(QLabel& label, Colour colour) {
 }
 
 void Form2x::showSchemeCaption() {
-    m_form->showSchemeCaption(pathText(m_editor.schemeCaption()));
+    m_form->showSchemeCaption(textOf(m_editor.schemeCaption()));
 }
 
 void Form2x::showSchemeInForce() {

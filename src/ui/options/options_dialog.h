@@ -6,6 +6,8 @@
 #include <QDialog>
 #include <QWidget>
 
+#include <filesystem>
+
 class QLabel;
 
 namespace tessaly {
@@ -55,7 +57,7 @@ class Form2x : public QDialog {
 
 public:
     /// Both must outlive the dialog. `programFolder` holds the library of colour schemes.
-    Form2x(Appearance& settings, const std::string& programFolder, Prompts& prompts,
+    Form2x(Appearance& settings, const std::filesystem::path& programFolder, Prompts& prompts,
            QWidget* parent = nullptr);
 
     /// Shows the settings in force; the samples of an earlier use are dropped.

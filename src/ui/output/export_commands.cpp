@@ -21,7 +21,7 @@ using namespace Qt::StringLiterals;
 /// Pixels for a board unit: as sharp as on a good screen.
 constexpr double CopyScale = 2;
 
-OutputFileQuestion bitmapQuestion(const std::string& programFolder) {
+OutputFileQuestion bitmapQuestion(const std::filesystem::path& programFolder) {
     return {u"Select destination file for a bitmap copy of this puzzle"_s, u"*.bmp"_s,
             u"Facetto Bitmap Files"_s, pathText(programFolder), u".bmp"_s};
 }
@@ -46,13 +46,13 @@ void ExportCommands::mnucapwin() {
     if (m_session.busy.refuses(m_window.prompts))
         return;
     const QImage picture = m_window.window->grab().toImage();
-    const std::string path = chooseOutputFile(bitmapQuestion(m_session.ProgramFolder),
-                                              m_window.picker, m_window.prompts);
+    const std::filesystem::path path = chooseOutputFile(bitmapQuestion(m_session.ProgramFolder),
+                                                        m_window.picker, m_window.prompts);
     if (path.empty())
         return;
     const Outcome written = writePicture(path, picture, pictureFormatOf(path));
     if (written.ok())
-        m_window.prompts.message(path, "vbok");
+        m_window.prompts.message(path.native(), "vbok");
     else
         m_window.prompts.message(written.problem, "vbok+vbcritical");
 }

@@ -115,7 +115,7 @@ PrintResult PrintCommands::write(const std::filesystem::path& pdf, PaperSize pap
                     [this](int page) { return m_window.progress.goOn(page); });
 }
 
-PrintResult PrintCommands::printToFile(const std::string& path, const PrintJob& job) {
+PrintResult PrintCommands::printToFile(const std::filesystem::path& path, const PrintJob& job) {
     return write(path, customaryPaper(), job);
 }
 

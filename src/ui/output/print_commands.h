@@ -7,6 +7,8 @@
 #include "ui/drawing/pdf_file.h"
 #include "ui/output/print_dialog.h"
 
+#include <filesystem>
+
 class QPrinter;
 class QWidget;
 
@@ -43,7 +45,7 @@ public:
 private:
     Outcome paint(QPrinter& printer, const PrintJob& job);
     void carryOut(const PrintOrder& order);
-    PrintResult printToFile(const std::string& path, const PrintJob& job);
+    PrintResult printToFile(const std::filesystem::path& path, const PrintJob& job);
     PrintResult printTo(const QString& printer, const PrintJob& job);
     PrintResult write(const std::filesystem::path& pdf, PaperSize paper, const PrintJob& job);
     void tell(const Outcome& outcome, const std::string& success);

@@ -36,7 +36,7 @@ int numberIn(const QLineEdit& box) {
 } // namespace
 
 Form5::Form5(const Appearance& appearance, Printers& printers, FileDialogs& fileDialogs,
-             Prompts& prompts, std::string programFolder, QWidget* parent)
+             Prompts& prompts, std::filesystem::path programFolder, QWidget* parent)
     : QDialog(parent)
     , m_appearance(appearance)
     , m_printers(printers)
@@ -156,7 +156,7 @@ void Form5::load(const PrintSuggestion& suggestion) {
 }
 
 void Form5::chooseFile() {
-    const std::string chosen =
+    const std::filesystem::path chosen =
         PuzzleFileChoice(*m_picker, m_programFolder).chooseToOpen("Select a Puzzle file to print");
     if (chosen.empty())
         return;

@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <array>
+#include <filesystem>
 #include <optional>
 #include <string>
 
@@ -33,7 +34,7 @@ struct PrintOrder {
 
 /// What the dialog starts with.
 struct PrintSuggestion {
-    std::string path;
+    std::filesystem::path path;
     int count = 0;
     /// The printer that the program uses: a device name, empty for a PDF file, or none yet.
     std::optional<QString> printer;
@@ -58,7 +59,7 @@ public:
 
     /// All must outlive the form; puzzle files are offered in `programFolder`.
     Form5(const Appearance& appearance, Printers& printers, FileDialogs& fileDialogs,
-          Prompts& prompts, std::string programFolder, QWidget* parent = nullptr);
+          Prompts& prompts, std::filesystem::path programFolder, QWidget* parent = nullptr);
 
     std::optional<PrintOrder> choose(const PrintSuggestion& suggestion) override;
 
@@ -78,9 +79,9 @@ private:
     const Appearance& m_appearance;
     Printers& m_printers;
     Prompts& m_prompts;
-    std::string m_programFolder;
+    std::filesystem::path m_programFolder;
     QString m_tag;
-    std::string m_path;
+    std::filesystem::path m_path;
     int m_count = 0;
 
     QComboBox* m_printer = nullptr; // Combo1

@@ -37,7 +37,7 @@ void addCancel(QMenu& menu, const QString& array = {}, int next = 0) {
 }
 
 /// Shows a path on one line, without mnemonics, and cut in the middle when it is very long.
-void showPath(QAction& action, const std::string& path, const QMenu& menu) {
+void showPath(QAction& action, const std::filesystem::path& path, const QMenu& menu) {
     constexpr int WidestPath = 640;
     QString text = menu.fontMetrics().elidedText(pathText(path), Qt::ElideMiddle, WidestPath);
     text.replace(u'\n', u' ').replace(u'\t', u' ');
@@ -100,7 +100,7 @@ void MainMenu::buildPrintMenu(QMenu& menu) {
     addCancel(menu, u"mnuprintx"_s, 5);
 }
 
-void MainMenu::showRecentFiles(const std::vector<std::string>& paths) {
+void MainMenu::showRecentFiles(const std::vector<std::filesystem::path>& paths) {
     for (std::size_t i = 0; i < RecentFileCount; ++i) {
         const bool shown = i < paths.size();
         oldfiles[i]->setVisible(shown);
@@ -110,7 +110,7 @@ void MainMenu::showRecentFiles(const std::vector<std::string>& paths) {
     oldfiles.back()->setVisible(!paths.empty());
 }
 
-void MainMenu::showCurrentFile(const std::string& path) {
+void MainMenu::showCurrentFile(const std::filesystem::path& path) {
     showPath(*mnusaveto, path, *mnusavez);
     mnusaveto->setVisible(!path.empty());
 }

@@ -5,6 +5,7 @@
 #include <QMenuBar>
 
 #include <array>
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -19,9 +20,9 @@ public:
     explicit MainMenu(QMenuBar& bar);
 
     /// Shows the recently used puzzle files, most recent first.
-    void showRecentFiles(const std::vector<std::string>& paths);
+    void showRecentFiles(const std::vector<std::filesystem::path>& paths);
     /// Offers saving to the current file; an empty path takes the offer away.
-    void showCurrentFile(const std::string& path);
+    void showCurrentFile(const std::filesystem::path& path);
 
     QAction* mnuload;
     QMenu* mnucopyclip;

@@ -7,6 +7,7 @@
 #include "core/session/session.h"
 #include "ui/controls/box_control.h"
 #include "ui/controls/file_name_picker.h"
+#include "ui/controls/path_text.h"
 #include "ui/controls/scheme_palette.h"
 #include "ui/help/about_box.h"
 #include "ui/help/help_window.h"
@@ -33,19 +34,19 @@ namespace {
 /// Where a window stood on the screen and how large it was, in the file "window.cfg" of the
 /// program's folder. Nobody is told when it cannot be written or read: the window then opens where
 /// the desktop puts it, in its own size, and never outside the screens that there are.
-void rememberWindowPlace(const QWidget& window, const std::string& programFolder);
-void restoreWindowPlace(QWidget& window, const std::string& programFolder);
+void rememberWindowPlace(const QWidget& window, const std::filesystem::path& programFolder);
+void restoreWindowPlace(QWidget& window, const std::filesystem::path& programFolder);
 
 constexpr std::size_t LargestFile = 4096;
 
-void rememberWindowPlace(const QWidget& window, const std::string& programFolder) {
+void rememberWindowPlace(const QWidget& window, const std::filesystem::path& programFolder) {
     const std::string content = window.saveGeometry().toBase64().toStdString() + "\r\n";
-    static_cast<void>(replaceFile(programFolder + WindowPlaceFile, content));
+    static_cast<void>(replaceFile(programFolder / WindowPlaceFile, content));
 }
 
-void restoreWindowPlace(QWidget& window, const std::string& programFolder) {
+void restoreWindowPlace(QWidget& window, const std::filesystem::path& programFolder) {
     std::string content;
-    if (!readSmallFile(programFolder + WindowPlaceFile, LargestFile, content).ok())
+    if (!readSmallFile(programFolder / WindowPlaceFile, LargestFile, content).ok())
         return;
     const auto place = QByteArray::fromBase64(QByteArray::fromStdString(content));
     // Qt takes a place that was cut short for a window of no size.
@@ -266,7 +267,7 @@ void Form1::connectOptions() {
 void Form1::connectFileDrop() {
     auto* drop = new FileDrop(*this);
     connect(drop, &FileDrop::dropped, this,
-            [this](const QString& path) { m_commands.library.load(path.toStdString()); });
+            [this](const QString& path) { m_commands.library.load(pathOf(path)); });
     connect(drop, &FileDrop::refused, this, [this](const QString& reason) {
         m_prompts.message(reason.toStdString(), "vbok+vbcritical");
     });
@@ -274,7 +275,7 @@ void Form1::connectFileDrop() {
 
 void Form1::connectHelp() {
     connect(m_menu.mnuhelp, &QAction::triggered, this, [this] {
-        m_help->setTag(m_session.ProgramFolder + HelpPageFile);
+        m_help->setTag(m_session.ProgramFolder / HelpPageFile);
         m_help->show();
     });
     connect(m_menu.mnuabout, &QAction::triggered, m_about, &QDialog::show);

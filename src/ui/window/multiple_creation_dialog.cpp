@@ -29,7 +29,7 @@ constexpr int Width = 420;
 } // namespace
 
 Form3::Form3(const Appearance& appearance, FileDialogs& fileDialogs, Prompts& prompts,
-             std::string programFolder, QWidget* parent)
+             std::filesystem::path programFolder, QWidget* parent)
     : QDialog(parent)
     , m_appearance(appearance)
     , m_prompts(prompts)
@@ -43,7 +43,7 @@ Form3::Form3(const Appearance& appearance, FileDialogs& fileDialogs, Prompts& pr
     rows->addStretch();
     rows->addLayout(makeButtons());
     setMinimumWidth(Width);
-    showFile(m_programFolder + DefaultFile);
+    showFile(m_programFolder / DefaultFile);
 }
 
 QWidget* Form3::makeDifficultyFrame() {
@@ -87,7 +87,7 @@ QWidget* Form3::makeFileFrame(FileDialogs& fileDialogs) {
     connect(m_picker, &FNDialog::clicked, this, &Form3::chooseFile);
     connect(m_default, &QCheckBox::toggled, this, [this](bool ticked) {
         if (ticked)
-            showFile(m_programFolder + DefaultFile);
+            showFile(m_programFolder / DefaultFile);
     });
     return frame;
 }
@@ -102,7 +102,7 @@ QHBoxLayout* Form3::makeButtons() {
 }
 
 void Form3::chooseFile() {
-    const std::string chosen =
+    const std::filesystem::path chosen =
         PuzzleFileChoice(*m_picker, m_programFolder).chooseToSave("Select an output Puzzle file");
     if (chosen.empty())
         return;
@@ -110,7 +110,7 @@ void Form3::chooseFile() {
     showFile(chosen);
 }
 
-void Form3::showFile(const std::string& path) {
+void Form3::showFile(const std::filesystem::path& path) {
     m_path = path;
     m_file->setText(pathText(path));
     m_file->setToolTip(pathText(path));

@@ -5,6 +5,8 @@
 
 #include <QDialog>
 
+#include <filesystem>
+
 class QCheckBox;
 class QHBoxLayout;
 class QLabel;
@@ -23,7 +25,7 @@ class Form3 : public QDialog, public CreationOrderChoice {
 public:
     /// All must outlive the form; the files are offered in `programFolder`.
     Form3(const Appearance& appearance, FileDialogs& fileDialogs, Prompts& prompts,
-          std::string programFolder, QWidget* parent = nullptr);
+          std::filesystem::path programFolder, QWidget* parent = nullptr);
 
     std::optional<CreationOrder> choose() override;
 
@@ -33,15 +35,15 @@ private:
     QWidget* makeFileFrame(FileDialogs& fileDialogs);
     QHBoxLayout* makeButtons();
     void chooseFile();
-    void showFile(const std::string& path);
+    void showFile(const std::filesystem::path& path);
     void acceptOrder();
     int number() const;
     DifficultyChoice difficulty() const;
 
     const Appearance& m_appearance;
     Prompts& m_prompts;
-    std::string m_programFolder;
-    std::string m_path;
+    std::filesystem::path m_programFolder;
+    std::filesystem::path m_path;
 
     QRadioButton* m_random = nullptr; // Option1_0
     QRadioButton* m_easy = nullptr;   // Option1_1

@@ -42,8 +42,8 @@ StatusLine::StatusLine(QWidget* parent)
     line->addWidget(StatLab);
 }
 
-void StatusLine::showFile(const std::string& path) {
-    m_fileName->setText(pathText(fileNameOf(path)));
+void StatusLine::showFile(const std::filesystem::path& path) {
+    m_fileName->setText(pathText(path.filename()));
     m_fileName->setToolTip(pathText(path));
 }
 
@@ -53,7 +53,7 @@ void StatusLine::showFileText(const QString& text) {
 }
 
 void StatusLine::showMessage(std::string_view text) {
-    m_message->setText(pathText(text));
+    m_message->setText(textOf(text));
     if (text.empty())
         return;
     QAccessibleEvent alert(m_message, QAccessible::Alert);

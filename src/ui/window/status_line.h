@@ -2,6 +2,7 @@
 
 #include <QWidget>
 
+#include <filesystem>
 #include <string>
 #include <string_view>
 
@@ -18,7 +19,7 @@ public:
     explicit StatusLine(QWidget* parent = nullptr);
 
     /// Shows a file by its name, with its whole path as the tooltip.
-    void showFile(const std::string& path);
+    void showFile(const std::filesystem::path& path);
     /// Shows a text in the place of a file's name.
     void showFileText(const QString& text);
     void showMessage(std::string_view text);

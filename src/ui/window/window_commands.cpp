@@ -78,7 +78,7 @@ void WindowDisplay::showDifficulty(DifficultyChoice difficulty) {
     m_regions.tools.showDifficulty(difficulty);
 }
 
-void WindowDisplay::showSaveTarget(const std::string& path) {
+void WindowDisplay::showSaveTarget(const std::filesystem::path& path) {
     m_regions.menu.showCurrentFile(path);
 }
 
@@ -93,7 +93,7 @@ void WindowDisplay::showBusy(bool busy) {
         QApplication::restoreOverrideCursor();
 }
 
-void WindowDisplay::beginProgress(const std::string& path) {
+void WindowDisplay::beginProgress(const std::filesystem::path& path) {
     m_regions.status.showFile(path);
     m_regions.tools.showPuzzleNumber(0, 0);
     m_regions.tools.progress->begin();

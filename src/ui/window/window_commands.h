@@ -16,6 +16,8 @@
 #include "ui/output/print_progress.h"
 #include "ui/window/multiple_creation_dialog.h"
 
+#include <filesystem>
+
 namespace tessaly {
 
 class BoardView;
@@ -60,11 +62,11 @@ public:
     void showPuzzle(const CurrentPuzzle& puzzle) override;
     void showNoPuzzle() override;
     void showDifficulty(DifficultyChoice difficulty) override;
-    void showSaveTarget(const std::string& path) override;
+    void showSaveTarget(const std::filesystem::path& path) override;
     void showRecentFiles(const RecentFiles& files) override;
     void showBusy(bool busy) override;
 
-    void beginProgress(const std::string& path) override;
+    void beginProgress(const std::filesystem::path& path) override;
     void showProgress(const RunProgress& progress) override;
     void endProgress() override;
 

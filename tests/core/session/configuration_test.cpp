@@ -9,7 +9,7 @@ namespace {
 
 using test::contentOf;
 using test::put;
-using Paths = std::vector<std::string>;
+using Paths = std::vector<std::filesystem::path>;
 
 class ConfigurationTest : public testing::Test {
 protected:
@@ -67,7 +67,7 @@ TEST_F(ConfigurationTest, EachValueFallsBackAlone) {
 
     const struct {
         std::size_t index;
-        Paths values;
+        std::vector<std::string> values;
         void (*reset)(Configuration&);
     } fields[] = {
         {0, {"0", "-1", "x", "", "2.5", "2147483648", "9 9"}, [](auto& c) { c.PuzNum = 1; }},

@@ -76,7 +76,7 @@ TEST_F(CreationCommandsTest, APuzzleGoesToTheFileInPlayAndIsShown) {
 TEST_F(CreationCommandsTest, WithoutAFileItGoesToTheTemporaryOneAndTheLabelKeepsRandom) {
     for (int number = 1; number <= 3; ++number) {
         commands().cmdcreate();
-        EXPECT_EQ(display.puzzle.PuzPath, session.ProgramFolder + "temporarypuzfile.txt");
+        EXPECT_EQ(display.puzzle.PuzPath, session.ProgramFolder / "temporarypuzfile.txt");
         EXPECT_EQ(display.puzzle.PuzNum, number);
         EXPECT_EQ(display.difficulty, std::nullopt);
     }

@@ -24,12 +24,12 @@ protected:
     LibraryCommandsTest() { session.ProgramFolder = folder.path().string() + "/"; }
     ~LibraryCommandsTest() override { EXPECT_EQ(display.busyDepth, 0); }
 
-    std::string fileOf(const std::string& name, const std::string& content) {
-        std::string path = session.ProgramFolder + name;
+    std::filesystem::path fileOf(const std::string& name, const std::string& content) {
+        std::filesystem::path path = session.ProgramFolder / name;
         EXPECT_TRUE(replaceFile(path, content).ok());
         return path;
     }
-    std::string fileOfPuzzles(const std::string& name, std::size_t count) {
+    std::filesystem::path fileOfPuzzles(const std::string& name, std::size_t count) {
         std::string content;
         for (std::size_t i = 0; i < count; ++i)
             content += records[i] + "\r\n";
@@ -55,7 +55,7 @@ TEST_F(LibraryCommandsTest, LoadShowsTheFirstPuzzleAndRemembersTheFile) {
     EXPECT_EQ(display.puzzle.PuzNum, 1);
     EXPECT_EQ(display.puzzle.PuzCount, 3);
     EXPECT_EQ(display.saveTarget, choice.path);
-    EXPECT_EQ(display.recent, std::vector<std::string>{choice.path});
+    EXPECT_EQ(display.recent, std::vector<std::filesystem::path>{choice.path});
     EXPECT_EQ(session.game.board, boardOf(records[0]));
     EXPECT_TRUE(session.game.undoList.empty());
     choice.path.clear();
@@ -68,15 +68,15 @@ TEST_F(LibraryCommandsTest, AFileThatHoldsNoPuzzleIsRefusedAndNothingChanges) {
     commands.load(fileOfPuzzles("a.txt", 2));
     session.game.place({1, 1}, "3");
     const Board before = session.game.board;
-    const std::vector<std::string> bad{fileOf("empty.txt", ""),
-                                       fileOf("short.txt", records[0].substr(0, 118) + "\r\n"),
-                                       fileOf("header.txt", "EXX00" + records[0].substr(5)),
-                                       folder.path().string(), session.ProgramFolder + "gone.txt"};
-    for (const std::string& path : bad) {
+    const std::vector<std::filesystem::path> bad{
+        fileOf("empty.txt", ""), fileOf("short.txt", records[0].substr(0, 118) + "\r\n"),
+        fileOf("header.txt", "EXX00" + records[0].substr(5)), folder.path(),
+        session.ProgramFolder / "gone.txt"};
+    for (const std::filesystem::path& path : bad) {
         prompts.shown.clear();
         commands.load(path);
-        EXPECT_EQ(prompts.shown,
-                  (std::vector<Message>{{"Error reading file:\r\n" + path, "vbcritical+vbok"}}));
+        EXPECT_EQ(prompts.shown, (std::vector<Message>{{"Error reading file:\r\n" + path.native(),
+                                                        "vbcritical+vbok"}}));
         EXPECT_EQ(board.message, "Error reading p# 1");
         EXPECT_EQ(session.game.board, before);
         EXPECT_EQ(session.game.undoList.size(), 1u);
@@ -107,7 +107,7 @@ TEST_F(LibraryCommandsTest, SteppingWrapsAroundBothEnds) {
 }
 
 TEST_F(LibraryCommandsTest, CommandsWorkOnWhatTheFileHoldsNow) {
-    const std::string path = fileOfPuzzles("a.txt", 3);
+    const std::filesystem::path path = fileOfPuzzles("a.txt", 3);
     commands.load(path);
     commands.goTo(3);
     fileOfPuzzles("a.txt", 5);
@@ -128,7 +128,7 @@ TEST_F(LibraryCommandsTest, CommandsWorkOnWhatTheFileHoldsNow) {
 }
 
 TEST_F(LibraryCommandsTest, AFileThatIsEmptyOrGoneIsSaidAndTheBoardStays) {
-    const std::string path = fileOfPuzzles("a.txt", 3);
+    const std::filesystem::path path = fileOfPuzzles("a.txt", 3);
     commands.load(path, 3);
     const Board before = session.game.board;
     fileOf("a.txt", "");
@@ -149,7 +149,7 @@ TEST_F(LibraryCommandsTest, WhatArrivesWhileALargeFileIsReadOrCopiedIsIgnored) {
     std::string content;
     while (content.size() < 500'000)
         content += records[content.size() % 7] + "\r\n";
-    const std::string path = fileOf("large.txt", content);
+    const std::filesystem::path path = fileOf("large.txt", content);
     int arrived = 0;
     board.onYield = [&] {
         ++arrived;
@@ -171,7 +171,7 @@ TEST_F(LibraryCommandsTest, WhatArrivesWhileALargeFileIsReadOrCopiedIsIgnored) {
 }
 
 TEST_F(LibraryCommandsTest, APuzzleThatStandsInNoFileCanStillBeSaved) {
-    choice.path = session.ProgramFolder + "rescued.txt";
+    choice.path = session.ProgramFolder / "rescued.txt";
     commands.mnusavex();
     EXPECT_TRUE(choice.asked.empty()) << "there is no puzzle";
     session.game.board = boardOf(records[0]);
@@ -186,15 +186,15 @@ TEST_F(LibraryCommandsTest, APuzzleThatStandsInNoFileCanStillBeSaved) {
 TEST_F(LibraryCommandsTest, SavingAppendsThePlayAndShowsTheCopy) {
     commands.load(fileOfPuzzles("a.txt", 1));
     session.game.place({1, 5}, "4");
-    choice.path = session.ProgramFolder + "new.txt";
+    choice.path = session.ProgramFolder / "new.txt";
     commands.mnusavex();
     EXPECT_EQ(choice.asked, std::vector<std::string>{"SAVE: Select an output Puzzle file"});
     EXPECT_EQ(lastMessage(),
-              (Message{"Puzzle#1 added to file " + choice.path, "vbok+vbinformation"}));
+              (Message{"Puzzle#1 added to file " + choice.path.native(), "vbok+vbinformation"}));
     EXPECT_EQ(display.saveTarget, choice.path);
     EXPECT_EQ(session.game.board.CellNum[1][5], "4");
     commands.mnusaveto();
-    EXPECT_EQ(lastMessage().text, "Puzzle#2 added to file " + choice.path);
+    EXPECT_EQ(lastMessage().text, "Puzzle#2 added to file " + choice.path.native());
     EXPECT_EQ(display.puzzle.PuzNum, 2);
     const std::string saved = PuzzleRecord(session.game.board) + "\r\n";
     EXPECT_EQ(test::contentOf(choice.path), saved + saved);
@@ -209,7 +209,7 @@ TEST_F(LibraryCommandsTest, AFailedSaveIsSaidAndKeepsThePlay) {
     commands.load(fileOfPuzzles("a.txt", 1));
     session.game.place({1, 5}, "4");
     const Board before = session.game.board;
-    choice.path = session.ProgramFolder + "no/such/folder.txt";
+    choice.path = session.ProgramFolder / "no/such/folder.txt";
     commands.mnusavex();
     EXPECT_EQ(lastMessage().style, "vbok+vbcritical");
     EXPECT_NE(lastMessage().text.find(choice.path), std::string::npos);
@@ -219,7 +219,7 @@ TEST_F(LibraryCommandsTest, AFailedSaveIsSaidAndKeepsThePlay) {
 }
 
 TEST_F(LibraryCommandsTest, DeleteAsksRemovesThePuzzleAndShowsTheFirst) {
-    const std::string path = fileOfPuzzles("a.txt", 3);
+    const std::filesystem::path path = fileOfPuzzles("a.txt", 3);
     commands.load(path, 2);
     prompts.answers = {7};
     commands.mnudelete();
@@ -234,7 +234,7 @@ TEST_F(LibraryCommandsTest, DeleteAsksRemovesThePuzzleAndShowsTheFirst) {
 }
 
 TEST_F(LibraryCommandsTest, AnotherPuzzleThanTheOneShownIsNotDeleted) {
-    const std::string path = fileOfPuzzles("a.txt", 2);
+    const std::filesystem::path path = fileOfPuzzles("a.txt", 2);
     commands.load(path);
     const std::string swapped = records[1] + "\r\n" + records[0] + "\r\n";
     fileOf("a.txt", swapped);
@@ -247,7 +247,7 @@ TEST_F(LibraryCommandsTest, AnotherPuzzleThanTheOneShownIsNotDeleted) {
 }
 
 TEST_F(LibraryCommandsTest, DeletingTheOnlyPuzzleLeavesAnEmptyFile) {
-    const std::string path = fileOfPuzzles("temporarypuzfile.txt", 1);
+    const std::filesystem::path path = fileOfPuzzles("temporarypuzfile.txt", 1);
     commands.load(path);
     prompts.answers = {answer::Yes, 1};
     commands.mnudelete();
@@ -257,35 +257,37 @@ TEST_F(LibraryCommandsTest, DeletingTheOnlyPuzzleLeavesAnEmptyFile) {
 }
 
 TEST_F(LibraryCommandsTest, RecentFilesOpenUnlessTheyAreGone) {
-    const std::string first = fileOfPuzzles("a.txt", 1);
-    const std::string second = fileOfPuzzles("b.txt", 2);
+    const std::filesystem::path first = fileOfPuzzles("a.txt", 1);
+    const std::filesystem::path second = fileOfPuzzles("b.txt", 2);
     commands.load(first);
     commands.load(second);
-    EXPECT_EQ(display.recent, (std::vector<std::string>{second, first}));
+    EXPECT_EQ(display.recent, (std::vector<std::filesystem::path>{second, first}));
     commands.oldfiles_Click(1);
     EXPECT_EQ(display.puzzle.PuzPath, first);
-    EXPECT_EQ(display.recent, (std::vector<std::string>{second, first})) << "it keeps its place";
+    EXPECT_EQ(display.recent, (std::vector<std::filesystem::path>{second, first}))
+        << "it keeps its place";
     std::filesystem::remove(second);
     commands.oldfiles_Click(0);
-    EXPECT_EQ(lastMessage(), (Message{"File not found:\r\n" + second, "vbcritical+vbok"}));
+    EXPECT_EQ(lastMessage(), (Message{"File not found:\r\n" + second.native(), "vbcritical+vbok"}));
     fileOf("b.txt", "no puzzle\r\n");
     commands.oldfiles_Click(0);
-    EXPECT_EQ(lastMessage(), (Message{"Error reading file:\r\n" + second, "vbcritical+vbok"}));
+    EXPECT_EQ(lastMessage(),
+              (Message{"Error reading file:\r\n" + second.native(), "vbcritical+vbok"}));
     EXPECT_EQ(display.saveTarget, first);
     EXPECT_EQ(display.puzzle.PuzPath, first);
 }
 
 TEST_F(LibraryCommandsTest, ReopeningFallsBackToTheFirstPuzzleOrTheEmptyBoard) {
-    const std::string path = fileOfPuzzles("a.txt", 3);
+    const std::filesystem::path path = fileOfPuzzles("a.txt", 3);
     commands.reopen(path, 2);
     EXPECT_EQ(display.puzzle.PuzNum, 2);
     EXPECT_EQ(display.saveTarget, path);
     commands.reopen(path, 4);
     EXPECT_EQ(display.puzzle.PuzNum, 1);
     EXPECT_TRUE(display.recent.empty());
-    for (const std::string& none :
-         {std::string("  "), fileOfPuzzles("temporarypuzfile.txt", 1),
-          session.ProgramFolder + "gone.txt", fileOf("broken.txt", "no puzzle\r\n")}) {
+    for (const std::filesystem::path& none :
+         {std::filesystem::path("  "), fileOfPuzzles("temporarypuzfile.txt", 1),
+          session.ProgramFolder / "gone.txt", fileOf("broken.txt", "no puzzle\r\n")}) {
         commands.reopen(path, 1);
         commands.reopen(none, 1);
         EXPECT_EQ(display.puzzle.PuzNum, 0) << none;
@@ -300,7 +302,7 @@ TEST_F(LibraryCommandsTest, ReopeningFallsBackToTheFirstPuzzleOrTheEmptyBoard) {
 }
 
 TEST_F(LibraryCommandsTest, EverythingIsRefusedWhilePuzzlesAreCreated) {
-    const std::string path = fileOfPuzzles("a.txt", 3);
+    const std::filesystem::path path = fileOfPuzzles("a.txt", 3);
     commands.load(path);
     session.busy.creating = true;
     commands.mnuload();

@@ -53,7 +53,7 @@ TEST_F(MaintenanceCommandsTest, GrowProveAndMixALibrary) {
               std::string::npos);
     commands.FlipandAdd();
     EXPECT_EQ(lineCount("addnewr.txt"), 16 * 40) << "appended";
-    EXPECT_EQ(progress.path, session.ProgramFolder + "addnew.txt");
+    EXPECT_EQ(progress.path, session.ProgramFolder / "addnew.txt");
     EXPECT_TRUE(progress.ended);
     EXPECT_GT(display.yields, 0);
 
@@ -73,7 +73,8 @@ TEST_F(MaintenanceCommandsTest, GrowProveAndMixALibrary) {
 
 TEST_F(MaintenanceCommandsTest, WhatGoesWrongIsToldAndAStoppedRunIsSilent) {
     commands.Randomize();
-    EXPECT_EQ(said().find(session.ProgramFolder + "puzzles20k.txt: "), 0u) << said();
+    EXPECT_EQ(said().find((session.ProgramFolder / "puzzles20k.txt").native() + ": "), 0u)
+        << said();
     EXPECT_EQ(prompts.shown.back().style, "vbok+vbcritical");
     prompts.shown.clear();
 

@@ -25,10 +25,10 @@ protected:
             put(share / name, std::string("shipped ") + name);
     }
 
-    std::string found() {
-        std::string result;
+    fs::path found() {
+        fs::path result;
         problem = findProgramFolder(sources, result).problem;
-        return problem.empty() ? result : "";
+        return problem.empty() ? result : fs::path();
     }
     std::string user(const char* name) const { return contentOf(userFolder / name); }
     static void age(const fs::path& file, int hours) {
@@ -54,9 +54,9 @@ protected:
 TEST_F(ProgramFolderTest, TheGivenFolderComesFirst) {
     put(bin / "all.col", "");
     sources.given = share;
-    EXPECT_EQ(found(), share.native() + "/");
+    EXPECT_EQ(found(), share / "");
     sources.given += "/puzzles/../";
-    EXPECT_EQ(found(), share.native() + "/");
+    EXPECT_EQ(found(), share / "");
     for (const fs::path& wrong : {root / "none", share / "all.col"}) {
         sources.given = wrong;
         EXPECT_EQ(found(), "");
@@ -66,17 +66,17 @@ TEST_F(ProgramFolderTest, TheGivenFolderComesFirst) {
 
 TEST_F(ProgramFolderTest, TheExecutablesFolderIsNextWhenItHoldsTheColourSchemes) {
     put(bin / "all.col", "");
-    EXPECT_EQ(found(), bin.native() + "/");
+    EXPECT_EQ(found(), bin / "");
     EXPECT_FALSE(fs::exists(data));
     fs::remove(bin / "all.col");
-    EXPECT_EQ(found(), userFolder.native() + "/");
+    EXPECT_EQ(found(), userFolder / "");
 }
 
 TEST_F(ProgramFolderTest, TheDataHomeIsUnderHomeUnlessAnAbsoluteOneIsNamed) {
     for (const char* notCounting : {"", "relative/data"}) {
         sources.dataHome = notCounting;
         sources.home = root / "me";
-        EXPECT_EQ(found(), (root / "me/.local/share/tessaly/").native());
+        EXPECT_EQ(found(), root / "me/.local/share/tessaly/");
         fs::remove_all(root / "me");
         sources.home.clear();
         EXPECT_EQ(found(), "");
@@ -90,7 +90,7 @@ TEST_F(ProgramFolderTest, TheFirstStartCopiesWhatIsShippedAndLeavesNothingElse) 
     put(data / ".tessaly.new/puzzles/half-written", "");
     fs::create_directory(userFolder);
 
-    ASSERT_EQ(found(), userFolder.native() + "/") << problem;
+    ASSERT_EQ(found(), userFolder / "") << problem;
     EXPECT_EQ(namesIn(data), Names{"tessaly"});
     EXPECT_EQ(namesIn(userFolder), (Names{"all.col", "hexabinx.txt", "puzzles"}));
     EXPECT_EQ(user("all.col"), "shipped all.col");
@@ -197,9 +197,9 @@ TEST_F(ProgramFolderTest, TwoFirstStartsAtOnceBothFindAWholeFolder) {
         fs::remove_all(data);
         std::vector<std::string> problems(2);
         const auto start = [this](std::string& mine) {
-            std::string folder;
+            fs::path folder;
             mine = findProgramFolder(sources, folder).problem;
-            if (mine.empty() && contentOf(folder + "puzzles/easy.txt").empty())
+            if (mine.empty() && contentOf(folder / "puzzles/easy.txt").empty())
                 mine = "not whole";
         };
         std::thread other(start, std::ref(problems[0]));
@@ -211,9 +211,8 @@ TEST_F(ProgramFolderTest, TwoFirstStartsAtOnceBothFindAWholeFolder) {
 
 TEST(ProgramFolderSources, KnowWhereThisProcessLies) {
     const auto sources = ProgramFolderSources::ofThisProcess();
-    EXPECT_TRUE(fs::exists(sources.executableFolder + "/tessaly_core_tests"));
-    EXPECT_EQ(fs::path(sources.shareFolder),
-              fs::path(sources.executableFolder).parent_path() / "share/tessaly-data");
+    EXPECT_TRUE(fs::exists(sources.executableFolder / "tessaly_core_tests"));
+    EXPECT_EQ(sources.shareFolder, sources.executableFolder.parent_path() / "share/tessaly-data");
 }
 
 } // namespace

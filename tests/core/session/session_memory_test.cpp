@@ -27,7 +27,7 @@ TEST_F(SessionMemoryTest, TheFirstStartOpensTheBundledPuzzlesInTheDefaultScheme)
     const LoadedSession loaded = loadSession(session);
     EXPECT_TRUE(loaded.outcome.ok()) << loaded.outcome.problem;
     EXPECT_EQ(loaded.notice, "");
-    EXPECT_EQ(session.last.path, session.ProgramFolder + "puzzles/easy.txt");
+    EXPECT_EQ(session.last.path, session.ProgramFolder / "puzzles/easy.txt");
     EXPECT_EQ(session.appearance.ActiveScheme, "xp.col");
     EXPECT_EQ(session.appearance.HexaFillColour, session.appearance.SchemeColours[slot::Button]);
     EXPECT_EQ(session.arrangements.wordCount, ArrangementCount);

@@ -145,7 +145,8 @@ TEST_F(LibraryToolsTest, ABrokenRecordIsNamedAndNothingIsWritten) {
                 if (before != nullptr)
                     put(files.output, before);
                 const Outcome outcome = tool({});
-                EXPECT_EQ(outcome.problem.find(files.input + ": line 3: "), 0u) << outcome.problem;
+                EXPECT_EQ(outcome.problem.find(files.input.native() + ": line 3: "), 0u)
+                    << outcome.problem;
                 EXPECT_NE(outcome.problem.find(problem), std::string::npos) << outcome.problem;
                 EXPECT_EQ(contentOf(files.output), before != nullptr ? before : "");
                 EXPECT_EQ(folder.names().size(), before != nullptr ? 2u : 1u) << "left behind";
@@ -171,7 +172,8 @@ TEST_F(LibraryToolsTest, ADiskThatFillsInTheMiddleOfAnOutputLeavesTheOldOne) {
     const std::vector<ToolRun> tools = allTools();
     for (const std::size_t writing : {0, 1, 3}) {
         const test::FullDisk disk(200'000);
-        EXPECT_EQ(tools[writing]({}).problem, files.output + ": cannot be written: File too large");
+        EXPECT_EQ(tools[writing]({}).problem,
+                  files.output.native() + ": cannot be written: File too large");
         EXPECT_EQ(contentOf(files.output), "old");
         EXPECT_EQ(folder.names().size(), 2u);
     }

@@ -50,7 +50,7 @@ TEST_F(FileDropTest, APuzzleFileIsLoadedWhateverItsName) {
     std::filesystem::copy_file(easy, odd);
     EXPECT_TRUE(dropped({urlOf(odd)}, Qt::CopyAction | Qt::MoveAction));
     EXPECT_EQ(game.session.puzzle.PuzPath, odd);
-    EXPECT_EQ(game.session.recentFiles.paths(), std::vector<std::string>{odd});
+    EXPECT_EQ(game.session.recentFiles.paths(), std::vector<std::filesystem::path>{odd});
     game.session.puzzle = {};
     EXPECT_TRUE(dropped({"file://localhost" + QByteArray::fromStdString(easy)}));
     EXPECT_EQ(game.session.puzzle.PuzPath, easy);

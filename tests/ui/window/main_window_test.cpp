@@ -142,7 +142,7 @@ TEST_F(MainWindow, ExitAsksAndRemembersAndTheCloseBoxDoesNeither) {
     const Configuration written = ReadcfgFile(configuration);
     EXPECT_EQ(written.PuzPath, path);
     EXPECT_EQ(written.PuzNum, 5);
-    EXPECT_EQ(written.recentFiles.paths(), std::vector<std::string>{path});
+    EXPECT_EQ(written.recentFiles.paths(), std::vector<std::filesystem::path>{path});
 
     Session next;
     next.ProgramFolder = game.folder.path();
