@@ -1,28 +1,17 @@
 #include "support/sample_boards.h"
 
-#include "core/board/tables.h"
-#include "core/solver/packed_board.h"
+#include "core/solver/puzzle_draft.h"
 
 #include <algorithm>
-#include <array>
 
 namespace tessaly {
 namespace {
-
-constexpr std::array<CellId, 10> PlanCells{
-    {{7, 4}, {5, 5}, {8, 6}, {12, 3}, {13, 1}, {15, 2}, {1, 5}, {5, 2}, {15, 5}, {19, 2}}};
-
-void givePuzzleCells(Board& board) {
-    for (CellId cell : AllCells)
-        board.FixedCell[cell] = !SideLink[cell];
-    for (CellId cell : PlanCells)
-        board.FixedCell[cell] = true;
-}
 
 void giveRandomCells(Board& board, Chance& chance) {
     const std::uint32_t percent = 20 + chance.below(75);
     for (CellId cell : AllCells)
         board.FixedCell[cell] = chance.below(100) < percent;
+    board.ResetToGivens();
 }
 
 int randomHexagon(Chance& chance) {
@@ -66,6 +55,12 @@ const SearchFill& completeFill() {
     return fill;
 }
 
+Chance chanceOf(std::uint32_t number) {
+    for (std::uint64_t seed = 0;; ++seed)
+        if (Chance chance(seed); chance.below(100) == number)
+            return Chance(seed);
+}
+
 Board filledBoard(Chance& chance) {
     HexagonWords cells{};
     completeFill().fill(cells, chance);
@@ -77,13 +72,12 @@ Board filledBoard(Chance& chance) {
 
 Board sampleBoard(Sample kind, Chance& chance) {
     Board board = filledBoard(chance);
-    const bool givensAreRandom = kind == Sample::RandomGivens || kind == Sample::WrongGivens;
-    if (givensAreRandom)
+    if (kind == Sample::RandomGivens || kind == Sample::WrongGivens)
         giveRandomCells(board, chance);
     else
-        givePuzzleCells(board);
-    if (kind != Sample::HalfTexts)
-        board.ResetToGivens();
+        PuzzleDraft(packEntries(board.SolNum)).writeTo(board);
+    if (kind == Sample::HalfTexts)
+        board.CellNum = board.SolNum;
     if (kind == Sample::WrongGivens)
         spoilGivens(board, chance);
     if (kind == Sample::EmptiedHexagon)

@@ -9,6 +9,9 @@ namespace tessaly {
 /// A search fill that knows all arrangements.
 const SearchFill& completeFill();
 
+/// A source that draws this number of 0 to 99 first.
+Chance chanceOf(std::uint32_t number);
+
 /// A random solved board: every cell holds its solution, none is a given.
 Board filledBoard(Chance& chance);
 

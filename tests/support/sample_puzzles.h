@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/board/puzzle_record.h"
+#include "core/board/tables.h"
 
 #include <fstream>
 #include <ostream>
@@ -28,6 +29,29 @@ inline Board boardOf(const std::string& record) {
     Board board;
     if (const Outcome read = readRecord(record, board); !read.ok())
         throw std::runtime_error(read.problem);
+    return board;
+}
+
+/// The same puzzle with exactly those cells given for which `isGiven` answers true.
+template <class IsGiven>
+std::string givenWhere(const std::string& record, const IsGiven& isGiven) {
+    Board board = boardOf(record);
+    for (CellId cell : AllCells)
+        board.FixedCell[cell] = isGiven(cell);
+    board.ResetToGivens();
+    return PuzzleRecord(board);
+}
+
+/// A puzzle that the rules leave open and sound: only the cells on the rim are given.
+inline std::string recordOfTheRim(const std::string& record) {
+    return givenWhere(record, [](CellId cell) { return !SideLink[cell]; });
+}
+
+/// Hexagons 1 and 3 meet at side 4 of hexagon 1 and hold all six digits between them.
+inline Board contradictoryBoard() {
+    Board board;
+    board.CellNum[1] = {"", "1", "2", "3", "16", "", ""};
+    board.CellNum[3] = {"", "", "4", "5", "6", "", ""};
     return board;
 }
 
