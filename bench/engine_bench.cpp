@@ -1,5 +1,5 @@
 // The engine beside two yardsticks: the plain reading of the rules, and a plain search with bit
-// masks. Both sides do the same work by turns in one run, so that a busy machine is busy for both;
+// masks. Both sides do their work by turns in one run, so that a busy machine is busy for both;
 // told is the best time of each ("ours", "plain", in microseconds of processor time) and how many
 // times faster ours is ("times").
 

@@ -2,6 +2,7 @@
 
 #include "core/solver/deduction.h"
 #include "support/full_disk.h"
+#include "support/plain_rules.h"
 #include "support/sample_puzzles.h"
 #include "support/sample_records.h"
 #include "support/temporary_folder.h"
@@ -19,10 +20,8 @@ using test::put;
 std::vector<std::string> linesOf(const std::filesystem::path& path) {
     std::vector<std::string> lines;
     std::istringstream content(contentOf(path));
-    for (std::string line; std::getline(content, line);) {
-        EXPECT_TRUE(line.ends_with('\r')) << line;
-        lines.push_back(line.substr(0, line.size() - 1));
-    }
+    for (std::string line; std::getline(content, line, '\r'); content.get())
+        lines.push_back(line);
     return lines;
 }
 
@@ -61,60 +60,44 @@ protected:
 
 TEST_F(LibraryToolsTest, ExpandingWritesTheVariantsOfEveryPuzzleInOrder) {
     put(files.input, "\xEF\xBB\xBF" + puzzles[0] + "\n" + puzzles[1] + "\r\n\r\n  ");
-    ASSERT_TRUE(expandPuzzles(files, OutputMode::Replace, TopBottomHeader::Follows).ok());
     std::vector<std::string> expected;
     for (const std::string& puzzle : {puzzles[0], puzzles[1]})
         for (const std::string& variant : variantsOf(puzzle, TopBottomHeader::Follows))
             expected.push_back(variant);
-    EXPECT_EQ(linesOf(files.output), expected);
-    ASSERT_TRUE(expandPuzzles(files, OutputMode::Replace, TopBottomHeader::Follows).ok());
-    EXPECT_EQ(linesOf(files.output).size(), 16u);
-}
-
-TEST_F(LibraryToolsTest, AppendingEndsTheLastLineAndTakesThePlaceOfBlankOnes) {
-    put(files.input, puzzles[0]);
-    for (const char* tail : {"", "\r", "\r\n", "\r\n\r\n  \n"}) {
-        put(files.output, puzzles[1] + tail);
-        ASSERT_TRUE(expandPuzzles(files, OutputMode::Append, TopBottomHeader::Follows).ok());
-        const std::vector<std::string> lines = linesOf(files.output);
-        ASSERT_EQ(lines.size(), 9u);
-        EXPECT_EQ(lines[0], puzzles[1]);
-        EXPECT_EQ(lines[1], puzzles[0]);
+    for (int time = 0; time < 2; ++time) {
+        ASSERT_TRUE(expandPuzzles(files, OutputMode::Replace, TopBottomHeader::Follows).ok());
+        EXPECT_EQ(linesOf(files.output), expected);
     }
+    put(files.output, puzzles[2] + "\r\n\r\n  \n");
+    ASSERT_TRUE(expandPuzzles(files, OutputMode::Append, TopBottomHeader::Follows).ok());
+    expected.insert(expected.begin(), puzzles[2]);
+    EXPECT_EQ(linesOf(files.output), expected);
 }
 
 TEST_F(LibraryToolsTest, VerifyingKeepsWhatDeductionSolves) {
-    const std::vector<std::string> easy = sampleRecords("easy.txt");
-    std::vector<std::string> hopeless{easy[0], puzzles[0]};
-    for (std::string& record : hopeless)
-        for (std::size_t i = 5; i < record.size(); ++i)
-            record[i] = record[i] < 'Q' ? record[i] : static_cast<char>(record[i] - 32);
-    std::vector<std::string> all{easy[0], hopeless[0], hopeless[1]};
-    all.insert(all.end(), puzzles.begin(), puzzles.end());
-    std::vector<std::string> solved;
-    for (const std::string& record : all) {
+    const std::string easy = sampleRecords("easy.txt").front();
+    std::vector<std::string> solved{puzzles[3], easy};
+    std::vector<std::string> all{easy, recordOfTheRim(easy), recordOfTheRim(puzzles[0]),
+                                 givenWhere(easy, [](CellId) { return false; })};
+    for (const std::string& record : puzzles) {
+        all.push_back(record);
         Board board = boardOf(record);
         plantHint(board);
-        SolveByDeduction(board);
-        if (CheckHexagons(board, board.BlankHex) == SettledAndSound)
+        plain::SolveByDeduction(board);
+        if (plain::CheckHexagons(board, board.BlankHex) == SettledAndSound)
             solved.push_back(record);
     }
     put(files.input, textOf(all));
     put(files.output, puzzles[3]);
     ASSERT_TRUE(verifyPuzzles(files, count).ok());
     EXPECT_EQ(count.tried, static_cast<int>(all.size()));
-    EXPECT_EQ(count.solved, static_cast<int>(solved.size()));
-    EXPECT_EQ(solved.front(), easy[0]);
-    EXPECT_EQ(std::count(solved.begin(), solved.end(), hopeless[0]), 0);
-    solved.insert(solved.begin(), puzzles[3]);
+    EXPECT_EQ(count.solved, static_cast<int>(solved.size()) - 1);
     EXPECT_EQ(linesOf(files.output), solved);
 }
 
 TEST_F(LibraryToolsTest, ShufflingKeepsEveryLineOnceInAnOrderOfTheSeed) {
-    std::vector<std::string> doubled = puzzles;
-    doubled.insert(doubled.end(), puzzles.begin(), puzzles.end());
-    doubled[2] += ":" + std::string(114, ' ');
-    put(files.input, textOf(doubled));
+    const std::string inProgress = puzzles[2] + ":" + std::string(114, ' ');
+    put(files.input, textOf(puzzles) + textOf(puzzles) + inProgress);
     const auto shuffledWith = [&](std::uint64_t seed) {
         Chance seeded(seed);
         EXPECT_TRUE(shufflePuzzles(files, seeded).ok());
@@ -124,45 +107,46 @@ TEST_F(LibraryToolsTest, ShufflingKeepsEveryLineOnceInAnOrderOfTheSeed) {
     EXPECT_EQ(shuffledWith(1), shuffled);
     EXPECT_NE(shuffledWith(2), shuffled);
     std::vector<std::string> expected = puzzles;
-    expected.push_back(doubled[2]);
+    expected.push_back(inProgress);
     std::sort(expected.begin(), expected.end());
-    std::sort(shuffled.begin(), shuffled.end());
-    EXPECT_EQ(shuffled, expected);
-
     files.output = files.input;
-    EXPECT_EQ(shuffledWith(1).size(), expected.size()) << "onto itself";
+    for (std::vector<std::string> lines : {shuffled, shuffledWith(3)}) {
+        std::sort(lines.begin(), lines.end());
+        EXPECT_EQ(lines, expected);
+    }
 }
 
-TEST_F(LibraryToolsTest, ABrokenRecordIsNamedAndNothingIsWritten) {
-    for (const auto& [broken, problem] :
-         std::vector<std::pair<std::string, std::string>>{{"nonsense", "has 8 characters"},
-                                                          {"", "has 0 characters"},
-                                                          {std::string(9000, '1'), "is longer"}}) {
-        put(files.input, puzzles[0] + "\r\n" + puzzles[1] + "\r\n" + broken + "\r\n" + puzzles[2]);
+TEST_F(LibraryToolsTest, ARunThatFailsOrIsStoppedIsSaidAndWritesNothing) {
+    const std::string start = textOf({puzzles[0], puzzles[1]});
+    const std::string thirdLine = files.input.string() + ": line 3: ";
+    const KeepGoing always = [](int) { return true; };
+    const KeepGoing untilThree = [](int records) { return records < 3; };
+    for (const auto& [input, keepGoing, problem] :
+         std::vector<std::tuple<std::string, KeepGoing, std::string>>{
+             {start + "nonsense\r\n" + puzzles[2], always,
+              thirdLine + "the record has 8 characters"},
+             {start + "\r\n" + puzzles[2], always, thirdLine + "the record has 0 characters"},
+             {start + std::string(9000, '1'), always, thirdLine + "the line is longer"},
+             {textOf(puzzles), untilThree, StoppedProblem},
+             {"", always, files.input.string() + ": "}})
         for (const ToolRun& tool : allTools())
-            for (const char* before : {"old", static_cast<const char*>(nullptr)}) {
+            for (const char* before : {"old", ""}) {
+                std::filesystem::remove(files.input);
                 std::filesystem::remove(files.output);
-                if (before != nullptr)
+                if (!input.empty())
+                    put(files.input, input);
+                if (*before != '\0')
                     put(files.output, before);
-                const Outcome outcome = tool({});
-                EXPECT_EQ(outcome.problem.find(files.input.native() + ": line 3: "), 0u)
-                    << outcome.problem;
-                EXPECT_NE(outcome.problem.find(problem), std::string::npos) << outcome.problem;
-                EXPECT_EQ(contentOf(files.output), before != nullptr ? before : "");
-                EXPECT_EQ(folder.names().size(), before != nullptr ? 2u : 1u) << "left behind";
+                const std::set<std::string> names = folder.names();
+                const Outcome outcome = tool(keepGoing);
+                EXPECT_TRUE(outcome.problem.starts_with(problem)) << outcome.problem;
+                EXPECT_EQ(contentOf(files.output), before);
+                EXPECT_EQ(folder.names(), names) << "left behind";
             }
-    }
-}
-
-TEST_F(LibraryToolsTest, AMissingInputOrAnOutputThatIsNoFileIsNamed) {
-    for (const ToolRun& tool : allTools()) {
-        EXPECT_NE(tool({}).problem.find(files.input), std::string::npos);
-        EXPECT_TRUE(folder.names().empty());
-    }
-    put(files.input, textOf(puzzles));
+    put(files.input, start);
     files.output = folder / "nowhere/out.txt";
     for (const ToolRun& tool : allTools())
-        EXPECT_NE(tool({}).problem.find(files.output), std::string::npos);
+        EXPECT_TRUE(tool({}).problem.starts_with(files.output.string()));
 }
 
 TEST_F(LibraryToolsTest, ADiskThatFillsInTheMiddleOfAnOutputLeavesTheOldOne) {
@@ -172,32 +156,11 @@ TEST_F(LibraryToolsTest, ADiskThatFillsInTheMiddleOfAnOutputLeavesTheOldOne) {
     const std::vector<ToolRun> tools = allTools();
     for (const std::size_t writing : {0, 1, 3}) {
         const test::FullDisk disk(200'000);
-        EXPECT_EQ(tools[writing]({}).problem,
-                  files.output.native() + ": cannot be written: File too large");
+        EXPECT_TRUE(tools[writing]({}).problem.ends_with(": cannot be written: File too large"));
         EXPECT_EQ(contentOf(files.output), "old");
-        EXPECT_EQ(folder.names().size(), 2u);
     }
     EXPECT_EQ(tools[3]({}).problem, "");
-    std::vector<std::string> shuffled = linesOf(files.output);
-    std::vector<std::string> lines = linesOf(files.input);
-    std::sort(shuffled.begin(), shuffled.end());
-    std::sort(lines.begin(), lines.end());
-    EXPECT_TRUE(shuffled == lines);
-}
-
-TEST_F(LibraryToolsTest, ARunThatIsStoppedWritesNothing) {
-    put(files.input, textOf(puzzles));
-    put(files.output, "old");
-    for (const ToolRun& tool : allTools()) {
-        int calls = 0;
-        const Outcome outcome = tool([&](int records) {
-            EXPECT_EQ(records, ++calls);
-            return records < 3;
-        });
-        EXPECT_EQ(outcome.problem, StoppedProblem);
-        EXPECT_EQ(calls, 3);
-        EXPECT_EQ(contentOf(files.output), "old");
-    }
+    EXPECT_EQ(contentOf(files.output).size(), contentOf(files.input).size());
 }
 
 } // namespace
