@@ -7,7 +7,7 @@
 #include "ui/controls/file_name_picker.h"
 #include "ui/controls/icon_set.h"
 #include "ui/controls/message_box.h"
-#include "ui/controls/scheme_palette.h"
+#include "ui/drawing/qt_values.h"
 #include "ui/output/printers.h"
 #include "ui/window/main_window.h"
 

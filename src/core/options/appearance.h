@@ -68,6 +68,12 @@ struct Appearance {
     friend bool operator==(const Appearance&, const Appearance&) = default;
 };
 
+/// Makes a whole scheme of one base colour: slot 2 is the base, slots 3 to 8 are the base shifted
+/// darker and lighter in steps that grow with the contrast (in percent; a negative one swaps dark
+/// and light). Distances are rounded, halves to even; every channel of a shifted colour lies in
+/// 1..244. Slot 13 keeps its value.
+void BuildScheme(Colour base, int contrast, SchemeColours& colours);
+
 /// How well one colour reads on the other: 1 (not at all) to 21 (black on white), the contrast
 /// ratio of WCAG 2, section 1.4.3.
 double contrastRatio(Colour one, Colour other);

@@ -6,13 +6,11 @@
 namespace tessaly {
 namespace {
 
-int rounded(float value) {
-    return static_cast<int>(std::nearbyint(value));
-}
-
 template <class Shade>
 Colour shaded(Colour colour, Shade shade) {
-    const auto channel = [&shade](int value) { return rounded(shade(static_cast<float>(value))); };
+    const auto channel = [&shade](int value) {
+        return static_cast<int>(std::lrint(shade(static_cast<float>(value))));
+    };
     return RGB(channel(RedOf(colour)), channel(GreenOf(colour)), channel(BlueOf(colour)));
 }
 
@@ -30,7 +28,6 @@ Colour clrWhiteness(Colour colour, int v) {
 }
 
 namespace colour_surface {
-
 namespace {
 
 constexpr int ShadesInAStep = 8;

@@ -18,26 +18,37 @@
 namespace tessaly {
 namespace {
 
-constexpr std::string_view Blanks = " \t";
-
-std::string_view trimmed(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(Blanks);
-    if (first == std::string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(Blanks) - first + 1);
-}
+constexpr std::size_t SizeLimit = std::size_t{16} << 20;
+constexpr const char* ScratchCopy = "newall.cox";
 
 /// A number from 0 to 255, rounded to a whole one, halves to even.
 std::optional<int> parseChannel(std::string_view piece) {
-    const std::string_view text = trimmed(piece);
+    constexpr const char* Blanks = " \t";
+    piece.remove_prefix(std::min(piece.find_first_not_of(Blanks), piece.size()));
     double value = -1;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (error != std::errc() || end != text.data() + text.size())
+    const auto [end, error] = std::from_chars(piece.data(), piece.data() + piece.size(), value);
+    piece.remove_prefix(static_cast<std::size_t>(end - piece.data()));
+    if (error != std::errc() || piece.find_first_not_of(Blanks) != std::string_view::npos)
         return {};
     const double whole = std::nearbyint(value);
     if (!(whole >= 0 && whole <= 255))
         return {};
     return static_cast<int>(whole);
+}
+
+/// Reads a colour line; what follows the third number is ignored.
+std::optional<Colour> parseColourLine(std::string_view line) {
+    std::array<int, 3> channels{};
+    for (std::size_t i = 0; i < channels.size(); ++i) {
+        const std::size_t end = line.find(';');
+        const auto channel = parseChannel(line.substr(0, end));
+        const bool isLast = i + 1 == channels.size();
+        if (!channel || (end == std::string_view::npos && !isLast))
+            return {};
+        channels[i] = *channel;
+        line.remove_prefix(end == std::string_view::npos ? line.size() : end + 1);
+    }
+    return RGB(channels[0], channels[1], channels[2]);
 }
 
 std::string colourLine(Colour colour) {
@@ -84,8 +95,14 @@ std::size_t appendLower(std::string_view text, std::string& lower) {
     return length;
 }
 
-constexpr std::size_t SizeLimit = std::size_t{16} << 20;
-constexpr const char* ScratchCopy = "newall.cox";
+/// `text` with its letters in lower case, those of other scripts too.
+std::string lowerCase(std::string_view text) {
+    const EveryLetter known;
+    std::string lower;
+    while (!text.empty())
+        text.remove_prefix(appendLower(text, lower));
+    return lower;
+}
 
 std::vector<std::string> listNames(std::string_view content) {
     std::vector<std::string> names;
@@ -146,19 +163,18 @@ std::string withRecordsReplaced(const std::string& content, const std::string& h
     return result;
 }
 
+std::string addingFailed(const std::string& why) {
+    return "Error in adding Colour Scheme:\r\n" + why;
+}
+std::string updatingFailed(const std::string& why) {
+    return "Error in updating Colour Scheme:\r\n" + why;
+}
+
 Outcome reported(const Outcome& outcome, std::string (*message)(const std::string&)) {
     return outcome.ok() ? outcome : Outcome::failed(message(outcome.problem));
 }
 
 } // namespace
-
-std::string lowerCase(std::string_view text) {
-    const EveryLetter known;
-    std::string lower;
-    while (!text.empty())
-        text.remove_prefix(appendLower(text, lower));
-    return lower;
-}
 
 std::string schemeHeader(std::string_view name) {
     return lowerCase(name).append(SchemeExtension);
@@ -177,20 +193,6 @@ std::string schemeRecord(const std::string& header, const SchemeColours& colours
     for (std::size_t slot = 0; slot < StoredSlotCount; ++slot)
         record.append(colourLine(colours[slot])).append(LineEnd);
     return record;
-}
-
-std::optional<Colour> parseColourLine(std::string_view line) {
-    std::array<int, 3> channels{};
-    for (std::size_t i = 0; i < channels.size(); ++i) {
-        const std::size_t end = line.find(';');
-        const auto channel = parseChannel(line.substr(0, end));
-        const bool isLast = i + 1 == channels.size();
-        if (!channel || (end == std::string_view::npos && !isLast))
-            return {};
-        channels[i] = *channel;
-        line.remove_prefix(end == std::string_view::npos ? line.size() : end + 1);
-    }
-    return RGB(channels[0], channels[1], channels[2]);
 }
 
 SchemeLibrary::SchemeLibrary(std::filesystem::path programFolder)
@@ -221,7 +223,7 @@ Outcome SchemeLibrary::LoadScheme(const std::string& file, Appearance& appearanc
                                      [&](const TextLine& line) { return line.text == file; });
     if (header == lines.end()) {
         appearance.ActiveScheme = BuiltInScheme;
-        return Outcome::failed(scheme_messages::notFound(file));
+        return Outcome::failed("Colour Scheme: " + file + " not found");
     }
     const auto at = static_cast<std::size_t>(header - lines.begin());
     const Outcome read = readColours(lines, at, colours);
@@ -230,18 +232,18 @@ Outcome SchemeLibrary::LoadScheme(const std::string& file, Appearance& appearanc
 
 Outcome SchemeLibrary::AddScheme(const std::string& name, const SchemeColours& colours) {
     if (name.find_first_of("\r\n") != std::string::npos)
-        return Outcome::failed(scheme_messages::addingFailed("A name cannot hold a line break"));
+        return Outcome::failed(addingFailed("A name cannot hold a line break"));
     bool isListed = false;
     const Outcome added = rewrite([&](std::string& content) {
         isListed = listsName(listNames(content), name);
         if (isListed)
-            return Outcome::failed(scheme_messages::exists(name));
+            return Outcome::failed("Colour Scheme: " + name + " already exists");
         if (!content.empty() && !content.ends_with('\n'))
             content += LineEnd;
         content += schemeRecord(schemeHeader(name), colours);
         return Outcome::done();
     });
-    return isListed ? added : reported(added, scheme_messages::addingFailed);
+    return isListed ? added : reported(added, addingFailed);
 }
 
 Outcome SchemeLibrary::ReplaceScheme(const std::string& entry, const SchemeColours& colours) {
@@ -259,7 +261,7 @@ Outcome SchemeLibrary::rewriteRecords(const std::string& header, const std::stri
         content = withRecordsReplaced(content, header, replacement);
         return replaceFile(m_folder / ScratchCopy, content);
     });
-    return reported(rewritten, scheme_messages::updatingFailed);
+    return reported(rewritten, updatingFailed);
 }
 
 Outcome SchemeLibrary::rewrite(const std::function<Outcome(std::string& content)>& change) {

@@ -10,9 +10,6 @@
 #include <string_view>
 #include <vector>
 
-/// What the user is asked and told about the scheme library. Failures are told by the operations
-/// themselves, in the `Outcome` they return.
-
 namespace tessaly {
 
 /// A scheme in the library file is one header line, the scheme's name in lower case with ".col"
@@ -28,65 +25,11 @@ inline constexpr std::string_view SchemeExtension = ".col";
 /// The header of the scheme that the user calls `name` (UTF-8).
 std::string schemeHeader(std::string_view name);
 
-/// `text` with its letters in lower case, as `schemeHeader` has them.
-std::string lowerCase(std::string_view text);
-
 /// The name that a line lists: what stands before its first ".col"; nothing when it has none.
 std::optional<std::string_view> listedName(std::string_view line);
 
 /// The 14 lines of a scheme, each with its line end.
 std::string schemeRecord(const std::string& header, const SchemeColours& colours);
-
-/// Reads a colour line; what follows the third number is ignored.
-std::optional<Colour> parseColourLine(std::string_view line);
-
-namespace scheme_messages {
-
-inline const std::string LibraryMissing =
-    "File: all.col is missing\r\nProgram cannot run without this file";
-
-inline std::string caption(const std::string& scheme) {
-    return "Colour Scheme: " + scheme;
-}
-
-inline const std::string AskName = "Enter new Colour Scheme name";
-inline const std::string SelectToReplace = "Select a colour scheme to replace";
-inline const std::string SelectToDelete = "Select a colour scheme to delete";
-inline const std::string ActiveCannotBeDeleted = "Cannot delete currently active Colour Scheme";
-
-inline std::string askReplace(const std::string& entry) {
-    return "Replace colour scheme: " + entry;
-}
-inline std::string askDelete(const std::string& entry) {
-    return "Delete colour scheme: " + entry;
-}
-
-inline std::string notFound(const std::string& file) {
-    return "Colour Scheme: " + file + " not found";
-}
-inline std::string exists(const std::string& name) {
-    return "Colour Scheme: " + name + " already exists";
-}
-/// `name` as it was typed.
-inline std::string added(const std::string& name) {
-    return "Colour Scheme: " + name + " added";
-}
-/// `header` is the scheme's file name, in lower case and with ".col".
-inline std::string replaced(const std::string& header) {
-    return "Colour Scheme: " + header + " replaced";
-}
-inline std::string deleted(const std::string& header) {
-    return "Colour Scheme: " + header + " deleted";
-}
-
-inline std::string addingFailed(const std::string& why) {
-    return "Error in adding Colour Scheme:\r\n" + why;
-}
-inline std::string updatingFailed(const std::string& why) {
-    return "Error in updating Colour Scheme:\r\n" + why;
-}
-
-} // namespace scheme_messages
 
 /// The colour schemes in the file "all.col" of the program's folder. Every operation works on what
 /// the file holds at that time, whoever wrote it, and keeps the bytes of the records that it does

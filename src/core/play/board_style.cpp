@@ -48,7 +48,6 @@ BoardStyle boardStyle(const Appearance& appearance) {
     const Colour background = appearance.SchemeColours[slot::Background];
     const bool split = appearance.SplitHexas;
     return {
-        .background = background,
         .border = split ? background : appearance.HexaBorderColour,
         .line = appearance.HexaBorderColour,
         .fill = appearance.HexaFillColour,
@@ -62,7 +61,6 @@ BoardStyle boardStyle(const Appearance& appearance) {
 BoardStyle paperStyle(const Appearance& appearance) {
     constexpr double WidestBorder = 16;
     return {
-        .background = White,
         .border = Black,
         .line = Black,
         .fill = White,

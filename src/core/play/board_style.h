@@ -39,7 +39,6 @@ void layOutEntry(std::string_view entry, OnNumber onNumber, OnMark onMark) {
 
 /// The colours and the border that the board is drawn with.
 struct BoardStyle {
-    Colour background;
     Colour border;
     /// The lines that part the cells of a hexagon.
     Colour line;

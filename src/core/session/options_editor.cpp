@@ -1,10 +1,10 @@
 #include "core/session/options_editor.h"
 
-#include "core/options/print_line.h"
-#include "core/options/scheme_builder.h"
-#include "core/options/scheme_library.h"
+#include "core/base/leading_number.h"
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 #include <utility>
 
 namespace tessaly {
@@ -21,16 +21,29 @@ std::optional<std::size_t> indexOf(const std::vector<std::string>& names, const 
     return static_cast<std::size_t>(found - names.begin());
 }
 
+std::string captionOf(const std::string& scheme) {
+    return "Colour Scheme: " + scheme;
+}
+
+/// `scheme` as the user typed it, or the scheme's file name.
+std::string done(const std::string& scheme, const std::string& what) {
+    return "Colour Scheme: " + scheme + " " + what;
+}
+
+/// The width of border lines that a text means: the number at its start, rounded to a whole one,
+/// halves to even, and at least 1. A text without a number gives 1, a number beyond all bounds the
+/// largest there is.
+int printLineWidth(std::string_view text) {
+    constexpr double Largest = std::numeric_limits<int>::max();
+    return static_cast<int>(std::clamp(std::nearbyint(leadingNumber(text)), 1.0, Largest));
+}
+
 /// A scheme's file name without what follows its first dot.
 std::string bareName(const std::string& file) {
     return file.substr(0, file.find('.'));
 }
 
 } // namespace
-
-Colour neutralOn(Colour background) {
-    return readableOn(background);
-}
 
 OptionsEditor::OptionsEditor(Appearance& settings, std::filesystem::path programFolder,
                              Prompts& prompts)
@@ -57,7 +70,7 @@ void OptionsEditor::startSamples() {
 }
 
 void OptionsEditor::showSchemeInForce() {
-    m_caption = scheme_messages::caption(bareName(m_settings.ActiveScheme));
+    m_caption = captionOf(bareName(m_settings.ActiveScheme));
 }
 
 std::optional<std::size_t> OptionsEditor::schemeInForce() const {
@@ -72,12 +85,12 @@ const std::string& OptionsEditor::selectedEntry() const {
 
 void OptionsEditor::ShowScheme() {
     const Colour background = m_samples.SchemeColours[slot::Background];
-    m_caption = scheme_messages::caption(selectedEntry());
+    m_caption = captionOf(selectedEntry());
     m_colour = background;
     m_samples.HexaFillColour = background;
     for (Colour* colour :
          {&m_samples.HexaBorderColour, &m_samples.FixedNumberColour, &m_samples.UserNumberColour})
-        *colour = neutralOn(background);
+        *colour = readableOn(background);
 }
 
 void OptionsEditor::List1_MouseUp(std::size_t index) {
@@ -105,38 +118,38 @@ void OptionsEditor::ShowSch() {
 }
 
 void OptionsEditor::AddSch() {
-    const std::string name = m_prompts.ask(scheme_messages::AskName);
+    const std::string name = m_prompts.ask("Enter new Colour Scheme name");
     if (name.empty())
         return;
     const Outcome added = m_library.AddScheme(name, m_samples.SchemeColours);
     if (added.ok())
         m_selected.reset(); // the list was made anew
-    report(added, scheme_messages::added(name));
+    report(added, done(name, "added"));
 }
 
 void OptionsEditor::RepSch() {
     const std::string entry =
-        confirmedEntry(scheme_messages::SelectToReplace, scheme_messages::askReplace);
+        confirmedEntry("Select a colour scheme to replace", "Replace colour scheme: ");
     if (entry.empty())
         return;
     const Outcome replaced = m_library.ReplaceScheme(entry, m_samples.SchemeColours);
     m_selected = indexOf(schemeNames(), entry); // another instance may have moved it
-    report(replaced, scheme_messages::replaced(schemeHeader(entry)));
+    report(replaced, done(schemeHeader(entry), "replaced"));
 }
 
 void OptionsEditor::DelSch() {
     const std::string entry =
-        confirmedEntry(scheme_messages::SelectToDelete, scheme_messages::askDelete);
+        confirmedEntry("Select a colour scheme to delete", "Delete colour scheme: ");
     if (entry.empty())
         return;
     if (isSchemeInForce(entry, m_settings.ActiveScheme)) {
-        tell(scheme_messages::ActiveCannotBeDeleted);
+        tell("Cannot delete currently active Colour Scheme");
         return;
     }
     const Outcome deleted = m_library.DeleteScheme(entry);
     if (deleted.ok())
         m_selected.reset();
-    report(deleted, scheme_messages::deleted(schemeHeader(entry)));
+    report(deleted, done(schemeHeader(entry), "deleted"));
 }
 
 void OptionsEditor::List2_MouseUp(std::string font) {
@@ -146,7 +159,7 @@ void OptionsEditor::List2_MouseUp(std::string font) {
 void OptionsEditor::forgetBorderInBackgroundColour() {
     const Colour background = m_samples.SchemeColours[slot::Background];
     if (m_samples.HexaBorderColour == background)
-        m_samples.HexaBorderColour = neutralOn(background);
+        m_samples.HexaBorderColour = readableOn(background);
 }
 
 void OptionsEditor::cmdcol(int index) {
@@ -199,14 +212,13 @@ void OptionsEditor::Apply(std::string_view printLine) {
     m_settings.PrintLineWidth = printLineWidth(printLine);
 }
 
-std::string OptionsEditor::confirmedEntry(const std::string& ifNone,
-                                          std::string (*question)(const std::string& entry)) {
+std::string OptionsEditor::confirmedEntry(const std::string& ifNone, const std::string& question) {
     const std::string& entry = selectedEntry();
     if (entry.empty()) {
         tell(ifNone);
         return {};
     }
-    return m_prompts.message(question(entry), YesNo) == answer::Yes ? entry : std::string();
+    return m_prompts.message(question + entry, YesNo) == answer::Yes ? entry : std::string();
 }
 
 void OptionsEditor::report(const Outcome& outcome, const std::string& done) {

@@ -71,11 +71,10 @@ private:
     void startSamples();
     void ShowScheme();
     const std::string& selectedEntry() const;
-    /// The selected entry, if the user says yes to the question about it; else "". `ifNone` is told
-    /// when none is selected.
-    std::string confirmedEntry(const std::string& ifNone,
-                               std::string (*question)(const std::string& entry));
-    /// Tells how an operation on the library ended; whether it went well.
+    /// The selected entry, if the user says yes to the question about it, which ends in its name;
+    /// else "". `ifNone` is told when none is selected.
+    std::string confirmedEntry(const std::string& ifNone, const std::string& question);
+    /// Tells how an operation on the library ended.
     void report(const Outcome& outcome, const std::string& done);
     void tell(const std::string& problem);
     void forgetBorderInBackgroundColour();
@@ -90,9 +89,5 @@ private:
     int m_contrast = UsualContrast;
     Colour m_colour = Black;
 };
-
-/// The colour of samples that nobody has chosen one for: black, but white where the background is
-/// so dark that black would vanish.
-Colour neutralOn(Colour background);
 
 } // namespace tessaly

@@ -1,44 +1,60 @@
 #include "ui/controls/box_control.h"
 
-#include "ui/drawing/qt_colour.h"
+#include "ui/drawing/qt_values.h"
 
-#include <QColor>
 #include <QContextMenuEvent>
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLinearGradient>
 #include <QMetaMethod>
-#include <QObject>
 #include <QPainter>
 #include <QPointer>
-#include <QRectF>
 #include <QShortcutEvent>
 #include <QToolTip>
 
 #include <algorithm>
 #include <cmath>
-
-class QPainter;
+#include <functional>
+#include <utility>
 
 namespace tessaly {
 namespace {
 
+constexpr int PictureSize = 24;
+constexpr double CornerRadius = 4;
 constexpr int PaddingBesideCaption = 14;
 constexpr int PaddingBesidePicture = 7;
 constexpr int PaddingAbove = 7;
 constexpr int Gap = 7;
 
-QSize pictureSize(const BoxContents& contents) {
-    return contents.picture == Picture::None ? QSize(0, 0) : contents.pictureSize;
+// What stands on the face of a button is a picture left of a caption, or one of the two alone, in
+// the middle.
+
+QSize pictureSize(const BoxControl& button) {
+    return button.picture() == Picture::None ? QSize(0, 0) : button.iconSize();
 }
 
-QSize captionSize(const BoxContents& contents, const QFontMetrics& font) {
-    return contents.caption.isEmpty() ? QSize(0, 0)
-                                      : font.size(Qt::TextShowMnemonic, contents.caption);
+QSize captionSize(const BoxControl& button) {
+    return button.text().isEmpty() ? QSize(0, 0)
+                                   : button.fontMetrics().size(Qt::TextShowMnemonic, button.text());
 }
 
-int gapIn(const BoxContents& contents) {
-    return contents.picture == Picture::None || contents.caption.isEmpty() ? 0 : Gap;
+int gapIn(const BoxControl& button) {
+    return button.picture() == Picture::None || button.text().isEmpty() ? 0 : Gap;
+}
+
+void drawContents(QPainter& painter, const QRectF& area, const BoxControl& button) {
+    const QSizeF picture = pictureSize(button);
+    const double captionLeft = picture.width() + gapIn(button);
+    QRectF used(0, 0, captionLeft + captionSize(button).width(), area.height());
+    used.moveCenter(area.center());
+
+    QRectF place(used.topLeft(), picture);
+    place.moveTop(std::round(area.center().y() - picture.height() / 2));
+    drawPicture(painter, place, button.picture(), button.textColour());
+    painter.setPen(button.textColour());
+    painter.drawText(used.adjusted(captionLeft, 0, 0, 0), Qt::AlignCenter | Qt::TextShowMnemonic,
+                     button.text());
 }
 
 /// How the face of a button looks at the moment.
@@ -51,12 +67,6 @@ struct BoxFace {
     bool focused = false;
     bool enabled = true;
 };
-
-/// Draws the face with its border, one pixel thick and lit from the upper left, on whole pixels of
-/// the device.
-void drawBoxFace(QPainter& painter, const QRectF& area, const BoxFace& face);
-
-constexpr double CornerRadius = 4;
 
 bool isDark(const QColor& face) {
     return readableOn(face) == QColor(Qt::white);
@@ -115,7 +125,9 @@ void drawRing(QPainter& painter, const QRectF& area, const QColor& colour, doubl
                             CornerRadius - inset / 2);
 }
 
-void drawBoxFace(QPainter& painter, const QRectF& area, const BoxFace& face) {
+/// Draws the face with its border, one pixel thick and lit from the upper left, on whole pixels of
+/// the device.
+void drawFace(QPainter& painter, const QRectF& area, const BoxFace& face) {
     const QRectF outer = onPixels(painter, area);
     const double border = borderWidth(painter);
     const QColor shade = faceShade(face);
@@ -134,23 +146,6 @@ void drawBoxFace(QPainter& painter, const QRectF& area, const BoxFace& face) {
     painter.restore();
 }
 
-/// Waits until a key that is down comes up, or until the window can no longer see it come up;
-/// says so once, whoever has the focus.
-class KeyHold : public QObject {
-    Q_OBJECT
-
-public:
-    KeyHold(int key, QObject* parent);
-
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
-Q_SIGNALS:
-    void ended();
-
-private:
-    int m_key;
-};
-
 bool isReleaseOf(int key, const QEvent& event) {
     if (event.type() != QEvent::KeyRelease)
         return false;
@@ -158,52 +153,36 @@ bool isReleaseOf(int key, const QEvent& event) {
     return released.key() == key && !released.isAutoRepeat();
 }
 
-KeyHold::KeyHold(int key, QObject* parent)
-    : QObject(parent)
-    , m_key(key) {
-    QCoreApplication::instance()->installEventFilter(this);
-}
-
-bool KeyHold::eventFilter(QObject*, QEvent* event) {
-    if (isReleaseOf(m_key, *event) || event->type() == QEvent::WindowDeactivate) {
-        QCoreApplication::instance()->removeEventFilter(this);
-        deleteLater();
-        Q_EMIT ended();
+/// Waits until a key that is down comes up, or until the window can no longer see it come up;
+/// says so once, whoever has the focus.
+class KeyHold : public QObject {
+public:
+    KeyHold(int key, QObject* parent, std::function<void()> ended)
+        : QObject(parent)
+        , m_key(key)
+        , m_ended(std::move(ended)) {
+        QCoreApplication::instance()->installEventFilter(this);
     }
-    return false;
-}
 
-constexpr int PictureSize = 24;
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (isReleaseOf(m_key, *event) || event->type() == QEvent::WindowDeactivate) {
+            QCoreApplication::instance()->removeEventFilter(this);
+            deleteLater();
+            m_ended();
+        }
+        return false;
+    }
+
+private:
+    int m_key;
+    std::function<void()> m_ended;
+};
 
 bool isEnter(const QKeyEvent& event) {
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
 
 } // namespace
-
-QSize sizeAround(const BoxContents& contents, const QFontMetrics& font) {
-    const QSize picture = pictureSize(contents);
-    const QSize caption = captionSize(contents, font);
-    const int padding = contents.caption.isEmpty() ? PaddingBesidePicture : PaddingBesideCaption;
-    return {picture.width() + gapIn(contents) + caption.width() + 2 * padding,
-            std::max(picture.height(), caption.height()) + 2 * PaddingAbove};
-}
-
-void drawBoxContents(QPainter& painter, const QRectF& area, const BoxContents& contents,
-                     const QColor& colour) {
-    const QSizeF picture = pictureSize(contents);
-    const double captionLeft = picture.width() + gapIn(contents);
-    const double width = captionLeft + captionSize(contents, painter.fontMetrics()).width();
-    QRectF used(0, 0, width, area.height());
-    used.moveCenter(area.center());
-
-    QRectF place(used.topLeft(), picture);
-    place.moveTop(std::round(area.center().y() - picture.height() / 2));
-    drawPicture(painter, place, contents.picture, colour);
-    painter.setPen(colour);
-    painter.drawText(used.adjusted(captionLeft, 0, 0, 0), Qt::AlignCenter | Qt::TextShowMnemonic,
-                     contents.caption);
-}
 
 BoxControl::BoxControl(QWidget* parent)
     : QAbstractButton(parent) {
@@ -258,7 +237,11 @@ void BoxControl::setLatched(bool latched) {
 
 QSize BoxControl::sizeHint() const {
     ensurePolished();
-    return sizeAround(contents(), fontMetrics());
+    const QSize picture = pictureSize(*this);
+    const QSize caption = captionSize(*this);
+    const int padding = text().isEmpty() ? PaddingBesidePicture : PaddingBesideCaption;
+    return {picture.width() + gapIn(*this) + caption.width() + 2 * padding,
+            std::max(picture.height(), caption.height()) + 2 * PaddingAbove};
 }
 
 bool BoxControl::event(QEvent* event) {
@@ -306,7 +289,7 @@ void BoxControl::answerShortcut(const QShortcutEvent& event) {
 void BoxControl::holdUntilReleased(int key) {
     if (isDown())
         return;
-    connect(new KeyHold(key, this), &KeyHold::ended, this, [this] {
+    new KeyHold(key, this, [this] {
         setDown(false);
         Q_EMIT released();
     });
@@ -384,21 +367,14 @@ void BoxControl::contextMenuEvent(QContextMenuEvent* event) {
 void BoxControl::paintEvent(QPaintEvent*) {
     const bool sunk = isDown() || isLatched() || m_alternateDown;
     QPainter painter(this);
-    drawBoxFace(painter, rect(),
-                {.colour = faceColour(),
-                 .sunk = sunk,
-                 .latched = isLatched(),
-                 .hovered = underMouse(),
-                 .focused = hasFocus(),
-                 .enabled = isEnabled()});
-    drawBoxContents(painter, QRectF(rect()).translated(sunk ? 1 : 0, sunk ? 1 : 0), contents(),
-                    textColour());
-}
-
-BoxContents BoxControl::contents() const {
-    return {m_picture, iconSize(), text()};
+    drawFace(painter, rect(),
+             {.colour = faceColour(),
+              .sunk = sunk,
+              .latched = isLatched(),
+              .hovered = underMouse(),
+              .focused = hasFocus(),
+              .enabled = isEnabled()});
+    drawContents(painter, QRectF(rect()).translated(sunk ? 1 : 0, sunk ? 1 : 0), *this);
 }
 
 } // namespace tessaly
-
-#include "box_control.moc"

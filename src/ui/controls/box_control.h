@@ -4,32 +4,12 @@
 
 #include <QAbstractButton>
 #include <QColor>
-#include <QFontMetrics>
-#include <QKeyEvent>
 #include <QKeySequence>
-#include <QMouseEvent>
 #include <QString>
 
-class QColor;
-class QPainter;
 class QShortcutEvent;
 
 namespace tessaly {
-
-/// What stands on the face of a button: a picture left of a caption, or one of the two alone, in
-/// the middle. Sizes are in logical pixels.
-struct BoxContents {
-    Picture picture = Picture::None;
-    QSize pictureSize;
-    /// With "&" before its mnemonic, if it has one.
-    QString caption;
-};
-
-/// The size of a button whose contents have room enough.
-QSize sizeAround(const BoxContents& contents, const QFontMetrics& font);
-
-void drawBoxContents(QPainter& painter, const QRectF& area, const BoxContents& contents,
-                     const QColor& colour);
 
 /// The button of every command: a captioned or pictured face with a raised border that sinks while
 /// pressed. The left button, Space and Enter click it (clicked(), with pressed() and released()
@@ -100,7 +80,6 @@ private:
     void nameAfterToolTip();
     void answerShortcut(const QShortcutEvent& event);
     void holdUntilReleased(int key);
-    BoxContents contents() const;
 
     Picture m_picture = Picture::None;
     QColor m_face;

@@ -1,6 +1,6 @@
 #include "ui/controls/choice_mark.h"
 
-#include "ui/drawing/qt_colour.h"
+#include "ui/drawing/qt_values.h"
 
 #include <QPainter>
 
@@ -9,7 +9,7 @@
 namespace tessaly {
 namespace {
 
-constexpr int MarkSize = 16;
+constexpr int BoxSide = 16;
 constexpr int Inset = 3;
 constexpr int Gap = 8;
 
@@ -39,8 +39,8 @@ void drawChosen(QPainter& painter, ChoiceMark mark, const QRectF& place, const Q
 
 QSize choiceSize(const QAbstractButton& button) {
     const QSize caption = button.fontMetrics().size(Qt::TextShowMnemonic, button.text());
-    return {MarkSize + Gap + caption.width() + 2 * Inset,
-            std::max(MarkSize, caption.height()) + 2 * Inset};
+    return {BoxSide + Gap + caption.width() + 2 * Inset,
+            std::max(BoxSide, caption.height()) + 2 * Inset};
 }
 
 void drawChoice(QAbstractButton& button, ChoiceMark mark) {
@@ -48,7 +48,7 @@ void drawChoice(QAbstractButton& button, ChoiceMark mark) {
     const QColor colour = button.isEnabled() ? readableOn(ground) : fadedOn(ground);
     QPainter painter(&button);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QRectF place(Inset, (button.height() - MarkSize) / 2.0, MarkSize, MarkSize);
+    const QRectF place(Inset, (button.height() - BoxSide) / 2.0, BoxSide, BoxSide);
     painter.setPen(QPen(blended(ground, colour, 0.65), 1));
     if (button.underMouse() || button.isDown())
         painter.setBrush(blended(ground, colour, button.isDown() ? 0.2 : 0.1));
@@ -61,7 +61,7 @@ void drawChoice(QAbstractButton& button, ChoiceMark mark) {
     if (button.isChecked())
         drawChosen(painter, mark, place, colour);
     painter.setPen(colour);
-    painter.drawText(button.rect().adjusted(Inset + MarkSize + Gap, 0, 0, 0),
+    painter.drawText(button.rect().adjusted(Inset + BoxSide + Gap, 0, 0, 0),
                      Qt::AlignVCenter | Qt::TextShowMnemonic, button.text());
 }
 

@@ -1,8 +1,9 @@
 #include "ui/controls/file_name_picker.h"
 
-#include "ui/controls/path_text.h"
+#include "ui/drawing/qt_values.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QHBoxLayout>
@@ -141,7 +142,7 @@ PuzzleFileChoice::PuzzleFileChoice(FNDialog& picker, std::filesystem::path progr
     , m_programFolder(std::move(programFolder)) {}
 
 std::filesystem::path PuzzleFileChoice::choose(std::string_view title, const char* mode) {
-    m_picker.setTitle(textOf(title));
+    m_picker.setTitle(QString::fromUtf8(title));
     m_picker.setFileTypes(u"*.txt;*.dat"_s);
     m_picker.setFileTypesName(u"Tessaly Files"_s);
     m_picker.setDefaultDir(pathText(m_programFolder));
@@ -172,6 +173,19 @@ std::filesystem::path chooseOutputFile(const OutputFileQuestion& question, FNDia
         !holdsSomething(path) || prompts.message("OverWrite file: " + path.native() + " ?",
                                                  "vbyesno+vbquestion") == answer::Yes;
     return wanted ? path : std::filesystem::path();
+}
+
+bool isExactPath(const QString& path) {
+    return !path.contains(QChar::ReplacementCharacter) && !path.contains(QChar::Null) &&
+           QFile::decodeName(QFile::encodeName(path)) == path;
+}
+
+QString problemWithName(const QString& path) {
+    if (isExactPath(path))
+        return {};
+    return QStringLiteral("The name of this file is not valid UTF-8 text, so it cannot be "
+                          "used:\r\n") %
+           path;
 }
 
 } // namespace tessaly

@@ -142,4 +142,12 @@ struct OutputFileQuestion {
 std::filesystem::path chooseOutputFile(const OutputFileQuestion& question, FNDialog& picker,
                                        Prompts& prompts);
 
+/// Whether a path from the screen still names the file that was chosen there. A name on the disk
+/// that is not UTF-8 arrives with replacement characters in it, and would name another file or
+/// none.
+bool isExactPath(const QString& path);
+
+/// Why a file of that name cannot be taken, for the player; empty when it can.
+QString problemWithName(const QString& path);
+
 } // namespace tessaly

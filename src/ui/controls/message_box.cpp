@@ -1,13 +1,11 @@
 #include "ui/controls/message_box.h"
 
-#include "core/session/message_style.h"
 #include "ui/controls/box_control.h"
 #include "ui/controls/dialog_parts.h"
 #include "ui/controls/icon_set.h"
-#include "ui/controls/scheme_palette.h"
+#include "ui/drawing/qt_values.h"
 
 #include <QAccessible>
-#include <QDialog>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -18,37 +16,110 @@
 #include <QTextEdit>
 
 #include <algorithm>
-
-class QLabel;
-class QLineEdit;
+#include <array>
 
 namespace tessaly {
 namespace {
 
-/// About this many letters stand in a line.
-constexpr int LettersInLine = 64;
+using namespace Qt::StringLiterals;
 
 constexpr int IconSize = 48;
 constexpr int Margin = 28;
 constexpr int LeastWidth = 320;
+/// About this many letters stand in a line of a message.
+constexpr int LettersInLine = 64;
+constexpr int PromptMargin = 24;
+constexpr int LineWidth = 320;
 
-/// The pictures in the order of MessageIcons.
-constexpr std::array<Picture, MessageIcons.size()> IconPictures{
-    Picture::Question, Picture::Exclamation, Picture::Information, Picture::Error,
-    Picture::Critical, Picture::Happy,       Picture::TrashCan,    Picture::Printer,
-    Picture::Light,    Picture::Product,
+/// A word of a style that gives the box an icon: the number that the icon goes by, and its picture.
+struct IconWord {
+    const char* word;
+    int number;
+    Picture picture;
+};
+constexpr std::array IconWords{
+    IconWord{"vbquestion", 0, Picture::Question},
+    IconWord{"vbexclamation", 1, Picture::Exclamation},
+    IconWord{"vbinformation", 2, Picture::Information},
+    IconWord{"vberror", 3, Picture::Error},
+    IconWord{"vbcritical", 4, Picture::Critical},
+    IconWord{"vbhappy", 5, Picture::Happy},
+    IconWord{"vbtrash", 6, Picture::TrashCan},
+    IconWord{"vbprint", 7, Picture::Printer},
+    IconWord{"vblighton", 8, Picture::Light},
+    IconWord{"vbcustom", 10, Picture::Product},
 };
 
-QString textOf(std::string_view utf8) {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+/// A button of a box and the number that it answers.
+struct Choice {
+    const char* caption;
+    int result;
+};
+constexpr Choice Ok{"Ok", answer::Ok};
+constexpr Choice Cancel{"Cancel", answer::Cancel};
+constexpr Choice Abort{"Abort", answer::Abort};
+constexpr Choice Retry{"Retry", answer::Retry};
+constexpr Choice Ignore{"Ignore", answer::Ignore};
+constexpr Choice Yes{"Yes", answer::Yes};
+constexpr Choice No{"No", answer::No};
+
+/// A word of a style that gives the box buttons.
+struct ButtonWord {
+    const char* word;
+    /// One to three; a place without a caption is empty.
+    std::array<Choice, 3> buttons;
+};
+constexpr std::array ButtonWords{
+    ButtonWord{"vbokonly", {Ok}},
+    ButtonWord{"vbok", {Ok}},
+    ButtonWord{"vbnormal", {Choice{"Ok", answer::None}}},
+    ButtonWord{"vbokcancel", {Ok, Cancel}},
+    ButtonWord{"vbcancelok", {Ok, Cancel}},
+    ButtonWord{"vbcancel", {Cancel}},
+    ButtonWord{"vbabortretryignore", {Abort, Retry, Ignore}},
+    ButtonWord{"vbabort", {Abort}},
+    ButtonWord{"vbretry", {Retry}},
+    ButtonWord{"vbignore", {Ignore}},
+    ButtonWord{"vbretrycancel", {Retry, Cancel}},
+    ButtonWord{"vbyes", {Yes}},
+    ButtonWord{"vbno", {No}},
+    ButtonWord{"vbyesno", {Yes, No}},
+    ButtonWord{"vbyesnocancel", {Yes, No, Cancel}},
+    ButtonWord{"vbcontinuecancel", {Choice{"Continue", answer::Yes}, Cancel}},
+};
+
+/// What the words of a style ask for.
+struct Style {
+    /// The icon's number; none for -1.
+    int icon = -1;
+    /// Left to right; never empty.
+    QList<Choice> buttons;
+};
+
+/// Reads words joined by "+", in any capitals and with blanks around them. Unknown words count for
+/// nothing, of several icons the last one counts, and without any button there is an "Ok".
+Style styleOf(const QString& words) {
+    Style style;
+    for (const QString& spelt : words.split(u'+')) {
+        const QString word = spelt.trimmed().toLower();
+        for (const IconWord& entry : IconWords)
+            if (word == QLatin1String(entry.word))
+                style.icon = entry.number;
+        for (const ButtonWord& entry : ButtonWords)
+            if (word == QLatin1String(entry.word))
+                std::copy_if(entry.buttons.begin(), entry.buttons.end(),
+                             std::back_inserter(style.buttons),
+                             [](const Choice& choice) { return choice.caption != nullptr; });
+    }
+    if (style.buttons.isEmpty())
+        style.buttons << Ok;
+    return style;
 }
 
 /// Asks for one line of text, in the scheme that is in force.
 class TextPrompt : public QDialog {
-    Q_OBJECT
-
 public:
-    explicit TextPrompt(const Appearance& appearance, QWidget* parent = nullptr);
+    explicit TextPrompt(const Appearance& appearance, QWidget* parent);
 
     /// Shows the question and waits; nothing when the user gives no text.
     QString ask(const QString& question);
@@ -57,11 +128,6 @@ private:
     QLabel* m_question;
     QLineEdit* m_line;
 };
-
-using namespace Qt::StringLiterals;
-
-constexpr int PromptMargin = 24;
-constexpr int LineWidth = 320;
 
 TextPrompt::TextPrompt(const Appearance& appearance, QWidget* parent)
     : QDialog(parent)
@@ -101,10 +167,8 @@ QString TextPrompt::ask(const QString& question) {
 /// word (a long path) where it must. It can be selected with the pointer and copied. What does
 /// not fit on the screen scrolls.
 class MessageText : public QTextEdit {
-    Q_OBJECT
-
 public:
-    explicit MessageText(QWidget* parent = nullptr);
+    explicit MessageText(QWidget* parent);
 
     /// Shows `text` and takes the size that it needs.
     void showText(const QString& text);
@@ -145,7 +209,7 @@ void MessageText::showText(const QString& text) {
 MsgForm::MsgForm(const Appearance& appearance, QWidget* parent)
     : QDialog(parent)
     , m_appearance(appearance) {
-    setObjectName(QStringLiteral("MsgForm"));
+    setObjectName(u"MsgForm"_s);
     setWindowTitle(QGuiApplication::applicationDisplayName());
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(Margin, Margin, Margin, Margin - 4);
@@ -164,34 +228,24 @@ QWidget* MsgForm::makeMessage() {
     auto* layout = new QHBoxLayout(message);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(20);
-    for (std::size_t i = 0; i < MessageIcons.size(); ++i) {
-        auto* icon = new PictureView(IconPictures[i], IconSize, message);
-        icon->setObjectName(QStringLiteral("icons_%1").arg(MessageIcons[i]));
+    for (const IconWord& entry : IconWords) {
+        auto* icon = named(u"icons_%1"_s.arg(entry.number),
+                           new PictureView(entry.picture, IconSize, message));
         layout->addWidget(icon, 0, Qt::AlignTop);
         m_icons << icon;
     }
-    m_text = new MessageText(message);
-    m_text->setObjectName(QStringLiteral("message"));
+    m_text = named(u"message"_s, new MessageText(message));
     layout->addWidget(m_text, 0, Qt::AlignVCenter);
     return message;
 }
 
-void MsgForm::setIcon(int icon) {
-    for (qsizetype i = 0; i < m_icons.size(); ++i)
-        m_icons[i]->setVisible(MessageIcons[static_cast<std::size_t>(i)] == icon);
-}
-
-void MsgForm::setButtons(const MessageStyle& style) {
-    qDeleteAll(m_buttons);
-    m_buttons.clear();
-    for (const MessageButton& button : style.buttons)
-        addButton(textOf(button.caption), button.result);
-    m_buttons.first()->setFocus();
+void MsgForm::setIcon(int number) {
+    for (std::size_t i = 0; i < IconWords.size(); ++i)
+        m_icons[static_cast<qsizetype>(i)]->setVisible(IconWords[i].number == number);
 }
 
 void MsgForm::addButton(const QString& caption, int result) {
-    auto* button = new BoxControl(caption, this);
-    button->setObjectName(QStringLiteral("cmd_%1").arg(m_buttons.size()));
+    auto* button = named(u"cmd_%1"_s.arg(m_buttons.size()), new BoxControl(caption, this));
     button->setProperty("Tag", result);
     button->setMinimumSize(dialog::ButtonSize);
     connect(button, &BoxControl::clicked, this, [this, result] { done(result); });
@@ -206,12 +260,15 @@ void MsgForm::addButton(const QString& caption, int result) {
 int MsgForm::show(const QString& text, const QString& style) {
     if (isVisible()) // something went wrong while a question stands: it gets a box of its own
         return MsgForm(m_appearance, this).show(text, style);
-    const MessageStyle wanted = readMessageStyle(style.toStdString());
+    const Style wanted = styleOf(style);
     setPalette(schemePalette(m_appearance));
-    setIcon(wanted.icon.value_or(-1));
+    setIcon(wanted.icon);
     m_text->showText(text);
     m_text->setVisible(!text.isEmpty());
-    setButtons(wanted);
+    qDeleteAll(std::exchange(m_buttons, {}));
+    for (const Choice& choice : wanted.buttons)
+        addButton(QLatin1String(choice.caption), choice.result);
+    m_buttons.first()->setFocus();
     setAccessibleDescription(text);
     QAccessibleEvent alert(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
@@ -220,13 +277,11 @@ int MsgForm::show(const QString& text, const QString& style) {
 }
 
 int MsgForm::message(std::string_view text, std::string_view style) {
-    return show(textOf(text), textOf(style));
+    return show(QString::fromUtf8(text), QString::fromUtf8(style));
 }
 
 std::string MsgForm::ask(std::string_view question) {
-    return TextPrompt(m_appearance, this).ask(textOf(question)).toStdString();
+    return TextPrompt(m_appearance, this).ask(QString::fromUtf8(question)).toStdString();
 }
 
 } // namespace tessaly
-
-#include "message_box.moc"

@@ -12,7 +12,6 @@ namespace tessaly {
 
 class BoxControl;
 class MessageText;
-struct MessageStyle;
 
 /// The program's own message box. It is made once and shown whenever there is something to say; it
 /// wears the scheme that is in force at that moment.
@@ -32,8 +31,8 @@ public:
 
 private:
     QWidget* makeMessage();
-    void setIcon(int icon);
-    void setButtons(const MessageStyle& style);
+    /// Shows the icon of a number and hides the others.
+    void setIcon(int number);
     void addButton(const QString& caption, int result);
 
     const Appearance& m_appearance;

@@ -6,7 +6,7 @@
 #include "ui/drawing/board_surface.h"
 #include "ui/drawing/hexagon_tag.h"
 #include "ui/drawing/page_painter.h"
-#include "ui/drawing/qt_colour.h"
+#include "ui/drawing/qt_values.h"
 
 #include <QPainter>
 
@@ -24,10 +24,6 @@ constexpr double LeastContrast = 3; // of WCAG 2, for large text
 /// A digit's height in a size of text, about.
 constexpr double DigitHeight = 0.72;
 
-QRectF toQt(const Rect& rectangle) {
-    return {rectangle.left, rectangle.top, rectangle.width(), rectangle.height()};
-}
-
 class CopyLabels {
 public:
     CopyLabels(QPainter& painter, const Appearance& appearance)
@@ -44,10 +40,7 @@ public:
     }
 
     void difficulty(const Board& board) {
-        const std::string_view name = board.DifName();
-        write(hexagonCentre(board.BlankHex),
-              QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size())),
-              CopyBackground);
+        write(hexagonCentre(board.BlankHex), QString::fromUtf8(board.DifName()), CopyBackground);
     }
 
     void footer() {
@@ -78,12 +71,6 @@ void drawCopyLabels(QPainter& painter, const Board& board, const Appearance& app
     labels.footer();
     if (isHexagon(board.BlankHex))
         labels.difficulty(board);
-}
-
-void drawTags(QPainter& painter, const Board& board, const Appearance& appearance) {
-    for (int hexagon = 1; hexagon <= HexagonCount; ++hexagon)
-        if (!board.isBlank(hexagon))
-            drawTag(painter, toQt(tagRectangle(hexagon)), hexagon, appearance);
 }
 
 void drawLabels(QPainter& painter, const BoardPicture& picture, const Appearance& appearance) {

@@ -3,7 +3,7 @@
 #include "core/board/tables.h"
 #include "core/play/board_geometry.h"
 #include "core/play/board_style.h"
-#include "ui/drawing/qt_colour.h"
+#include "ui/drawing/qt_values.h"
 
 #include <QPainter>
 
@@ -12,10 +12,6 @@
 
 namespace tessaly {
 namespace {
-
-QPointF toQt(Point p) {
-    return {p.x, p.y};
-}
 
 QPolygonF outlineOf(int hexagon) {
     QPolygonF outline;

@@ -1,7 +1,7 @@
 #include "ui/drawing/board_surface.h"
 
 #include "ui/drawing/board_renderer.h"
-#include "ui/drawing/qt_colour.h"
+#include "ui/drawing/qt_values.h"
 
 #include <QPainter>
 
@@ -86,7 +86,7 @@ QTransform BoardSurface::boardToDevice() const {
 }
 
 QPoint BoardSurface::toPixels(Point point) const {
-    return boardToDevice().map(QPointF(point.x, point.y)).toPoint();
+    return boardToDevice().map(toQt(point)).toPoint();
 }
 
 QRect BoardSurface::pixelBounds(int hexagon) const {

@@ -2,7 +2,7 @@
 
 #include "core/play/board_geometry.h"
 #include "ui/drawing/numerals.h"
-#include "ui/drawing/qt_colour.h"
+#include "ui/drawing/qt_values.h"
 
 #include <QPainter>
 #include <QString>
@@ -73,6 +73,12 @@ void drawTag(QPainter& painter, const QRectF& area, int hexagon, const Appearanc
         tagText(face, hexagon, MarkSize * unit, frame.center(), painter.deviceTransform()),
         colours.text);
     painter.restore();
+}
+
+void drawTags(QPainter& painter, const Board& board, const Appearance& appearance) {
+    for (int hexagon = 1; hexagon <= HexagonCount; ++hexagon)
+        if (!board.isBlank(hexagon))
+            drawTag(painter, toQt(tagRectangle(hexagon)), hexagon, appearance);
 }
 
 } // namespace tessaly

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/board/board.h"
 #include "core/options/appearance.h"
 
 #include <QRectF>
@@ -15,5 +16,8 @@ enum class TagState { Plain, Hovered, Pressed };
 /// with the area, which on a board in board units is the hexagon's `tagRectangle`.
 void drawTag(QPainter& painter, const QRectF& area, int hexagon, const Appearance& appearance,
              TagState state = TagState::Plain);
+
+/// Draws the tags of all hexagons but the blank one with a painter in board units.
+void drawTags(QPainter& painter, const Board& board, const Appearance& appearance);
 
 } // namespace tessaly

@@ -92,9 +92,7 @@ void PagePainter::drawBoard(const Board& board, int number, bool solution, const
     m_painter.setPen(Qt::black);
     drawText(m_painter, {area.left, baseline}, captionOf(number, solution),
              {m_family, size, QFont::Bold}, TextAnchor::Left, room);
-    const std::string_view difficulty = board.DifName();
-    drawText(m_painter, {area.right, baseline},
-             QString::fromLatin1(difficulty.data(), static_cast<qsizetype>(difficulty.size())),
+    drawText(m_painter, {area.right, baseline}, QString::fromUtf8(board.DifName()),
              {m_family, size}, TextAnchor::Right, room);
 }
 

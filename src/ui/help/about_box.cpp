@@ -4,8 +4,7 @@
 #include "ui/controls/box_control.h"
 #include "ui/controls/dialog_parts.h"
 #include "ui/controls/icon_set.h"
-#include "ui/controls/scheme_palette.h"
-#include "ui/drawing/qt_colour.h"
+#include "ui/drawing/qt_values.h"
 
 #include <QEvent>
 #include <QHBoxLayout>

@@ -1,9 +1,7 @@
 #include "ui/help/help_window.h"
 
 #include "ui/controls/box_control.h"
-#include "ui/controls/path_text.h"
-#include "ui/controls/scheme_palette.h"
-#include "ui/drawing/qt_colour.h"
+#include "ui/drawing/qt_values.h"
 
 #include <QFile>
 #include <QFileInfo>

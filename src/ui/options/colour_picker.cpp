@@ -1,6 +1,6 @@
 #include "ui/options/colour_picker.h"
 
-#include "ui/drawing/qt_colour.h"
+#include "ui/drawing/qt_values.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -14,16 +14,16 @@
 #include <cmath>
 
 namespace tessaly {
-
-using namespace Qt::StringLiterals;
-
 namespace {
 
 using namespace Qt::StringLiterals;
+namespace surface = colour_surface;
 
+/// Four rows of boxes as high as these look well.
+constexpr QSize UsualSize(surface::Width, surface::Height / 5);
 constexpr int Spacing = 12;
 constexpr int PartWidth = 32;
-constexpr int PictureHeight = 14;
+constexpr int PartHeight = 14;
 constexpr int SampleHeight = 40;
 constexpr int LargestPart = 255;
 constexpr int LargeStep = 20;
@@ -56,15 +56,6 @@ void setSwatch(QLabel& label, Colour colour) {
     const QColor background = toQColor(colour);
     setColours(label, background, blended(background, readableOn(background), EdgeStrength));
 }
-
-} // namespace
-
-namespace surface = colour_surface;
-
-namespace {
-
-/// Four rows of boxes as high as these look well.
-constexpr QSize UsualSize(surface::Width, surface::Height / 5);
 
 } // namespace
 
@@ -201,7 +192,7 @@ void ColPik::addPart(int index, const QString& name, const QString& accessibleNa
     part.degree->setAlignment(Qt::AlignCenter);
     part.degree->setFixedWidth(PartWidth);
     part.picture->setObjectName(u"PicRGB_%1"_s.arg(index));
-    part.picture->setFixedSize(PartWidth, PictureHeight);
+    part.picture->setFixedSize(PartWidth, PartHeight);
     showAsSwatch(*part.picture);
     column->addWidget(part.degree);
     column->addWidget(part.bar, 1, Qt::AlignHCenter);

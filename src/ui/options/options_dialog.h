@@ -2,53 +2,25 @@
 
 #include "core/session/options_editor.h"
 
-#include <QColor>
 #include <QDialog>
-#include <QWidget>
 
 #include <filesystem>
 
+class QCheckBox;
+class QGroupBox;
 class QLabel;
+class QLayout;
+class QLineEdit;
+class QSlider;
 
 namespace tessaly {
 
-class OptionsForm;
-
-/// A level line, in a colour and of a width in pixels.
-class LineSample : public QWidget {
-    Q_OBJECT
-
-public:
-    using QWidget::QWidget;
-
-    QColor colour() const { return m_colour; }
-    int lineWidth() const { return m_width; }
-    void setLine(const QColor& colour, int width);
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
-
-private:
-    QColor m_colour = Qt::black;
-    int m_width = 1;
-};
-
-/// A hexagon filled with a colour.
-class FillSample : public QWidget {
-    Q_OBJECT
-
-public:
-    using QWidget::QWidget;
-
-    QColor fill() const { return m_fill; }
-    void setFill(const QColor& fill);
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
-
-private:
-    QColor m_fill = Qt::white;
-};
+class BoxControl;
+class ChoiceList;
+class ColPik;
+class FillSample;
+class LineSample;
+class SampleBoard;
 
 /// The options dialog: shows the samples of an `OptionsEditor` and tells it what the user does. It
 /// is made once and hidden between uses.
@@ -70,28 +42,49 @@ Q_SIGNALS:
     void applied();
 
 private:
-    void connectSchemes();
-    void connectSamples();
-    void connectDialogButtons();
+    QLayout* makeLeftColumn();
+    QLayout* makeRightColumn();
+    QGroupBox* makeSchemeFrame();
+    QLayout* makeContrast();
+    QLayout* makeSchemeButtons();
+    QGroupBox* makeFontFrame();
+    QLayout* makeSamples();
+    QLayout* makeSwitches();
+    QLayout* makeDialogButtons();
+    QGroupBox* makeFrame(const QString& name, const QString& caption, QLayout* contents);
+    /// A frame around one control, which goes by the frame's caption.
+    QGroupBox* makeFrame(const QString& name, const QString& caption, QWidget* contents,
+                         const QString& toolTip = {});
+    BoxControl* makeButton(const QString& caption, const QString& name, int leastWidth);
 
-    /// Lets the editor do something, and shows the samples as they are then.
+    /// Lets the editor do something, and shows the samples as they are then, and with `after` what
+    /// else has changed.
     template <class Action>
-    void react(Action action);
-    template <class Action>
-    void reactWithScheme(Action action);
-    template <class Action>
-    void reactWithLibrary(Action action);
+    void react(Action action, void (Form2x::*after)() = nullptr);
 
     void activate();
     void showSchemes();
     void showScheme();
+    /// Over the list, as far as there is room.
     void showSchemeCaption();
     void showSamples();
     void showNumberSample(QLabel& label, Colour colour);
     void apply();
 
     OptionsEditor m_editor;
-    OptionsForm* m_form;
+    QGroupBox* m_schemeFrame = nullptr;   // Frame1
+    ChoiceList* m_schemes = nullptr;      // List1
+    QSlider* m_contrast = nullptr;        // ContrastV
+    ChoiceList* m_fonts = nullptr;        // List2
+    SampleBoard* m_board = nullptr;       // sampleBoard
+    ColPik* m_selector = nullptr;         // ColPik1
+    QLabel* m_givenSample = nullptr;      // Label1
+    QLabel* m_userSample = nullptr;       // Label2
+    LineSample* m_borderSample = nullptr; // Line2
+    FillSample* m_fillSample = nullptr;   // Shape1
+    QCheckBox* m_splitHexas = nullptr;    // Check2
+    QCheckBox* m_numBorder = nullptr;     // Check1
+    QLineEdit* m_printLine = nullptr;     // Text3
 };
 
 } // namespace tessaly

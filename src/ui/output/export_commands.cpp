@@ -3,9 +3,9 @@
 #include "core/board/puzzle_record.h"
 #include "core/session/session.h"
 #include "ui/controls/file_name_picker.h"
-#include "ui/controls/path_text.h"
 #include "ui/drawing/board_picture.h"
 #include "ui/drawing/picture_document.h"
+#include "ui/drawing/qt_values.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

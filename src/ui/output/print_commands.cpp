@@ -80,7 +80,7 @@ void PrintCommands::printMultiple() {
         return;
     const WhileSet running(m_session.busy.commandRunning);
     const auto order =
-        m_window.orders.choose({m_session.puzzle.PuzPath, m_session.puzzle.PuzCount, m_printer});
+        m_window.dialog.choose({m_session.puzzle.PuzPath, m_session.puzzle.PuzCount, m_printer});
     if (!order)
         return;
     m_printer = order->printer;

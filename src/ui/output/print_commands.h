@@ -25,7 +25,7 @@ struct PrintWindow {
     Display& display;
     Prompts& prompts;
     FNDialog& picker;
-    PrintOrderChoice& orders;
+    Form5& dialog;
     PrintProgress& progress;
 };
 

@@ -7,9 +7,7 @@
 #include "ui/controls/choice_mark.h"
 #include "ui/controls/dialog_parts.h"
 #include "ui/controls/file_name_picker.h"
-#include "ui/controls/path_text.h"
-#include "ui/controls/scheme_palette.h"
-#include "ui/drawing/qt_colour.h"
+#include "ui/drawing/qt_values.h"
 #include "ui/output/printers.h"
 
 #include <QComboBox>

@@ -40,16 +40,9 @@ struct PrintSuggestion {
     std::optional<QString> printer;
 };
 
-/// Asks what to print: the dialog, as the command sees it. Nothing when the user cancels.
-class PrintOrderChoice {
-public:
-    virtual ~PrintOrderChoice() = default;
-    virtual std::optional<PrintOrder> choose(const PrintSuggestion& suggestion) = 0;
-};
-
 /// The dialog "Print Puzzles From File". Its property "tag" is "Y" after it was closed in order to
 /// print, else "X".
-class Form5 : public QDialog, public PrintOrderChoice {
+class Form5 : public QDialog {
     Q_OBJECT
     Q_PROPERTY(QString tag MEMBER m_tag)
 
@@ -61,7 +54,8 @@ public:
     Form5(const Appearance& appearance, Printers& printers, FileDialogs& fileDialogs,
           Prompts& prompts, std::filesystem::path programFolder, QWidget* parent = nullptr);
 
-    std::optional<PrintOrder> choose(const PrintSuggestion& suggestion) override;
+    /// Asks what to print; nothing when the user cancels.
+    std::optional<PrintOrder> choose(const PrintSuggestion& suggestion);
 
 private:
     QGroupBox* addFrame(const QString& title, const QString& name);

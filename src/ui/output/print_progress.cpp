@@ -2,7 +2,7 @@
 
 #include "ui/controls/box_control.h"
 #include "ui/controls/dialog_parts.h"
-#include "ui/controls/scheme_palette.h"
+#include "ui/drawing/qt_values.h"
 
 #include <QApplication>
 #include <QHBoxLayout>

@@ -1,7 +1,7 @@
 #include "ui/play/board_view.h"
 
 #include "core/play/board_geometry.h"
-#include "ui/drawing/qt_colour.h"
+#include "ui/drawing/qt_values.h"
 #include "ui/play/board_accessible.h"
 #include "ui/play/board_keys.h"
 #include "ui/play/palette_panel.h"
@@ -172,7 +172,7 @@ CellId BoardView::cellUnder(QPoint point) const {
 }
 
 void BoardView::showPopup(Point corner, bool upwards) {
-    m_popup.open(boardToWidget().map(QPointF(corner.x, corner.y)).toPoint(), upwards);
+    m_popup.open(boardToWidget().map(toQt(corner)).toPoint(), upwards);
 }
 
 void BoardView::hidePopup() {

@@ -1,7 +1,7 @@
 #include "ui/play/hexagon_tag_widget.h"
 
 #include "ui/drawing/hexagon_tag.h"
-#include "ui/drawing/qt_colour.h"
+#include "ui/drawing/qt_values.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>

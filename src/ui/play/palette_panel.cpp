@@ -1,7 +1,7 @@
 #include "ui/play/palette_panel.h"
 
 #include "ui/controls/box_control.h"
-#include "ui/drawing/qt_colour.h"
+#include "ui/drawing/qt_values.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #include "ui/window/file_drop.h"
 
-#include "ui/controls/path_text.h"
+#include "ui/controls/file_name_picker.h"
 
 #include <QApplication>
 #include <QDropEvent>

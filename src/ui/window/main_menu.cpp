@@ -1,6 +1,6 @@
 #include "ui/window/main_menu.h"
 
-#include "ui/controls/path_text.h"
+#include "ui/drawing/qt_values.h"
 
 #include <QFontMetrics>
 

@@ -9,12 +9,8 @@
 namespace tessaly {
 namespace {
 
-QString textOf(std::string_view ascii) {
-    return QLatin1String(ascii.data(), static_cast<qsizetype>(ascii.size()));
-}
-
 QKeySequence keysOf(std::string_view keys) {
-    return QKeySequence::fromString(textOf(keys), QKeySequence::PortableText);
+    return QKeySequence::fromString(QString::fromUtf8(keys), QKeySequence::PortableText);
 }
 
 void giveToBox(QLineEdit& box, const QKeySequence& keys) {
@@ -37,7 +33,7 @@ void giveToButton(BoxControl& button, const Shortcut& shortcut) {
 }
 
 void give(QWidget& window, const Shortcut& shortcut) {
-    const QString name = textOf(shortcut.command);
+    const QString name = QString::fromUtf8(shortcut.command);
     if (auto* action = window.findChild<QAction*>(name))
         action->setShortcut(keysOf(shortcut.keys));
     else if (auto* button = window.findChild<BoxControl*>(name))
@@ -52,7 +48,7 @@ void giveShortcuts(QWidget& window) {
     for (const Shortcut& shortcut : Shortcuts)
         give(window, shortcut);
     for (const Shortcut& shared : SharedShortcuts)
-        if (auto* button = window.findChild<BoxControl*>(textOf(shared.command)))
+        if (auto* button = window.findChild<BoxControl*>(QString::fromUtf8(shared.command)))
             button->setShownKeys({keysOf(shared.keys)});
 }
 

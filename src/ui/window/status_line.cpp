@@ -2,7 +2,7 @@
 
 #include "ui/controls/box_control.h"
 #include "ui/controls/dialog_parts.h"
-#include "ui/controls/path_text.h"
+#include "ui/drawing/qt_values.h"
 
 #include <QAccessible>
 #include <QHBoxLayout>
@@ -53,7 +53,7 @@ void StatusLine::showFileText(const QString& text) {
 }
 
 void StatusLine::showMessage(std::string_view text) {
-    m_message->setText(textOf(text));
+    m_message->setText(QString::fromUtf8(text));
     if (text.empty())
         return;
     QAccessibleEvent alert(m_message, QAccessible::Alert);

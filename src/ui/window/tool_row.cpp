@@ -98,9 +98,8 @@ void ToolRow::showPuzzleNumber(int number, int count) {
 }
 
 void ToolRow::showDifficulty(DifficultyChoice difficulty) {
-    const std::string_view name = nameOf(difficulty);
     const QKeySequence keys = DifLab->shortcut(); // which a button loses with its text
-    DifLab->setText(QLatin1String(name.data(), static_cast<qsizetype>(name.size())));
+    DifLab->setText(QString::fromUtf8(nameOf(difficulty)));
     DifLab->setShortcut(keys);
 }
 

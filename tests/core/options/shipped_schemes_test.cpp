@@ -1,4 +1,4 @@
-#include "core/options/scheme_builder.h"
+#include "core/options/appearance.h"
 #include "core/options/scheme_library.h"
 #include "core/session/options_editor.h"
 #include "support/temporary_folder.h"
@@ -180,7 +180,7 @@ TEST(ShippedSchemes, TheBoardReadsInEachOfThem) {
         const SchemeColours colours = shipped(scheme.name);
         // The fills that the options start from.
         for (const Colour fill : {colours[slot::Background], colours[slot::Button]}) {
-            EXPECT_GE(contrastRatio(neutralOn(colours[slot::Background]), fill), Text)
+            EXPECT_GE(contrastRatio(readableOn(colours[slot::Background]), fill), Text)
                 << scheme.name;
             EXPECT_GE(contrastRatio(colours[slot::DarkRed], fill), Text) << scheme.name;
             EXPECT_GE(contrastRatio(colours[slot::Green], fill), LargeTextOrSign) << scheme.name;

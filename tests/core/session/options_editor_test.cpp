@@ -1,7 +1,5 @@
 #include "core/session/options_editor.h"
 
-#include "core/options/print_line.h"
-#include "core/options/scheme_builder.h"
 #include "core/options/scheme_library.h"
 #include "support/scripted_prompts.h"
 #include "support/temporary_folder.h"
@@ -292,7 +290,7 @@ TEST_F(OptionsEditorTest, WithoutTheSchemesTheRestCanStillBeSet) {
     EXPECT_EQ(settings.HexaBorderWidth, Appearance().HexaBorderWidth);
 }
 
-TEST(PrintLineWidth, IsTheLeadingNumberRoundedToEvenAndAtLeastOne) {
+TEST_F(OptionsEditorTest, APrintLineIsTheLeadingNumberRoundedToEvenAndAtLeastOne) {
     constexpr int Most = std::numeric_limits<int>::max();
     const std::vector<std::pair<const char*, int>> widths{
         {"2", 2},          {"  7 px", 7}, {"2.5", 2},    {"3.5", 4}, {"1e1", 10},
@@ -300,8 +298,10 @@ TEST(PrintLineWidth, IsTheLeadingNumberRoundedToEvenAndAtLeastOne) {
         {"0.5", 1},        {".", 1},      {"10^12", 10}, {"inf", 1}, {"1000000000000", Most},
         {"1e999", Most},   {"1e-999", 1}, {"-1e999", 1}, {"nan", 1}, {"2147483647", Most},
         {"99999.4", 99999}};
-    for (const auto& [text, width] : widths)
-        EXPECT_EQ(printLineWidth(text), width) << text;
+    for (const auto& [text, width] : widths) {
+        editor.Apply(text);
+        EXPECT_EQ(settings.PrintLineWidth, width) << text;
+    }
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #include "ui/controls/box_control.h"
 
 #include "core/options/appearance.h"
-#include "ui/drawing/qt_colour.h"
+#include "ui/drawing/qt_values.h"
 
 #include <gtest/gtest.h>
 

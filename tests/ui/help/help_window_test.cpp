@@ -1,7 +1,7 @@
 #include "ui/help/help_window.h"
 
 #include "ui/controls/box_control.h"
-#include "ui/drawing/qt_colour.h"
+#include "ui/drawing/qt_values.h"
 #include "ui/game_window.h"
 #include "ui/help/about_box.h"
 

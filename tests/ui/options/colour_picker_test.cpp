@@ -1,6 +1,6 @@
 #include "ui/options/colour_picker.h"
 
-#include "ui/drawing/qt_colour.h"
+#include "ui/drawing/qt_values.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,11 @@
 #include "ui/options/options_dialog.h"
 
-#include "core/options/scheme_builder.h"
+#include "core/options/appearance.h"
 #include "core/session/configuration.h"
-#include "ui/drawing/qt_colour.h"
+#include "ui/drawing/qt_values.h"
 #include "ui/game_window.h"
 #include "ui/options/colour_picker.h"
+#include "ui/options/option_samples.h"
 
 #include <QAction>
 #include <QApplication>

@@ -5,7 +5,7 @@
 #include "support/scripted_prompts.h"
 #include "ui/controls/box_control.h"
 #include "ui/controls/file_name_picker.h"
-#include "ui/drawing/qt_colour.h"
+#include "ui/drawing/qt_values.h"
 
 #include <QComboBox>
 #include <QGroupBox>

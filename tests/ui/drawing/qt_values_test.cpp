@@ -1,6 +1,4 @@
-#include "ui/controls/scheme_palette.h"
-
-#include "ui/drawing/qt_colour.h"
+#include "ui/drawing/qt_values.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,4 @@
-#include "ui/controls/scheme_palette.h"
-
-#include "ui/drawing/qt_colour.h"
+#include "ui/drawing/qt_values.h"
 
 namespace tessaly {
 namespace {
@@ -50,6 +48,34 @@ void setPair(QPalette& palette, QPalette::ColorRole groundRole, const QColor& gr
 }
 
 } // namespace
+
+QColor toQColor(Colour colour) {
+    return {RedOf(colour), GreenOf(colour), BlueOf(colour)};
+}
+
+Colour toColour(const QColor& colour) {
+    return RGB(colour.red(), colour.green(), colour.blue());
+}
+
+QColor blended(const QColor& from, const QColor& to, double amount) {
+    const auto mix = [amount](int a, int b) { return qRound(a + (b - a) * amount); };
+    return {mix(from.red(), to.red()), mix(from.green(), to.green()), mix(from.blue(), to.blue())};
+}
+
+QColor readableOn(const QColor& background) {
+    return toQColor(readableOn(toColour(background)));
+}
+
+QColor fadedOn(const QColor& background) {
+    // What WCAG 2 asks of large text; a tone of middle grey leaves little room to fade.
+    constexpr double LeastContrast = 3.0;
+    const QColor text = readableOn(background);
+    double fading = 0.5;
+    while (fading > 0 && contrastRatio(toColour(blended(text, background, fading)),
+                                       toColour(background)) < LeastContrast)
+        fading -= 0.05;
+    return blended(text, background, fading > 0 ? fading : 0);
+}
 
 QPalette schemePalette(const Appearance& appearance) {
     const QColor ground = slotColour(appearance, slot::Background);

@@ -1,7 +1,9 @@
-#include "ui/options/sample_board.h"
+#include "ui/options/option_samples.h"
 
 #include "core/board/puzzle_record.h"
+#include "core/play/board_geometry.h"
 #include "ui/drawing/hexagon_tag.h"
+#include "ui/drawing/qt_values.h"
 
 #include <QPainter>
 
@@ -34,6 +36,41 @@ Board boardInPlay() {
 
 } // namespace
 
+void LineSample::setLine(const QColor& colour, int width) {
+    m_colour = colour;
+    m_width = width;
+    update();
+}
+
+void LineSample::paintEvent(QPaintEvent*) {
+    constexpr int Inset = 8;
+    QPainter painter(this);
+    painter.fillRect(Inset, (height() - m_width) / 2, width() - 2 * Inset, m_width, m_colour);
+}
+
+void FillSample::setFill(const QColor& fill) {
+    m_fill = fill;
+    update();
+}
+
+void FillSample::paintEvent(QPaintEvent*) {
+    const double scale = (height() - 2) / (2 * HalfHeight);
+    const double side = HexagonSide * scale;
+    const double half = HalfHeight * scale;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(rect().toRectF().center());
+    // Its edge shows where the shape is, the fill being the background's colour for a start.
+    painter.setPen(blended(m_fill, readableOn(palette().color(QPalette::Window)), 0.35));
+    painter.setBrush(m_fill);
+    painter.drawPolygon(QPolygonF({{-side, 0},
+                                   {-side / 2, -half},
+                                   {side / 2, -half},
+                                   {side, 0},
+                                   {side / 2, half},
+                                   {-side / 2, half}}));
+}
+
 SampleBoard::SampleBoard(QWidget* parent)
     : QWidget(parent)
     , m_board(boardInPlay()) {
@@ -59,17 +96,8 @@ void SampleBoard::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.drawImage(QRectF(rect()), m_surface.image());
     painter.scale(1 / ratio, 1 / ratio);
-    drawTags(painter);
-}
-
-void SampleBoard::drawTags(QPainter& painter) const {
-    for (int hexagon = 1; hexagon <= HexagonCount; ++hexagon) {
-        if (m_board.isBlank(hexagon))
-            continue;
-        const Rect area = tagRectangle(hexagon);
-        const QRectF onBoard(area.left, area.top, area.width(), area.height());
-        drawTag(painter, m_surface.boardToDevice().mapRect(onBoard), hexagon, m_appearance);
-    }
+    painter.setTransform(m_surface.boardToDevice(), true);
+    drawTags(painter, m_board, m_appearance);
 }
 
 } // namespace tessaly

@@ -1,4 +1,4 @@
-#include "core/options/scheme_builder.h"
+#include "core/options/appearance.h"
 
 #include <gtest/gtest.h>
 
