@@ -1,6 +1,6 @@
 #include "command_text.h"
 
-#include <CLI/CLI.hpp>
+#include <sstream>
 
 namespace tessaly {
 namespace {
@@ -15,38 +15,41 @@ ValueKind kindOf(const std::string& value) {
     return value == "DIR" ? ValueKind::Folder : ValueKind::Text;
 }
 
-std::vector<std::string> piecesOf(const std::string& value) {
-    return CLI::detail::split(value, '|');
+std::vector<std::string> choicesOf(const std::string& value) {
+    std::vector<std::string> choices;
+    std::istringstream rest(value);
+    for (std::string choice; std::getline(rest, choice, '|');)
+        choices.push_back(choice);
+    return choices;
 }
 
-OptionText describe(const CLI::Option& option) {
-    OptionText text;
-    for (const std::string& name : option.get_lnames())
-        text.names.push_back("--" + name);
-    for (const std::string& name : option.get_snames())
-        text.names.push_back("-" + name);
-    const bool takesValue = option.get_items_expected_max() > 0;
-    if (takesValue)
-        text.value = text.names.empty() ? option.get_name() : option.get_type_name();
-    text.kind = kindOf(text.value);
+OptionText describe(const Option& option) {
+    OptionText text{.names = option.names,
+                    .value = option.value,
+                    .kind = kindOf(option.value),
+                    .choices = {},
+                    .description = option.description,
+                    .isRequired = option.isRequired};
     if (text.kind == ValueKind::Choice)
-        text.choices = piecesOf(text.value);
-    text.description = option.get_description();
-    text.isRequired = option.get_required();
+        text.choices = choicesOf(text.value);
     return text;
 }
 
 } // namespace
 
-CommandText describe(const CLI::App& app) {
-    CommandText text;
-    text.name = app.get_name();
-    text.description = app.get_description();
-    text.footer = app.get_footer();
-    for (const CLI::Option* option : app.get_options({}))
-        (option->get_positional() ? text.positionals : text.options).push_back(describe(*option));
-    for (const CLI::App* command : app.get_subcommands([](const CLI::App*) { return true; }))
-        text.subcommands.push_back(describe(*command));
+CommandText describe(const CommandSyntax& syntax, bool isProgram) {
+    CommandText text{.name = syntax.name,
+                     .description = syntax.description,
+                     .footer = syntax.footer,
+                     .options = {},
+                     .positionals = {},
+                     .subcommands = {}};
+    for (const Option& option : standardOptions(isProgram))
+        text.options.push_back(describe(option));
+    for (const Option& option : syntax.options)
+        (option.isPositional() ? text.positionals : text.options).push_back(describe(option));
+    for (const CommandSyntax& command : syntax.subcommands)
+        text.subcommands.push_back(describe(command, false));
     return text;
 }
 

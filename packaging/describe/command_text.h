@@ -1,11 +1,9 @@
 #pragma once
 
+#include "core/base/command_line.h"
+
 #include <string>
 #include <vector>
-
-namespace CLI {
-class App;
-}
 
 namespace tessaly {
 
@@ -35,7 +33,8 @@ struct CommandText {
     std::vector<CommandText> subcommands;
 };
 
-CommandText describe(const CLI::App& app);
+/// The same with the options that need not be said.
+CommandText describe(const CommandSyntax& syntax, bool isProgram = true);
 
 /// The same as a manual page (man(7)) of a section. `appendix` holds sections of its own, as they
 /// stand.

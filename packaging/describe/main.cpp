@@ -1,12 +1,9 @@
 // Writes what an installation says about the two programs' command lines, made from the options
 // that --help tells: describe PROGRAM man|bash|zsh|fish [APPENDIX]
 
-#include "cli/drawing_commands.h"
 #include "cli/program.h"
 #include "command_text.h"
 #include "core/session/game_options.h"
-
-#include <CLI/CLI.hpp>
 
 #include <fstream>
 #include <iostream>
@@ -20,21 +17,12 @@ constexpr int GamesSection = 6;
 constexpr int ProgramsSection = 1;
 
 CommandText gameText() {
-    CLI::App app;
     GameOptions options;
-    describeGame(app, options);
-    return describe(app);
+    return describe(gameSyntax(options));
 }
 
 CommandText cliText() {
-    CLI::App app;
-    describeProgram(app);
-    const auto commands = allCommands();
-    const auto drawing = drawingCommands();
-    for (const auto* some : {&commands, &drawing})
-        for (const auto& command : *some)
-            command->addTo(app);
-    return describe(app);
+    return describe(programSyntax(allCommands(drawingCommands())));
 }
 
 std::string contentOf(const char* path) {

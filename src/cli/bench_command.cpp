@@ -1,4 +1,4 @@
-#include "cli/bench_command.h"
+#include "cli/commands.h"
 
 #include "core/board/puzzle_record.h"
 #include "core/solver/deduction.h"
@@ -7,10 +7,9 @@
 #include "core/solver/puzzle_series.h"
 #include "core/solver/solution_counter.h"
 
-#include <CLI/CLI.hpp>
-
 #include <chrono>
 #include <cmath>
+#include <memory>
 #include <ostream>
 #include <vector>
 
@@ -46,25 +45,14 @@ std::vector<Board> puzzles(const SearchFill& fill) {
     return boards;
 }
 
-} // namespace
-
-CLI::App& BenchCommand::addTo(CLI::App& program) {
-    CLI::App& command = *program.add_subcommand(
-        "bench", "Show the engine's signature, the same on every machine, and its rates");
-    command.footer("Example: tessaly-cli bench --seconds 5");
-    command.add_option("--seconds", m_seconds, "How long to measure each rate")
-        ->check(CLI::Range(0.001, 3600.0).description(""))
-        ->type_name("S");
-    return command;
-}
-
-int BenchCommand::run(const Console& console) {
+/// Measures each rate for so long.
+int bench(double seconds, const Console& console) {
     const SearchFill fill(allArrangements());
     console.out << "signature " << engineSignature(fill) << std::endl;
 
     const auto show = [&](const char* what, auto work) {
         if (!console.isInterrupted())
-            console.out << what << ' ' << std::llround(rateOf(m_seconds, work)) << " a second"
+            console.out << what << ' ' << std::llround(rateOf(seconds, work)) << " a second"
                         << std::endl;
     };
     Chance chance(Seed);
@@ -88,6 +76,18 @@ int BenchCommand::run(const Console& console) {
     if (const Outcome written = flushed(console.out); !written.ok())
         return fail(console, written.problem);
     return console.isInterrupted() ? exit_status::Interrupted : exit_status::Done;
+}
+
+} // namespace
+
+Subcommand benchCommand() {
+    const auto seconds = std::make_shared<double>(1);
+    return {{.name = "bench",
+             .description = "Show the engine's signature, the same on every machine, and its rates",
+             .footer = "Example: tessaly-cli bench --seconds 5",
+             .options = {number("--seconds", "S", "How long to measure each rate", *seconds, 0.001,
+                                3600.0)}},
+            [seconds](const Console& console) { return bench(*seconds, console); }};
 }
 
 } // namespace tessaly

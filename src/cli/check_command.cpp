@@ -1,10 +1,8 @@
-#include "cli/check_command.h"
-
+#include "cli/commands.h"
 #include "core/board/record_lines.h"
 #include "core/solver/puzzle_audit.h"
 
-#include <CLI/CLI.hpp>
-
+#include <memory>
 #include <ostream>
 #include <vector>
 
@@ -22,37 +20,40 @@ std::vector<std::string> findingsOf(const RecordLine& line) {
                            : auditRecord(line.text);
 }
 
-} // namespace
-
-CLI::App& CheckCommand::addTo(CLI::App& program) {
-    CLI::App& command = *program.add_subcommand(
-        "check", "Check the puzzles of a file: a line for everything that is wrong, and a summary");
-    command.footer("Example: tessaly-cli check easy.txt\n\n"
-                   "Every record must be well formed, its solution right and the only one with the "
-                   "blank hexagon withheld, and its difficulty, header and hint true.");
-    command.add_option("FILE", m_file, "The puzzle file")->required()->type_name("");
-    return command;
-}
-
-int CheckCommand::run(const Console& console) {
+int check(const std::string& path, const Console& console) {
     Tally tally;
-    const Outcome outcome = readRecordLines(m_file, [&](RecordLine line) {
+    const Outcome outcome = readRecordLines(path, [&](RecordLine line) {
         ++tally.records;
         for (const std::string& finding : findingsOf(line)) {
             ++tally.findings;
-            console.out << lineProblem(m_file, line.number, finding) << '\n';
+            console.out << lineProblem(path, line.number, finding) << '\n';
         }
         return !console.isInterrupted() && console.out.good();
     });
     if (!outcome.ok())
         return fail(console, outcome.problem);
-    console.out << m_file << ": " << tally.records << " puzzles checked, " << tally.findings
+    console.out << path << ": " << tally.records << " puzzles checked, " << tally.findings
                 << " findings\n";
     if (const Outcome written = flushed(console.out); !written.ok())
         return fail(console, written.problem);
     if (console.isInterrupted())
         return exit_status::Interrupted;
     return tally.findings == 0 ? exit_status::Done : exit_status::Failed;
+}
+
+} // namespace
+
+Subcommand checkCommand() {
+    const auto path = std::make_shared<std::string>();
+    return {{.name = "check",
+             .description =
+                 "Check the puzzles of a file: a line for everything that is wrong, and a summary",
+             .footer =
+                 "Example: tessaly-cli check easy.txt\n\n"
+                 "Every record must be well formed, its solution right and the only one with the "
+                 "blank hexagon withheld, and its difficulty, header and hint true.",
+             .options = {required(positional("FILE", "The puzzle file", *path))}},
+            [path](const Console& console) { return check(*path, console); }};
 }
 
 } // namespace tessaly

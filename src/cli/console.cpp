@@ -13,17 +13,20 @@
 namespace tessaly {
 namespace {
 
-constexpr auto Interval = std::chrono::milliseconds(100);
-constexpr std::int64_t Width = 30;
+constexpr auto ProgressInterval = std::chrono::milliseconds(100);
+constexpr std::int64_t BarWidth = 30;
 constexpr const char* EmptyLine = "\r\x1B[K";
 
 } // namespace
 
 int fail(const Console& console, std::string_view problem) {
-    std::string line(problem);
-    std::replace(line.begin(), line.end(), '\n', ' ');
-    console.err << "tessaly-cli: " << line << '\n';
+    sayProblem(console.err, ProgramName, problem);
     return exit_status::Failed;
+}
+
+int refuseUsage(const Console& console, std::string_view problem) {
+    fail(console, std::string(problem) + " (try --help)");
+    return exit_status::WrongUsage;
 }
 
 Outcome flushed(std::ostream& out) {
@@ -38,12 +41,12 @@ void ProgressBar::show(std::int64_t done) {
     const Clock::time_point now = Clock::now();
     if (!m_console.errIsTerminal || now < m_next)
         return;
-    m_next = now + Interval;
+    m_next = now + ProgressInterval;
     const std::chrono::duration<double> passed = now - m_start;
     const double left = passed.count() * static_cast<double>(m_total - done) /
                         static_cast<double>(std::max<std::int64_t>(done, 1));
-    std::string bar(static_cast<std::size_t>(Width * done / m_total), '#');
-    bar.resize(static_cast<std::size_t>(Width), '.');
+    std::string bar(static_cast<std::size_t>(BarWidth * done / m_total), '#');
+    bar.resize(static_cast<std::size_t>(BarWidth), '.');
     m_console.err << EmptyLine << '[' << bar << "] " << done << " of " << m_total << ", "
                   << std::llround(left) << " s left" << std::flush;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/base/command_line.h"
 #include "core/base/outcome.h"
 
 #include <chrono>
@@ -13,10 +14,12 @@
 
 namespace tessaly {
 
+inline constexpr const char* ProgramName = "tessaly-cli";
+
 namespace exit_status {
 inline constexpr int Done = 0;
 inline constexpr int Failed = 1;
-inline constexpr int WrongUsage = 2;
+inline constexpr int WrongUsage = tessaly::WrongUsage;
 /// As shells report the end by Ctrl+C.
 inline constexpr int Interrupted = 130;
 } // namespace exit_status
@@ -35,6 +38,8 @@ struct Console {
 
 /// Says on one line of `err` what is wrong; the exit status of a failure.
 int fail(const Console& console, std::string_view problem);
+/// The same for a command line that asks for what cannot be.
+int refuseUsage(const Console& console, std::string_view problem);
 
 /// Flushes standard output; a failure when something, now or before, could not be written.
 Outcome flushed(std::ostream& out);

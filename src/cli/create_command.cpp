@@ -1,109 +1,87 @@
-#include "cli/create_command.h"
-
-#include "cli/console.h"
+#include "cli/commands.h"
 #include "cli/record_output.h"
 #include "core/solver/puzzle_series.h"
 
-#include <CLI/CLI.hpp>
-
 #include <algorithm>
-#include <charconv>
-#include <map>
+#include <memory>
+#include <optional>
+#include <string>
 #include <thread>
 
 namespace tessaly {
 namespace {
 
-std::string lowerCase(std::string_view name) {
-    return CLI::detail::to_lower(std::string(name));
-}
-
-/// What --difficulty may say.
-std::map<std::string, DifficultyChoice> difficultyNames() {
-    std::map<std::string, DifficultyChoice> names{{lowerCase(RandomDifficultyName), std::nullopt}};
-    for (const DifficultyEntry& entry : Difficulties)
-        names.emplace(lowerCase(entry.name), entry.difficulty);
-    return names;
-}
-
-std::vector<std::string> namesOf(const std::map<std::string, DifficultyChoice>& choices) {
-    std::vector<std::string> names;
-    names.reserve(choices.size());
-    for (const auto& [name, choice] : choices)
-        names.push_back(name);
-    return names;
-}
-
-/// The command line library takes "-1" and what is too large for the largest number.
-std::string problemOfSeed(const std::string& text) {
-    std::uint64_t number = 0;
-    const char* end = text.data() + text.size();
-    const auto [rest, error] = std::from_chars(text.data(), end, number);
-    return error == std::errc() && rest == end ? "" : text + " is no number of 0 to 2^64 - 1";
-}
+constexpr std::int64_t MaxCount = 10'000'000;
+constexpr int MaxJobs = 256;
 
 int allProcessors() {
     return static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
 }
 
-} // namespace
+struct CreateOptions {
+    /// The place among `Difficulties`; behind them, at random.
+    std::size_t difficulty = 0;
+    std::int64_t count = 0;
+    std::optional<std::uint64_t> seed;
+    int jobs = allProcessors();
+    std::string output;
+};
 
-CLI::App& CreateCommand::addTo(CLI::App& program) {
-    CLI::App& command = *program.add_subcommand("create", "Make new puzzles, no two alike");
-    command.footer("Example: tessaly-cli create --difficulty easy --count 500 --seed 1 "
-                   "--output easy.txt");
-    command.add_option("--difficulty", m_difficulty, "How hard the puzzles are to be")
-        ->required()
-        ->check(CLI::IsMember(namesOf(difficultyNames())).description(""))
-        ->type_name("easy|hard|random");
-    command
-        .add_option("--count", m_count,
-                    "How many puzzles to make, at most " + std::to_string(MaxCount))
-        ->required()
-        ->check(CLI::Range(std::int64_t{1}, MaxCount).description(""))
-        ->type_name("N");
-    command
-        .add_option("--seed", m_seed, "A whole number; makes the same puzzles whenever it is given")
-        ->check(CLI::Validator(problemOfSeed, ""))
-        ->type_name("S");
-    constexpr int MaxJobs = 256;
-    command
-        .add_option("--jobs", m_jobs, "How many threads to work with (by default all processors)")
-        ->check(CLI::Range(1, MaxJobs).description(""))
-        ->type_name("J");
-    command
-        .add_option("--output", m_output, "A puzzle file to append to, instead of standard output")
-        ->type_name("FILE");
-    return command;
+DifficultyChoice difficultyAt(std::size_t place) {
+    return place < Difficulties.size() ? DifficultyChoice(Difficulties[place].difficulty)
+                                       : std::nullopt;
 }
 
-int CreateCommand::run(const Console& console) {
-    RecordOutput output(console.out, m_output);
+int create(const CreateOptions& options, const Console& console) {
+    RecordOutput output(console.out, options.output);
     Outcome outcome = output.open();
-    const PuzzleSeries series{difficultyNames().at(m_difficulty),
-                              m_seed.value_or(Chance::freshSeed())};
+    const PuzzleSeries series{difficultyAt(options.difficulty),
+                              options.seed.value_or(Chance::freshSeed())};
     const SearchFill fill(allArrangements());
-    ProgressBar bar(console, m_count);
+    ProgressBar bar(console, options.count);
     if (outcome.ok())
-        makeSeries(series, m_jobs > 0 ? m_jobs : allProcessors(), fill,
-                   [&](const std::string& record) {
-                       output.add(record);
-                       if (output.isDue()) {
-                           bar.clear();
-                           outcome = output.flush();
-                       }
-                       bar.show(output.count());
-                       return outcome.ok() && output.count() < m_count && !console.isInterrupted();
-                   });
+        makeSeries(series, options.jobs, fill, [&](const std::string& record) {
+            output.add(record);
+            if (output.isDue()) {
+                bar.clear();
+                outcome = output.flush();
+            }
+            bar.show(output.count());
+            return outcome.ok() && output.count() < options.count && !console.isInterrupted();
+        });
     if (outcome.ok())
         outcome = output.flush();
     bar.clear();
     if (!outcome.ok())
         return fail(console, outcome.problem);
-    if (output.count() == m_count)
+    if (output.count() == options.count)
         return exit_status::Done;
     fail(console, "interrupted after " + std::to_string(output.count()) + " puzzles");
     return exit_status::Interrupted;
+}
+
+} // namespace
+
+Subcommand createCommand() {
+    const auto options = std::make_shared<CreateOptions>();
+    return {
+        {.name = "create",
+         .description = "Make new puzzles, no two alike",
+         .footer = "Example: tessaly-cli create --difficulty easy --count 500 --seed 1 "
+                   "--output easy.txt",
+         .options =
+             {required(choice("--difficulty", "easy|hard|random", "How hard the puzzles are to be",
+                              options->difficulty)),
+              required(number("--count", "N",
+                              "How many puzzles to make, at most " + std::to_string(MaxCount),
+                              options->count, std::int64_t{1}, MaxCount)),
+              number("--seed", "S", "A whole number; makes the same puzzles whenever it is given",
+                     options->seed, std::uint64_t{0}),
+              number("--jobs", "J", "How many threads to work with (by default all processors)",
+                     options->jobs, 1, MaxJobs),
+              text("--output", "FILE", "A puzzle file to append to, instead of standard output",
+                   options->output)}},
+        [options](const Console& console) { return create(*options, console); }};
 }
 
 } // namespace tessaly

@@ -1,15 +1,9 @@
-#include "cli/drawing_commands.h"
-
-#include "cli/print_command.h"
-#include "cli/render_command.h"
+#include "cli/commands.h"
 
 namespace tessaly {
 
-Commands drawingCommands() {
-    Commands commands;
-    commands.push_back(std::make_unique<RenderCommand>());
-    commands.push_back(std::make_unique<PrintCommand>());
-    return commands;
+std::vector<Subcommand> drawingCommands() {
+    return {renderCommand(), printCommand()};
 }
 
 } // namespace tessaly

@@ -1,5 +1,4 @@
-#include "cli/console.h"
-#include "cli/drawing_commands.h"
+#include "cli/program.h"
 #include "core/files/file_access.h"
 
 #include <csignal>
@@ -25,5 +24,6 @@ int main(int argc, char** argv) {
     std::ostream out(&buffer);
     const tessaly::Console console{out, std::cerr, ::isatty(STDERR_FILENO) == 1,
                                    [] { return interrupted != 0; }};
-    return tessaly::runProgram(argc, argv, console, tessaly::drawingCommands());
+    return tessaly::runProgram(argc, argv, console,
+                               tessaly::allCommands(tessaly::drawingCommands()));
 }

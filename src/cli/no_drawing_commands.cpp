@@ -1,8 +1,8 @@
-#include "cli/drawing_commands.h"
+#include "cli/commands.h"
 
 namespace tessaly {
 
-Commands drawingCommands() {
+std::vector<Subcommand> drawingCommands() {
     return {};
 }
 

@@ -1,23 +1,20 @@
 #pragma once
 
-#include "cli/command.h"
-#include "cli/console.h"
+#include "cli/commands.h"
 
-#include <memory>
 #include <vector>
 
 namespace tessaly {
 
-using Commands = std::vector<std::unique_ptr<Command>>;
+/// Everything that the command line can do: what each build can, and `more`, in the order in which
+/// it is told.
+std::vector<Subcommand> allCommands(std::vector<Subcommand> more = {});
 
-/// The subcommands that every build has, in the order in which they are told.
-Commands allCommands();
+/// "tessaly-cli" with these subcommands.
+CommandSyntax programSyntax(const std::vector<Subcommand>& commands);
 
-/// Says what the program is, its subcommands aside; `program` is fresh.
-void describeProgram(CLI::App& program);
-
-/// Carries out a whole command line ("tessaly-cli" and its arguments); the exit status. `more` are
-/// the subcommands besides `allCommands`.
-int runProgram(int argc, const char* const* argv, const Console& console, Commands more = {});
+/// Carries out a whole command line ("tessaly-cli" and its arguments); the exit status.
+int runProgram(int argc, const char* const* argv, const Console& console,
+               const std::vector<Subcommand>& commands = allCommands());
 
 } // namespace tessaly

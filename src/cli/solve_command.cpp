@@ -1,19 +1,21 @@
-#include "cli/solve_command.h"
-
+#include "cli/commands.h"
 #include "core/board/puzzle_record.h"
 #include "core/board/record_lines.h"
 #include "core/solver/deduction.h"
 
-#include <CLI/CLI.hpp>
-
-#include <limits>
+#include <memory>
 #include <ostream>
 
 namespace tessaly {
 namespace {
 
-constexpr const char* AllRules = "all";
-constexpr const char* BasicRules = "basic";
+struct SolveOptions {
+    std::string file;
+    /// The only record to solve; 0 is all of them.
+    int number = 0;
+    /// 0 is all rules, 1 the basic ones.
+    std::size_t rules = 0;
+};
 
 /// All four rules from the givens; 0 when they settle every cell, else 1.
 int solveWithAllRules(Board& board) {
@@ -46,52 +48,52 @@ Outcome readLine(const RecordLine& line, Board& board) {
                            : readRecord(line.text, board);
 }
 
-} // namespace
-
-CLI::App& SolveCommand::addTo(CLI::App& program) {
-    CLI::App& command = *program.add_subcommand(
-        "solve", "Solve the puzzles of a file: a line for each with its number, the result, and "
-                 "the cells in order, \"-\" for an empty one");
-    command.footer("Example: tessaly-cli solve easy.txt --number 3 --rules basic\n\n"
-                   "The result is, with all rules, 0 when every cell was settled and 1 when not; "
-                   "with the basic ones, the number of cells with several candidates.");
-    command.add_option("FILE", m_file, "The puzzle file")->required()->type_name("");
-    command.add_option("--number", m_number, "Solve only this puzzle, counted from 1")
-        ->check(CLI::Range(1, std::numeric_limits<int>::max()).description(""))
-        ->type_name("N");
-    command
-        .add_option("--rules", m_rules,
-                    "all (the four rules from the givens) or basic (rules 1 to 3 with the blank "
-                    "hexagon emptied)")
-        ->check(CLI::IsMember({AllRules, BasicRules}).description(""))
-        ->type_name("all|basic");
-    return command;
-}
-
-int SolveCommand::run(const Console& console) {
+int solve(const SolveOptions& options, const Console& console) {
     int status = exit_status::Done;
     int lastNumber = 0;
-    const auto solve = m_rules == AllRules ? solveWithAllRules : solveWithBasicRules;
-    const Outcome outcome = readRecordLines(m_file, [&](RecordLine line) {
+    const auto& [path, number, rules] = options;
+    const auto solveBoard = rules == 0 ? solveWithAllRules : solveWithBasicRules;
+    const Outcome outcome = readRecordLines(path, [&](RecordLine line) {
         lastNumber = line.number;
-        if (m_number != 0 && line.number != m_number)
+        if (number != 0 && line.number != number)
             return true;
         Board board;
         if (const Outcome read = readLine(line, board); !read.ok()) {
-            status = fail(console, lineProblem(m_file, line.number, read.problem));
+            status = fail(console, lineProblem(path, line.number, read.problem));
         } else {
-            const int result = solve(board);
+            const int result = solveBoard(board);
             console.out << report(line.number, result, board);
         }
-        return line.number != m_number && !console.isInterrupted() && console.out.good();
+        return line.number != number && !console.isInterrupted() && console.out.good();
     });
     if (!outcome.ok())
         return fail(console, outcome.problem);
-    if (m_number > lastNumber)
-        return fail(console, lineProblem(m_file, m_number, "there is no such record"));
+    if (number > lastNumber)
+        return fail(console, lineProblem(path, number, "there is no such record"));
     if (const Outcome written = flushed(console.out); !written.ok())
         return fail(console, written.problem);
     return console.isInterrupted() ? exit_status::Interrupted : status;
+}
+
+} // namespace
+
+Subcommand solveCommand() {
+    const auto options = std::make_shared<SolveOptions>();
+    return {
+        {.name = "solve",
+         .description = "Solve the puzzles of a file: a line for each with its number, the result, "
+                        "and the cells in order, \"-\" for an empty one",
+         .footer = "Example: tessaly-cli solve easy.txt --number 3 --rules basic\n\n"
+                   "The result is, with all rules, 0 when every cell was settled and 1 when not; "
+                   "with the basic ones, the number of cells with several candidates.",
+         .options = {required(positional("FILE", "The puzzle file", options->file)),
+                     number("--number", "N", "Solve only this puzzle, counted from 1",
+                            options->number, 1),
+                     choice("--rules", "all|basic",
+                            "all (the four rules from the givens) or basic (rules 1 to 3 with the "
+                            "blank hexagon emptied)",
+                            options->rules)}},
+        [options](const Console& console) { return solve(*options, console); }};
 }
 
 } // namespace tessaly

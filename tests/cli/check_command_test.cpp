@@ -1,5 +1,3 @@
-#include "cli/check_command.h"
-
 #include "support/command_line.h"
 #include "support/sample_puzzles.h"
 #include "support/temporary_folder.h"

@@ -1,5 +1,3 @@
-#include "cli/create_command.h"
-
 #include "core/board/puzzle_record.h"
 #include "support/command_line.h"
 #include "support/file_calls.h"

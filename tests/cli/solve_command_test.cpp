@@ -1,5 +1,3 @@
-#include "cli/solve_command.h"
-
 #include "support/command_line.h"
 #include "support/plain_rules.h"
 #include "support/sample_puzzles.h"

@@ -26,15 +26,16 @@ struct CommandSetting {
 /// Runs "tessaly-cli" with these arguments in this process. `more` are the subcommands besides
 /// those that every build has.
 inline CommandResult runCommand(const std::vector<std::string>& arguments,
-                                const CommandSetting& setting = {}, Commands more = {}) {
+                                const CommandSetting& setting = {},
+                                std::vector<Subcommand> more = {}) {
     std::vector<const char*> argv{"tessaly-cli"};
     for (const std::string& argument : arguments)
         argv.push_back(argument.c_str());
     std::ostringstream out;
     std::ostringstream err;
-    const int status =
-        runProgram(static_cast<int>(argv.size()), argv.data(),
-                   {out, err, setting.errIsTerminal, setting.wasInterrupted}, std::move(more));
+    const int status = runProgram(static_cast<int>(argv.size()), argv.data(),
+                                  {out, err, setting.errIsTerminal, setting.wasInterrupted},
+                                  allCommands(std::move(more)));
     return {status, out.str(), err.str()};
 }
 

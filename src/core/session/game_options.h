@@ -1,13 +1,13 @@
 #pragma once
 
+#include "core/base/command_line.h"
+
 #include <filesystem>
 #include <iosfwd>
 #include <optional>
+#include <iosfwd>
+#include <optional>
 #include <string>
-
-namespace CLI {
-class App;
-}
 
 namespace tessaly {
 
@@ -30,8 +30,8 @@ struct GameCommandLine {
     std::optional<int> exitStatus;
 };
 
-/// Says what the game is and what it takes; what is parsed goes into `options`. `app` is fresh.
-void describeGame(CLI::App& app, GameOptions& options);
+/// "tessaly" and what it takes; what is parsed goes into `options`.
+CommandSyntax gameSyntax(GameOptions& options);
 
 GameCommandLine parseGameOptions(int argc, const char* const* argv, std::ostream& out,
                                  std::ostream& err);

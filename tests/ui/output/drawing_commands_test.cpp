@@ -1,5 +1,3 @@
-#include "cli/drawing_commands.h"
-
 #include "support/command_line.h"
 #include "support/full_disk.h"
 #include "support/pdf_document.h"

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "cli/console.h"
+#include "core/base/command_line.h"
+
+#include <functional>
+#include <vector>
+
+namespace tessaly {
+
+/// A subcommand: what it takes, and what it does with that; the answer is the exit status.
+struct Subcommand {
+    CommandSyntax syntax;
+    std::function<int(const Console&)> run;
+};
+
+/// Makes puzzles, to standard output or appended to a file.
+Subcommand createCommand();
+/// Shows how far the rules solve the puzzles of a file.
+Subcommand solveCommand();
+/// Tells what is wrong with the puzzles of a file.
+Subcommand checkCommand();
+/// Multiplies the puzzles of a file by mirroring and turning them.
+Subcommand variantsCommand();
+/// Puts the puzzles of a file into random order, each once.
+Subcommand shuffleCommand();
+/// A number that stands for all that the engine does, and how fast it does it.
+Subcommand benchCommand();
+/// A picture of one puzzle.
+Subcommand renderCommand();
+/// Puzzles of a file and their solutions as a PDF file.
+Subcommand printCommand();
+
+/// Those of them that draw; none in a build without Qt.
+std::vector<Subcommand> drawingCommands();
+
+} // namespace tessaly

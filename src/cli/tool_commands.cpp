@@ -1,0 +1,80 @@
+// What makes one puzzle file out of another.
+
+#include "cli/commands.h"
+#include "core/board/puzzle_file.h"
+#include "core/solver/library_tools.h"
+
+#include <memory>
+#include <optional>
+
+namespace tessaly {
+namespace {
+
+struct ShuffleOptions {
+    ToolFiles files;
+    std::optional<std::uint64_t> seed;
+};
+
+std::vector<Option> fileOptions(ToolFiles& files) {
+    return {required(positional("FILE", "The puzzle file", files.input)),
+            required(text("--output", "OUT", "The puzzle file to write; replaced if it exists",
+                          files.output))};
+}
+
+/// Runs a tool with a progress bar; the exit status.
+int run(const Console& console, const ToolFiles& files,
+        const std::function<Outcome(const KeepGoing&)>& tool) {
+    int count = 0;
+    if (const Outcome counted = PuzzleFiles().CountLines(files.input, count); !counted.ok())
+        return fail(console, counted.problem);
+    ProgressBar bar(console, count);
+    const Outcome outcome = tool([&](int records) {
+        bar.show(records);
+        return !console.isInterrupted();
+    });
+    bar.clear();
+    if (outcome.ok())
+        return exit_status::Done;
+    fail(console, outcome.problem);
+    return console.isInterrupted() ? exit_status::Interrupted : exit_status::Failed;
+}
+
+int shuffle(const ShuffleOptions& options, const Console& console) {
+    Chance chance(options.seed.value_or(Chance::freshSeed()));
+    return run(console, options.files, [&](const KeepGoing& keepGoing) {
+        return shufflePuzzles(options.files, chance, keepGoing);
+    });
+}
+
+int makeVariants(const ToolFiles& files, const Console& console) {
+    return run(console, files, [&files](const KeepGoing& keepGoing) {
+        return expandPuzzles(files, OutputMode::Replace, TopBottomHeader::Follows, keepGoing);
+    });
+}
+
+} // namespace
+
+Subcommand shuffleCommand() {
+    const auto options = std::make_shared<ShuffleOptions>();
+    CommandSyntax syntax{
+        .name = "shuffle",
+        .description = "Write the puzzles of a file in random order, each only once",
+        .footer = "Example: tessaly-cli shuffle easy.txt --seed 1 --output mixed.txt",
+        .options = fileOptions(options->files)};
+    syntax.options.push_back(number("--seed", "S", "Gives the same order whenever it is given",
+                                    options->seed, std::uint64_t{0}));
+    return {std::move(syntax),
+            [options](const Console& console) { return shuffle(*options, console); }};
+}
+
+Subcommand variantsCommand() {
+    const auto files = std::make_shared<ToolFiles>();
+    return {{.name = "variants",
+             .description =
+                 "Write eight variants of every puzzle: itself, four mirrorings, three turns",
+             .footer = "Example: tessaly-cli variants easy.txt --output more.txt",
+             .options = fileOptions(*files)},
+            [files](const Console& console) { return makeVariants(*files, console); }};
+}
+
+} // namespace tessaly
