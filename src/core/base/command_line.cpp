@@ -20,7 +20,8 @@ void add(CLI::App& command, const Option& option) {
                                        problem);
     };
     if (option.value.empty())
-        command.add_flag_callback(names, [take] { take({}); }, option.description);
+        command.add_flag_callback(
+            names, [take] { take({}); }, option.description);
     else
         command.add_option_function<std::string>(names, take, option.description)
             ->required(option.isRequired)
@@ -51,8 +52,9 @@ std::string problemOf(const CLI::App& program, const CLI::ParseError& said) {
 } // namespace
 
 std::vector<Option> standardOptions(bool isProgram) {
-    std::vector<Option> options{
-        {.names = {"--help", "-h"}, .value = "", .description = "Print this help message and exit"}};
+    std::vector<Option> options{{.names = {"--help", "-h"},
+                                 .value = "",
+                                 .description = "Print this help message and exit"}};
     if (isProgram)
         options.push_back({.names = {"--version"},
                            .value = "",
@@ -100,8 +102,7 @@ Option flag(std::string name, std::string description, bool& target) {
 Option choice(std::string name, std::string value, std::string description, std::size_t& target) {
     const auto take = [&target, value](const std::string& given) -> std::string {
         const std::vector<std::string> choices = CLI::detail::split(value, '|');
-        const auto chosen =
-            std::find(choices.begin(), choices.end(), CLI::detail::to_lower(given));
+        const auto chosen = std::find(choices.begin(), choices.end(), CLI::detail::to_lower(given));
         if (chosen == choices.end())
             return given + " is none of " + value;
         target = static_cast<std::size_t>(chosen - choices.begin());
