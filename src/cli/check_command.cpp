@@ -2,6 +2,7 @@
 #include "core/board/record_lines.h"
 #include "core/solver/puzzle_audit.h"
 
+#include <filesystem>
 #include <memory>
 #include <ostream>
 #include <vector>
@@ -20,7 +21,7 @@ std::vector<std::string> findingsOf(const RecordLine& line) {
                            : auditRecord(line.text);
 }
 
-int check(const std::string& path, const Console& console) {
+int check(const std::filesystem::path& path, const Console& console) {
     Tally tally;
     const Outcome outcome = readRecordLines(path, [&](RecordLine line) {
         ++tally.records;
@@ -32,7 +33,7 @@ int check(const std::string& path, const Console& console) {
     });
     if (!outcome.ok())
         return fail(console, outcome.problem);
-    console.out << path << ": " << tally.records << " puzzles checked, " << tally.findings
+    console.out << path.native() << ": " << tally.records << " puzzles checked, " << tally.findings
                 << " findings\n";
     if (const Outcome written = flushed(console.out); !written.ok())
         return fail(console, written.problem);
@@ -44,7 +45,7 @@ int check(const std::string& path, const Console& console) {
 } // namespace
 
 Subcommand checkCommand() {
-    const auto path = std::make_shared<std::string>();
+    const auto path = std::make_shared<std::filesystem::path>();
     return {{.name = "check",
              .description =
                  "Check the puzzles of a file: a line for everything that is wrong, and a summary",

@@ -3,6 +3,7 @@
 #include "core/solver/puzzle_series.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <memory>
 #include <optional>
 #include <string>
@@ -24,7 +25,7 @@ struct CreateOptions {
     std::int64_t count = 0;
     std::optional<std::uint64_t> seed;
     int jobs = allProcessors();
-    std::string output;
+    std::filesystem::path output;
 };
 
 DifficultyChoice difficultyAt(std::size_t place) {

@@ -5,6 +5,7 @@
 #include "core/output/page_layout.h"
 #include "ui/drawing/pdf_file.h"
 
+#include <filesystem>
 #include <memory>
 #include <optional>
 
@@ -15,7 +16,7 @@ constexpr std::size_t UsualPerPage = 2;
 static_assert(PuzzlesPerPage[UsualPerPage] == PrintRange::UsualPuzzlesPerPage);
 
 struct PrintOptions {
-    std::string file;
+    std::filesystem::path file;
     int from = 1;
     /// The file's last when it is not given.
     std::optional<int> to;
@@ -24,7 +25,7 @@ struct PrintOptions {
     bool noSolutions = false;
     /// The place among `NamedPapers`.
     std::size_t paper = 0;
-    std::string output;
+    std::filesystem::path output;
 };
 /// Whether the file has the puzzles that are asked for.
 Outcome checkRange(const PrintRange& range, int count) {

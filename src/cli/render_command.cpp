@@ -6,15 +6,16 @@
 #include "core/session/program_folder.h"
 #include "ui/drawing/picture_document.h"
 
+#include <filesystem>
 #include <memory>
 
 namespace tessaly {
 namespace {
 
 struct RenderOptions {
-    std::string file;
+    std::filesystem::path file;
     int number = 1;
-    std::string output;
+    std::filesystem::path output;
     bool solution = false;
     double scale = 1;
     /// Black on white when it is empty.
@@ -37,8 +38,8 @@ Outcome wear(const std::string& scheme, Appearance& appearance) {
 int render(const RenderOptions& options, const Console& console) {
     const auto& [file, number, output, solution, scale, scheme] = options;
     if (!isPictureDocument(output))
-        return refuseUsage(console,
-                           "--output: " + output + " ends in neither .png nor .svg nor .pdf");
+        return refuseUsage(console, "--output: " + output.native() +
+                                        " ends in neither .png nor .svg nor .pdf");
     Board board;
     if (const PuzzleRead read = PuzzleFiles().ReadPuzzle(file, number, board); !read.ok())
         return fail(console, read.reason);

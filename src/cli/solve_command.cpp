@@ -3,6 +3,7 @@
 #include "core/board/record_lines.h"
 #include "core/solver/deduction.h"
 
+#include <filesystem>
 #include <memory>
 #include <ostream>
 
@@ -10,7 +11,7 @@ namespace tessaly {
 namespace {
 
 struct SolveOptions {
-    std::string file;
+    std::filesystem::path file;
     /// The only record to solve; 0 is all of them.
     int number = 0;
     /// 0 is all rules, 1 the basic ones.

@@ -5,9 +5,6 @@
 #include <filesystem>
 #include <iosfwd>
 #include <optional>
-#include <iosfwd>
-#include <optional>
-#include <string>
 
 namespace tessaly {
 
