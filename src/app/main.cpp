@@ -50,15 +50,15 @@ bool start(const GameOptions& options, Session& session, Prompts& prompts, Loade
     return loaded.outcome.ok();
 }
 
-void openPuzzle(const GameOptions& options, const LastPuzzle& last, LibraryCommands& library) {
+void openPuzzle(const GameOptions& options, const LastPuzzle& last, PuzzleFileCommands& files) {
     if (options.file.empty()) {
-        library.reopen(last.path, options.puzzle > 0 ? options.puzzle : last.number);
+        files.reopen(last.path, options.puzzle > 0 ? options.puzzle : last.number);
         return;
     }
-    library.reopen({}, 1);
-    library.load(std::filesystem::absolute(options.file).lexically_normal());
+    files.reopen({}, 1);
+    files.load(std::filesystem::absolute(options.file).lexically_normal());
     if (options.puzzle > 1)
-        library.goTo(options.puzzle);
+        files.goTo(options.puzzle);
 }
 
 int run(const GameOptions& options) {
@@ -72,13 +72,12 @@ int run(const GameOptions& options) {
     LoadedSession loaded;
     if (!start(options, session, prompts, loaded))
         return EXIT_FAILURE;
-    PlatformFileDialogs fileDialogs;
     SystemPrinters printers;
-    Form1 window(session, prompts, fileDialogs, printers);
+    Form1 window(session, prompts, askPlatform, printers);
     window.show();
     if (!loaded.notice.empty())
         prompts.message(loaded.notice, Critical);
-    openPuzzle(options, session.last, window.library());
+    openPuzzle(options, session.last, window.files());
     if (!toPicture)
         return QApplication::exec();
     const Outcome written = writeScreenshot(window, options.screenshot);

@@ -35,7 +35,7 @@ QImage pictureReadByAnother(const char* format) {
 
 TEST(Clipboard, AnotherProgramReadsPictureAndRecord) {
     GameWindow game;
-    game.window->library().load(game.folder.puzzles("hard.txt"), 2);
+    game.window->files().load(game.folder.puzzles("hard.txt"), 2);
     const Board& board = game.session.game.board;
     const auto expected = [&](bool solution) {
         return drawImage({board, game.session.appearance, solution}, 2)

@@ -29,7 +29,7 @@ public:
 
 class PrintQueue : public testing::Test {
 protected:
-    PrintQueue() { game.window->library().load(game.folder.puzzles("easy.txt"), 3); }
+    PrintQueue() { game.window->files().load(game.folder.puzzles("easy.txt"), 3); }
 
     /// Prints the puzzles 2 to 8 and their solutions.
     void printRange(const QString& printer) {

@@ -11,36 +11,28 @@
 namespace tessaly {
 
 /// Answers with the names that the test wrote beforehand; "" is a dialog that the user cancels.
-class ScriptedFileDialogs : public FileDialogs {
+class ScriptedFileDialogs {
 public:
-    struct Asked {
-        FileQuestion question;
-        bool saving = false;
-    };
-
     ScriptedFileDialogs(std::initializer_list<QString> names = {})
         : m_names(names) {}
     ScriptedFileDialogs(const ScriptedFileDialogs&) = delete;
     ScriptedFileDialogs& operator=(const ScriptedFileDialogs&) = delete;
-    ~ScriptedFileDialogs() override { EXPECT_TRUE(m_names.isEmpty()) << "not every name was used"; }
+    ~ScriptedFileDialogs() { EXPECT_TRUE(m_names.isEmpty()) << "not every name was used"; }
 
     void add(const QString& name) { m_names << name; }
 
-    QString nameToOpen(const FileQuestion& question, QWidget*) override {
-        return answer(question, false);
-    }
-    QString nameToSave(const FileQuestion& question, QWidget*) override {
-        return answer(question, true);
+    FileDialog dialog() {
+        return [this](const FileQuestion& question, QWidget*) { return answer(question); };
     }
 
     /// Every question, in order.
-    QList<Asked> asked;
+    QList<FileQuestion> asked;
     /// What the user does in the dialog before it closes.
     std::function<void()> meanwhile;
 
 private:
-    QString answer(const FileQuestion& question, bool saving) {
-        asked << Asked{question, saving};
+    QString answer(const FileQuestion& question) {
+        asked << question;
         if (meanwhile)
             meanwhile();
         if (!m_names.isEmpty())

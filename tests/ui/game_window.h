@@ -44,7 +44,7 @@ public:
         : m_prompts(otherPrompts != nullptr ? *otherPrompts : prompts)
         , m_printers(otherPrinters != nullptr ? *otherPrinters : printers) {
         open();
-        window->library().reopen({}, 1);
+        window->files().reopen({}, 1);
     }
 
     /// Starts the game anew in the same folder, as if the process had ended.
@@ -52,7 +52,7 @@ public:
         window.reset();
         session = Session();
         open();
-        window->library().reopen(session.last.path, session.last.number);
+        window->files().reopen(session.last.path, session.last.number);
     }
 
     /// Finds a control by its name.
@@ -91,7 +91,7 @@ private:
         session.ProgramFolder = folder.path();
         const LoadedSession loaded = loadSession(session);
         EXPECT_TRUE(loaded.outcome.ok()) << loaded.outcome.problem;
-        window = std::make_unique<Form1>(session, m_prompts, fileDialogs, m_printers);
+        window = std::make_unique<Form1>(session, m_prompts, fileDialogs.dialog(), m_printers);
         window->show();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(window.get()));
     }

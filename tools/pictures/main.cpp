@@ -62,7 +62,7 @@ CellId firstOpenCell(const GameWindow& game) {
 void takeSizes(Pictures& pictures) {
     GameWindow game;
     pictures.take(*game.window, u"empty"_s);
-    game.window->library().load(game.folder.puzzles("easy.txt"));
+    game.window->files().load(game.folder.puzzles("easy.txt"));
     pictures.take(*game.window, u"puzzle"_s);
     playALittle(game);
     const CellId cell = firstOpenCell(game);
@@ -87,7 +87,7 @@ void takeSizes(Pictures& pictures) {
 
 void takeSchemes(Pictures& pictures) {
     GameWindow game;
-    game.window->library().load(game.folder.puzzles("hard.txt"));
+    game.window->files().load(game.folder.puzzles("hard.txt"));
     playALittle(game);
     game.pointAt(firstOpenCell(game));
     QTest::mouseClick(&game.find(u"digt_3"_s), Qt::LeftButton);
@@ -148,7 +148,7 @@ void takePrinting(Pictures& pictures, const QString& scheme) {
                     .LoadScheme(game.session.appearance.ActiveScheme, game.session.appearance)
                     .ok());
     game.printers.installed = {u"HP LaserJet Pro M404dn"_s, u"Kitchen"_s};
-    game.window->library().load(game.folder.puzzles("easy.txt"));
+    game.window->files().load(game.folder.puzzles("easy.txt"));
     auto& form = game.find(u"Form5"_s);
     QTimer::singleShot(0, &form, [&] {
         pictures.take(form, u"print-"_s + scheme);
@@ -191,7 +191,7 @@ void takeDialogs(Pictures& pictures, const QString& scheme) {
 /// A long run of the developer's tools, as it stands at the usual and the smallest size.
 void takeRun(Pictures& pictures) {
     GameWindow game;
-    game.window->library().load(game.folder.puzzles("hard.txt"));
+    game.window->files().load(game.folder.puzzles("hard.txt"));
     game.window->findChild<DeveloperRow*>()->show();
     RunProgress progress;
     progress.made = 912;

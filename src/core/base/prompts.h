@@ -1,5 +1,7 @@
 #pragma once
 
+#include <filesystem>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -29,5 +31,10 @@ public:
     /// Asks for one line of text (UTF-8); empty when the player gives none.
     virtual std::string ask(std::string_view question) = 0;
 };
+
+enum class FileUse { Open, Save };
+
+/// Lets the player choose a puzzle file; the answer is its full path, empty when none was chosen.
+using FileChoice = std::function<std::filesystem::path(FileUse use, std::string_view title)>;
 
 } // namespace tessaly

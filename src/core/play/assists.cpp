@@ -82,18 +82,9 @@ void clearPencilMarks(Board& board) {
         clearMarks(board, hexagon);
 }
 
-void CandidatePeek::begin(Board& board, const Grid<bool>& touched, int hexagon) {
-    end(board);
-    m_hexagon = hexagon;
-    m_kept = board.CellNum[hexagon];
+Board withCandidates(Board board, const Grid<bool>& touched, int hexagon) {
     writeCandidates(board, touched, hexagon);
-}
-
-void CandidatePeek::end(Board& board) {
-    if (m_hexagon == 0)
-        return;
-    board.CellNum[m_hexagon] = m_kept;
-    m_hexagon = 0;
+    return board;
 }
 
 bool holdsWrongNumbers(const Board& board, int hexagon) {

@@ -30,18 +30,8 @@ void fillPencilMarks(Board& board, const Grid<bool>& touched);
 /// Empties all cells that hold pencil marks.
 void clearPencilMarks(Board& board);
 
-/// The candidates of one hexagon, written over its entries for as long as the peek lasts.
-class CandidatePeek {
-public:
-    void begin(Board& board, const Grid<bool>& touched, int hexagon);
-    /// Writes the kept entries back; nothing when no peek is under way.
-    void end(Board& board);
-    int hexagon() const { return m_hexagon; }
-
-private:
-    int m_hexagon = 0;
-    Grid<std::string>::Row m_kept;
-};
+/// A copy of the board with the candidates of one hexagon over its entries.
+Board withCandidates(Board board, const Grid<bool>& touched, int hexagon);
 
 /// Whether a hexagon holds a number twice (or a 0, which belongs nowhere).
 bool holdsWrongNumbers(const Board& board, int hexagon);

@@ -1,5 +1,6 @@
 #include "core/play/board_input.h"
 
+#include "core/play/assists.h"
 #include "core/play/selection_walk.h"
 
 #include <algorithm>
@@ -30,29 +31,30 @@ bool isClearCode(int code) {
 
 } // namespace
 
-BoardInput::BoardInput(Game& game, const BusyState& busy, PlayCommands& commands, Display& display,
-                       InputDisplay& inputDisplay, Prompts& prompts)
+BoardInput::BoardInput(Game& game, const BusyState& busy, PlayCommands& commands, Display& display)
     : m_game(game)
     , m_busy(busy)
     , m_commands(commands)
-    , m_display(display)
-    , m_inputDisplay(inputDisplay)
-    , m_prompts(prompts) {}
+    , m_display(display) {}
 
 void BoardInput::select(CellId cell) {
-    m_selection = m_game.isSelectable(cell) ? cell : CellId{};
-    m_inputDisplay.showSelection(m_selection);
+    const CellId before = std::exchange(m_selection, m_game.isSelectable(cell) ? cell : CellId{});
+    if (m_selection != before)
+        m_display.showSelection(m_selection);
     if (m_selection)
         m_display.focusBoard();
 }
 
-void BoardInput::changed(int hexagon) {
-    m_display.DrawHexagon(hexagon);
-    m_display.focusBoard();
+void BoardInput::place(CellId cell, const std::string& entry) {
+    const std::string before = m_game.board.CellNum[cell];
+    m_game.place(cell, entry);
+    showEntry(cell, before);
 }
 
-void BoardInput::hidePopup() {
-    m_inputDisplay.hidePopup();
+void BoardInput::showEntry(CellId cell, const std::string& before) {
+    if (m_game.board.CellNum[cell] != before)
+        m_display.DrawHexagon(cell.hexagon);
+    m_display.focusBoard();
 }
 
 void BoardInput::Picture2_MouseMove(Point point) {
@@ -64,11 +66,11 @@ void BoardInput::Picture2_MouseDown(PointerButton button, Point point) {
     if (m_busy.isBusy())
         return;
     if (button != PointerButton::Right || !m_selection) {
-        hidePopup();
+        m_display.hidePopup();
         return;
     }
     m_popupTarget = m_selection;
-    m_inputDisplay.showPopup(point, opensUpwards(m_selection));
+    m_display.showPopup(point, opensUpwards(m_selection));
     m_display.showMessage("");
     m_display.yield();
 }
@@ -77,13 +79,12 @@ void BoardInput::Picture2_MouseUp(PointerButton button) {
     if (m_busy.isBusy())
         return;
     if (!m_selection) {
-        hidePopup();
+        m_display.hidePopup();
         return;
     }
     if (button == PointerButton::Right || m_paletteItem == NoPaletteItem)
         return;
-    m_game.place(m_selection, m_paletteItem == PaletteEraser ? "" : NumText(m_paletteItem + 1));
-    changed(m_selection.hexagon);
+    place(m_selection, m_paletteItem == PaletteEraser ? "" : NumText(m_paletteItem + 1));
 }
 
 void BoardInput::Picture2_KeyDown(int& keyCode) {
@@ -97,43 +98,38 @@ void BoardInput::Picture2_KeyPress(int& characterCode) {
     const int code = std::exchange(characterCode, 0);
     if (!m_selection)
         return;
+    const std::string before = m_game.board.CellNum[m_selection];
     if (isClearCode(code))
         m_game.place(m_selection, "");
     else if (code >= key::FirstDigit && code <= key::LastDigit)
         m_game.typeDigit(m_selection, static_cast<char>(code));
-    changed(m_selection.hexagon);
+    showEntry(m_selection, before);
 }
 
 void BoardInput::digt_MouseUp(int item, PointerButton button) {
-    if (m_busy.refuses(m_prompts))
-        return;
     if (button == PointerButton::Right)
         m_paletteItem = NoPaletteItem;
     else if (button == PointerButton::Left)
         m_paletteItem = m_paletteItem == item ? NoPaletteItem : item;
-    m_inputDisplay.showPalette(m_paletteItem);
+    m_display.showPalette(m_paletteItem);
 }
 
 void BoardInput::Num16_Click(int button) {
     if (!m_popupTarget)
         return;
-    hidePopup();
-    if (button == PopupClose || m_busy.refuses(m_prompts))
+    m_display.hidePopup();
+    if (button == PopupClose || m_busy.isBusy())
         return;
     switch (button) {
     case PopupSideCopy:
         m_commands.cmdsetpairs();
         return;
     case PopupSingle:
-        if (const Single single = SingleCandidate(m_game.board, m_popupTarget.hexagon);
-            single.cell) {
-            m_game.place(single.cell, single.number);
-            changed(m_popupTarget.hexagon);
-        }
+        if (const Single single = SingleCandidate(m_game.board, m_popupTarget.hexagon); single.cell)
+            place(single.cell, single.number);
         return;
     default:
-        m_game.place(m_popupTarget, button == PopupEraser ? "" : NumText(button + 1));
-        changed(m_popupTarget.hexagon);
+        place(m_popupTarget, button == PopupEraser ? "" : NumText(button + 1));
     }
 }
 
@@ -141,19 +137,17 @@ void BoardInput::Celltags_MouseDown(int hexagon) {
     if (m_busy.isBusy() || !m_game.hasPuzzle())
         return;
     Celltags_MouseUp();
-    m_peek.begin(m_game.board, m_game.TouchedCell, hexagon);
-    m_display.DrawHexagon(hexagon);
+    m_peekedHexagon = hexagon;
+    m_display.DrawPeek(withCandidates(m_game.board, m_game.TouchedCell, hexagon), hexagon);
 }
 
 void BoardInput::Celltags_MouseUp() {
-    const int hexagon = m_peek.hexagon();
-    m_peek.end(m_game.board);
-    if (hexagon != 0)
+    if (const int hexagon = std::exchange(m_peekedHexagon, 0); hexagon != 0)
         m_display.DrawHexagon(hexagon);
 }
 
 void BoardInput::Timer1_Timer() {
-    hidePopup();
+    m_display.hidePopup();
 }
 
 void BoardInput::moveSelection(int columns, int rows) {
@@ -182,11 +176,10 @@ void BoardInput::pointerLeft() {
 }
 
 void BoardInput::forgetSelection() {
-    m_selection = {};
     m_popupTarget = {};
-    m_peek = {};
-    m_inputDisplay.showSelection(m_selection);
-    hidePopup();
+    m_peekedHexagon = 0;
+    m_display.hidePopup();
+    select({});
 }
 
 } // namespace tessaly

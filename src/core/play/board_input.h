@@ -1,7 +1,5 @@
 #pragma once
 
-#include "core/play/assists.h"
-#include "core/play/board_geometry.h"
 #include "core/play/busy.h"
 #include "core/play/display.h"
 #include "core/play/game.h"
@@ -11,24 +9,10 @@ namespace tessaly {
 
 enum class PointerButton { None, Left, Right, Other };
 
-/// What the window does around the board at the player's pointer and keys.
-class InputDisplay {
-public:
-    virtual ~InputDisplay() = default;
-
-    /// Moves the selection marker to a cell; no cell hides it.
-    virtual void showSelection(CellId cell) = 0;
-    /// Shows the number pop-up with a corner at a point: its top left one, or, when `upwards`, its
-    /// bottom left one. Starts the timer that closes it.
-    virtual void showPopup(Point corner, bool upwards) = 0;
-    virtual void hidePopup() = 0;
-    /// Draws the palette with one item pressed (0..6), or with none (-1).
-    virtual void showPalette(int pressedItem) = 0;
-};
-
 /// Pointer and key events of the board and of what stands around it: the palette (`digt`), the
 /// number pop-up (`Picture1` with the buttons `Num16`) and the hexagons' tags (`Celltags`). Holds
-/// the selection, which follows the pointer; all changes of cells go through the game.
+/// the selection, which follows the pointer; all changes of cells go through the game. Whatever
+/// arrives while a command is under way is ignored.
 class BoardInput {
 public:
     static constexpr int PaletteEraser = 6;
@@ -36,8 +20,7 @@ public:
     /// The buttons of the pop-up above the numbers 0..5.
     enum PopupButton { PopupEraser = 6, PopupSideCopy, PopupClose, PopupSingle };
 
-    BoardInput(Game& game, const BusyState& busy, PlayCommands& commands, Display& display,
-               InputDisplay& inputDisplay, Prompts& prompts);
+    BoardInput(Game& game, const BusyState& busy, PlayCommands& commands, Display& display);
 
     void Picture2_MouseMove(Point point);
     void Picture2_MouseDown(PointerButton button, Point point);
@@ -71,25 +54,24 @@ public:
     int SelCell() const { return m_selection ? m_selection.position : -1; }
     CellId selection() const { return m_selection; }
     bool canSelect(CellId cell) const { return m_game.isSelectable(cell); }
-    int pressedPaletteItem() const { return m_paletteItem; }
 
 private:
     void select(CellId cell);
-    void changed(int hexagon);
-    void hidePopup();
+    void place(CellId cell, const std::string& entry);
+    /// Draws a cell's hexagon, unless the cell holds what it held before.
+    void showEntry(CellId cell, const std::string& before);
 
     Game& m_game;
     const BusyState& m_busy;
     PlayCommands& m_commands;
     Display& m_display;
-    InputDisplay& m_inputDisplay;
-    Prompts& m_prompts;
 
     CellId m_selection;
     /// The cell that the pop-up was opened for; the pointer may have moved on since.
     CellId m_popupTarget;
     int m_paletteItem = NoPaletteItem;
-    CandidatePeek m_peek;
+    /// The hexagon that shows its candidates; 0 for none.
+    int m_peekedHexagon = 0;
 };
 
 } // namespace tessaly

@@ -19,7 +19,7 @@ struct BusyState {
 
     bool isBusy() const { return creating || commandRunning; }
 
-    /// Whether a command has to wait; says so when that may take long.
+    /// Whether a command that the player gives has to wait; says so when that may take long.
     bool refuses(Prompts& prompts, std::string_view refusal = Refusal) const {
         if (creating)
             prompts.message(refusal, "vbcritical+vbok");

@@ -1,13 +1,30 @@
 #pragma once
 
+#include "core/base/run_progress.h"
+#include "core/board/board.h"
 #include "core/options/colour.h"
+#include "core/play/board_geometry.h"
 
+#include <filesystem>
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace tessaly {
 
-/// What the commands need of the window that shows the board. The board itself they change
-/// directly.
+/// Which puzzle of which file is on the board.
+struct CurrentPuzzle {
+    /// The puzzle file; empty when there is none.
+    std::filesystem::path PuzPath;
+    /// The puzzle shown, from 1; 0 when none is, or one that stands in no file.
+    int PuzNum = 0;
+    /// The records in the file.
+    int PuzCount = 0;
+    /// The record as the file held it.
+    std::string record;
+};
+
+/// What the commands need of the window. The board itself they change directly.
 class Display {
 public:
     virtual ~Display() = default;
@@ -16,9 +33,36 @@ public:
     virtual void DrawBoard() = 0;
     /// Writes the solution over every cell that is no given; drawing the board takes it away again.
     virtual void DrawSolution(Colour colour) = 0;
+    /// Draws a hexagon as another board has it, until the hexagon is drawn again.
+    virtual void DrawPeek(const Board& other, int hexagon) = 0;
+    virtual void focusBoard() = 0;
+
+    /// Moves the selection marker to a cell; no cell hides it.
+    virtual void showSelection(CellId cell) = 0;
+    /// Shows the number pop-up with a corner at a point: its top left one, or, when `upwards`, its
+    /// bottom left one. Starts the timer that closes it.
+    virtual void showPopup(Point corner, bool upwards) = 0;
+    virtual void hidePopup() = 0;
+    /// Draws the palette with one item pressed (0..6), or with none (-1).
+    virtual void showPalette(int pressedItem) = 0;
+
+    /// Another puzzle is on the board, or none.
+    virtual void showPuzzle(const CurrentPuzzle& puzzle) = 0;
+    /// What the difficulty label shows.
+    virtual void showDifficulty(DifficultyChoice difficulty) = 0;
+    /// The file that "Save to" offers; empty for none.
+    virtual void showSaveTarget(const std::filesystem::path& path) = 0;
+    /// The puzzle files used last, the most recent first.
+    virtual void showRecentFiles(const std::vector<std::filesystem::path>& paths) = 0;
     /// Shows a text on the message line; an empty one clears it.
     virtual void showMessage(std::string_view text) = 0;
-    virtual void focusBoard() = 0;
+
+    /// Shows or ends the busy pointer.
+    virtual void showBusy(bool busy) = 0;
+    /// Shows how far a long run is; `path` is the file that it is about.
+    virtual void beginProgress(const std::filesystem::path& path) = 0;
+    virtual void showProgress(const RunProgress& progress) = 0;
+    virtual void endProgress() = 0;
     /// Lets the window handle what has come in meanwhile.
     virtual void yield() = 0;
 };

@@ -14,27 +14,19 @@ std::string signedText(int number) {
 
 } // namespace
 
-PlayCommands::PlayCommands(Game& game, const BusyState& busy, const Appearance& appearance,
-                           Display& display, Prompts& prompts)
+PlayCommands::PlayCommands(Game& game, const Appearance& appearance, Display& display,
+                           Prompts& prompts)
     : m_game(game)
-    , m_busy(busy)
     , m_appearance(appearance)
     , m_display(display)
     , m_prompts(prompts) {}
-
-bool PlayCommands::refusedWhileBusy() {
-    if (!m_busy.refuses(m_prompts))
-        return false;
-    m_display.yield();
-    return true;
-}
 
 bool PlayCommands::confirmed(std::string_view question) {
     return m_prompts.message(question, "vbyesno+vbquestion") == answer::Yes;
 }
 
 void PlayCommands::cmdundo() {
-    if (refusedWhileBusy() || m_game.undoList.empty())
+    if (m_game.undoList.empty())
         return;
     m_display.showMessage("");
     const HexagonSet changed = m_game.undo();
@@ -45,7 +37,7 @@ void PlayCommands::cmdundo() {
 }
 
 void PlayCommands::cmdallpencil() {
-    if (refusedWhileBusy() || !confirmed("Existing Pencilmarks will be overwitten, Proceed?"))
+    if (!confirmed("Existing Pencilmarks will be overwitten, Proceed?"))
         return;
     fillPencilMarks(m_game.board, m_game.TouchedCell);
     m_display.DrawBoard();
@@ -54,7 +46,7 @@ void PlayCommands::cmdallpencil() {
 }
 
 void PlayCommands::cmdallpencilClear() {
-    if (refusedWhileBusy() || !confirmed("Existing Pencilmarks will be cleared, Proceed?"))
+    if (!confirmed("Existing Pencilmarks will be cleared, Proceed?"))
         return;
     clearPencilMarks(m_game.board);
     m_display.DrawBoard();
@@ -73,22 +65,16 @@ void PlayCommands::reportCount(int count, std::string_view done, std::string_vie
 }
 
 void PlayCommands::cmdsetpairs() {
-    if (refusedWhileBusy())
-        return;
     int count = 0;
     m_game.CopyAcrossSides(count);
     reportCount(count, " Cells Fixed", "None Fixed");
 }
 
 void PlayCommands::cmdset1s() {
-    if (refusedWhileBusy())
-        return;
     reportCount(m_game.setSingles(), " Cells Set", "None Set");
 }
 
 void PlayCommands::StatLab() {
-    if (refusedWhileBusy())
-        return;
     if (const int wrong = firstWrongHexagon(m_game.board); wrong != 0) {
         m_display.showMessage("Cell" + signedText(wrong) + " has incorrect numbers");
         return;
@@ -102,17 +88,15 @@ void PlayCommands::StatLab() {
 }
 
 void PlayCommands::cmdshowsolPressed() {
-    if (!refusedWhileBusy())
-        m_display.DrawSolution(m_appearance.SchemeColours[slot::Green]);
+    m_display.DrawSolution(m_appearance.SchemeColours[slot::Green]);
 }
 
 void PlayCommands::cmdshowsolReleased() {
-    if (!m_busy.isBusy())
-        m_display.DrawBoard();
+    m_display.DrawBoard();
 }
 
 void PlayCommands::cmdreset() {
-    if (refusedWhileBusy() || !confirmed("Clear ALL user entries?"))
+    if (!confirmed("Clear ALL user entries?"))
         return;
     m_game.reset();
     m_display.DrawBoard();

@@ -2,18 +2,15 @@
 
 #include "core/base/prompts.h"
 #include "core/options/appearance.h"
-#include "core/play/busy.h"
 #include "core/play/display.h"
 #include "core/play/game.h"
 
 namespace tessaly {
 
-/// The play commands of the main window, by the names of the controls that start them. Each is
-/// refused with a message while puzzles are being created.
+/// The play commands of the main window, by the names of the controls that start them.
 class PlayCommands {
 public:
-    PlayCommands(Game& game, const BusyState& busy, const Appearance& appearance, Display& display,
-                 Prompts& prompts);
+    PlayCommands(Game& game, const Appearance& appearance, Display& display, Prompts& prompts);
 
     void cmdundo();
     /// Pencil marks into all cells, after a question.
@@ -32,12 +29,10 @@ public:
     void cmdreset();
 
 private:
-    bool refusedWhileBusy();
     bool confirmed(std::string_view question);
     void reportCount(int count, std::string_view done, std::string_view none);
 
     Game& m_game;
-    const BusyState& m_busy;
     const Appearance& m_appearance;
     Display& m_display;
     Prompts& m_prompts;

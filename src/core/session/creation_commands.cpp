@@ -1,6 +1,5 @@
 #include "core/session/creation_commands.h"
 
-#include "core/board/puzzle_record.h"
 #include "core/solver/generator.h"
 
 #include <string>
@@ -18,26 +17,20 @@ DifficultyChoice stepAfter(DifficultyChoice shown) {
 
 } // namespace
 
-CreationCommands::CreationCommands(Session& session, LibraryCommands& library, Display& display,
-                                   LibraryDisplay& libraryDisplay, Prompts& prompts, Chance chance)
+CreationCommands::CreationCommands(Session& session, PuzzleFileCommands& files, Display& display,
+                                   Chance chance)
     : m_session(session)
-    , m_library(library)
+    , m_files(files)
     , m_display(display)
-    , m_libraryDisplay(libraryDisplay)
-    , m_prompts(prompts)
     , m_fill(arrangementsOf(session.arrangements))
     , m_chance(chance) {}
 
 void CreationCommands::DifLab() {
     m_session.difficulty = stepAfter(m_session.difficulty);
-    m_libraryDisplay.showDifficulty(m_session.difficulty);
+    m_display.showDifficulty(m_session.difficulty);
 }
 
 void CreationCommands::cmdcreate() {
-    if (m_session.busy.refuses(m_prompts)) {
-        m_display.yield();
-        return;
-    }
     const DifficultyChoice asked = m_session.difficulty;
     const Difficulty difficulty = drawDifficulty(asked, m_chance);
     const std::string inBrackets = " (" + std::string(nameOf(difficulty)) + ")";
@@ -45,11 +38,11 @@ void CreationCommands::cmdcreate() {
     {
         const WhileSet running(m_session.busy.commandRunning);
         create(difficulty);
-        appendAndShow();
+        save();
     }
     // Showing the puzzle put its own difficulty on the label.
     m_session.difficulty = asked;
-    m_libraryDisplay.showDifficulty(asked);
+    m_display.showDifficulty(asked);
     m_display.showMessage("New Puzzle Created" + inBrackets);
     m_display.focusBoard();
 }
@@ -63,21 +56,12 @@ void CreationCommands::create(Difficulty difficulty) {
     m_session.game.startPuzzle();
 }
 
-void CreationCommands::appendAndShow() {
-    const std::filesystem::path path = m_session.puzzle.PuzPath.empty()
-                                           ? m_session.ProgramFolder / TemporaryPuzzleFile
-                                           : m_session.puzzle.PuzPath;
+void CreationCommands::save() {
+    const std::filesystem::path& current = m_session.puzzle.PuzPath;
     int number = 0;
-    const Outcome saved =
-        m_session.files.appendPuzzle(path, PuzzleRecord(m_session.game.board), number);
-    if (!saved.ok() || !m_library.ReadPuzzle(path, number).ok())
-        showUnsaved();
-}
-
-/// The puzzle can be played all the same; it only stands in no file.
-void CreationCommands::showUnsaved() {
-    m_session.puzzle.PuzNum = 0;
-    m_libraryDisplay.showNoPuzzle();
+    // A puzzle that cannot be saved can be played all the same; it only stands in no file.
+    if (!m_files.appendAndShow(current.empty() ? m_files.temporaryFile() : current, number).ok())
+        m_files.showWithoutFile();
 }
 
 } // namespace tessaly

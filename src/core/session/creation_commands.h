@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/session/library_commands.h"
+#include "core/session/puzzle_file_commands.h"
 #include "core/solver/chance.h"
 #include "core/solver/search_fill.h"
 
@@ -9,8 +9,7 @@ namespace tessaly {
 /// The commands that make new puzzles, by the names of the controls that start them.
 class CreationCommands {
 public:
-    CreationCommands(Session& session, LibraryCommands& library, Display& display,
-                     LibraryDisplay& libraryDisplay, Prompts& prompts, Chance chance);
+    CreationCommands(Session& session, PuzzleFileCommands& files, Display& display, Chance chance);
 
     /// Moves the difficulty label one step along Easy, Hard, Random.
     void DifLab();
@@ -20,14 +19,11 @@ public:
 
 private:
     void create(Difficulty difficulty);
-    void appendAndShow();
-    void showUnsaved();
+    void save();
 
     Session& m_session;
-    LibraryCommands& m_library;
+    PuzzleFileCommands& m_files;
     Display& m_display;
-    LibraryDisplay& m_libraryDisplay;
-    Prompts& m_prompts;
     SearchFill m_fill;
     Chance m_chance;
 };

@@ -59,11 +59,6 @@ private:
     std::int32_t m_counter = 0;
 };
 
-std::string cellCode(CellId cell) {
-    return (cell.hexagon < 10 ? "0" : "") + std::to_string(cell.hexagon) +
-           std::to_string(cell.position);
-}
-
 /// "035" is cell 5 of hexagon 3.
 std::string cellCode(int hexagon, int position) {
     return (hexagon < 10 ? "0" : "") + std::to_string(hexagon) + std::to_string(position);
@@ -127,7 +122,8 @@ void FixXcellPairsVerbose(Board& board, std::int32_t& counter, SolverObserver& o
         for (const auto& [cell, digit] : finding.all()) {
             if (board.CellNum[cell].size() <= 1)
                 continue;
-            observer.message("fix pair " + std::to_string(digit) + " at " + cellCode(cell));
+            observer.message("fix pair " + std::to_string(digit) + " at " +
+                             cellCode(cell.hexagon, cell.position));
             board.CellNum[cell] = std::to_string(digit);
             ++counter;
         }
@@ -141,23 +137,17 @@ DeveloperCommands::DeveloperCommands(Session& session, Display& display, Prompts
     , m_prompts(prompts) {}
 
 void DeveloperCommands::solveInSteps(bool debug) {
-    if (m_session.busy.refuses(m_prompts))
-        return;
     const WhileSet running(m_session.busy.commandRunning);
     DebugSolve(m_session.game.board, debug, *this);
 }
 
 void DeveloperCommands::applyXcellRule() {
-    if (m_session.busy.refuses(m_prompts))
-        return;
     const WhileSet running(m_session.busy.commandRunning);
     std::int32_t counter = 0;
     FixXcellPairsVerbose(m_session.game.board, counter, *this);
 }
 
 void DeveloperCommands::autoSolveHard(bool carryOut) {
-    if (m_session.busy.refuses(m_prompts))
-        return;
     const Board& board = m_session.game.board;
     message("AutosolveHard, fixed, Cell=" + std::to_string(board.BlankHex) + ", Pos=" +
             std::to_string(board.HintCell) + ", number=" + std::to_string(board.HintNum));
@@ -178,8 +168,6 @@ void DeveloperCommands::solveWithHint() {
 }
 
 void DeveloperCommands::checkCells() {
-    if (m_session.busy.refuses(m_prompts))
-        return;
     Board& board = m_session.game.board;
     board.SkipHex = NoHexagon;
     redraw();
@@ -188,8 +176,6 @@ void DeveloperCommands::checkCells() {
 }
 
 void DeveloperCommands::setManualValue() {
-    if (m_session.busy.refuses(m_prompts))
-        return;
     const std::string answer =
         m_prompts.ask("Cell code and entry, such as 035 4 (035 alone empties the cell):");
     if (answer.empty())

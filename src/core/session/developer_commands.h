@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/base/prompts.h"
 #include "core/board/board.h"
 #include "core/play/display.h"
 #include "core/session/session.h"

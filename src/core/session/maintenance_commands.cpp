@@ -15,10 +15,11 @@ constexpr std::string_view ShuffledFile = "puzzles20u.txt";
 
 } // namespace
 
-MaintenanceCommands::MaintenanceCommands(Session& session, const MaintenanceWindow& window,
+MaintenanceCommands::MaintenanceCommands(Session& session, Display& display, Prompts& prompts,
                                          Chance chance)
     : m_session(session)
-    , m_window(window)
+    , m_display(display)
+    , m_prompts(prompts)
     , m_chance(chance) {}
 
 void MaintenanceCommands::FlipandAdd() {
@@ -48,8 +49,6 @@ void MaintenanceCommands::Randomize() {
 }
 
 bool MaintenanceCommands::run(std::string_view input, std::string_view output, const Tool& tool) {
-    if (m_session.busy.refuses(m_window.prompts))
-        return false;
     const auto inFolder = [this](std::string_view name) { return m_session.ProgramFolder / name; };
     Outcome outcome;
     {
@@ -60,7 +59,7 @@ bool MaintenanceCommands::run(std::string_view input, std::string_view output, c
     if (m_stopped)
         return false;
     if (!outcome.ok())
-        m_window.prompts.message(outcome.problem, "vbok+vbcritical");
+        m_prompts.message(outcome.problem, "vbok+vbcritical");
     return outcome.ok();
 }
 
@@ -68,15 +67,12 @@ Outcome MaintenanceCommands::runWithProgress(const ToolFiles& files, const Tool&
     int count = 0;
     if (Outcome counted = PuzzleFiles().CountLines(files.input, count); !counted.ok())
         return counted;
-    m_window.library.showBusy(true);
-    m_window.progress.beginProgress(files.input);
+    m_display.showBusy(true);
+    m_display.beginProgress(files.input);
     Outcome outcome = waitFor(tool, files, count);
-    m_window.progress.endProgress();
-    m_window.library.showBusy(false);
-    if (m_session.puzzle.PuzNum == 0)
-        m_window.library.showNoPuzzle();
-    else
-        m_window.library.showPuzzle(m_session.puzzle);
+    m_display.endProgress();
+    m_display.showBusy(false);
+    m_display.showPuzzle(m_session.puzzle);
     return outcome;
 }
 
@@ -84,8 +80,8 @@ Outcome MaintenanceCommands::runWithProgress(const ToolFiles& files, const Tool&
 Outcome MaintenanceCommands::waitFor(const Tool& tool, const ToolFiles& files, int count) {
     const RunClock clock;
     std::atomic<int> done = 0;
-    m_window.progress.showProgress(clock.progress(done, count));
-    m_window.display.yield();
+    m_display.showProgress(clock.progress(done, count));
+    m_display.yield();
     auto working = std::async(std::launch::async, [&] {
         return tool(files, [&](int records) {
             done = records;
@@ -93,14 +89,14 @@ Outcome MaintenanceCommands::waitFor(const Tool& tool, const ToolFiles& files, i
         });
     });
     while (working.wait_for(Turn) == std::future_status::timeout) {
-        m_window.progress.showProgress(clock.progress(done, count));
-        m_window.display.yield();
+        m_display.showProgress(clock.progress(done, count));
+        m_display.yield();
     }
     return working.get();
 }
 
 void MaintenanceCommands::tell(const std::string& text) {
-    m_window.prompts.message(text, "vbok");
+    m_prompts.message(text, "vbok");
 }
 
 } // namespace tessaly

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "core/base/prompts.h"
 #include "core/play/display.h"
-#include "core/session/run_progress.h"
 #include "core/session/session.h"
 #include "core/solver/library_tools.h"
 
@@ -10,20 +10,12 @@
 
 namespace tessaly {
 
-/// What the window lends to a long run over a puzzle file.
-struct MaintenanceWindow {
-    Display& display;
-    LibraryDisplay& library;
-    RunProgressDisplay& progress;
-    Prompts& prompts;
-};
-
 /// The developer's commands on whole puzzle files, by the captions of their buttons. The files have
 /// fixed names in the program's folder; those that grow ("addnewr.txt", "addnewrv.txt") are
 /// appended to.
 class MaintenanceCommands {
 public:
-    MaintenanceCommands(Session& session, const MaintenanceWindow& window, Chance chance);
+    MaintenanceCommands(Session& session, Display& display, Prompts& prompts, Chance chance);
 
     /// The eight variants of every puzzle of "addnew.txt", into "addnewr.txt".
     void FlipandAdd();
@@ -45,7 +37,8 @@ private:
     void tell(const std::string& text);
 
     Session& m_session;
-    MaintenanceWindow m_window;
+    Display& m_display;
+    Prompts& m_prompts;
     Chance m_chance;
     std::atomic<bool> m_stopped = false;
 };

@@ -24,19 +24,19 @@ Difficulty drawForEach(DifficultyChoice choice, Chance& chance) {
 
 } // namespace
 
-MultipleCreation::MultipleCreation(Session& session, LibraryCommands& library,
-                                   const MultipleCreationWindow& window, Chance chance)
+MultipleCreation::MultipleCreation(Session& session, PuzzleFileCommands& files, Display& display,
+                                   Prompts& prompts, CreationOrderChoice& orders, Chance chance)
     : m_session(session)
-    , m_library(library)
-    , m_window(window)
+    , m_files(files)
+    , m_display(display)
+    , m_prompts(prompts)
+    , m_orders(orders)
     , m_fill(arrangementsOf(session.arrangements))
     , m_chance(chance) {}
 
 void MultipleCreation::run() {
-    if (m_session.busy.refuses(m_window.prompts))
-        return;
-    const std::optional<CreationOrder> order = m_window.orders.choose();
-    m_window.display.yield();
+    const std::optional<CreationOrder> order = m_orders.choose();
+    m_display.yield();
     if (order && confirmed(*order))
         carryOut(*order);
 }
@@ -46,7 +46,7 @@ bool MultipleCreation::confirmed(const CreationOrder& order) {
                                  "\r\nDifficulty Level: " + std::string(nameOf(order.difficulty)) +
                                  "\r\nNumber of Puzzles:" + std::to_string(order.count) +
                                  "\r\n\r\nCreating Multiple Puzzle will take time...\r\nProceed?";
-    return m_window.prompts.message(question, "vbinformation+vbyesno") == answer::Yes;
+    return m_prompts.message(question, "vbinformation+vbyesno") == answer::Yes;
 }
 
 void MultipleCreation::carryOut(const CreationOrder& order) {
@@ -54,9 +54,9 @@ void MultipleCreation::carryOut(const CreationOrder& order) {
     Outcome outcome;
     {
         const WhileSet creating(m_session.busy.creating);
-        m_window.progress.beginProgress(order.path);
+        m_display.beginProgress(order.path);
         outcome = createAll(order, made);
-        m_window.progress.endProgress();
+        m_display.endProgress();
     }
     if (m_stopped)
         return;
@@ -74,8 +74,8 @@ Outcome MultipleCreation::createAll(const CreationOrder& order, int& made) {
         if (Outcome written = append(order.path, records); !written.ok())
             return written;
         made = madeNow;
-        m_window.progress.showProgress(clock.progress(made, order.count));
-        m_window.display.yield();
+        m_display.showProgress(clock.progress(made, order.count));
+        m_display.yield();
     }
     return Outcome::done();
 }
@@ -84,7 +84,7 @@ Outcome MultipleCreation::createAll(const CreationOrder& order, int& made) {
 Outcome MultipleCreation::append(const std::filesystem::path& path, const std::string& records) {
     auto writing = std::async([&] { return appendLines(path, records); });
     while (writing.wait_for(Turn) == std::future_status::timeout)
-        m_window.display.yield();
+        m_display.yield();
     return writing.get();
 }
 
@@ -97,7 +97,7 @@ std::string MultipleCreation::createSome(const CreationOrder& order, int& made) 
         ++made;
         records += createOne(order, made) + "\r\n";
         if (Clock::now() >= nextTurn) {
-            m_window.display.yield();
+            m_display.yield();
             nextTurn = Clock::now() + Turn;
         }
     }
@@ -108,8 +108,8 @@ std::string MultipleCreation::createOne(const CreationOrder& order, int number) 
     Board board;
     for (;;) {
         const Difficulty difficulty = drawForEach(order.difficulty, m_chance);
-        m_window.display.showMessage("Creating " + std::string(nameOf(difficulty)) + " Puzzle " +
-                                     std::to_string(number) + " of " + std::to_string(order.count));
+        m_display.showMessage("Creating " + std::string(nameOf(difficulty)) + " Puzzle " +
+                              std::to_string(number) + " of " + std::to_string(order.count));
         CreatePuzzle(board, difficulty, m_chance, m_fill);
         std::string record = PuzzleRecord(board);
         if (m_known.insert(record).second)
@@ -121,23 +121,23 @@ std::string MultipleCreation::createOne(const CreationOrder& order, int number) 
 void MultipleCreation::showPuzzleAgain() {
     const CurrentPuzzle before = m_session.puzzle;
     if (before.PuzNum == 0) {
-        m_window.library.showNoPuzzle();
+        m_display.showPuzzle(before);
         return;
     }
     const Game play = m_session.game;
-    if (m_library.ReadPuzzle(before.PuzPath, before.PuzNum).record != before.record)
+    if (m_files.ReadPuzzle(before.PuzPath, before.PuzNum).record != before.record)
         return;
     m_session.game = play;
-    m_window.display.DrawBoard();
+    m_display.DrawBoard();
 }
 
 void MultipleCreation::report(const CreationOrder& order, int made, const Outcome& outcome) {
     const std::string count = std::to_string(made);
-    m_window.display.showMessage(count + " Puzles Created");
+    m_display.showMessage(count + " Puzles Created");
     if (!outcome.ok())
-        m_window.prompts.message(outcome.problem, "vbok+vbcritical");
-    m_window.prompts.message(count + " Puzzles added to file:\r\n" + order.path.native(),
-                             "vbinformation+vbok");
+        m_prompts.message(outcome.problem, "vbok+vbcritical");
+    m_prompts.message(count + " Puzzles added to file:\r\n" + order.path.native(),
+                      "vbinformation+vbok");
 }
 
 } // namespace tessaly

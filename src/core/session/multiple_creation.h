@@ -1,7 +1,6 @@
 #pragma once
 
-#include "core/session/library_commands.h"
-#include "core/session/run_progress.h"
+#include "core/session/puzzle_file_commands.h"
 #include "core/solver/chance.h"
 #include "core/solver/search_fill.h"
 
@@ -28,21 +27,12 @@ public:
     virtual std::optional<CreationOrder> choose() = 0;
 };
 
-/// What the window lends to a long creation.
-struct MultipleCreationWindow {
-    Display& display;
-    LibraryDisplay& library;
-    RunProgressDisplay& progress;
-    Prompts& prompts;
-    CreationOrderChoice& orders;
-};
-
 /// Creates many puzzles in one go ("AutoCreate") and appends them to a puzzle file. The puzzles of
 /// a short while are written together, flushed to the disk, and only then counted as made.
 class MultipleCreation {
 public:
-    MultipleCreation(Session& session, LibraryCommands& library,
-                     const MultipleCreationWindow& window, Chance chance);
+    MultipleCreation(Session& session, PuzzleFileCommands& files, Display& display,
+                     Prompts& prompts, CreationOrderChoice& orders, Chance chance);
 
     /// Asks for an order, then for a confirmation, and carries it out.
     void run();
@@ -64,8 +54,10 @@ private:
     void report(const CreationOrder& order, int made, const Outcome& outcome);
 
     Session& m_session;
-    LibraryCommands& m_library;
-    MultipleCreationWindow m_window;
+    PuzzleFileCommands& m_files;
+    Display& m_display;
+    Prompts& m_prompts;
+    CreationOrderChoice& m_orders;
     SearchFill m_fill;
     Chance m_chance;
     std::unordered_set<std::string> m_known;

@@ -5,8 +5,8 @@
 #include "core/board/puzzle_file.h"
 #include "core/options/appearance.h"
 #include "core/play/busy.h"
+#include "core/play/display.h"
 #include "core/play/game.h"
-#include "core/session/library_display.h"
 #include "core/session/recent_files.h"
 
 #include <filesystem>

@@ -1,7 +1,6 @@
 #include "ui/controls/dialog_parts.h"
 
 #include "ui/controls/box_control.h"
-#include "ui/controls/file_name_picker.h"
 
 #include <QCoreApplication>
 #include <QDialog>
@@ -9,8 +8,6 @@
 #include <QVBoxLayout>
 
 namespace tessaly {
-
-using namespace Qt::StringLiterals;
 
 QVBoxLayout* addRows(QDialog& dialog) {
     auto* rows = new QVBoxLayout(&dialog);
@@ -28,13 +25,6 @@ QHBoxLayout* makeButtonRow(std::initializer_list<BoxControl*> buttons) {
         row->addWidget(button);
     }
     return row;
-}
-
-FNDialog* makeFilePicker(FileDialogs& fileDialogs, Prompts& prompts, QWidget* parent) {
-    auto* picker = named(u"gf1"_s, new FNDialog(fileDialogs, prompts, parent));
-    picker->setToolTip(FNDialog::tr("Choose another file"));
-    picker->setFixedSize(dialog::ButtonSize.height(), dialog::ButtonSize.height());
-    return picker;
 }
 
 QSize ElidedLabel::minimumSizeHint() const {

@@ -10,14 +10,10 @@
 class QDialog;
 class QHBoxLayout;
 class QVBoxLayout;
-class QWidget;
 
 namespace tessaly {
 
 class BoxControl;
-class FNDialog;
-class FileDialogs;
-class Prompts;
 
 /// The measures that the dialogs have in common, in logical pixels.
 namespace dialog {
@@ -38,9 +34,6 @@ QVBoxLayout* addRows(QDialog& dialog);
 
 /// The last row of a dialog: its buttons, all of one size, at the right.
 QHBoxLayout* makeButtonRow(std::initializer_list<BoxControl*> buttons);
-
-/// The square button `gf1` beside the name of a file, which asks for another one.
-FNDialog* makeFilePicker(FileDialogs& fileDialogs, Prompts& prompts, QWidget* parent);
 
 /// A label that cuts its text in the middle where there is no room for all of it.
 class ElidedLabel : public QLabel {

@@ -1,5 +1,6 @@
 #include "ui/controls/file_name_picker.h"
 
+#include "ui/controls/dialog_parts.h"
 #include "ui/drawing/qt_values.h"
 
 #include <QDir>
@@ -12,31 +13,16 @@
 #include <filesystem>
 
 namespace tessaly {
+namespace {
 
 using namespace Qt::StringLiterals;
 
-namespace {
+constexpr int LongestPath = 254;
 
 /// The kind with its patterns behind it, as Qt reads them. Only the kind is shown.
 QString filterOf(const FileQuestion& question) {
-    return question.kind % QStringLiteral(" (") % question.patterns.join(QLatin1Char(' ')) %
-           QStringLiteral(")");
+    return question.kind % u" ("_s % question.patterns.join(QLatin1Char(' ')) % u")"_s;
 }
-
-QString ask(const FileQuestion& question, QWidget* owner, QFileDialog::AcceptMode mode) {
-    QFileDialog dialog(owner, question.title, question.folder);
-    dialog.setAcceptMode(mode);
-    dialog.setFileMode(QFileDialog::AnyFile);
-    dialog.setOption(QFileDialog::DontConfirmOverwrite);
-    dialog.setOption(QFileDialog::HideNameFilterDetails);
-    if (!question.patterns.isEmpty())
-        dialog.setNameFilter(filterOf(question));
-    if (dialog.exec() != QDialog::Accepted)
-        return {};
-    return dialog.selectedFiles().value(0);
-}
-
-constexpr int LongestPath = 254;
 
 /// Brings the process back to the directory in which it was, wherever a dialog has led it.
 class CurrentDirectoryKeeper {
@@ -53,8 +39,7 @@ private:
 /// Why the path cannot be taken; empty when it can.
 QString problemWith(const QString& path) {
     if (path.size() > LongestPath)
-        return QStringLiteral("The path of this file is longer than %1 characters, so it cannot "
-                              "be used:\r\n")
+        return u"The path of this file is longer than %1 characters, so it cannot be used:\r\n"_s
                    .arg(LongestPath) %
                path;
     return problemWithName(path);
@@ -76,20 +61,25 @@ bool holdsSomething(const std::filesystem::path& path) {
 
 } // namespace
 
-QString PlatformFileDialogs::nameToOpen(const FileQuestion& question, QWidget* owner) {
-    return ask(question, owner, QFileDialog::AcceptOpen);
+QString askPlatform(const FileQuestion& question, QWidget* owner) {
+    QFileDialog dialog(owner, question.title, question.folder);
+    dialog.setAcceptMode(question.saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
+    if (!question.patterns.isEmpty())
+        dialog.setNameFilter(filterOf(question));
+    if (dialog.exec() != QDialog::Accepted)
+        return {};
+    return dialog.selectedFiles().value(0);
 }
 
-QString PlatformFileDialogs::nameToSave(const FileQuestion& question, QWidget* owner) {
-    return ask(question, owner, QFileDialog::AcceptSave);
-}
-
-FNDialog::FNDialog(FileDialogs& dialogs, Prompts& prompts, QWidget* parent)
+FNDialog::FNDialog(FileDialog dialog, Prompts& prompts, QWidget* parent)
     : QWidget(parent)
-    , m_dialogs(dialogs)
+    , m_dialog(std::move(dialog))
     , m_prompts(prompts)
-    , m_button(new BoxControl(QStringLiteral("..."), this)) {
-    m_button->setObjectName(QStringLiteral("Command1"));
+    , m_button(new BoxControl(u"..."_s, this)) {
+    m_button->setObjectName(u"Command1"_s);
     m_button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
     auto* layout = new QHBoxLayout(this);
@@ -112,18 +102,17 @@ void FNDialog::setTitle(const QString& title) {
 QString FNDialog::GetFileName(const QString& mode) {
     const CurrentDirectoryKeeper keeper;
     const bool saving = mode.compare(QLatin1String("SAVE"), Qt::CaseInsensitive) == 0;
-    return accepted(saving ? m_dialogs.nameToSave(question(), window())
-                           : m_dialogs.nameToOpen(question(), window()));
+    return accepted(m_dialog(question(saving), window()));
 }
 
-FileQuestion FNDialog::question() const {
+FileQuestion FNDialog::question(bool saving) const {
     QString folder = m_defaultDir;
     if (folder.isEmpty())
         folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     if (!folder.endsWith(QDir::separator()))
         folder += QDir::separator();
-    return {m_title, folder, m_fileTypesName % QStringLiteral(" (") % m_fileTypes % QChar(u')'),
-            patternsIn(m_fileTypes)};
+    return {m_title, folder, m_fileTypesName % u" ("_s % m_fileTypes % QChar(u')'),
+            patternsIn(m_fileTypes), saving};
 }
 
 QString FNDialog::accepted(const QString& path) {
@@ -137,24 +126,20 @@ QString FNDialog::accepted(const QString& path) {
     return {};
 }
 
-PuzzleFileChoice::PuzzleFileChoice(FNDialog& picker, std::filesystem::path programFolder)
-    : m_picker(picker)
-    , m_programFolder(std::move(programFolder)) {}
-
-std::filesystem::path PuzzleFileChoice::choose(std::string_view title, const char* mode) {
-    m_picker.setTitle(QString::fromUtf8(title));
-    m_picker.setFileTypes(u"*.txt;*.dat"_s);
-    m_picker.setFileTypesName(u"Tessaly Files"_s);
-    m_picker.setDefaultDir(pathText(m_programFolder));
-    return pathOf(m_picker.GetFileName(QString::fromLatin1(mode)));
+FNDialog* makeFilePicker(const FileDialog& ask, Prompts& prompts, QWidget* parent) {
+    auto* picker = named(u"gf1"_s, new FNDialog(ask, prompts, parent));
+    picker->setToolTip(FNDialog::tr("Choose another file"));
+    picker->setFixedSize(dialog::ButtonSize.height(), dialog::ButtonSize.height());
+    return picker;
 }
 
-std::filesystem::path PuzzleFileChoice::chooseToOpen(std::string_view title) {
-    return choose(title, "OPEN");
-}
-
-std::filesystem::path PuzzleFileChoice::chooseToSave(std::string_view title) {
-    return choose(title, "SAVE");
+std::filesystem::path choosePuzzleFile(FNDialog& picker, const std::filesystem::path& folder,
+                                       FileUse use, std::string_view title) {
+    picker.setTitle(QString::fromUtf8(title));
+    picker.setFileTypes(u"*.txt;*.dat"_s);
+    picker.setFileTypesName(u"Tessaly Files"_s);
+    picker.setDefaultDir(pathText(folder));
+    return pathOf(picker.GetFileName(use == FileUse::Save ? u"SAVE"_s : u"OPEN"_s));
 }
 
 std::filesystem::path chooseOutputFile(const OutputFileQuestion& question, FNDialog& picker,
@@ -163,7 +148,7 @@ std::filesystem::path chooseOutputFile(const OutputFileQuestion& question, FNDia
     picker.setFileTypes(question.types);
     picker.setFileTypesName(question.typesName);
     picker.setDefaultDir(question.folder);
-    QString chosen = picker.GetFileName(QStringLiteral("SAVE"));
+    QString chosen = picker.GetFileName(u"SAVE"_s);
     if (chosen.isEmpty())
         return {};
     if (QFileInfo(chosen).suffix().isEmpty())

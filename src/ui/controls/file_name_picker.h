@@ -1,7 +1,6 @@
 #pragma once
 
 #include "core/base/prompts.h"
-#include "core/session/file_choice.h"
 #include "ui/controls/box_control.h"
 
 #include <QString>
@@ -9,9 +8,8 @@
 #include <QWidget>
 
 #include <filesystem>
+#include <functional>
 #include <string>
-
-class QWidget;
 
 namespace tessaly {
 
@@ -24,24 +22,16 @@ struct FileQuestion {
     /// patterns it lists every file.
     QString kind;
     QStringList patterns;
+    /// Whether the file is to be written.
+    bool saving = false;
 };
 
-/// Whom a file's name is asked from. Both questions answer the full path, or nothing when the user
-/// thought better of it; neither asks whether the file exists or may be replaced.
-class FileDialogs {
-public:
-    virtual ~FileDialogs() = default;
+/// Asks for a file's name: the answer is the full path, or nothing when the user thought better of
+/// it. Whether the file exists, or may be replaced, is not asked.
+using FileDialog = std::function<QString(const FileQuestion& question, QWidget* owner)>;
 
-    virtual QString nameToOpen(const FileQuestion& question, QWidget* owner) = 0;
-    virtual QString nameToSave(const FileQuestion& question, QWidget* owner) = 0;
-};
-
-/// The dialogs of the desktop.
-class PlatformFileDialogs : public FileDialogs {
-public:
-    QString nameToOpen(const FileQuestion& question, QWidget* owner) override;
-    QString nameToSave(const FileQuestion& question, QWidget* owner) override;
-};
+/// The dialog of the desktop.
+QString askPlatform(const FileQuestion& question, QWidget* owner);
 
 /// A small button whose form asks it, when it is clicked, for the name of a file to open or to
 /// save to.
@@ -59,8 +49,8 @@ class FNDialog : public QWidget {
     Q_PROPERTY(QFont Font READ font WRITE setFont)
 
 public:
-    /// Both must outlive the control; `prompts` tells the user why a name cannot be taken.
-    FNDialog(FileDialogs& dialogs, Prompts& prompts, QWidget* parent = nullptr);
+    /// `prompts` must outlive the control; it tells the user why a name cannot be taken.
+    FNDialog(FileDialog dialog, Prompts& prompts, QWidget* parent = nullptr);
 
     /// Shows the dialog and answers the chosen file's full path; nothing when the user cancels, or
     /// chooses a file whose name cannot be taken. The mode "SAVE", in any capitals, asks for a file
@@ -99,10 +89,10 @@ Q_SIGNALS:
     void keyReleased(QKeyEvent* event);
 
 private:
-    FileQuestion question() const;
+    FileQuestion question(bool saving) const;
     QString accepted(const QString& path);
 
-    FileDialogs& m_dialogs;
+    FileDialog m_dialog;
     Prompts& m_prompts;
     BoxControl* m_button;
     QString m_fileTypes;
@@ -111,21 +101,12 @@ private:
     QString m_title;
 };
 
-/// Asks for puzzle files with a file-name picker.
-class PuzzleFileChoice : public FileChoice {
-public:
-    /// The picker must outlive the choice; it opens in `programFolder`.
-    PuzzleFileChoice(FNDialog& picker, std::filesystem::path programFolder);
+/// The square button `gf1` beside the name of a file, which asks for another one.
+FNDialog* makeFilePicker(const FileDialog& ask, Prompts& prompts, QWidget* parent);
 
-    std::filesystem::path chooseToOpen(std::string_view title) override;
-    std::filesystem::path chooseToSave(std::string_view title) override;
-
-private:
-    std::filesystem::path choose(std::string_view title, const char* mode);
-
-    FNDialog& m_picker;
-    std::filesystem::path m_programFolder;
-};
+/// Asks for a puzzle file; the dialog opens in `folder`. Empty when none was chosen.
+std::filesystem::path choosePuzzleFile(FNDialog& picker, const std::filesystem::path& folder,
+                                       FileUse use, std::string_view title);
 
 /// Which file something is to be written to.
 struct OutputFileQuestion {

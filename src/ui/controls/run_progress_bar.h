@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/session/run_progress.h"
+#include "core/base/run_progress.h"
 
 #include <QProgressBar>
 

@@ -33,8 +33,6 @@ ExportCommands::ExportCommands(const Session& session, const ExportWindow& windo
     , m_window(window) {}
 
 void ExportCommands::CopyBoard(bool solution) {
-    if (m_session.busy.refuses(m_window.prompts))
-        return;
     const Board& board = m_session.game.board;
     const bool isPuzzle = m_session.puzzle.PuzNum > 0;
     CopyPictureToClipboard(drawImage({board, m_session.appearance, solution}, CopyScale),
@@ -43,8 +41,6 @@ void ExportCommands::CopyBoard(bool solution) {
 }
 
 void ExportCommands::mnucapwin() {
-    if (m_session.busy.refuses(m_window.prompts))
-        return;
     const QImage picture = m_window.window->grab().toImage();
     const std::filesystem::path path = chooseOutputFile(bitmapQuestion(m_session.ProgramFolder),
                                                         m_window.picker, m_window.prompts);

@@ -45,8 +45,6 @@ void PrintCommands::tell(const Outcome& outcome, const std::string& success) {
 }
 
 void PrintCommands::printShown(bool puzzle, bool solution) {
-    if (m_session.busy.refuses(m_window.prompts))
-        return;
     if (m_session.puzzle.PuzNum == 0) {
         m_window.prompts.message("There is no puzzle to print", "vbok+vbinformation");
         return;
@@ -76,8 +74,6 @@ Outcome PrintCommands::paint(QPrinter& printer, const PrintJob& job) {
 }
 
 void PrintCommands::printMultiple() {
-    if (m_session.busy.refuses(m_window.prompts))
-        return;
     const WhileSet running(m_session.busy.commandRunning);
     const auto order =
         m_window.dialog.choose({m_session.puzzle.PuzPath, m_session.puzzle.PuzCount, m_printer});

@@ -6,7 +6,6 @@
 #include "ui/controls/box_control.h"
 #include "ui/controls/choice_mark.h"
 #include "ui/controls/dialog_parts.h"
-#include "ui/controls/file_name_picker.h"
 #include "ui/drawing/qt_values.h"
 #include "ui/output/printers.h"
 
@@ -33,7 +32,7 @@ int numberIn(const QLineEdit& box) {
 
 } // namespace
 
-Form5::Form5(const Appearance& appearance, Printers& printers, FileDialogs& fileDialogs,
+Form5::Form5(const Appearance& appearance, Printers& printers, const FileDialog& fileDialog,
              Prompts& prompts, std::filesystem::path programFolder, QWidget* parent)
     : QDialog(parent)
     , m_appearance(appearance)
@@ -45,7 +44,7 @@ Form5::Form5(const Appearance& appearance, Printers& printers, FileDialogs& file
     setWindowTitle(u"Print Puzzles From File"_s);
     QVBoxLayout* rows = addRows(*this);
     makePrinterFrame();
-    makeFileFrame(fileDialogs);
+    makeFileFrame(fileDialog);
     makeRangeFrame();
     makePageFrame();
     rows->addStretch();
@@ -71,13 +70,13 @@ void Form5::makePrinterFrame() {
     frame->layout()->addWidget(m_printer);
 }
 
-void Form5::makeFileFrame(FileDialogs& fileDialogs) {
+void Form5::makeFileFrame(const FileDialog& fileDialog) {
     auto* frame = addFrame(u"Puzzles File"_s, u"InFileFrame"_s);
     m_file = named(u"FileNow"_s, new QLineEdit(frame));
     m_file->setReadOnly(true);
     m_file->setAccessibleName(frame->title());
     m_file->setMinimumHeight(ButtonSize.height());
-    m_picker = makeFilePicker(fileDialogs, m_prompts, frame);
+    m_picker = makeFilePicker(fileDialog, m_prompts, frame);
     frame->layout()->addWidget(m_file);
     frame->layout()->addWidget(m_picker);
     connect(m_picker, &FNDialog::clicked, this, &Form5::chooseFile);
@@ -154,8 +153,8 @@ void Form5::load(const PrintSuggestion& suggestion) {
 }
 
 void Form5::chooseFile() {
-    const std::filesystem::path chosen =
-        PuzzleFileChoice(*m_picker, m_programFolder).chooseToOpen("Select a Puzzle file to print");
+    const std::filesystem::path chosen = choosePuzzleFile(*m_picker, m_programFolder, FileUse::Open,
+                                                          "Select a Puzzle file to print");
     if (chosen.empty())
         return;
     int count = 0;

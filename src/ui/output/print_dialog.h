@@ -2,6 +2,7 @@
 
 #include "core/options/appearance.h"
 #include "core/output/booklet.h"
+#include "ui/controls/file_name_picker.h"
 
 #include <QDialog>
 #include <QString>
@@ -20,8 +21,6 @@ class QRadioButton;
 
 namespace tessaly {
 
-class FNDialog;
-class FileDialogs;
 class Printers;
 class Prompts;
 
@@ -51,7 +50,7 @@ public:
     static constexpr const char* PrintToPdf = "Print to PDF";
 
     /// All must outlive the form; puzzle files are offered in `programFolder`.
-    Form5(const Appearance& appearance, Printers& printers, FileDialogs& fileDialogs,
+    Form5(const Appearance& appearance, Printers& printers, const FileDialog& fileDialog,
           Prompts& prompts, std::filesystem::path programFolder, QWidget* parent = nullptr);
 
     /// Asks what to print; nothing when the user cancels.
@@ -60,7 +59,7 @@ public:
 private:
     QGroupBox* addFrame(const QString& title, const QString& name);
     void makePrinterFrame();
-    void makeFileFrame(FileDialogs& fileDialogs);
+    void makeFileFrame(const FileDialog& fileDialog);
     void makeRangeFrame();
     void makePageFrame();
     QHBoxLayout* makeButtons();

@@ -86,13 +86,13 @@ QString CellAccessible::text(QAccessible::Text kind) const {
 }
 
 QAccessible::State CellAccessible::state() const {
-    const bool isOpen = m_view.canSelect(m_cell);
+    const bool isOpen = m_view.input().canSelect(m_cell);
     QAccessible::State state;
     state.readOnly = !isOpen;
     state.editable = isOpen;
     state.focusable = isOpen;
     state.selectable = isOpen;
-    state.selected = m_view.selection() == m_cell;
+    state.selected = m_view.input().selection() == m_cell;
     state.focused = state.selected && m_view.hasFocus();
     state.invisible = !m_view.isVisible();
     return state;
@@ -104,12 +104,12 @@ void* CellAccessible::interface_cast(QAccessible::InterfaceType type) {
 }
 
 QStringList CellAccessible::actionNames() const {
-    return m_view.canSelect(m_cell) ? QStringList{setFocusAction()} : QStringList{};
+    return m_view.input().canSelect(m_cell) ? QStringList{setFocusAction()} : QStringList{};
 }
 
 void CellAccessible::doAction(const QString& name) {
     if (name == setFocusAction())
-        m_view.pointAt(m_cell);
+        m_view.input().Picture2_MouseMove(numberCentre(m_cell));
 }
 
 QAccessibleInterface* makeInterface(const QString&, QObject* object) {
@@ -140,14 +140,14 @@ void BoardAccessible::tellFocus(BoardView& view) {
     if (!view.hasFocus())
         return;
     QAccessibleEvent focused(&view, QAccessible::Focus);
-    if (view.selection())
-        focused.setChild(indexOf(view.selection()));
+    if (view.input().selection())
+        focused.setChild(indexOf(view.input().selection()));
     QAccessible::updateAccessibility(&focused);
 }
 
 void BoardAccessible::tellEntry(BoardView& view) {
     QAccessibleEvent renamed(&view, QAccessible::NameChanged);
-    renamed.setChild(indexOf(view.selection()));
+    renamed.setChild(indexOf(view.input().selection()));
     QAccessible::updateAccessibility(&renamed);
 }
 
@@ -193,8 +193,8 @@ int BoardAccessible::indexOfChild(const QAccessibleInterface* child) const {
 }
 
 QAccessibleInterface* BoardAccessible::focusChild() const {
-    if (m_view.hasFocus() && m_view.selection())
-        return cellAtIndex(indexOf(m_view.selection()));
+    if (m_view.hasFocus() && m_view.input().selection())
+        return cellAtIndex(indexOf(m_view.input().selection()));
     return QAccessibleWidget::focusChild();
 }
 

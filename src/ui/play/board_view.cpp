@@ -15,9 +15,6 @@
 #include <cmath>
 
 namespace tessaly {
-
-using namespace Qt::StringLiterals;
-
 namespace {
 
 using namespace Qt::StringLiterals;
@@ -25,6 +22,8 @@ using namespace Qt::StringLiterals;
 constexpr double SmallestScale = 0.6;
 /// How far the frame of the focus reaches into the view.
 constexpr int FocusInset = 3;
+/// Between the board and the palette.
+constexpr int Spacing = 12;
 
 PointerButton pointerButton(Qt::MouseButton button) {
     switch (button) {
@@ -36,8 +35,6 @@ PointerButton pointerButton(Qt::MouseButton button) {
         return PointerButton::Other;
     }
 }
-
-constexpr int Spacing = 12;
 
 QSize sideBySide(QSize board, QSize palette) {
     return {board.width() + Spacing + palette.width(), std::max(board.height(), palette.height())};
@@ -108,10 +105,18 @@ QSize BoardView::sizeHint() const {
 void BoardView::DrawHexagon(int hexagon) {
     if (!isHexagon(hexagon))
         return;
-    const QRect changed = m_surface.DrawHexagon(m_board, hexagon);
+    draw(m_board, hexagon);
     showTag(hexagon);
-    if (m_markedCell.hexagon == hexagon)
+    if (m_input->selection().hexagon == hexagon)
         BoardAccessible::tellEntry(*this);
+}
+
+void BoardView::DrawPeek(const Board& other, int hexagon) {
+    draw(other, hexagon);
+}
+
+void BoardView::draw(const Board& board, int hexagon) {
+    const QRect changed = m_surface.DrawHexagon(board, hexagon);
     const double ratio = devicePixelRatioF();
     update(QRectF(changed.x() / ratio, changed.y() / ratio, changed.width() / ratio,
                   changed.height() / ratio)
@@ -142,25 +147,17 @@ void BoardView::showTag(int hexagon) {
     m_tags[static_cast<std::size_t>(hexagon)]->setVisible(!m_board.isBlank(hexagon));
 }
 
-void BoardView::showSelection(CellId cell) {
-    const bool hasMoved = m_markedCell != cell;
-    m_markedCell = cell;
-    if (cell)
-        m_marker.setGeometry(onWidget(markerRectangle(cell)));
-    m_marker.setVisible(static_cast<bool>(cell));
-    if (!hasMoved)
-        return;
+void BoardView::showSelection() {
+    placeMarker();
     update(QRegion(rect()) - rect().adjusted(FocusInset, FocusInset, -FocusInset, -FocusInset));
     BoardAccessible::tellFocus(*this);
 }
 
-bool BoardView::canSelect(CellId cell) const {
-    return m_input != nullptr && m_input->canSelect(cell);
-}
-
-void BoardView::pointAt(CellId cell) {
-    if (m_input != nullptr)
-        m_input->Picture2_MouseMove(numberCentre(cell));
+void BoardView::placeMarker() {
+    const CellId cell = m_input->selection();
+    if (cell)
+        m_marker.setGeometry(onWidget(markerRectangle(cell)));
+    m_marker.setVisible(static_cast<bool>(cell));
 }
 
 QRect BoardView::rectangleOf(CellId cell) const {
@@ -179,11 +176,6 @@ void BoardView::hidePopup() {
     if (m_popup.isAncestorOf(QApplication::focusWidget()))
         setFocus(); // before the focus goes to whatever stands next
     m_popup.close();
-}
-
-void BoardView::forgetSelection() {
-    if (m_input != nullptr)
-        m_input->forgetSelection();
 }
 
 QTransform BoardView::boardToWidget() const {
@@ -214,7 +206,7 @@ void BoardView::placeChildren() {
     for (HexagonTagWidget* tag : m_tags)
         if (tag != nullptr)
             tag->setGeometry(onWidget(tagRectangle(tag->hexagon())));
-    showSelection(m_markedCell);
+    placeMarker();
 }
 
 void BoardView::paintEvent(QPaintEvent* event) {
@@ -224,7 +216,7 @@ void BoardView::paintEvent(QPaintEvent* event) {
     const QRectF source(target.x() * ratio, target.y() * ratio, target.width() * ratio,
                         target.height() * ratio);
     painter.drawImage(QRectF(target), m_surface.image(), source);
-    if (hasFocus() && !m_markedCell && !underMouse())
+    if (hasFocus() && !m_input->selection() && !underMouse())
         drawFocus(painter);
 }
 
@@ -250,28 +242,24 @@ bool BoardView::event(QEvent* event) {
 }
 
 void BoardView::mouseMoveEvent(QMouseEvent* event) {
-    if (m_input != nullptr)
-        m_input->Picture2_MouseMove(onBoard(event->position()));
+    m_input->Picture2_MouseMove(onBoard(event->position()));
 }
 
 void BoardView::mousePressEvent(QMouseEvent* event) {
-    if (m_input != nullptr)
-        m_input->Picture2_MouseDown(pointerButton(event->button()), onBoard(event->position()));
+    m_input->Picture2_MouseDown(pointerButton(event->button()), onBoard(event->position()));
 }
 
 void BoardView::mouseReleaseEvent(QMouseEvent* event) {
-    if (m_input != nullptr)
-        m_input->Picture2_MouseUp(pointerButton(event->button()));
+    m_input->Picture2_MouseUp(pointerButton(event->button()));
 }
 
 void BoardView::leaveEvent(QEvent* event) {
     QWidget::leaveEvent(event);
-    if (m_input != nullptr)
-        m_input->pointerLeft();
+    m_input->pointerLeft();
 }
 
 void BoardView::keyPressEvent(QKeyEvent* event) {
-    if (m_input == nullptr || moveSelection(*m_input, *event))
+    if (moveSelection(*m_input, *event))
         return;
     if (!asksForMenu(*event)) {
         pressKey(*m_input, *event);

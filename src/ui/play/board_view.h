@@ -39,27 +39,22 @@ class BoardView : public QWidget {
 public:
     BoardView(const Board& board, const Appearance& appearance, QWidget* parent = nullptr);
 
-    /// Whom the events go to; nobody until this is called.
+    /// Whom the events go to: call before the view is shown.
     void setInput(BoardInput& input);
 
     void DrawHexagon(int hexagon);
     void DrawBoard();
     void DrawSolution(Colour colour);
+    void DrawPeek(const Board& other, int hexagon);
     /// The colours or the font have changed: draws everything anew.
     void applyAppearance();
 
-    void showSelection(CellId cell);
+    void showSelection();
     void showPopup(Point corner, bool upwards);
     void hidePopup();
-    /// Another puzzle is on the board, or none.
-    void forgetSelection();
 
     const Board& board() const { return m_board; }
-    CellId selection() const { return m_markedCell; }
-    /// Whether the player may enter anything in the cell.
-    bool canSelect(CellId cell) const;
-    /// Selects a cell, as the pointer over it does.
-    void pointAt(CellId cell);
+    BoardInput& input() const { return *m_input; }
     /// Where a cell lies, and which cell lies where, in this widget's logical pixels.
     QRect rectangleOf(CellId cell) const;
     CellId cellUnder(QPoint point) const;
@@ -82,6 +77,8 @@ protected:
 private:
     void updateSurface();
     void placeChildren();
+    void placeMarker();
+    void draw(const Board& board, int hexagon);
     void showTag(int hexagon);
     void drawFocus(QPainter& painter) const;
 
@@ -95,7 +92,6 @@ private:
     std::array<HexagonTagWidget*, HexagonCount + 1> m_tags{}; // Celltags
     SelectionMarker m_marker;                                 // Shape1
     NumberPopup m_popup;                                      // Picture1
-    CellId m_markedCell;
     /// The colour of the solution while it is shown.
     std::optional<Colour> m_solutionColour;
 };

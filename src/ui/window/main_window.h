@@ -8,28 +8,48 @@
 namespace tessaly {
 
 class AboutForm;
-class DeveloperRow;
 class Form2x;
 class Form4;
 
-/// The main window: its regions, the commands that their controls give, and its other windows.
-class Form1 : public QMainWindow {
+/// The main window: its regions, the commands that their controls give, and its other windows. What
+/// the commands show, it hands on to the region that shows it.
+class Form1 : public QMainWindow, public Display {
     Q_OBJECT
 
 public:
-    Form1(Session& session, Prompts& prompts, FileDialogs& fileDialogs, Printers& printers);
+    /// All but the file dialog must outlive the window.
+    Form1(Session& session, Prompts& prompts, const FileDialog& fileDialog, Printers& printers);
 
-    LibraryCommands& library() { return m_commands.library; }
+    PuzzleFileCommands& files() { return m_commands.files; }
 
     /// Wears the scheme and the settings that are in force.
     void applyAppearance();
+
+    void DrawHexagon(int hexagon) override;
+    void DrawBoard() override;
+    void DrawSolution(Colour colour) override;
+    void DrawPeek(const Board& other, int hexagon) override;
+    void focusBoard() override;
+    void showSelection(CellId cell) override;
+    void showPopup(Point corner, bool upwards) override;
+    void hidePopup() override;
+    void showPalette(int pressedItem) override;
+    void showPuzzle(const CurrentPuzzle& puzzle) override;
+    void showDifficulty(DifficultyChoice difficulty) override;
+    void showSaveTarget(const std::filesystem::path& path) override;
+    void showRecentFiles(const std::vector<std::filesystem::path>& paths) override;
+    void showMessage(std::string_view text) override;
+    void showBusy(bool busy) override;
+    void beginProgress(const std::filesystem::path& path) override;
+    void showProgress(const RunProgress& progress) override;
+    void endProgress() override;
+    void yield() override;
 
 protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
     QWidget* arrangeRegions();
-    void connectCommands();
     void connectOptions();
     void connectFileDrop();
     void connectHelp();
@@ -53,7 +73,6 @@ private:
     Form4* m_help;
     AboutForm* m_about;
 
-    WindowDisplay m_display;
     WindowCommands m_commands;
 };
 

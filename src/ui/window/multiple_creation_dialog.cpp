@@ -3,7 +3,6 @@
 #include "ui/controls/box_control.h"
 #include "ui/controls/choice_mark.h"
 #include "ui/controls/dialog_parts.h"
-#include "ui/controls/file_name_picker.h"
 #include "ui/drawing/qt_values.h"
 
 #include <QGroupBox>
@@ -27,7 +26,7 @@ constexpr int Width = 420;
 
 } // namespace
 
-Form3::Form3(const Appearance& appearance, FileDialogs& fileDialogs, Prompts& prompts,
+Form3::Form3(const Appearance& appearance, const FileDialog& fileDialog, Prompts& prompts,
              std::filesystem::path programFolder, QWidget* parent)
     : QDialog(parent)
     , m_appearance(appearance)
@@ -38,7 +37,7 @@ Form3::Form3(const Appearance& appearance, FileDialogs& fileDialogs, Prompts& pr
     QVBoxLayout* rows = addRows(*this);
     rows->addWidget(makeDifficultyFrame());
     rows->addWidget(makeNumberFrame());
-    rows->addWidget(makeFileFrame(fileDialogs));
+    rows->addWidget(makeFileFrame(fileDialog));
     rows->addStretch();
     rows->addLayout(makeButtons());
     setMinimumWidth(Width);
@@ -70,13 +69,13 @@ QWidget* Form3::makeNumberFrame() {
     return frame;
 }
 
-QWidget* Form3::makeFileFrame(FileDialogs& fileDialogs) {
+QWidget* Form3::makeFileFrame(const FileDialog& fileDialog) {
     auto* frame = new QGroupBox(tr("Output File"), this);
     auto* rows = new QVBoxLayout(frame);
     auto* row = new QHBoxLayout;
     m_file = named(u"Label2"_s, new ElidedLabel(frame));
     m_file->setTextFormat(Qt::PlainText);
-    m_picker = makeFilePicker(fileDialogs, m_prompts, frame);
+    m_picker = makeFilePicker(fileDialog, m_prompts, frame);
     row->addWidget(m_file, 1);
     row->addWidget(m_picker);
     m_default = named(u"Check3"_s, new TickBox(tr("Use the default file"), frame));
@@ -102,7 +101,7 @@ QHBoxLayout* Form3::makeButtons() {
 
 void Form3::chooseFile() {
     const std::filesystem::path chosen =
-        PuzzleFileChoice(*m_picker, m_programFolder).chooseToSave("Select an output Puzzle file");
+        choosePuzzleFile(*m_picker, m_programFolder, FileUse::Save, "Select an output Puzzle file");
     if (chosen.empty())
         return;
     m_default->setChecked(false);

@@ -2,6 +2,7 @@
 
 #include "core/options/appearance.h"
 #include "core/session/multiple_creation.h"
+#include "ui/controls/file_name_picker.h"
 
 #include <QDialog>
 
@@ -15,16 +16,13 @@ class QRadioButton;
 
 namespace tessaly {
 
-class FileDialogs;
-class FNDialog;
-
 /// The dialog that sets up the creation of many puzzles.
 class Form3 : public QDialog, public CreationOrderChoice {
     Q_OBJECT
 
 public:
     /// All must outlive the form; the files are offered in `programFolder`.
-    Form3(const Appearance& appearance, FileDialogs& fileDialogs, Prompts& prompts,
+    Form3(const Appearance& appearance, const FileDialog& fileDialog, Prompts& prompts,
           std::filesystem::path programFolder, QWidget* parent = nullptr);
 
     std::optional<CreationOrder> choose() override;
@@ -32,7 +30,7 @@ public:
 private:
     QWidget* makeDifficultyFrame();
     QWidget* makeNumberFrame();
-    QWidget* makeFileFrame(FileDialogs& fileDialogs);
+    QWidget* makeFileFrame(const FileDialog& fileDialog);
     QHBoxLayout* makeButtons();
     void chooseFile();
     void showFile(const std::filesystem::path& path);

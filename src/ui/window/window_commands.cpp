@@ -1,141 +1,166 @@
 #include "ui/window/window_commands.h"
 
 #include "core/session/session.h"
-#include "ui/controls/run_progress_bar.h"
+#include "ui/controls/box_control.h"
 #include "ui/play/board_view.h"
 #include "ui/play/palette_panel.h"
+#include "ui/window/developer_row.h"
 #include "ui/window/main_menu.h"
 #include "ui/window/status_line.h"
 #include "ui/window/tool_row.h"
 
-#include <QApplication>
-
 namespace tessaly {
+namespace {
 
-using namespace Qt::StringLiterals;
-
-WindowDisplay::WindowDisplay(const Session& session, const WindowRegions& regions)
-    : m_session(session)
-    , m_regions(regions) {}
-
-void WindowDisplay::DrawHexagon(int hexagon) {
-    m_regions.board.DrawHexagon(hexagon);
+/// A command as a control starts it: only when nothing refuses it.
+template <class Command>
+auto guarded(WindowCommands& commands, Command command,
+             std::string_view refusal = BusyState::Refusal) {
+    return [&commands, command, refusal] {
+        if (!commands.refuses(refusal))
+            command();
+    };
 }
 
-void WindowDisplay::DrawBoard() {
-    m_regions.board.DrawBoard();
-}
-
-void WindowDisplay::DrawSolution(Colour colour) {
-    m_regions.board.DrawSolution(colour);
-}
-
-void WindowDisplay::showMessage(std::string_view text) {
-    m_regions.status.showMessage(text);
-}
-
-void WindowDisplay::focusBoard() {
-    m_regions.board.setFocus();
-}
-
-void WindowDisplay::yield() {
-    QCoreApplication::processEvents();
-}
-
-void WindowDisplay::showSelection(CellId cell) {
-    m_regions.board.showSelection(cell);
-}
-
-void WindowDisplay::showPopup(Point corner, bool upwards) {
-    m_regions.board.showPopup(corner, upwards);
-}
-
-void WindowDisplay::hidePopup() {
-    m_regions.board.hidePopup();
-}
-
-void WindowDisplay::showPalette(int pressedItem) {
-    m_regions.palette.showPalette(pressedItem);
-}
-
-void WindowDisplay::showPuzzle(const CurrentPuzzle& puzzle) {
-    m_regions.board.forgetSelection();
-    m_regions.tools.showPuzzleNumber(puzzle.PuzNum, puzzle.PuzCount);
-    showDifficulty(m_session.difficulty);
-    m_regions.status.showFile(puzzle.PuzPath);
-    m_regions.board.DrawBoard();
-}
-
-void WindowDisplay::showNoPuzzle() {
-    m_regions.board.forgetSelection();
-    m_regions.tools.showPuzzleNumber(0, 0);
-    showDifficulty(m_session.difficulty);
-    m_regions.status.showFileText(u"Create a New Puzzle"_s);
-    m_regions.board.DrawBoard();
-}
-
-void WindowDisplay::showDifficulty(DifficultyChoice difficulty) {
-    m_regions.tools.showDifficulty(difficulty);
-}
-
-void WindowDisplay::showSaveTarget(const std::filesystem::path& path) {
-    m_regions.menu.showCurrentFile(path);
-}
-
-void WindowDisplay::showRecentFiles(const RecentFiles& files) {
-    m_regions.menu.showRecentFiles(files.paths());
-}
-
-void WindowDisplay::showBusy(bool busy) {
-    if (busy)
-        QApplication::setOverrideCursor(Qt::BusyCursor);
-    else
-        QApplication::restoreOverrideCursor();
-}
-
-void WindowDisplay::beginProgress(const std::filesystem::path& path) {
-    m_regions.status.showFile(path);
-    m_regions.tools.showPuzzleNumber(0, 0);
-    m_regions.tools.progress->begin();
-}
-
-void WindowDisplay::showProgress(const RunProgress& progress) {
-    m_regions.tools.showPuzzleNumber(progress.made, progress.count);
-    m_regions.tools.progress->show(progress);
-}
-
-void WindowDisplay::endProgress() {
-    m_regions.tools.progress->end();
-}
+} // namespace
 
 WindowCommands::WindowCommands(Session& session, const CommandWindow& window)
-    : puzzleFiles(window.picker, session.ProgramFolder)
-    , creationDialog(session.appearance, window.fileDialogs, window.prompts, session.ProgramFolder,
-                     window.widget)
-    , printDialog(session.appearance, window.printers, window.fileDialogs, window.prompts,
-                  session.ProgramFolder, window.widget)
-    , printProgress(session.appearance, window.widget)
-    , play(session.game, session.busy, session.appearance, window.display, window.prompts)
-    , input(session.game, session.busy, play, window.display, window.display, window.prompts)
-    , library(session, window.display, window.display, window.prompts, puzzleFiles)
-    , creation(session, library, window.display, window.display, window.prompts,
-               Chance(Chance::freshSeed()))
-    , multipleCreation(
-          session, library,
-          {window.display, window.display, window.display, window.prompts, creationDialog},
-          Chance(Chance::freshSeed()))
-    , developer(session, window.display, window.prompts)
-    , maintenance(session, {window.display, window.display, window.display, window.prompts},
-                  Chance(Chance::freshSeed()))
-    , pictures(session, {window.widget, window.display, window.prompts, window.picker})
-    , print(session, window.printers,
-            {window.widget, window.display, window.prompts, window.picker, printDialog,
-             printProgress}) {}
+    : play(session.game, session.appearance, window.display, window.prompts)
+    , input(session.game, session.busy, play, window.display)
+    , files(session, input, window.display, window.prompts,
+            [&session, &picker = window.picker](FileUse use, std::string_view title) {
+                return choosePuzzleFile(picker, session.ProgramFolder, use, title);
+            })
+    , m_session(session)
+    , m_display(window.display)
+    , m_prompts(window.prompts)
+    , m_creationDialog(session.appearance, window.fileDialog, window.prompts, session.ProgramFolder,
+                       window.widget)
+    , m_printDialog(session.appearance, window.printers, window.fileDialog, window.prompts,
+                    session.ProgramFolder, window.widget)
+    , m_printProgress(session.appearance, window.widget)
+    , m_creation(session, files, window.display, Chance(Chance::freshSeed()))
+    , m_multipleCreation(session, files, window.display, window.prompts, m_creationDialog,
+                         Chance(Chance::freshSeed()))
+    , m_developer(session, window.display, window.prompts)
+    , m_maintenance(session, window.display, window.prompts, Chance(Chance::freshSeed()))
+    , m_pictures(session, {window.widget, window.display, window.prompts, window.picker})
+    , m_print(session, window.printers,
+              {window.widget, window.display, window.prompts, window.picker, m_printDialog,
+               m_printProgress}) {}
+
+bool WindowCommands::refuses(std::string_view refusal) {
+    if (!m_session.busy.refuses(m_prompts, refusal))
+        return false;
+    if (m_session.busy.creating)
+        m_display.yield();
+    return true;
+}
 
 void WindowCommands::stop() {
-    multipleCreation.stop();
-    maintenance.stop();
-    print.stop();
+    m_multipleCreation.stop();
+    m_maintenance.stop();
+    m_print.stop();
+}
+
+template <class Command>
+void WindowCommands::onChoice(QAction* item, Command command, std::string_view refusal) {
+    QObject::connect(item, &QAction::triggered, item, guarded(*this, command, refusal));
+}
+
+template <class Command>
+void WindowCommands::onClick(BoxControl* button, Command command) {
+    QObject::connect(button, &BoxControl::clicked, button, guarded(*this, command));
+}
+
+template <class Command>
+void WindowCommands::onAlternateClick(BoxControl* button, Command command) {
+    QObject::connect(button, &BoxControl::alternateClicked, button, guarded(*this, command));
+}
+
+void WindowCommands::connectTo(const WindowRegions& regions) {
+    regions.board.setInput(input);
+    connectMenu(regions.menu);
+    connectTools(regions.tools, regions.board);
+    connectPalette(regions.palette);
+    onClick(regions.status.StatLab, [this] { play.StatLab(); });
+    connectDeveloperRow(regions.developerRow);
+    connectCreation(regions.menu, regions.tools, regions.developerRow);
+}
+
+void WindowCommands::connectMenu(const MainMenu& menu) {
+    onChoice(menu.mnuload, [this] { files.mnuload(); });
+    onChoice(menu.mnusavex, [this] { files.mnusavex(); });
+    onChoice(menu.mnusaveto, [this] { files.mnusaveto(); });
+    onChoice(menu.mnudelete, [this] { files.mnudelete(); });
+    for (int item = 0; item < MainMenu::RecentFileCount; ++item)
+        onChoice(
+            menu.oldfiles[static_cast<std::size_t>(item)],
+            [this, item] { files.oldfiles_Click(item); }, "Cancel Puzzle Creation first");
+    onChoice(menu.mnuclippuz, [this] { m_pictures.CopyBoard(false); });
+    onChoice(menu.mnuclipsol, [this] { m_pictures.CopyBoard(true); });
+    onChoice(menu.mnucapwin, [this] { m_pictures.mnucapwin(); });
+    onChoice(menu.printPuzzle, [this] { m_print.printShown(true, false); });
+    onChoice(menu.printSolution, [this] { m_print.printShown(false, true); });
+    onChoice(menu.printBoth, [this] { m_print.printShown(true, true); });
+    onChoice(menu.printMultiple, [this] { m_print.printMultiple(); });
+}
+
+void WindowCommands::connectTools(ToolRow& tools, BoardView& board) {
+    onClick(tools.cmdload, [this] { files.mnuload(); });
+    for (int item : {0, 1})
+        onClick(tools.cmdarrow[static_cast<std::size_t>(item)],
+                [this, item] { files.cmdarrow(item); });
+    QObject::connect(&tools, &ToolRow::numberEntered, &tools, [this, &board](int number) {
+        if (!refuses())
+            files.goTo(number);
+        board.setFocus();
+    });
+    // It touches neither the board nor a file, so it need not wait.
+    QObject::connect(tools.DifLab, &BoxControl::clicked, &tools, [this] { m_creation.DifLab(); });
+    onClick(tools.cmdundo, [this] { play.cmdundo(); });
+    onClick(tools.cmdreset, [this] { play.cmdreset(); });
+    QObject::connect(tools.cmdshowsol, &BoxControl::pressed, &tools,
+                     guarded(*this, [this] { play.cmdshowsolPressed(); }));
+    QObject::connect(tools.cmdshowsol, &BoxControl::released, &tools,
+                     [this] { play.cmdshowsolReleased(); });
+}
+
+void WindowCommands::connectPalette(PalettePanel& palette) {
+    QObject::connect(&palette, &PalettePanel::itemReleased, &palette,
+                     [this](int item, PointerButton button) {
+                         if (!refuses())
+                             input.digt_MouseUp(item, button);
+                     });
+    onClick(palette.cmdallpencil, [this] { play.cmdallpencil(); });
+    onAlternateClick(palette.cmdallpencil, [this] { play.cmdallpencilClear(); });
+    onClick(palette.cmdsetpairs, [this] { play.cmdsetpairs(); });
+    onClick(palette.cmdset1s, [this] { play.cmdset1s(); });
+}
+
+void WindowCommands::connectDeveloperRow(const DeveloperRow& row) {
+    onClick(row.debugSolve, [this, &row] { m_developer.solveInSteps(row.debugs()); });
+    onClick(row.xcellRule, [this] { m_developer.applyXcellRule(); });
+    onClick(row.autoSolveHard, [this] { m_developer.autoSolveHard(false); });
+    onAlternateClick(row.autoSolveHard, [this] { m_developer.autoSolveHard(true); });
+    onClick(row.solveLoop, [this] { m_developer.checkCells(); });
+    onClick(row.setValue, [this] { m_developer.setManualValue(); });
+    onClick(row.reread, [this] { files.goTo(m_session.puzzle.PuzNum); });
+    onClick(row.flipAndAdd, [this] { m_maintenance.FlipandAdd(); });
+    onClick(row.verify, [this] { m_maintenance.Verify(); });
+    onClick(row.randomize, [this] { m_maintenance.Randomize(); });
+}
+
+/// The menu and the tools make a puzzle alike; the developer's row tells how it came out.
+void WindowCommands::connectCreation(const MainMenu& menu, const ToolRow& tools,
+                                     DeveloperRow& developerRow) {
+    const auto createOne = [this, &developerRow] {
+        m_creation.cmdcreate();
+        developerRow.showText(QString::fromStdString(developerText(m_session.game.board)));
+    };
+    onClick(tools.cmdcreate, createOne);
+    onChoice(menu.createSingle, createOne);
+    onChoice(menu.createMultiple, [this] { m_multipleCreation.run(); });
 }
 
 } // namespace tessaly

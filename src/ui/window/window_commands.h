@@ -1,18 +1,11 @@
 #pragma once
 
-#include "core/play/board_input.h"
-#include "core/play/display.h"
-#include "core/play/play_commands.h"
 #include "core/session/creation_commands.h"
 #include "core/session/developer_commands.h"
-#include "core/session/library_commands.h"
-#include "core/session/library_display.h"
 #include "core/session/maintenance_commands.h"
 #include "core/session/multiple_creation.h"
-#include "ui/controls/file_name_picker.h"
 #include "ui/output/export_commands.h"
 #include "ui/output/print_commands.h"
-#include "ui/output/print_dialog.h"
 #include "ui/output/print_progress.h"
 #include "ui/window/multiple_creation_dialog.h"
 
@@ -21,93 +14,82 @@
 namespace tessaly {
 
 class BoardView;
-class FNDialog;
-class FileDialogs;
+class DeveloperRow;
 class MainMenu;
 class PalettePanel;
-class Printers;
 class StatusLine;
 class ToolRow;
-struct Session;
 
 /// The regions of the main window.
 struct WindowRegions {
-    MainMenu& menu;
+    const MainMenu& menu;
     ToolRow& tools;
     BoardView& board;
     PalettePanel& palette;
     StatusLine& status;
-};
-
-/// What the commands show, passed on to the region of the window that shows it.
-class WindowDisplay final : public Display,
-                            public InputDisplay,
-                            public LibraryDisplay,
-                            public RunProgressDisplay {
-public:
-    WindowDisplay(const Session& session, const WindowRegions& regions);
-
-    void DrawHexagon(int hexagon) override;
-    void DrawBoard() override;
-    void DrawSolution(Colour colour) override;
-    void showMessage(std::string_view text) override;
-    void focusBoard() override;
-    void yield() override;
-
-    void showSelection(CellId cell) override;
-    void showPopup(Point corner, bool upwards) override;
-    void hidePopup() override;
-    void showPalette(int pressedItem) override;
-
-    void showPuzzle(const CurrentPuzzle& puzzle) override;
-    void showNoPuzzle() override;
-    void showDifficulty(DifficultyChoice difficulty) override;
-    void showSaveTarget(const std::filesystem::path& path) override;
-    void showRecentFiles(const RecentFiles& files) override;
-    void showBusy(bool busy) override;
-
-    void beginProgress(const std::filesystem::path& path) override;
-    void showProgress(const RunProgress& progress) override;
-    void endProgress() override;
-
-private:
-    const Session& m_session;
-    WindowRegions m_regions;
+    DeveloperRow& developerRow;
 };
 
 /// What the commands show and ask with.
 struct CommandWindow {
     /// The parent of the commands' dialogs.
     QWidget* widget;
-    WindowDisplay& display;
+    Display& display;
     Prompts& prompts;
-    FileDialogs& fileDialogs;
+    const FileDialog& fileDialog;
     FNDialog& picker;
     Printers& printers;
 };
 
 /// All that the controls of the main window can do, by subject, and the dialogs of these commands.
-struct WindowCommands {
-    /// Both, and what `window` refers to, must outlive the commands.
+class WindowCommands {
+public:
+    /// What `window` refers to must outlive the commands, but for the file dialog, and so must the
+    /// session.
     WindowCommands(Session& session, const CommandWindow& window);
+
+    /// Lets the controls give the commands.
+    void connectTo(const WindowRegions& regions);
+
+    /// The one gate to the commands: whether another one has to come to its end first.
+    bool refuses(std::string_view refusal = BusyState::Refusal);
 
     /// Ends whatever runs for long, as soon as it can.
     void stop();
 
-    PuzzleFileChoice puzzleFiles;
-    Form3 creationDialog;
-    Form5 printDialog;
-    PrintProgress printProgress;
-
     PlayCommands play;
     BoardInput input;
-    LibraryCommands library;
-    CreationCommands creation;
-    MultipleCreation multipleCreation;
-    DeveloperCommands developer;
-    MaintenanceCommands maintenance;
-    ExportCommands pictures;
-    PrintCommands print;
+    PuzzleFileCommands files;
+
+private:
+    void connectMenu(const MainMenu& menu);
+    void connectTools(ToolRow& tools, BoardView& board);
+    void connectPalette(PalettePanel& palette);
+    void connectDeveloperRow(const DeveloperRow& row);
+    void connectCreation(const MainMenu& menu, const ToolRow& tools, DeveloperRow& developerRow);
+
+    // What a control does to start a command that may be refused.
+    template <class Command>
+    void onChoice(QAction* item, Command command, std::string_view refusal = BusyState::Refusal);
+    template <class Command>
+    void onClick(BoxControl* button, Command command);
+    template <class Command>
+    void onAlternateClick(BoxControl* button, Command command);
+
+    Session& m_session;
+    Display& m_display;
+    Prompts& m_prompts;
+
+    Form3 m_creationDialog;
+    Form5 m_printDialog;
+    PrintProgress m_printProgress;
+
+    CreationCommands m_creation;
+    MultipleCreation m_multipleCreation;
+    DeveloperCommands m_developer;
+    MaintenanceCommands m_maintenance;
+    ExportCommands m_pictures;
+    PrintCommands m_print;
 };
 
 } // namespace tessaly

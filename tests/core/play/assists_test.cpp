@@ -86,18 +86,12 @@ TEST(PencilMarks, FillOverwritesMarksAndUntouchedNumbersAndClearTakesMarksOnly) 
     EXPECT_EQ(game.board.CellNum[5][5], "2");
 }
 
-TEST(CandidatePeek, LastsOnlyUntilItEnds) {
+TEST(WithCandidates, WritesThemOverACopy) {
     Game game = gameWithThreeGivens();
     game.board.CellNum[10][4] = "4";
     game.board.CellNum[10][6] = "65";
-    const Board before = game.board;
-    CandidatePeek peek;
-    peek.begin(game.board, game.TouchedCell, 10);
-    EXPECT_EQ(game.board.CellNum[10][6], "456");
-    peek.end(game.board);
-    EXPECT_EQ(game.board, before);
-    peek.end(game.board);
-    EXPECT_EQ(game.board, before);
+    EXPECT_EQ(withCandidates(game.board, game.TouchedCell, 10).CellNum[10][6], "456");
+    EXPECT_EQ(game.board.CellNum[10][6], "65");
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #include "core/play/play_commands.h"
 
-#include "support/play_scene.h"
+#include "support/core_fakes.h"
 #include "support/sample_puzzles.h"
 
 #include <gtest/gtest.h>
@@ -91,9 +91,6 @@ TEST_F(PlayCommandsTest, TheSolutionShowsWhileTheButtonIsHeld) {
     EXPECT_EQ(display.solutionsDrawn, 1);
     commands.cmdshowsolReleased();
     EXPECT_EQ(display.boardsDrawn, 1);
-    busy.creating = true;
-    commands.cmdshowsolReleased();
-    EXPECT_EQ(display.boardsDrawn, 1);
 }
 
 TEST_F(PlayCommandsTest, WithNothingToUndoNothingIsDrawn) {
@@ -101,27 +98,6 @@ TEST_F(PlayCommandsTest, WithNothingToUndoNothingIsDrawn) {
     commands.cmdundo();
     EXPECT_EQ(display.message, "kept");
     EXPECT_TRUE(display.drawn.empty());
-}
-
-TEST_F(PlayCommandsTest, EveryCommandIsRefusedWhilePuzzlesAreCreated) {
-    busy.creating = true;
-    game.place({1, 1}, "2");
-    const Board before = game.board;
-    using Command = void (PlayCommands::*)();
-    const std::vector<Command> all{
-        &PlayCommands::cmdundo,           &PlayCommands::cmdallpencil,
-        &PlayCommands::cmdallpencilClear, &PlayCommands::cmdsetpairs,
-        &PlayCommands::cmdset1s,          &PlayCommands::StatLab,
-        &PlayCommands::cmdreset,          &PlayCommands::cmdshowsolPressed};
-    for (Command command : all)
-        (commands.*command)();
-    EXPECT_EQ(game.board, before);
-    ASSERT_EQ(prompts.shown.size(), all.size());
-    for (const ScriptedPrompts::Message& message : prompts.shown)
-        EXPECT_EQ(message,
-                  (ScriptedPrompts::Message{"Let AutoCreate finish first", "vbcritical+vbok"}));
-    EXPECT_EQ(display.solutionsDrawn, 0);
-    EXPECT_EQ(display.message, "");
 }
 
 } // namespace

@@ -2,11 +2,8 @@
 
 #include "core/board/puzzle_record.h"
 #include "core/files/file_access.h"
-#include "support/recording_display.h"
-#include "support/recording_library_display.h"
+#include "support/core_fakes.h"
 #include "support/sample_puzzles.h"
-#include "support/scripted_file_choice.h"
-#include "support/scripted_prompts.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -32,14 +29,15 @@ protected:
 
     test::TemporaryFolder folder;
     Session session;
-    TalkingDisplay board;
-    RecordingLibraryDisplay display;
+    TalkingDisplay display;
     ScriptedPrompts prompts;
     ScriptedFileChoice choice;
-    LibraryCommands library{session, board, display, prompts, choice};
+    PlayCommands play{session.game, session.appearance, display, prompts};
+    BoardInput input{session.game, session.busy, play, display};
+    PuzzleFileCommands files{session, input, display, prompts, choice.choice()};
     CreationCommands& commands() {
         if (!m_commands)
-            m_commands.emplace(session, library, board, display, prompts, Chance(7));
+            m_commands.emplace(session, files, display, Chance(7));
         return *m_commands;
     }
 
@@ -59,11 +57,11 @@ TEST_F(CreationCommandsTest, TheLabelGoesRound) {
 TEST_F(CreationCommandsTest, APuzzleGoesToTheFileInPlayAndIsShown) {
     const std::string path = folder / "mine.txt";
     ASSERT_TRUE(replaceFile(path, sampleRecords("easy.txt").front()).ok());
-    library.load(path);
+    files.load(path);
     session.difficulty = Difficulty::Hard;
     commands().cmdcreate();
-    EXPECT_EQ(board.messages, (std::vector<std::string>{"Creating Puzzle (Hard) ...",
-                                                        "New Puzzle Created (Hard)"}));
+    EXPECT_EQ(display.messages, (std::vector<std::string>{"Creating Puzzle (Hard) ...",
+                                                          "New Puzzle Created (Hard)"}));
     EXPECT_EQ(display.puzzle.PuzPath, path);
     EXPECT_EQ(display.puzzle.PuzNum, 2);
     EXPECT_EQ(session.game.board.DifName(), "Hard");
@@ -86,21 +84,10 @@ TEST_F(CreationCommandsTest, APuzzleThatCannotBeSavedIsPlayedAllTheSame) {
     session.puzzle = {"/no/such/folder/a.txt", 3, 5, "record"};
     session.difficulty = Difficulty::Easy;
     commands().cmdcreate();
-    EXPECT_EQ(board.messages.back(), "New Puzzle Created (Easy)");
+    EXPECT_EQ(display.messages.back(), "New Puzzle Created (Easy)");
     EXPECT_EQ(session.puzzle.PuzNum, 0);
     EXPECT_NE(session.game.board, Board{});
     EXPECT_TRUE(prompts.shown.empty());
-}
-
-TEST_F(CreationCommandsTest, CreationIsRefusedWhileAnotherRuns) {
-    session.busy.creating = true;
-    commands().cmdcreate();
-    ASSERT_EQ(prompts.shown.size(), 1u);
-    EXPECT_EQ(prompts.shown.front().text, "Let AutoCreate finish first");
-    session.busy = {.creating = false, .commandRunning = true};
-    commands().cmdcreate();
-    EXPECT_EQ(prompts.shown.size(), 1u) << "silently";
-    EXPECT_EQ(session.game.board, Board{});
 }
 
 } // namespace

@@ -2,11 +2,8 @@
 
 #include "core/session/developer_commands.h"
 #include "core/solver/deduction.h"
-#include "support/recording_display.h"
-#include "support/recording_library_display.h"
-#include "support/recording_progress.h"
+#include "support/core_fakes.h"
 #include "support/sample_puzzles.h"
-#include "support/scripted_prompts.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -35,10 +32,8 @@ protected:
     test::TemporaryFolder folder;
     Session session;
     RecordingDisplay display;
-    RecordingLibraryDisplay library;
-    RecordingProgress progress;
     ScriptedPrompts prompts;
-    MaintenanceCommands commands{session, {display, library, progress, prompts}, Chance(3)};
+    MaintenanceCommands commands{session, display, prompts, Chance(3)};
     DeveloperCommands developer{session, display, prompts};
 };
 
@@ -53,8 +48,8 @@ TEST_F(MaintenanceCommandsTest, GrowProveAndMixALibrary) {
               std::string::npos);
     commands.FlipandAdd();
     EXPECT_EQ(lineCount("addnewr.txt"), 16 * 40) << "appended";
-    EXPECT_EQ(progress.path, session.ProgramFolder / "addnew.txt");
-    EXPECT_TRUE(progress.ended);
+    EXPECT_EQ(display.progressPath, session.ProgramFolder / "addnew.txt");
+    EXPECT_TRUE(display.progressEnded);
     EXPECT_GT(display.yields, 0);
 
     commands.Verify();
@@ -66,9 +61,9 @@ TEST_F(MaintenanceCommandsTest, GrowProveAndMixALibrary) {
     session.puzzle.PuzNum = 2;
     commands.Randomize();
     EXPECT_EQ(said(), "done");
-    EXPECT_EQ(library.puzzle.PuzNum, 2) << "the puzzle in play is named again";
+    EXPECT_EQ(display.puzzle.PuzNum, 2) << "the puzzle in play is named again";
     EXPECT_EQ(lineCount("puzzles20u.txt"), 8 * 40) << "each once";
-    EXPECT_EQ(library.busyDepth, 0);
+    EXPECT_EQ(display.busyDepth, 0);
 }
 
 TEST_F(MaintenanceCommandsTest, WhatGoesWrongIsToldAndAStoppedRunIsSilent) {
@@ -79,8 +74,8 @@ TEST_F(MaintenanceCommandsTest, WhatGoesWrongIsToldAndAStoppedRunIsSilent) {
     prompts.shown.clear();
 
     putPuzzles("addnew.txt", sampleRecords("easy.txt"));
-    progress.onProgress = [this] {
-        commands.Verify(); // one command at a time
+    display.onProgress = [this] {
+        EXPECT_TRUE(session.busy.refuses(prompts));
         commands.stop();
     };
     commands.FlipandAdd();
@@ -144,20 +139,6 @@ TEST_F(MaintenanceCommandsTest, TheRulesRunOnTheBoardInPlayStepByStep) {
     EXPECT_EQ(said(), "All Done");
     EXPECT_GT(display.boardsDrawn, 0);
     EXPECT_FALSE(session.busy.isBusy());
-}
-
-TEST_F(MaintenanceCommandsTest, TheDevelopersCommandsAreRefusedWhilePuzzlesAreCreated) {
-    session.game.board = boardOf(sampleRecords("hard.txt").front());
-    const Board before = session.game.board;
-    session.busy.creating = true;
-    developer.solveInSteps(true);
-    developer.applyXcellRule();
-    developer.autoSolveHard(true);
-    developer.checkCells();
-    developer.setManualValue();
-    EXPECT_EQ(prompts.shown, (std::vector<ScriptedPrompts::Message>(
-                                 5, {"Let AutoCreate finish first", "vbcritical+vbok"})));
-    EXPECT_EQ(session.game.board, before);
 }
 
 TEST_F(MaintenanceCommandsTest, AValueIsSetByHand) {

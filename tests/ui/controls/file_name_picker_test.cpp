@@ -26,7 +26,7 @@ class FileNamePickerTest : public testing::Test {
 protected:
     ScriptedFileDialogs m_dialogs;
     ScriptedPrompts m_prompts;
-    FNDialog m_picker{m_dialogs, m_prompts};
+    FNDialog m_picker{m_dialogs.dialog(), m_prompts};
 };
 
 TEST_F(FileNamePickerTest, OnlyTheWordSaveAsksForAFileToSaveTo) {
@@ -46,7 +46,7 @@ TEST_F(FileNamePickerTest, TheQuestionIsMadeOfTheProperties) {
     m_picker.setProperty("FileTypesName", QStringLiteral("Tessaly Files"));
     m_dialogs.add({});
     EXPECT_EQ(m_picker.GetFileName({}), QString());
-    const FileQuestion& asked = m_dialogs.asked.last().question;
+    const FileQuestion& asked = m_dialogs.asked.last();
     EXPECT_EQ(asked.title, QStringLiteral("Load a Puzzle File"));
     EXPECT_EQ(asked.folder, QStringLiteral("/puzzles/"));
     EXPECT_EQ(asked.kind, QStringLiteral("Tessaly Files (*.txt; *.dat;)"));
@@ -56,12 +56,12 @@ TEST_F(FileNamePickerTest, TheQuestionIsMadeOfTheProperties) {
 TEST_F(FileNamePickerTest, WithoutAFolderItStartsInTheDocuments) {
     m_dialogs.add({});
     m_picker.GetFileName({});
-    EXPECT_EQ(m_dialogs.asked.last().question.folder,
+    EXPECT_EQ(m_dialogs.asked.last().folder,
               QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + u'/');
     m_picker.setDefaultDir(QStringLiteral("/with/its/end/"));
     m_dialogs.add({});
     m_picker.GetFileName({});
-    EXPECT_EQ(m_dialogs.asked.last().question.folder, QStringLiteral("/with/its/end/"));
+    EXPECT_EQ(m_dialogs.asked.last().folder, QStringLiteral("/with/its/end/"));
 }
 
 TEST_F(FileNamePickerTest, TheProcessStaysWhereItWas) {
@@ -162,7 +162,6 @@ protected:
     }
 
     QTemporaryDir m_folder;
-    PlatformFileDialogs m_dialogs;
 };
 
 TEST_F(PlatformFileDialogsTest, ListsTheFilesOfEveryPatternUnderTheKindAsWritten) {
@@ -183,16 +182,14 @@ TEST_F(PlatformFileDialogsTest, ListsTheFilesOfEveryPatternUnderTheKindAsWritten
         EXPECT_EQ(names(), (QStringList{QStringLiteral("one.txt"), QStringLiteral("two.DAT")}));
         dialog.reject();
     });
-    EXPECT_EQ(m_dialogs.nameToOpen(question(), nullptr), QString());
+    EXPECT_EQ(askPlatform(question(), nullptr), QString());
 }
 
 TEST_F(PlatformFileDialogsTest, NeitherAsksAboutTheFileItself) {
     inTheDialog([](QFileDialog& dialog) { type(dialog, QStringLiteral("absent.txt")); });
-    EXPECT_EQ(m_dialogs.nameToOpen(question(), nullptr),
-              m_folder.filePath(QStringLiteral("absent.txt")));
+    EXPECT_EQ(askPlatform(question(), nullptr), m_folder.filePath(QStringLiteral("absent.txt")));
     inTheDialog([](QFileDialog& dialog) { type(dialog, QStringLiteral("one.txt")); });
-    EXPECT_EQ(m_dialogs.nameToSave(question(), nullptr),
-              m_folder.filePath(QStringLiteral("one.txt")));
+    EXPECT_EQ(askPlatform(question(), nullptr), m_folder.filePath(QStringLiteral("one.txt")));
 }
 
 } // namespace

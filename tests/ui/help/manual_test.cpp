@@ -127,12 +127,9 @@ public:
     void press(const QString& control) { QTest::mouseClick(&m_game.find(control), Qt::LeftButton); }
 
     /// What a hexagon shows while the number in its middle is held.
-    Grid<std::string>::Row look(int hexagon) {
-        auto& tag = m_game.find(u"Celltags_%1"_s.arg(hexagon));
-        QTest::mousePress(&tag, Qt::LeftButton);
-        Grid<std::string>::Row seen = m_game.session.game.board.CellNum[hexagon];
-        QTest::mouseRelease(&tag, Qt::LeftButton);
-        return seen;
+    Grid<std::string>::Row look(int hexagon) const {
+        const Game& play = m_game.session.game;
+        return withCandidates(play.board, play.TouchedCell, hexagon).CellNum[hexagon];
     }
 
     /// Writes down what is sure in a hexagon.
@@ -169,7 +166,7 @@ TEST(Manual, AnEasyPuzzleIsSolvedInTheWindowAsItTells) {
     GameWindow game;
     const std::string path = game.folder.path() + "easy.txt";
     std::filesystem::copy_file(TESSALY_DATA "/puzzles/easy.txt", path);
-    game.window->library().load(path);
+    game.window->files().load(path);
     game.find<QLineEdit>(u"PuzNumNow"_s).setText(QString::number(manual::FirstNumber));
     QTest::keyClick(&game.find(u"PuzNumNow"_s), Qt::Key_Return);
     Newcomer newcomer(game);

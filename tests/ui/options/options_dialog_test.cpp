@@ -309,13 +309,5 @@ TEST_F(OptionsDialog, WorksByKeysAlone) {
     EXPECT_EQ(settings().ActiveScheme, "daylight.col");
 }
 
-TEST_F(OptionsDialog, IsRefusedWhilePuzzlesAreCreated) {
-    click(u"Command2");
-    game.session.busy.creating = true;
-    game.find<QAction>(u"mnuopts"_s).trigger();
-    EXPECT_FALSE(dialog.isVisible());
-    EXPECT_EQ(game.prompts.shown.back().text, "Let AutoCreate finish first");
-}
-
 } // namespace
 } // namespace tessaly

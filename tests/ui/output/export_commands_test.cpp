@@ -85,7 +85,7 @@ TEST(CopyPicture, VectorPicturesShowTheSame) {
 
 class Copying : public testing::Test {
 protected:
-    Copying() { game.window->library().load(game.folder.puzzles("hard.txt"), 2); }
+    Copying() { game.window->files().load(game.folder.puzzles("hard.txt"), 2); }
 
     static const QMimeData& clipboard() { return *QGuiApplication::clipboard()->mimeData(); }
     static QImage picture() { return qvariant_cast<QImage>(clipboard().imageData()); }
@@ -109,18 +109,8 @@ TEST_F(Copying, PutsPictureAndRecordOnTheClipboard) {
     EXPECT_EQ(picture(), drawImage({board, appearance, true}, 2));
     EXPECT_EQ(clipboard().text().toStdString(), PuzzleRecord(board));
     EXPECT_EQ(game.session.appearance, appearance);
-    game.window->library().goTo(2); // takes the message away
+    game.window->files().goTo(2); // takes the message away
     EXPECT_EQ(game.window->grab().toImage(), window);
-}
-
-TEST_F(Copying, IsRefusedWhilePuzzlesAreCreated) {
-    QGuiApplication::clipboard()->setText(u"mine"_s);
-    game.session.busy.creating = true;
-    for (const char* item : {"mnuclippuz", "mnuclipsol", "mnucapwin"}) {
-        choose(QLatin1String(item));
-        EXPECT_EQ(game.prompts.shown.back().text, "Let AutoCreate finish first");
-    }
-    EXPECT_EQ(clipboard().text(), u"mine"_s);
 }
 
 TEST_F(Copying, WritesTheWindowAsBitmapOrPng) {
@@ -137,7 +127,7 @@ TEST_F(Copying, WritesTheWindowAsBitmapOrPng) {
     EXPECT_EQ(game.prompts.shown.back(),
               (ScriptedPrompts::Message{game.folder.path() + "window.bmp", "vbok"}));
     EXPECT_EQ(pictureIn("window.bmp", "BMP"), window);
-    const FileQuestion& asked = game.fileDialogs.asked.back().question;
+    const FileQuestion& asked = game.fileDialogs.asked.back();
     EXPECT_EQ(asked.title, u"Select destination file for a bitmap copy of this puzzle"_s);
     EXPECT_EQ(asked.kind, u"Facetto Bitmap Files (*.bmp)"_s);
     EXPECT_EQ(asked.folder.toStdString(), game.folder.path());

@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 class Printing : public testing::Test {
 protected:
-    Printing() { game.window->library().load(puzzles, 3); }
+    Printing() { game.window->files().load(puzzles, 3); }
 
     void choose(const QString& item) { game.find<QAction>(item).trigger(); }
 
@@ -85,14 +85,10 @@ TEST_F(Printing, OneThatIsCancelledOrCannotBeWrittenPrintsNothing) {
     game.printers.userSetsUp = [](QPrinter&) { return true; };
     choose(u"mnuprintx_0"_s);
     EXPECT_EQ(game.prompts.shown.back().text, "There is no printer.");
-    game.window->library().goTo(1);
+    game.window->files().goTo(1);
     game.session.puzzle = {};
     choose(u"mnuprintx_0"_s);
     EXPECT_EQ(game.prompts.shown.back().text, "There is no puzzle to print");
-    game.session.busy.creating = true;
-    choose(u"mnuprintx_0"_s);
-    choose(u"mnuprintx_4"_s);
-    EXPECT_EQ(game.prompts.shown.back().text, "Let AutoCreate finish first");
     EXPECT_EQ(game.printers.asked, 3);
 }
 
@@ -186,7 +182,7 @@ protected:
             for (const std::string& record : sampleRecords("easy.txt"))
                 content += record + "\n";
         test::put(puzzles, content);
-        game.window->library().load(puzzles);
+        game.window->files().load(puzzles);
         QObject::connect(&watch, &QTimer::timeout, [this] {
             auto& progress = game.find(u"PrintProgress"_s);
             if (progress.isVisible() && !seen) {

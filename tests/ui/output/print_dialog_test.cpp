@@ -59,7 +59,7 @@ protected:
     ScriptedPrompts prompts;
     std::optional<QString> printer;
     bool stayedOpen = false;
-    Form5 form{appearance, printers, fileDialogs, prompts, folder.path().string() + "/"};
+    Form5 form{appearance, printers, fileDialogs.dialog(), prompts, folder.path().string() + "/"};
 };
 
 TEST_F(PrintDialog, ShowsThePrintersTheFileAndTheWholeRange) {
@@ -140,7 +140,7 @@ TEST_F(PrintDialog, AChosenFileIsCounted) {
         EXPECT_EQ(find(u"Text2"_s).text(), u"3"_s);
         click(u"Command1"_s);
     });
-    const FileQuestion& asked = fileDialogs.asked.front().question;
+    const FileQuestion& asked = fileDialogs.asked.front();
     EXPECT_EQ(asked.title, u"Select a Puzzle file to print"_s);
     EXPECT_EQ(asked.kind, u"Tessaly Files (*.txt;*.dat)"_s);
     EXPECT_EQ(asked.folder.toStdString(), folder.path().string() + "/");

@@ -23,7 +23,7 @@ using namespace Qt::StringLiterals;
 
 class Accessibility : public testing::Test {
 protected:
-    Accessibility() { game.window->library().load(game.folder.puzzles("easy.txt")); }
+    Accessibility() { game.window->files().load(game.folder.puzzles("easy.txt")); }
     QAccessibleInterface& ofBoard() {
         return *QAccessible::queryAccessibleInterface(&game.board());
     }
@@ -97,12 +97,12 @@ TEST_F(Accessibility, ThePlayIsHeard) {
     auto* actions = item.actionInterface();
     ASSERT_NE(actions, nullptr);
     actions->doAction(QAccessibleActionInterface::setFocusAction());
-    EXPECT_EQ(game.board().selection(), cell);
+    EXPECT_EQ(game.board().input().selection(), cell);
     for (CellId given : AllCells)
         if (game.session.game.board.FixedCell[given]) {
             EXPECT_TRUE(of(given).actionInterface()->actionNames().isEmpty());
             of(given).actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
-            EXPECT_FALSE(game.board().selection());
+            EXPECT_FALSE(game.board().input().selection());
             break;
         }
 }

@@ -18,7 +18,7 @@ class DeveloperRowTest : public testing::Test {
 protected:
     DeveloperRowTest() {
         row.show();
-        game.window->library().load(game.folder.puzzles("hard.txt"));
+        game.window->files().load(game.folder.puzzles("hard.txt"));
     }
 
     BoxControl& button(const QString& name) { return *row.findChild<BoxControl*>(name); }

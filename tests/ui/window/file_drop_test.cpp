@@ -86,15 +86,11 @@ TEST_F(FileDropTest, ANameThatIsNotUtf8IsRefusedAndTakenForNoOther) {
     EXPECT_EQ(game.session.puzzle.PuzNum, 0);
 }
 
-TEST_F(FileDropTest, AFileWithoutPuzzlesAndADropWhilePuzzlesAreCreatedAreSaid) {
+TEST_F(FileDropTest, AFileWithoutPuzzlesIsSaid) {
     const std::string notes = game.folder.path() + "notes.txt";
     test::put(notes, "no puzzle\n");
     EXPECT_TRUE(dropped({urlOf(notes)}));
     EXPECT_EQ(game.prompts.shown.back().text, "Error reading file:\r\n" + notes);
-    game.session.busy.creating = true;
-    EXPECT_TRUE(dropped({urlOf(game.folder.puzzles("easy.txt"))}));
-    EXPECT_EQ(game.prompts.shown.back().text, "Let AutoCreate finish first");
-    EXPECT_EQ(game.session.puzzle.PuzNum, 0);
 }
 
 } // namespace

@@ -41,12 +41,12 @@ TEST_F(Library, TheDialogsOfferPuzzleFilesInTheProgramsFolder) {
     saveTo({});
     ASSERT_EQ(game.fileDialogs.asked.size(), 3);
     for (const auto& asked : game.fileDialogs.asked) {
-        EXPECT_EQ(asked.question.folder, QString::fromStdString(game.folder.path()));
-        EXPECT_EQ(asked.question.kind, u"Tessaly Files (*.txt;*.dat)"_s);
+        EXPECT_EQ(asked.folder, QString::fromStdString(game.folder.path()));
+        EXPECT_EQ(asked.kind, u"Tessaly Files (*.txt;*.dat)"_s);
     }
-    EXPECT_EQ(game.fileDialogs.asked[0].question.title, u"Select a Puzzle file to open"_s);
+    EXPECT_EQ(game.fileDialogs.asked[0].title, u"Select a Puzzle file to open"_s);
     EXPECT_FALSE(game.fileDialogs.asked[0].saving);
-    EXPECT_EQ(game.fileDialogs.asked[2].question.title, u"Select an output Puzzle file"_s);
+    EXPECT_EQ(game.fileDialogs.asked[2].title, u"Select an output Puzzle file"_s);
     EXPECT_TRUE(game.fileDialogs.asked[2].saving);
     EXPECT_TRUE(game.prompts.shown.empty());
 }

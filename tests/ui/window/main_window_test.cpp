@@ -127,7 +127,7 @@ TEST_F(MainWindow, CreatesAPuzzleOfTheShownDifficulty) {
 TEST_F(MainWindow, ExitAsksAndRemembersAndTheCloseBoxDoesNeither) {
     const std::string path = game.folder.puzzles("easy.txt");
     const std::string configuration = game.folder.path() + "tessaly.cfg";
-    game.window->library().load(path, 5);
+    game.window->files().load(path, 5);
     game.prompts.answers = {answer::No};
     action(u"cmdexit"_s).trigger();
     EXPECT_EQ(game.prompts.shown.back(), (ScriptedPrompts::Message{"Exit?", "vbYesNo+vbquestion"}));
@@ -167,7 +167,7 @@ TEST_F(MainWindow, ItsSizeIsRememberedHoweverItIsClosed) {
 }
 
 TEST_F(MainWindow, ResizesFromTheSmallestToAnySize) {
-    game.window->library().load(game.folder.puzzles("easy.txt"));
+    game.window->files().load(game.folder.puzzles("easy.txt"));
     game.window->resize(game.window->minimumSizeHint());
     QApplication::processEvents();
     const double smallest = game.board().boardToWidget().m11();

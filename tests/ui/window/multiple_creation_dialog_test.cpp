@@ -17,8 +17,6 @@ namespace {
 using namespace Qt::StringLiterals;
 using Message = ScriptedPrompts::Message;
 
-const Message Refusal{"Let AutoCreate finish first", "vbcritical+vbok"};
-
 /// The creation of many puzzles with its real dialog.
 class AutoCreate : public testing::Test {
 protected:
@@ -94,12 +92,12 @@ TEST_F(AutoCreate, TheDialogTakesANumberADifficultyAndAFile) {
         EXPECT_EQ(file.text(), QString::fromStdString(defaultFile()));
         clickIn(dialog, u"Cancel"_s);
     });
-    EXPECT_EQ(game.fileDialogs.asked.back().question.title, u"Select an output Puzzle file"_s);
+    EXPECT_EQ(game.fileDialogs.asked.back().title, u"Select an output Puzzle file"_s);
     EXPECT_EQ(game.prompts.shown.size(), 4U) << "cancelled: nothing is confirmed";
 }
 
 TEST_F(AutoCreate, MakesWhatWasOrderedAndShowsHowFarItIs) {
-    game.window->library().load(game.folder.puzzles("hard.txt"), 7);
+    game.window->files().load(game.folder.puzzles("hard.txt"), 7);
     const Board before = game.session.game.board;
     game.prompts.answers = {answer::Yes, answer::Ok};
     auto& bar = game.find<RunProgressBar>(u"runProgress"_s);
@@ -138,49 +136,6 @@ TEST_F(AutoCreate, MakesWhatWasOrderedAndShowsHowFarItIs) {
     EXPECT_EQ(game.session.game.board, before);
 }
 
-TEST_F(AutoCreate, EveryCommandIsRefusedMeanwhile) {
-    const std::string path = game.folder.puzzles("easy.txt");
-    const std::string content = test::contentOf(path);
-    game.window->library().load(path, 3);
-    const QStringList actions{u"mnuload"_s,      u"mnusavex"_s,  u"mnusaveto"_s,
-                              u"mnuopts"_s,      u"mnudelete"_s, u"mnucreaten_0"_s,
-                              u"mnucreaten_1"_s, u"oldfiles_0"_s};
-    const QStringList buttons{u"cmdload"_s,  u"cmdarrow_0"_s,  u"cmdarrow_1"_s,  u"cmdcreate"_s,
-                              u"cmdundo"_s,  u"cmdreset"_s,    u"cmdshowsol"_s,  u"StatLab"_s,
-                              u"cmdset1s"_s, u"cmdsetpairs"_s, u"cmdallpencil"_s};
-    Board before;
-    bool tried = false;
-    const auto expectRefused = [&](const QString& name, const auto& doIt) {
-        game.prompts.shown.clear();
-        doIt();
-        ASSERT_EQ(game.prompts.shown.size(), 1U) << name.toStdString();
-        const Message expected = name == u"oldfiles_0"_s
-                                     ? Message{"Cancel Puzzle Creation first", "vbcritical+vbok"}
-                                     : Refusal;
-        EXPECT_EQ(game.prompts.shown.back(), expected) << name.toStdString();
-    };
-    duringTheRun([&] {
-        before = game.session.game.board;
-        for (const QString& name : actions)
-            expectRefused(name, [&] { action(name).trigger(); });
-        for (const QString& name : buttons)
-            expectRefused(name, [&] { click(name); });
-        auto& number = game.find<QLineEdit>(u"PuzNumNow"_s);
-        expectRefused(u"PuzNumNow"_s, [&] { QTest::keyClick(&number, Qt::Key_Return); });
-        game.pointAt({10, 2});
-        QTest::keyClick(&game.board(), Qt::Key_3);
-        EXPECT_EQ(game.session.game.board, before);
-        tried = true;
-        return false;
-    });
-    game.prompts.answers = {answer::Yes};
-    orderIntoDefaultFile(u"200"_s);
-    EXPECT_TRUE(tried);
-    EXPECT_EQ(game.session.puzzle.PuzNum, 3);
-    EXPECT_EQ(test::contentOf(path), content);
-    EXPECT_EQ(test::contentOf(defaultFile()).size(), 200 * (RecordLength + 2));
-}
-
 TEST_F(AutoCreate, ClosingTheWindowEndsItAtOnceWithWholeRecordsOnly) {
     game.prompts.answers = {answer::Yes};
     duringTheRun([&] {
@@ -198,7 +153,7 @@ TEST_F(AutoCreate, ClosingTheWindowEndsItAtOnceWithWholeRecordsOnly) {
 
 TEST_F(AutoCreate, ExitMeanwhileAsksAndRemembersThePuzzleInPlay) {
     const std::string path = game.folder.puzzles("easy.txt");
-    game.window->library().load(path, 3);
+    game.window->files().load(path, 3);
     game.prompts.answers = {answer::Yes, answer::No, answer::Yes};
     int asked = 0;
     duringTheRun([&] {

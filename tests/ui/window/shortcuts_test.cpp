@@ -19,7 +19,7 @@ using namespace Qt::StringLiterals;
 
 class ShortcutsTest : public testing::Test {
 protected:
-    ShortcutsTest() { game.window->library().load(game.folder.puzzles("easy.txt")); }
+    ShortcutsTest() { game.window->files().load(game.folder.puzzles("easy.txt")); }
 
     void press(QKeyCombination keys) {
         QTest::keyClick(QApplication::focusWidget(), keys.key(), keys.keyboardModifiers());

@@ -1,8 +1,6 @@
 #pragma once
 
 #include <chrono>
-#include <filesystem>
-#include <string>
 
 namespace tessaly {
 
@@ -29,16 +27,6 @@ public:
 
 private:
     std::chrono::steady_clock::time_point m_start = std::chrono::steady_clock::now();
-};
-
-/// Shows how far a long run is.
-class RunProgressDisplay {
-public:
-    virtual ~RunProgressDisplay() = default;
-    /// `path` is the file that the run is about.
-    virtual void beginProgress(const std::filesystem::path& path) = 0;
-    virtual void showProgress(const RunProgress& progress) = 0;
-    virtual void endProgress() = 0;
 };
 
 } // namespace tessaly

@@ -1,4 +1,4 @@
-#include "core/session/library_commands.h"
+#include "core/session/puzzle_file_commands.h"
 
 #include "core/board/puzzle_record.h"
 #include "core/files/file_access.h"
@@ -22,7 +22,7 @@ std::string trimmed(const std::string& text) {
 /// For as long as it lives the pointer is busy and other commands are refused.
 class WhileAtWork {
 public:
-    WhileAtWork(Session& session, LibraryDisplay& display)
+    WhileAtWork(Session& session, Display& display)
         : m_running(session.busy.commandRunning)
         , m_display(display) {
         m_display.showBusy(true);
@@ -33,27 +33,27 @@ public:
 
 private:
     WhileSet m_running;
-    LibraryDisplay& m_display;
+    Display& m_display;
 };
 
 } // namespace
 
-LibraryCommands::LibraryCommands(Session& session, Display& display, LibraryDisplay& libraryDisplay,
-                                 Prompts& prompts, FileChoice& fileChoice)
+PuzzleFileCommands::PuzzleFileCommands(Session& session, BoardInput& input, Display& display,
+                                       Prompts& prompts, FileChoice chooseFile)
     : m_session(session)
+    , m_input(input)
     , m_display(display)
-    , m_libraryDisplay(libraryDisplay)
     , m_prompts(prompts)
-    , m_fileChoice(fileChoice) {
+    , m_chooseFile(std::move(chooseFile)) {
     m_session.files = PuzzleFiles([&display] { display.yield(); });
 }
 
-void LibraryCommands::tellCritical(const std::string& text) {
+void PuzzleFileCommands::tellCritical(const std::string& text) {
     m_prompts.message(text, Critical);
 }
 
-PuzzleRead LibraryCommands::ReadPuzzle(const std::filesystem::path& path, int number) {
-    const WhileAtWork atWork(m_session, m_libraryDisplay);
+PuzzleRead PuzzleFileCommands::ReadPuzzle(const std::filesystem::path& path, int number) {
+    const WhileAtWork atWork(m_session, m_display);
     PuzzleRead read = m_session.files.ReadPuzzle(path, number, m_session.game.board);
     if (!read.ok()) {
         m_display.showMessage("Error reading p# " + std::to_string(number));
@@ -62,22 +62,19 @@ PuzzleRead LibraryCommands::ReadPuzzle(const std::filesystem::path& path, int nu
     m_session.game.startPuzzle();
     m_session.puzzle = {path, number, read.count, read.record};
     m_session.difficulty = m_session.game.board.difficulty;
-    m_libraryDisplay.showPuzzle(m_session.puzzle);
+    m_input.forgetSelection();
+    m_display.showPuzzle(m_session.puzzle);
     m_display.showMessage("");
     return read;
 }
 
-void LibraryCommands::mnuload() {
-    if (m_session.busy.refuses(m_prompts))
-        return;
-    const std::filesystem::path path = m_fileChoice.chooseToOpen("Select a Puzzle file to open");
+void PuzzleFileCommands::mnuload() {
+    const std::filesystem::path path = m_chooseFile(FileUse::Open, "Select a Puzzle file to open");
     if (!path.empty())
         load(path);
 }
 
-void LibraryCommands::load(const std::filesystem::path& path, int number) {
-    if (m_session.busy.refuses(m_prompts))
-        return;
+void PuzzleFileCommands::load(const std::filesystem::path& path, int number) {
     if (!ReadPuzzle(path, number).ok()) {
         m_prompts.message("Error reading file:\r\n" + path.native(), FileProblem);
         return;
@@ -86,18 +83,16 @@ void LibraryCommands::load(const std::filesystem::path& path, int number) {
     if (path == temporaryFile())
         return;
     m_session.recentFiles.AddRecentFile(path);
-    m_libraryDisplay.showRecentFiles(m_session.recentFiles);
+    m_display.showRecentFiles(m_session.recentFiles.paths());
 }
 
-void LibraryCommands::step(int number) {
+void PuzzleFileCommands::step(int number) {
     const PuzzleRead read = ReadPuzzle(m_session.puzzle.PuzPath, number);
     if (read.status == PuzzleRead::Status::CannotRead)
         tellCritical(read.reason);
 }
 
-void LibraryCommands::cmdarrow(int item) {
-    if (m_session.busy.refuses(m_prompts))
-        return;
+void PuzzleFileCommands::cmdarrow(int item) {
     const int number = m_session.puzzle.PuzNum;
     if (number == 0)
         return;
@@ -109,38 +104,36 @@ void LibraryCommands::cmdarrow(int item) {
     step(std::max(item == 0 ? previous : next, 1));
 }
 
-std::filesystem::path LibraryCommands::temporaryFile() const {
+std::filesystem::path PuzzleFileCommands::temporaryFile() const {
     return m_session.ProgramFolder / TemporaryPuzzleFile;
 }
 
-int LibraryCommands::recount() {
-    const WhileAtWork atWork(m_session, m_libraryDisplay);
+int PuzzleFileCommands::recount() {
+    const WhileAtWork atWork(m_session, m_display);
     CurrentPuzzle& puzzle = m_session.puzzle;
     static_cast<void>(m_session.files.CountLines(puzzle.PuzPath, puzzle.PuzCount).ok());
     return puzzle.PuzCount;
 }
 
-void LibraryCommands::goTo(int number) {
-    if (m_session.busy.refuses(m_prompts))
-        return;
+void PuzzleFileCommands::goTo(int number) {
     if (m_session.puzzle.PuzNum > 0 && number >= 1 && number <= recount())
         step(number);
 }
 
-void LibraryCommands::setSaveTarget(const std::filesystem::path& path) {
+void PuzzleFileCommands::setSaveTarget(const std::filesystem::path& path) {
     m_session.saveTarget = path;
-    m_libraryDisplay.showSaveTarget(path);
+    m_display.showSaveTarget(path);
 }
 
-Outcome LibraryCommands::appendAndShow(const std::filesystem::path& path, int& number) {
-    const WhileAtWork atWork(m_session, m_libraryDisplay);
+Outcome PuzzleFileCommands::appendAndShow(const std::filesystem::path& path, int& number) {
+    const WhileAtWork atWork(m_session, m_display);
     const std::string record = PuzzleRecord(m_session.game.board);
     if (Outcome saved = m_session.files.appendPuzzle(path, record, number); !saved.ok())
         return saved;
     return {ReadPuzzle(path, number).reason};
 }
 
-bool LibraryCommands::appendTo(const std::filesystem::path& path) {
+bool PuzzleFileCommands::appendTo(const std::filesystem::path& path) {
     int number = 0;
     if (const Outcome saved = appendAndShow(path, number); !saved.ok()) {
         tellCritical(saved.problem);
@@ -151,26 +144,22 @@ bool LibraryCommands::appendTo(const std::filesystem::path& path) {
     return true;
 }
 
-void LibraryCommands::mnusavex() {
-    if (m_session.busy.refuses(m_prompts) || !m_session.game.hasPuzzle())
+void PuzzleFileCommands::mnusavex() {
+    if (!m_session.game.hasPuzzle())
         return;
-    const std::filesystem::path path = m_fileChoice.chooseToSave("Select an output Puzzle file");
+    const std::filesystem::path path = m_chooseFile(FileUse::Save, "Select an output Puzzle file");
     if (path.empty())
         return;
     if (appendTo(path))
         setSaveTarget(path);
 }
 
-void LibraryCommands::mnusaveto() {
-    if (m_session.busy.refuses(m_prompts))
-        return;
+void PuzzleFileCommands::mnusaveto() {
     if (FileExists(m_session.saveTarget))
         appendTo(m_session.saveTarget);
 }
 
-void LibraryCommands::mnudelete() {
-    if (m_session.busy.refuses(m_prompts))
-        return;
+void PuzzleFileCommands::mnudelete() {
     const CurrentPuzzle puzzle = m_session.puzzle;
     if (puzzle.PuzNum == 0)
         return;
@@ -185,15 +174,13 @@ void LibraryCommands::mnudelete() {
     m_prompts.message("Done", "vbinformation+vbok");
 }
 
-Outcome LibraryCommands::remove(const CurrentPuzzle& puzzle) {
-    const WhileAtWork atWork(m_session, m_libraryDisplay);
+Outcome PuzzleFileCommands::remove(const CurrentPuzzle& puzzle) {
+    const WhileAtWork atWork(m_session, m_display);
     return m_session.files.DeletePuzzle(puzzle.PuzPath, puzzle.PuzNum, puzzle.record,
                                         m_session.ProgramFolder);
 }
 
-void LibraryCommands::oldfiles_Click(int item) {
-    if (m_session.busy.refuses(m_prompts, "Cancel Puzzle Creation first"))
-        return;
+void PuzzleFileCommands::oldfiles_Click(int item) {
     const std::filesystem::path path =
         m_session.recentFiles.paths().at(static_cast<std::size_t>(item));
     if (!FileExists(path)) {
@@ -206,10 +193,10 @@ void LibraryCommands::oldfiles_Click(int item) {
         m_prompts.message("Error reading file:\r\n" + path.native(), FileProblem);
 }
 
-void LibraryCommands::reopen(const std::filesystem::path& path, int number) {
+void PuzzleFileCommands::reopen(const std::filesystem::path& path, int number) {
     int count = 0;
-    m_libraryDisplay.showRecentFiles(m_session.recentFiles);
-    if (trimmed(path.native()).empty() || path == temporaryFile() || !FileExists(path) ||
+    m_display.showRecentFiles(m_session.recentFiles.paths());
+    if (trimmed(path).empty() || path == temporaryFile() || !FileExists(path) ||
         !m_session.files.CountLines(path, count).ok()) {
         showEmptyBoard();
         return;
@@ -222,9 +209,15 @@ void LibraryCommands::reopen(const std::filesystem::path& path, int number) {
     m_display.focusBoard();
 }
 
-void LibraryCommands::showEmptyBoard() {
+void PuzzleFileCommands::showWithoutFile() {
+    m_session.puzzle.PuzNum = 0;
+    m_input.forgetSelection();
+    m_display.showPuzzle(m_session.puzzle);
+}
+
+void PuzzleFileCommands::showEmptyBoard() {
     setSaveTarget({});
-    m_libraryDisplay.showNoPuzzle();
+    showWithoutFile();
     m_display.focusBoard();
 }
 

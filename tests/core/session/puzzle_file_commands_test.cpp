@@ -1,12 +1,9 @@
-#include "core/session/library_commands.h"
+#include "core/session/puzzle_file_commands.h"
 
 #include "core/files/file_access.h"
+#include "support/core_fakes.h"
 #include "support/file_calls.h"
-#include "support/recording_display.h"
-#include "support/recording_library_display.h"
 #include "support/sample_puzzles.h"
-#include "support/scripted_file_choice.h"
-#include "support/scripted_prompts.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -17,12 +14,12 @@
 namespace tessaly {
 namespace {
 
-class LibraryCommandsTest : public testing::Test {
+class PuzzleFileCommandsTest : public testing::Test {
 protected:
     using Message = ScriptedPrompts::Message;
 
-    LibraryCommandsTest() { session.ProgramFolder = folder.path().string() + "/"; }
-    ~LibraryCommandsTest() override { EXPECT_EQ(display.busyDepth, 0); }
+    PuzzleFileCommandsTest() { session.ProgramFolder = folder.path().string() + "/"; }
+    ~PuzzleFileCommandsTest() override { EXPECT_EQ(display.busyDepth, 0); }
 
     std::filesystem::path fileOf(const std::string& name, const std::string& content) {
         std::filesystem::path path = session.ProgramFolder / name;
@@ -40,14 +37,15 @@ protected:
     const std::vector<std::string> records = sampleRecords("easy.txt");
     test::TemporaryFolder folder;
     Session session;
-    RecordingDisplay board;
-    RecordingLibraryDisplay display;
+    RecordingDisplay display;
     ScriptedPrompts prompts;
     ScriptedFileChoice choice;
-    LibraryCommands commands{session, board, display, prompts, choice};
+    PlayCommands play{session.game, session.appearance, display, prompts};
+    BoardInput input{session.game, session.busy, play, display};
+    PuzzleFileCommands commands{session, input, display, prompts, choice.choice()};
 };
 
-TEST_F(LibraryCommandsTest, LoadShowsTheFirstPuzzleAndRemembersTheFile) {
+TEST_F(PuzzleFileCommandsTest, LoadShowsTheFirstPuzzleAndRemembersTheFile) {
     choice.path = fileOfPuzzles("a.txt", 3);
     session.game.undoList.push({1, 1}, false, "");
     commands.mnuload();
@@ -64,7 +62,7 @@ TEST_F(LibraryCommandsTest, LoadShowsTheFirstPuzzleAndRemembersTheFile) {
     EXPECT_TRUE(prompts.shown.empty());
 }
 
-TEST_F(LibraryCommandsTest, AFileThatHoldsNoPuzzleIsRefusedAndNothingChanges) {
+TEST_F(PuzzleFileCommandsTest, AFileThatHoldsNoPuzzleIsRefusedAndNothingChanges) {
     commands.load(fileOfPuzzles("a.txt", 2));
     session.game.place({1, 1}, "3");
     const Board before = session.game.board;
@@ -77,14 +75,14 @@ TEST_F(LibraryCommandsTest, AFileThatHoldsNoPuzzleIsRefusedAndNothingChanges) {
         commands.load(path);
         EXPECT_EQ(prompts.shown, (std::vector<Message>{{"Error reading file:\r\n" + path.native(),
                                                         "vbcritical+vbok"}}));
-        EXPECT_EQ(board.message, "Error reading p# 1");
+        EXPECT_EQ(display.message, "Error reading p# 1");
         EXPECT_EQ(session.game.board, before);
         EXPECT_EQ(session.game.undoList.size(), 1u);
         EXPECT_EQ(display.recent.size(), 1u);
     }
 }
 
-TEST_F(LibraryCommandsTest, SteppingWrapsAroundBothEnds) {
+TEST_F(PuzzleFileCommandsTest, SteppingWrapsAroundBothEnds) {
     commands.cmdarrow(1);
     commands.goTo(1);
     commands.mnudelete();
@@ -106,7 +104,7 @@ TEST_F(LibraryCommandsTest, SteppingWrapsAroundBothEnds) {
     EXPECT_TRUE(prompts.shown.empty());
 }
 
-TEST_F(LibraryCommandsTest, CommandsWorkOnWhatTheFileHoldsNow) {
+TEST_F(PuzzleFileCommandsTest, CommandsWorkOnWhatTheFileHoldsNow) {
     const std::filesystem::path path = fileOfPuzzles("a.txt", 3);
     commands.load(path);
     commands.goTo(3);
@@ -127,14 +125,14 @@ TEST_F(LibraryCommandsTest, CommandsWorkOnWhatTheFileHoldsNow) {
     EXPECT_TRUE(prompts.shown.empty());
 }
 
-TEST_F(LibraryCommandsTest, AFileThatIsEmptyOrGoneIsSaidAndTheBoardStays) {
+TEST_F(PuzzleFileCommandsTest, AFileThatIsEmptyOrGoneIsSaidAndTheBoardStays) {
     const std::filesystem::path path = fileOfPuzzles("a.txt", 3);
     commands.load(path, 3);
     const Board before = session.game.board;
     fileOf("a.txt", "");
     for (int item : {0, 1}) {
         commands.cmdarrow(item);
-        EXPECT_EQ(board.message, "Error reading p# 1");
+        EXPECT_EQ(display.message, "Error reading p# 1");
     }
     EXPECT_TRUE(prompts.shown.empty());
     std::filesystem::remove(path);
@@ -145,18 +143,16 @@ TEST_F(LibraryCommandsTest, AFileThatIsEmptyOrGoneIsSaidAndTheBoardStays) {
     EXPECT_EQ(display.puzzle.PuzNum, 3);
 }
 
-TEST_F(LibraryCommandsTest, WhatArrivesWhileALargeFileIsReadOrCopiedIsIgnored) {
+TEST_F(PuzzleFileCommandsTest, WhatArrivesWhileALargeFileIsReadOrCopiedIsIgnored) {
     std::string content;
     while (content.size() < 500'000)
         content += records[content.size() % 7] + "\r\n";
     const std::filesystem::path path = fileOf("large.txt", content);
     int arrived = 0;
-    board.onYield = [&] {
+    display.onYield = [&] {
         ++arrived;
         EXPECT_GT(display.busyDepth, 0);
-        commands.load(path, 3);
-        commands.cmdarrow(1);
-        commands.mnudelete();
+        EXPECT_TRUE(session.busy.refuses(prompts));
     };
     commands.load(path);
     EXPECT_EQ(display.puzzle.PuzNum, 1);
@@ -170,7 +166,7 @@ TEST_F(LibraryCommandsTest, WhatArrivesWhileALargeFileIsReadOrCopiedIsIgnored) {
     EXPECT_FALSE(session.busy.isBusy());
 }
 
-TEST_F(LibraryCommandsTest, APuzzleThatStandsInNoFileCanStillBeSaved) {
+TEST_F(PuzzleFileCommandsTest, APuzzleThatStandsInNoFileCanStillBeSaved) {
     choice.path = session.ProgramFolder / "rescued.txt";
     commands.mnusavex();
     EXPECT_TRUE(choice.asked.empty()) << "there is no puzzle";
@@ -183,7 +179,7 @@ TEST_F(LibraryCommandsTest, APuzzleThatStandsInNoFileCanStillBeSaved) {
     EXPECT_EQ(prompts.shown.size(), 1u) << "no file was chosen";
 }
 
-TEST_F(LibraryCommandsTest, SavingAppendsThePlayAndShowsTheCopy) {
+TEST_F(PuzzleFileCommandsTest, SavingAppendsThePlayAndShowsTheCopy) {
     commands.load(fileOfPuzzles("a.txt", 1));
     session.game.place({1, 5}, "4");
     choice.path = session.ProgramFolder / "new.txt";
@@ -205,7 +201,7 @@ TEST_F(LibraryCommandsTest, SavingAppendsThePlayAndShowsTheCopy) {
     EXPECT_TRUE(prompts.shown.empty()) << "only a file that exists";
 }
 
-TEST_F(LibraryCommandsTest, AFailedSaveIsSaidAndKeepsThePlay) {
+TEST_F(PuzzleFileCommandsTest, AFailedSaveIsSaidAndKeepsThePlay) {
     commands.load(fileOfPuzzles("a.txt", 1));
     session.game.place({1, 5}, "4");
     const Board before = session.game.board;
@@ -218,7 +214,7 @@ TEST_F(LibraryCommandsTest, AFailedSaveIsSaidAndKeepsThePlay) {
     EXPECT_NE(display.saveTarget, choice.path);
 }
 
-TEST_F(LibraryCommandsTest, DeleteAsksRemovesThePuzzleAndShowsTheFirst) {
+TEST_F(PuzzleFileCommandsTest, DeleteAsksRemovesThePuzzleAndShowsTheFirst) {
     const std::filesystem::path path = fileOfPuzzles("a.txt", 3);
     commands.load(path, 2);
     prompts.answers = {7};
@@ -233,7 +229,7 @@ TEST_F(LibraryCommandsTest, DeleteAsksRemovesThePuzzleAndShowsTheFirst) {
     EXPECT_EQ(display.puzzle.PuzCount, 2);
 }
 
-TEST_F(LibraryCommandsTest, AnotherPuzzleThanTheOneShownIsNotDeleted) {
+TEST_F(PuzzleFileCommandsTest, AnotherPuzzleThanTheOneShownIsNotDeleted) {
     const std::filesystem::path path = fileOfPuzzles("a.txt", 2);
     commands.load(path);
     const std::string swapped = records[1] + "\r\n" + records[0] + "\r\n";
@@ -246,17 +242,17 @@ TEST_F(LibraryCommandsTest, AnotherPuzzleThanTheOneShownIsNotDeleted) {
     EXPECT_EQ(session.game.board, boardOf(records[0]));
 }
 
-TEST_F(LibraryCommandsTest, DeletingTheOnlyPuzzleLeavesAnEmptyFile) {
+TEST_F(PuzzleFileCommandsTest, DeletingTheOnlyPuzzleLeavesAnEmptyFile) {
     const std::filesystem::path path = fileOfPuzzles("temporarypuzfile.txt", 1);
     commands.load(path);
     prompts.answers = {answer::Yes, 1};
     commands.mnudelete();
     EXPECT_EQ(test::contentOf(path), "");
-    EXPECT_EQ(board.message, "Error reading p# 1");
+    EXPECT_EQ(display.message, "Error reading p# 1");
     EXPECT_EQ(lastMessage().text, "Done");
 }
 
-TEST_F(LibraryCommandsTest, RecentFilesOpenUnlessTheyAreGone) {
+TEST_F(PuzzleFileCommandsTest, RecentFilesOpenUnlessTheyAreGone) {
     const std::filesystem::path first = fileOfPuzzles("a.txt", 1);
     const std::filesystem::path second = fileOfPuzzles("b.txt", 2);
     commands.load(first);
@@ -277,7 +273,7 @@ TEST_F(LibraryCommandsTest, RecentFilesOpenUnlessTheyAreGone) {
     EXPECT_EQ(display.puzzle.PuzPath, first);
 }
 
-TEST_F(LibraryCommandsTest, ReopeningFallsBackToTheFirstPuzzleOrTheEmptyBoard) {
+TEST_F(PuzzleFileCommandsTest, ReopeningFallsBackToTheFirstPuzzleOrTheEmptyBoard) {
     const std::filesystem::path path = fileOfPuzzles("a.txt", 3);
     commands.reopen(path, 2);
     EXPECT_EQ(display.puzzle.PuzNum, 2);
@@ -292,32 +288,13 @@ TEST_F(LibraryCommandsTest, ReopeningFallsBackToTheFirstPuzzleOrTheEmptyBoard) {
         commands.reopen(none, 1);
         EXPECT_EQ(display.puzzle.PuzNum, 0) << none;
         EXPECT_EQ(display.saveTarget, "");
-        EXPECT_EQ(board.message, "");
+        EXPECT_EQ(display.message, "");
     }
     fileOfPuzzles("a.txt", 2);
     const test::FileCalls calls(test::failing("pread", EIO));
     commands.reopen(path, 1);
     EXPECT_EQ(display.puzzle.PuzNum, 0) << "it cannot be read";
     EXPECT_TRUE(prompts.shown.empty());
-}
-
-TEST_F(LibraryCommandsTest, EverythingIsRefusedWhilePuzzlesAreCreated) {
-    const std::filesystem::path path = fileOfPuzzles("a.txt", 3);
-    commands.load(path);
-    session.busy.creating = true;
-    commands.mnuload();
-    commands.load(path);
-    commands.cmdarrow(1);
-    commands.goTo(2);
-    commands.mnusavex();
-    commands.mnusaveto();
-    commands.mnudelete();
-    EXPECT_EQ(prompts.shown,
-              (std::vector<Message>(7, {"Let AutoCreate finish first", "vbcritical+vbok"})));
-    commands.oldfiles_Click(0);
-    EXPECT_EQ(lastMessage(), (Message{"Cancel Puzzle Creation first", "vbcritical+vbok"}));
-    EXPECT_EQ(display.puzzle.PuzNum, 1);
-    EXPECT_EQ(test::contentOf(path).size(), 3 * 121u);
 }
 
 } // namespace

@@ -1,9 +1,7 @@
 #pragma once
 
 #include "core/base/prompts.h"
-#include "core/play/display.h"
-#include "core/session/file_choice.h"
-#include "core/session/library_display.h"
+#include "core/play/board_input.h"
 #include "core/session/session.h"
 
 #include <filesystem>
@@ -11,12 +9,12 @@
 namespace tessaly {
 
 /// The commands that move through puzzle files and change them, by the names of the controls that
-/// start them. Each is refused with a message while puzzles are being created. The window lives on
-/// while a large file is read or copied; what arrives meanwhile is ignored.
-class LibraryCommands {
+/// start them. The window lives on while a large file is read or copied; what arrives meanwhile is
+/// ignored.
+class PuzzleFileCommands {
 public:
-    LibraryCommands(Session& session, Display& display, LibraryDisplay& libraryDisplay,
-                    Prompts& prompts, FileChoice& fileChoice);
+    PuzzleFileCommands(Session& session, BoardInput& input, Display& display, Prompts& prompts,
+                       FileChoice chooseFile);
 
     /// Lets the user choose a puzzle file and shows its first puzzle.
     void mnuload();
@@ -42,6 +40,12 @@ public:
     /// Reads a puzzle onto the board and shows it. When that fails the board stays as it was and
     /// the message line says so.
     PuzzleRead ReadPuzzle(const std::filesystem::path& path, int number);
+    /// Appends the puzzle on the board to a file and shows it there, as the puzzle `number`.
+    Outcome appendAndShow(const std::filesystem::path& path, int& number);
+    /// The puzzle on the board stands in no file.
+    void showWithoutFile();
+    /// The file of the puzzles that were created without a file.
+    std::filesystem::path temporaryFile() const;
 
 private:
     void showEmptyBoard();
@@ -49,18 +53,16 @@ private:
     void step(int number);
     /// How many puzzles the current file holds now; as many as before when it cannot be read.
     int recount();
-    std::filesystem::path temporaryFile() const;
-    Outcome appendAndShow(const std::filesystem::path& path, int& number);
     bool appendTo(const std::filesystem::path& path);
     Outcome remove(const CurrentPuzzle& puzzle);
     void setSaveTarget(const std::filesystem::path& path);
     void tellCritical(const std::string& text);
 
     Session& m_session;
+    BoardInput& m_input;
     Display& m_display;
-    LibraryDisplay& m_libraryDisplay;
     Prompts& m_prompts;
-    FileChoice& m_fileChoice;
+    FileChoice m_chooseFile;
 };
 
 } // namespace tessaly
