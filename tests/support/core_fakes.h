@@ -1,7 +1,10 @@
 #pragma once
 
-#include "core/play/board_input.h"
+#include "core/files/file_access.h"
+#include "core/session/puzzle_file_commands.h"
+#include "support/sample_puzzles.h"
 #include "support/scripted_prompts.h"
+#include "support/temporary_folder.h"
 
 #include <filesystem>
 #include <functional>
@@ -88,18 +91,40 @@ struct PlayScene {
     BoardInput input{game, busy, commands, display};
 };
 
-/// The file picker, answered by a test.
-struct ScriptedFileChoice {
-    FileChoice choice() {
-        return [this](FileUse use, std::string_view title) {
-            asked.push_back((use == FileUse::Save ? "SAVE: " : "OPEN: ") + std::string(title));
-            return path;
-        };
-    }
+/// A session in a program folder of its own, with its commands on puzzle files.
+struct SessionScene {
+    SessionScene() { session.ProgramFolder = folder.path() / ""; }
 
-    /// The file that the user chooses; empty cancels.
-    std::filesystem::path path;
+    std::filesystem::path fileOf(const std::string& name, const std::string& content) const {
+        const std::filesystem::path path = session.ProgramFolder / name;
+        EXPECT_TRUE(replaceFile(path, content).ok());
+        return path;
+    }
+    /// A file of the first `count` easy puzzles.
+    std::filesystem::path fileOfPuzzles(const std::string& name, std::size_t count) const {
+        std::string content;
+        for (std::size_t i = 0; i < count; ++i)
+            content += records[i] + "\r\n";
+        return fileOf(name, content);
+    }
+    const ScriptedPrompts::Message& lastMessage() { return prompts.shown.back(); }
+
+    const std::vector<std::string> records = sampleRecords("easy.txt");
+    test::TemporaryFolder folder;
+    Session session;
+    RecordingDisplay display;
+    ScriptedPrompts prompts;
+    /// What the player chooses in a file dialog, empty for nothing, and what was asked.
+    std::filesystem::path chosen;
     std::vector<std::string> asked;
+
+    PlayCommands play{session.game, session.appearance, display, prompts};
+    BoardInput input{session.game, session.busy, play, display};
+    PuzzleFileCommands files{
+        session, input, display, prompts, [this](FileUse use, std::string_view title) {
+            asked.push_back((use == FileUse::Save ? "SAVE: " : "OPEN: ") + std::string(title));
+            return chosen;
+        }};
 };
 
 } // namespace tessaly

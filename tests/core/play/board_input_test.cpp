@@ -1,6 +1,5 @@
 #include "core/play/board_input.h"
 
-#include "core/play/board_geometry.h"
 #include "core/play/selection_walk.h"
 #include "support/core_fakes.h"
 #include "support/sample_puzzles.h"
@@ -8,15 +7,17 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <queue>
 
 namespace tessaly {
 namespace {
 
-class BoardInputTest : public testing::Test, protected PlayScene {
-protected:
-    BoardInputTest() { game.board = puzzleWithoutGivens(); }
+constexpr CellId Cell{7, 3};
 
+struct BoardInputTest : testing::Test, PlayScene {
+    BoardInputTest() {
+        game.board = puzzleWithoutGivens();
+        pointAt(Cell);
+    }
     void pointAt(CellId cell) { input.Picture2_MouseMove(numberCentre(cell)); }
     void click(PointerButton button = PointerButton::Left) {
         input.Picture2_MouseDown(button, numberCentre(input.selection()));
@@ -24,164 +25,149 @@ protected:
     }
     /// A key that is also a character arrives through both.
     void key(int code) {
-        int arriving = code;
-        input.Picture2_KeyDown(arriving);
-        arriving = code;
-        input.Picture2_KeyPress(arriving);
+        for (const bool isCharacter : {false, true}) {
+            int arriving = code;
+            isCharacter ? input.Picture2_KeyPress(arriving) : input.Picture2_KeyDown(arriving);
+            EXPECT_EQ(arriving, busy.isBusy() ? code : 0) << "consumed";
+        }
     }
-    const std::string& entry(CellId cell) const { return game.board.CellNum[cell]; }
+    const std::string& entry(CellId cell = Cell) const { return game.board.CellNum[cell]; }
 };
 
 TEST_F(BoardInputTest, SelectionFollowsThePointerOverCellsThatMayBeFilled) {
+    EXPECT_EQ(input.SelHex(), 7);
+    EXPECT_EQ(input.SelCell(), 3);
+    EXPECT_EQ(display.marker, Cell);
+    EXPECT_GT(display.focused, 0);
     game.board.BlankHex = 5;
     game.board.FixedCell[1][2] = true;
-    pointAt({1, 1});
-    EXPECT_EQ(input.SelHex(), 1);
-    EXPECT_EQ(input.SelCell(), 1);
-    EXPECT_EQ(display.marker, (CellId{1, 1}));
-    EXPECT_GT(display.focused, 0);
-    for (CellId cell : {CellId{1, 2}, CellId{5, 3}}) {
-        pointAt({1, 1});
-        pointAt(cell);
+    for (const Point outside : {numberCentre({1, 2}), numberCentre({5, 3}), Point{-5, 3}}) {
+        pointAt(Cell);
+        input.Picture2_MouseMove(outside);
         EXPECT_EQ(input.SelHex(), -1);
         EXPECT_EQ(input.SelCell(), -1);
         EXPECT_FALSE(display.marker);
         key('3');
+        click();
+        click(PointerButton::Right);
+        input.openPopupAtSelection();
         EXPECT_TRUE(game.undoList.empty());
+        EXPECT_FALSE(display.popupShown);
     }
-    input.Picture2_MouseMove({-5, 3});
-    EXPECT_EQ(input.SelHex(), -1);
 }
 
 TEST_F(BoardInputTest, AKeyThatArrivesTwiceTypesOnceButClearsTwice) {
-    pointAt({7, 3});
-    key('3');
-    key('5');
-    EXPECT_EQ(entry({7, 3}), "35");
-    EXPECT_EQ(game.undoList.size(), 1u);
-    key(8);
-    EXPECT_EQ(entry({7, 3}), "");
-    EXPECT_EQ(game.undoList.size(), 3u);
-    int code = 'a';
-    input.Picture2_KeyPress(code);
-    EXPECT_EQ(code, 0) << "consumed";
-    EXPECT_EQ(entry({7, 3}), "");
-    for (const int clearing : {8, 27, 46}) {
-        game.place({7, 3}, "4");
-        key(clearing);
-        EXPECT_EQ(entry({7, 3}), "") << clearing;
+    struct Row {
+        int code;
+        const char* entry;
+        std::size_t records;
+        std::size_t drawn;
+    };
+    for (const auto& [code, expected, records, drawn] : {
+             Row{'3', "3", 1, 1}, // what changes nothing is not drawn
+             Row{'5', "35", 1, 2},
+             Row{'7', "35", 1, 2},
+             Row{'a', "35", 1, 2},
+             Row{8, "", 3, 3},
+             Row{'0', "0", 4, 4},
+             Row{27, "", 6, 5},
+             Row{'6', "6", 7, 6},
+             Row{46, "", 9, 7},
+         }) {
+        key(code);
+        EXPECT_EQ(entry(), expected) << code;
+        EXPECT_EQ(game.undoList.size(), records) << code;
+        EXPECT_EQ(display.drawn.size(), drawn) << code;
     }
-    game.place({7, 3}, "4");
-    const std::size_t before = game.undoList.size();
-    for (const int idle : {0, int{' '}, int{'/'}, int{'7'}})
-        key(idle);
-    EXPECT_EQ(game.undoList.size(), before);
-    key(8);
-    key('0');
-    EXPECT_EQ(entry({7, 3}), "0");
-    key('7');
-    EXPECT_EQ(entry({7, 3}), "0");
+    int none = 0;
+    input.Picture2_KeyDown(none);
+    EXPECT_EQ(game.undoList.size(), 9u);
 }
 
 TEST_F(BoardInputTest, ThePalettePlacesAndErases) {
-    pointAt({7, 3});
     click();
     EXPECT_TRUE(game.undoList.empty()) << "no item pressed";
     input.digt_MouseUp(3, PointerButton::Left);
     EXPECT_EQ(display.palette, 3);
-    pointAt({7, 3});
+    click(PointerButton::Right);
+    EXPECT_EQ(entry(), "") << "that opens the pop-up and enters nothing";
     click();
-    EXPECT_EQ(entry({7, 3}), "4");
+    EXPECT_EQ(entry(), "4");
     click();
     EXPECT_EQ(game.undoList.size(), 2u) << "always a record";
-    input.digt_MouseUp(6, PointerButton::Left);
-    EXPECT_EQ(display.palette, 6);
+    input.digt_MouseUp(BoardInput::PaletteEraser, PointerButton::Left);
     click();
-    EXPECT_EQ(entry({7, 3}), "");
-    input.digt_MouseUp(6, PointerButton::Left);
-    EXPECT_EQ(display.palette, BoardInput::NoPaletteItem) << "a second press releases";
-    input.digt_MouseUp(2, PointerButton::Left);
-    input.digt_MouseUp(4, PointerButton::Other);
-    EXPECT_EQ(display.palette, 2);
-    input.digt_MouseUp(0, PointerButton::Right);
-    EXPECT_EQ(display.palette, BoardInput::NoPaletteItem);
+    EXPECT_EQ(entry(), "");
+    struct Row {
+        int item;
+        PointerButton button;
+        int pressed;
+    };
+    for (const auto& [item, button, pressed] :
+         {Row{6, PointerButton::Left, BoardInput::NoPaletteItem}, Row{2, PointerButton::Left, 2},
+          Row{4, PointerButton::Other, 2},
+          Row{0, PointerButton::Right, BoardInput::NoPaletteItem}}) {
+        input.digt_MouseUp(item, button);
+        EXPECT_EQ(display.palette, pressed);
+    }
 }
 
 TEST_F(BoardInputTest, ThePopupActsOnTheCellThatItWasOpenedFor) {
+    input.Num16_Click(2);
+    EXPECT_EQ(entry(), "") << "it is for no cell yet";
     display.message = "old";
-    pointAt({7, 3});
-    click(PointerButton::Right);
-    EXPECT_TRUE(display.popupShown);
-    EXPECT_FALSE(display.popupUpwards);
-    EXPECT_EQ(display.message, "");
-    pointAt({8, 1});
-    input.Num16_Click(4);
-    EXPECT_EQ(entry({7, 3}), "5");
-    EXPECT_EQ(entry({8, 1}), "");
-    EXPECT_FALSE(display.popupShown);
-
-    pointAt({7, 3});
-    click(PointerButton::Right);
-    input.Num16_Click(BoardInput::PopupEraser);
-    EXPECT_EQ(entry({7, 3}), "");
-    EXPECT_EQ(game.undoList.size(), 2u);
-
-    click(PointerButton::Right);
-    input.Num16_Click(BoardInput::PopupClose);
-    EXPECT_EQ(game.undoList.size(), 2u);
-    EXPECT_FALSE(display.popupShown);
-}
-
-TEST_F(BoardInputTest, ThePopupSetsTheLastNumberOfItsHexagonAndCopiesAcrossSides) {
     game.board.CellNum[7] = {"", "1", "2", "", "4", "5", "6"};
-    pointAt({7, 1});
-    click(PointerButton::Right);
-    input.Num16_Click(BoardInput::PopupSingle);
-    EXPECT_EQ(entry({7, 3}), "3");
-    EXPECT_EQ(game.undoList.text(0), "0703") << "a single record";
-    click(PointerButton::Right);
-    input.Num16_Click(BoardInput::PopupSideCopy);
-    EXPECT_EQ(entry({5, 6}), "3");
+    struct Row {
+        int button;
+        const char* entry;
+        const char* record;
+    };
+    for (const auto& [button, expected, record] : {
+             Row{BoardInput::PopupSingle, "3", "0703"},
+             Row{BoardInput::PopupSingle, "3", "0703"}, // the hexagon is full
+             Row{4, "5", "07033"},
+             Row{BoardInput::PopupClose, "5", "07033"},
+             Row{BoardInput::PopupEraser, "", "07035"},
+             Row{2, "3", "0703"},
+             Row{BoardInput::PopupSideCopy, "3", "*"},
+         }) {
+        pointAt(Cell);
+        input.openPopupAtSelection();
+        EXPECT_TRUE(display.popupShown && !display.popupUpwards);
+        EXPECT_EQ(display.popupCorner, numberCentre(Cell));
+        EXPECT_EQ(display.message, "");
+        pointAt({8, 1});
+        input.Num16_Click(button);
+        EXPECT_EQ(entry(), expected) << button;
+        EXPECT_TRUE(game.undoList.text(0).ends_with(record)) << game.undoList.text(0);
+        EXPECT_FALSE(display.popupShown);
+    }
     EXPECT_EQ(display.message, " 6 Cells Fixed");
-
-    const Board before = game.board;
-    click(PointerButton::Right);
-    input.Num16_Click(BoardInput::PopupSingle);
-    EXPECT_EQ(game.board, before) << "the hexagon is full";
 }
 
-TEST_F(BoardInputTest, ThePopupOpensUpwardsAtTheBottomAndHides) {
+TEST_F(BoardInputTest, ThePopupOpensUpwardsAtTheBottomAndIsHidden) {
     for (CellId cell :
          {CellId{17, 4}, CellId{19, 1}, CellId{19, 2}, CellId{19, 3}, CellId{18, 6}}) {
         pointAt(cell);
         click(PointerButton::Right);
         EXPECT_TRUE(display.popupUpwards);
     }
-    input.Timer1_Timer();
-    EXPECT_FALSE(display.popupShown);
-    click(PointerButton::Right);
-    click(PointerButton::Left);
-    EXPECT_FALSE(display.popupShown);
-    click(PointerButton::Right);
-    input.Picture2_MouseMove({-1, -1});
-    input.Picture2_MouseUp(PointerButton::Left);
-    EXPECT_FALSE(display.popupShown);
-}
-
-TEST_F(BoardInputTest, WithoutASelectionThereIsNoPopup) {
-    input.openPopupAtSelection();
-    input.Picture2_MouseDown(PointerButton::Right, {100, 100});
-    EXPECT_FALSE(display.popupShown);
-    input.Num16_Click(2);
-    EXPECT_EQ(game.board, puzzleWithoutGivens());
-    pointAt({7, 3});
-    input.openPopupAtSelection();
-    EXPECT_TRUE(display.popupShown);
-    EXPECT_EQ(display.popupCorner, numberCentre({7, 3}));
-    input.pointerLeft();
+    const auto hides = [this](const auto& what) {
+        pointAt(Cell);
+        click(PointerButton::Right);
+        what();
+        return !display.popupShown;
+    };
+    EXPECT_TRUE(hides([&] { input.Timer1_Timer(); }));
+    EXPECT_TRUE(hides([&] { click(); }));
+    EXPECT_TRUE(hides([&] {
+        input.pointerLeft();
+        input.Picture2_MouseUp(PointerButton::Left);
+    }));
+    EXPECT_TRUE(hides([&] { input.forgetSelection(); }));
     EXPECT_FALSE(input.selection());
     input.Num16_Click(2);
-    EXPECT_EQ(entry({7, 3}), "3") << "the pop-up still knows its cell";
+    EXPECT_EQ(game.board, puzzleWithoutGivens()) << "its cell was another puzzle's";
 }
 
 TEST_F(BoardInputTest, PeekingShowsCandidatesOnlyWhileHeld) {
@@ -191,16 +177,16 @@ TEST_F(BoardInputTest, PeekingShowsCandidatesOnlyWhileHeld) {
     EXPECT_EQ(display.peeked[2], "12345");
     EXPECT_EQ(game.board, before);
     input.Celltags_MouseUp();
+    input.Celltags_MouseUp();
     EXPECT_EQ(display.drawn, std::vector<int>{10});
-    EXPECT_EQ(game.undoList.size(), 1u);
+    display.peeked = {};
     game.board = Board();
     input.Celltags_MouseDown(10);
-    EXPECT_EQ(game.board, Board()) << "there is no puzzle";
+    EXPECT_EQ(display.peeked[2], "") << "there is no puzzle";
 }
 
-TEST_F(BoardInputTest, NothingIsEnteredWhilePuzzlesAreCreated) {
+TEST_F(BoardInputTest, NothingIsEnteredWhileACommandIsUnderWay) {
     input.digt_MouseUp(3, PointerButton::Left);
-    pointAt({7, 3});
     input.openPopupAtSelection();
     busy.creating = true;
     key('3');
@@ -210,64 +196,37 @@ TEST_F(BoardInputTest, NothingIsEnteredWhilePuzzlesAreCreated) {
     input.selectFirst();
     input.selectLast();
     input.pointerLeft();
-    EXPECT_EQ(input.selection(), (CellId{7, 3}));
+    EXPECT_EQ(input.selection(), Cell);
     input.Celltags_MouseDown(10);
     input.Num16_Click(2);
     EXPECT_FALSE(display.popupShown);
-    input.Picture2_MouseDown(PointerButton::Right, {100, 100});
+    input.openPopupAtSelection();
     EXPECT_FALSE(display.popupShown);
     EXPECT_EQ(game.board, puzzleWithoutGivens());
+    EXPECT_TRUE(display.drawn.empty());
 }
 
-/// The cells that the arrow keys reach from the first one.
-int cellsReachedByArrows(const Game& game) {
-    Grid<bool> seen;
-    std::queue<CellId> open;
-    int count = 0;
-    const auto visit = [&](CellId cell) {
-        if (seen[cell])
-            return;
-        seen[cell] = true;
-        ++count;
-        open.push(cell);
-    };
-    visit(firstSelectable(game));
-    while (!open.empty()) {
-        const CellId cell = open.front();
-        open.pop();
-        visit(cellBeside(game, cell, 1, 0));
-        visit(cellBeside(game, cell, -1, 0));
-        visit(cellBeside(game, cell, 0, 1));
-        visit(cellBeside(game, cell, 0, -1));
-    }
-    return count;
-}
-
-TEST(SelectionWalk, ArrowKeysReachEveryCellOfEveryPuzzle) {
+TEST_F(BoardInputTest, ArrowsHomeAndEndReachEveryCellThatMayBeFilled) {
     for (const char* file : {"easy.txt", "hard.txt"}) {
-        for (const std::string& record : sampleRecords(file)) {
-            Game game;
-            game.board = boardOf(record);
-            const auto selectable =
-                std::count_if(AllCells.begin(), AllCells.end(),
-                              [&game](CellId cell) { return game.isSelectable(cell); });
-            EXPECT_EQ(cellsReachedByArrows(game), selectable) << record;
-        }
+        game.board = boardOf(sampleRecords(file).front());
+        std::vector<CellId> reached{firstSelectable(game)};
+        for (std::size_t i = 0; i < reached.size(); ++i)
+            for (const auto& [columns, rows] : {std::pair(1, 0), {-1, 0}, {0, 1}, {0, -1}})
+                if (const CellId next = cellBeside(game, reached[i], columns, rows);
+                    std::find(reached.begin(), reached.end(), next) == reached.end())
+                    reached.push_back(next);
+        EXPECT_EQ(std::ssize(reached),
+                  std::count_if(AllCells.begin(), AllCells.end(),
+                                [this](CellId cell) { return game.isSelectable(cell); }));
     }
-}
-
-TEST_F(BoardInputTest, ArrowsHomeAndEndMoveTheSelection) {
-    game.board.BlankHex = 5;
+    game.board = puzzleWithoutGivens();
+    input.pointerLeft();
     input.moveSelection(1, 0);
-    EXPECT_EQ(input.selection(), firstSelectable(game));
-    EXPECT_EQ(input.selection().hexagon, 1);
+    EXPECT_EQ(input.selection(), (CellId{1, 2}));
     input.selectLast();
     EXPECT_EQ(input.selection(), (CellId{19, 5}));
     input.moveSelection(0, 1);
     EXPECT_EQ(input.selection(), (CellId{19, 5})) << "there is nothing below";
-    pointAt({2, 5});
-    input.moveSelection(1, 0);
-    EXPECT_NE(input.selection().hexagon, 5) << "the blank hexagon is stepped over";
     input.pointerLeft();
     input.moveSelection(-1, 0);
     EXPECT_EQ(input.selection(), (CellId{19, 5}));

@@ -1,80 +1,53 @@
 #include "core/session/puzzle_file_commands.h"
 
-#include "core/files/file_access.h"
 #include "support/core_fakes.h"
 #include "support/file_calls.h"
-#include "support/sample_puzzles.h"
-#include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 
 #include <cerrno>
-#include <filesystem>
 
 namespace tessaly {
 namespace {
 
-class PuzzleFileCommandsTest : public testing::Test {
-protected:
-    using Message = ScriptedPrompts::Message;
+namespace fs = std::filesystem;
+using Message = ScriptedPrompts::Message;
 
-    PuzzleFileCommandsTest() { session.ProgramFolder = folder.path().string() + "/"; }
+struct PuzzleFileCommandsTest : testing::Test, SessionScene {
     ~PuzzleFileCommandsTest() override { EXPECT_EQ(display.busyDepth, 0); }
-
-    std::filesystem::path fileOf(const std::string& name, const std::string& content) {
-        std::filesystem::path path = session.ProgramFolder / name;
-        EXPECT_TRUE(replaceFile(path, content).ok());
-        return path;
-    }
-    std::filesystem::path fileOfPuzzles(const std::string& name, std::size_t count) {
-        std::string content;
-        for (std::size_t i = 0; i < count; ++i)
-            content += records[i] + "\r\n";
-        return fileOf(name, content);
-    }
-    const Message& lastMessage() { return prompts.shown.back(); }
-
-    const std::vector<std::string> records = sampleRecords("easy.txt");
-    test::TemporaryFolder folder;
-    Session session;
-    RecordingDisplay display;
-    ScriptedPrompts prompts;
-    ScriptedFileChoice choice;
-    PlayCommands play{session.game, session.appearance, display, prompts};
-    BoardInput input{session.game, session.busy, play, display};
-    PuzzleFileCommands commands{session, input, display, prompts, choice.choice()};
+    int number() const { return display.puzzle.PuzNum; }
 };
 
 TEST_F(PuzzleFileCommandsTest, LoadShowsTheFirstPuzzleAndRemembersTheFile) {
-    choice.path = fileOfPuzzles("a.txt", 3);
+    const fs::path path = chosen = fileOfPuzzles("a.txt", 3);
     session.game.undoList.push({1, 1}, false, "");
-    commands.mnuload();
-    EXPECT_EQ(choice.asked, std::vector<std::string>{"OPEN: Select a Puzzle file to open"});
-    EXPECT_EQ(display.puzzle.PuzNum, 1);
+    files.mnuload();
+    EXPECT_EQ(asked, std::vector<std::string>{"OPEN: Select a Puzzle file to open"});
+    EXPECT_EQ(number(), 1);
     EXPECT_EQ(display.puzzle.PuzCount, 3);
-    EXPECT_EQ(display.saveTarget, choice.path);
-    EXPECT_EQ(display.recent, std::vector<std::filesystem::path>{choice.path});
+    EXPECT_EQ(display.saveTarget, path);
     EXPECT_EQ(session.game.board, boardOf(records[0]));
     EXPECT_TRUE(session.game.undoList.empty());
-    choice.path.clear();
-    commands.mnuload();
-    EXPECT_EQ(display.puzzle.PuzNum, 1);
+    chosen.clear();
+    files.mnuload();
+    files.load(fileOfPuzzles("temporarypuzfile.txt", 1));
+    EXPECT_EQ(display.puzzle.PuzPath.filename(), "temporarypuzfile.txt");
+    EXPECT_EQ(session.recentFiles.paths(), std::vector<fs::path>{path});
+    EXPECT_EQ(display.recent, std::vector<fs::path>{path}) << "the temporary file is none of them";
     EXPECT_TRUE(prompts.shown.empty());
 }
 
 TEST_F(PuzzleFileCommandsTest, AFileThatHoldsNoPuzzleIsRefusedAndNothingChanges) {
-    commands.load(fileOfPuzzles("a.txt", 2));
+    files.load(fileOfPuzzles("a.txt", 2));
     session.game.place({1, 1}, "3");
     const Board before = session.game.board;
-    const std::vector<std::filesystem::path> bad{
-        fileOf("empty.txt", ""), fileOf("short.txt", records[0].substr(0, 118) + "\r\n"),
-        fileOf("header.txt", "EXX00" + records[0].substr(5)), folder.path(),
-        session.ProgramFolder / "gone.txt"};
-    for (const std::filesystem::path& path : bad) {
-        prompts.shown.clear();
-        commands.load(path);
-        EXPECT_EQ(prompts.shown, (std::vector<Message>{{"Error reading file:\r\n" + path.native(),
-                                                        "vbcritical+vbok"}}));
+    for (const fs::path& path :
+         {fileOf("empty.txt", ""), fileOf("short.txt", records[0].substr(0, 118) + "\r\n"),
+          fileOf("header.txt", "EXX00" + records[0].substr(5)), folder.path(),
+          session.ProgramFolder / "gone.txt"}) {
+        files.load(path);
+        EXPECT_EQ(lastMessage(),
+                  (Message{"Error reading file:\r\n" + path.native(), "vbcritical+vbok"}));
         EXPECT_EQ(display.message, "Error reading p# 1");
         EXPECT_EQ(session.game.board, before);
         EXPECT_EQ(session.game.undoList.size(), 1u);
@@ -82,191 +55,157 @@ TEST_F(PuzzleFileCommandsTest, AFileThatHoldsNoPuzzleIsRefusedAndNothingChanges)
     }
 }
 
-TEST_F(PuzzleFileCommandsTest, SteppingWrapsAroundBothEnds) {
-    commands.cmdarrow(1);
-    commands.goTo(1);
-    commands.mnudelete();
-    EXPECT_EQ(display.puzzle.PuzNum, 0) << "no puzzle is shown";
-    commands.load(fileOfPuzzles("one.txt", 1));
+TEST_F(PuzzleFileCommandsTest, SteppingWrapsAroundBothEndsOfWhatTheFileHoldsNow) {
+    files.cmdarrow(1);
+    files.goTo(1);
+    files.mnudelete();
+    EXPECT_EQ(number(), 0) << "no puzzle is shown";
+    files.load(fileOfPuzzles("a.txt", 1));
     session.game.place({1, 5}, "4");
-    commands.cmdarrow(1);
+    files.cmdarrow(1);
     EXPECT_EQ(session.game.undoList.size(), 1u) << "the only puzzle is not read again";
-    commands.load(fileOfPuzzles("a.txt", 3));
-    commands.cmdarrow(0);
-    EXPECT_EQ(display.puzzle.PuzNum, 3);
-    commands.cmdarrow(1);
-    EXPECT_EQ(display.puzzle.PuzNum, 1);
-    commands.goTo(2);
-    EXPECT_EQ(session.game.board, boardOf(records[1]));
-    for (int outside : {0, 4, -1})
-        commands.goTo(outside);
-    EXPECT_EQ(display.puzzle.PuzNum, 2);
-    EXPECT_TRUE(prompts.shown.empty());
-}
-
-TEST_F(PuzzleFileCommandsTest, CommandsWorkOnWhatTheFileHoldsNow) {
-    const std::filesystem::path path = fileOfPuzzles("a.txt", 3);
-    commands.load(path);
-    commands.goTo(3);
-    fileOfPuzzles("a.txt", 5);
-    commands.cmdarrow(1);
-    EXPECT_EQ(display.puzzle.PuzNum, 4) << "the file has grown";
-    commands.goTo(5);
-    EXPECT_EQ(display.puzzle.PuzNum, 5);
-    fileOfPuzzles("a.txt", 2);
-    commands.goTo(3);
-    EXPECT_EQ(display.puzzle.PuzNum, 5) << "there is no puzzle 3 any more";
-    commands.cmdarrow(0);
-    EXPECT_EQ(display.puzzle.PuzNum, 2);
-    EXPECT_EQ(display.puzzle.PuzCount, 2);
-    fileOfPuzzles("a.txt", 1);
-    commands.cmdarrow(1);
-    EXPECT_EQ(display.puzzle.PuzNum, 1);
+    constexpr int Previous = -1;
+    constexpr int Next = -2;
+    struct Row {
+        std::size_t count;
+        int step; // or the number to go to
+        int number;
+    };
+    for (const auto& [count, step, expected] :
+         {Row{3, Previous, 3}, Row{3, Next, 1}, Row{3, 2, 2}, Row{3, 0, 2}, Row{3, 4, 2},
+          Row{3, 3, 3}, Row{5, Next, 4}, Row{5, 5, 5}, Row{2, 3, 5}, Row{2, Previous, 2},
+          Row{1, Next, 1}}) {
+        fileOfPuzzles("a.txt", count);
+        step >= 0 ? files.goTo(step) : files.cmdarrow(step == Previous ? 0 : 1);
+        EXPECT_EQ(number(), expected) << count << ", " << step;
+    }
     EXPECT_TRUE(prompts.shown.empty());
 }
 
 TEST_F(PuzzleFileCommandsTest, AFileThatIsEmptyOrGoneIsSaidAndTheBoardStays) {
-    const std::filesystem::path path = fileOfPuzzles("a.txt", 3);
-    commands.load(path, 3);
+    const fs::path path = fileOfPuzzles("a.txt", 3);
+    files.load(path, 3);
     const Board before = session.game.board;
     fileOf("a.txt", "");
-    for (int item : {0, 1}) {
-        commands.cmdarrow(item);
+    for (const int item : {0, 1}) {
+        files.cmdarrow(item);
         EXPECT_EQ(display.message, "Error reading p# 1");
     }
     EXPECT_TRUE(prompts.shown.empty());
-    std::filesystem::remove(path);
-    commands.cmdarrow(0);
+    fs::remove(path);
+    files.cmdarrow(0);
     ASSERT_EQ(prompts.shown.size(), 1u);
     EXPECT_NE(lastMessage().text.find(path), std::string::npos);
     EXPECT_EQ(session.game.board, before);
-    EXPECT_EQ(display.puzzle.PuzNum, 3);
+    EXPECT_EQ(number(), 3);
 }
 
-TEST_F(PuzzleFileCommandsTest, WhatArrivesWhileALargeFileIsReadOrCopiedIsIgnored) {
+TEST_F(PuzzleFileCommandsTest, TheWindowLivesWhileALargeFileIsReadOrCopied) {
     std::string content;
     while (content.size() < 500'000)
         content += records[content.size() % 7] + "\r\n";
-    const std::filesystem::path path = fileOf("large.txt", content);
-    int arrived = 0;
+    const fs::path path = fileOf("large.txt", content);
+    int turns = 0;
     display.onYield = [&] {
-        ++arrived;
+        ++turns;
         EXPECT_GT(display.busyDepth, 0);
-        EXPECT_TRUE(session.busy.refuses(prompts));
+        EXPECT_TRUE(session.busy.refuses(prompts)) << "silently";
     };
-    commands.load(path);
-    EXPECT_EQ(display.puzzle.PuzNum, 1);
-    EXPECT_GE(arrived, 5);
-    prompts.answers = {answer::Yes, answer::Ok};
-    arrived = 0;
-    commands.mnudelete();
-    EXPECT_GE(arrived, 5);
+    files.load(path);
+    EXPECT_GE(turns, 5);
+    EXPECT_TRUE(prompts.shown.empty());
+    prompts.answers = {answer::Yes};
+    turns = 0;
+    files.mnudelete();
+    EXPECT_GE(turns, 5);
     EXPECT_EQ(test::contentOf(path), content.substr(RecordLength + 2));
-    EXPECT_EQ(prompts.shown.size(), 2u);
     EXPECT_FALSE(session.busy.isBusy());
 }
 
-TEST_F(PuzzleFileCommandsTest, APuzzleThatStandsInNoFileCanStillBeSaved) {
-    choice.path = session.ProgramFolder / "rescued.txt";
-    commands.mnusavex();
-    EXPECT_TRUE(choice.asked.empty()) << "there is no puzzle";
-    session.game.board = boardOf(records[0]);
-    commands.mnusavex();
-    EXPECT_EQ(test::contentOf(choice.path), records[0] + "\r\n");
-    EXPECT_EQ(display.puzzle.PuzNum, 1);
-    choice.path.clear();
-    commands.mnusavex();
-    EXPECT_EQ(prompts.shown.size(), 1u) << "no file was chosen";
-}
-
 TEST_F(PuzzleFileCommandsTest, SavingAppendsThePlayAndShowsTheCopy) {
-    commands.load(fileOfPuzzles("a.txt", 1));
-    session.game.place({1, 5}, "4");
-    choice.path = session.ProgramFolder / "new.txt";
-    commands.mnusavex();
-    EXPECT_EQ(choice.asked, std::vector<std::string>{"SAVE: Select an output Puzzle file"});
+    files.mnusavex();
+    EXPECT_TRUE(asked.empty()) << "there is no puzzle";
+    session.game.board = boardOf(records[0]); // which stands in no file
+    session.game.place({1, 5}, "6");
+    files.mnusavex();
+    EXPECT_TRUE(prompts.shown.empty()) << "no file was chosen";
+    chosen = session.ProgramFolder / "new.txt";
+    files.mnusavex();
+    EXPECT_EQ(asked.back(), "SAVE: Select an output Puzzle file");
     EXPECT_EQ(lastMessage(),
-              (Message{"Puzzle#1 added to file " + choice.path.native(), "vbok+vbinformation"}));
-    EXPECT_EQ(display.saveTarget, choice.path);
-    EXPECT_EQ(session.game.board.CellNum[1][5], "4");
-    commands.mnusaveto();
-    EXPECT_EQ(lastMessage().text, "Puzzle#2 added to file " + choice.path.native());
-    EXPECT_EQ(display.puzzle.PuzNum, 2);
+              (Message{"Puzzle#1 added to file " + chosen.native(), "vbok+vbinformation"}));
+    EXPECT_EQ(display.saveTarget, chosen);
+    EXPECT_EQ(session.game.board.CellNum[1][5], "6");
+    files.mnusaveto();
+    EXPECT_EQ(lastMessage().text, "Puzzle#2 added to file " + chosen.native());
+    EXPECT_EQ(number(), 2);
     const std::string saved = PuzzleRecord(session.game.board) + "\r\n";
-    EXPECT_EQ(test::contentOf(choice.path), saved + saved);
-
-    prompts.shown.clear();
-    std::filesystem::remove(choice.path);
-    commands.mnusaveto();
-    EXPECT_TRUE(prompts.shown.empty()) << "only a file that exists";
+    EXPECT_EQ(test::contentOf(chosen), saved + saved);
 }
 
 TEST_F(PuzzleFileCommandsTest, AFailedSaveIsSaidAndKeepsThePlay) {
-    commands.load(fileOfPuzzles("a.txt", 1));
+    files.load(fileOfPuzzles("a.txt", 1));
     session.game.place({1, 5}, "4");
     const Board before = session.game.board;
-    choice.path = session.ProgramFolder / "no/such/folder.txt";
-    commands.mnusavex();
-    EXPECT_EQ(lastMessage().style, "vbok+vbcritical");
-    EXPECT_NE(lastMessage().text.find(choice.path), std::string::npos);
+    chosen = session.ProgramFolder / "no/such/folder.txt";
+    files.mnusavex();
+    EXPECT_EQ(lastMessage(),
+              (Message{chosen.native() + ": cannot be written: No such file or directory",
+                       "vbok+vbcritical"}));
     EXPECT_EQ(session.game.board, before);
     EXPECT_EQ(session.game.undoList.size(), 1u);
-    EXPECT_NE(display.saveTarget, choice.path);
+    EXPECT_NE(display.saveTarget, chosen);
 }
 
 TEST_F(PuzzleFileCommandsTest, DeleteAsksRemovesThePuzzleAndShowsTheFirst) {
-    const std::filesystem::path path = fileOfPuzzles("a.txt", 3);
-    commands.load(path, 2);
-    prompts.answers = {7};
-    commands.mnudelete();
-    EXPECT_EQ(lastMessage(), (Message{"Delete current puzzle from file?", "vbyesno+vbquestion"}));
-    EXPECT_EQ(test::contentOf(path).size(), 3 * 121u);
-    prompts.answers = {answer::Yes, 1};
-    commands.mnudelete();
+    const fs::path path = fileOfPuzzles("a.txt", 3);
+    const std::string content = test::contentOf(path);
+    files.load(path, 2);
+    for (const int no : {answer::No, answer::None}) {
+        prompts.answers = {no};
+        files.mnudelete();
+        EXPECT_EQ(lastMessage(),
+                  (Message{"Delete current puzzle from file?", "vbyesno+vbquestion"}));
+        EXPECT_EQ(test::contentOf(path), content);
+    }
+    prompts.answers = {answer::Yes};
+    files.mnudelete();
     EXPECT_EQ(lastMessage(), (Message{"Done", "vbinformation+vbok"}));
     EXPECT_EQ(test::contentOf(path), records[0] + "\r\n" + records[2] + "\r\n");
-    EXPECT_EQ(display.puzzle.PuzNum, 1);
+    EXPECT_EQ(number(), 1);
     EXPECT_EQ(display.puzzle.PuzCount, 2);
-}
 
-TEST_F(PuzzleFileCommandsTest, AnotherPuzzleThanTheOneShownIsNotDeleted) {
-    const std::filesystem::path path = fileOfPuzzles("a.txt", 2);
-    commands.load(path);
-    const std::string swapped = records[1] + "\r\n" + records[0] + "\r\n";
-    fileOf("a.txt", swapped);
-    prompts.answers = {answer::Yes, answer::Ok};
-    commands.mnudelete();
-    EXPECT_EQ(lastMessage().style, "vbok+vbcritical");
-    EXPECT_NE(lastMessage().text.find("nothing was deleted"), std::string::npos);
-    EXPECT_EQ(test::contentOf(path), swapped);
-    EXPECT_EQ(session.game.board, boardOf(records[0]));
+    fileOf("a.txt", records[2] + "\r\n" + records[0] + "\r\n");
+    prompts.answers = {answer::Yes};
+    files.mnudelete();
+    EXPECT_NE(lastMessage().text.find("nothing was deleted"), std::string::npos)
+        << "another puzzle than the one shown";
+    EXPECT_EQ(test::contentOf(path), records[2] + "\r\n" + records[0] + "\r\n");
 }
 
 TEST_F(PuzzleFileCommandsTest, DeletingTheOnlyPuzzleLeavesAnEmptyFile) {
-    const std::filesystem::path path = fileOfPuzzles("temporarypuzfile.txt", 1);
-    commands.load(path);
-    prompts.answers = {answer::Yes, 1};
-    commands.mnudelete();
+    const fs::path path = fileOfPuzzles("temporarypuzfile.txt", 1);
+    files.load(path);
+    prompts.answers = {answer::Yes};
+    files.mnudelete();
     EXPECT_EQ(test::contentOf(path), "");
     EXPECT_EQ(display.message, "Error reading p# 1");
     EXPECT_EQ(lastMessage().text, "Done");
 }
 
 TEST_F(PuzzleFileCommandsTest, RecentFilesOpenUnlessTheyAreGone) {
-    const std::filesystem::path first = fileOfPuzzles("a.txt", 1);
-    const std::filesystem::path second = fileOfPuzzles("b.txt", 2);
-    commands.load(first);
-    commands.load(second);
-    EXPECT_EQ(display.recent, (std::vector<std::filesystem::path>{second, first}));
-    commands.oldfiles_Click(1);
+    const fs::path first = fileOfPuzzles("a.txt", 1);
+    const fs::path second = fileOfPuzzles("b.txt", 2);
+    files.load(first);
+    files.load(second);
+    files.oldfiles_Click(1);
     EXPECT_EQ(display.puzzle.PuzPath, first);
-    EXPECT_EQ(display.recent, (std::vector<std::filesystem::path>{second, first}))
-        << "it keeps its place";
-    std::filesystem::remove(second);
-    commands.oldfiles_Click(0);
+    EXPECT_EQ(display.recent, (std::vector<fs::path>{second, first})) << "each keeps its place";
+    fs::remove(second);
+    files.oldfiles_Click(0);
     EXPECT_EQ(lastMessage(), (Message{"File not found:\r\n" + second.native(), "vbcritical+vbok"}));
     fileOf("b.txt", "no puzzle\r\n");
-    commands.oldfiles_Click(0);
+    files.oldfiles_Click(0);
     EXPECT_EQ(lastMessage(),
               (Message{"Error reading file:\r\n" + second.native(), "vbcritical+vbok"}));
     EXPECT_EQ(display.saveTarget, first);
@@ -274,26 +213,26 @@ TEST_F(PuzzleFileCommandsTest, RecentFilesOpenUnlessTheyAreGone) {
 }
 
 TEST_F(PuzzleFileCommandsTest, ReopeningFallsBackToTheFirstPuzzleOrTheEmptyBoard) {
-    const std::filesystem::path path = fileOfPuzzles("a.txt", 3);
-    commands.reopen(path, 2);
-    EXPECT_EQ(display.puzzle.PuzNum, 2);
+    const fs::path path = fileOfPuzzles("a.txt", 3);
+    files.reopen(path, 2);
+    EXPECT_EQ(number(), 2);
     EXPECT_EQ(display.saveTarget, path);
-    commands.reopen(path, 4);
-    EXPECT_EQ(display.puzzle.PuzNum, 1);
+    files.reopen(path, 4);
+    EXPECT_EQ(number(), 1);
     EXPECT_TRUE(display.recent.empty());
-    for (const std::filesystem::path& none :
-         {std::filesystem::path("  "), fileOfPuzzles("temporarypuzfile.txt", 1),
+    for (const fs::path& none :
+         {fs::path("  "), fileOfPuzzles("temporarypuzfile.txt", 1),
           session.ProgramFolder / "gone.txt", fileOf("broken.txt", "no puzzle\r\n")}) {
-        commands.reopen(path, 1);
-        commands.reopen(none, 1);
-        EXPECT_EQ(display.puzzle.PuzNum, 0) << none;
+        files.reopen(path, 1);
+        files.reopen(none, 1);
+        EXPECT_EQ(number(), 0) << none;
         EXPECT_EQ(display.saveTarget, "");
         EXPECT_EQ(display.message, "");
     }
     fileOfPuzzles("a.txt", 2);
     const test::FileCalls calls(test::failing("pread", EIO));
-    commands.reopen(path, 1);
-    EXPECT_EQ(display.puzzle.PuzNum, 0) << "it cannot be read";
+    files.reopen(path, 1);
+    EXPECT_EQ(number(), 0) << "it cannot be read";
     EXPECT_TRUE(prompts.shown.empty());
 }
 
