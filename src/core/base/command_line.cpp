@@ -99,7 +99,8 @@ Option flag(std::string name, std::string description, bool& target) {
     return {{std::move(name)}, "", std::move(description), take};
 }
 
-Option choice(std::string name, std::string value, std::string description, std::size_t& target) {
+Option choice(std::string name, const std::string& value, std::string description,
+              std::size_t& target) {
     const auto take = [&target, value](const std::string& given) -> std::string {
         const std::vector<std::string> choices = CLI::detail::split(value, '|');
         const auto chosen = std::find(choices.begin(), choices.end(), CLI::detail::to_lower(given));

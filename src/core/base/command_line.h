@@ -66,7 +66,8 @@ void sayProblem(std::ostream& err, std::string_view program, std::string_view pr
 /// The options by what they put where. What is not given leaves its target as it was.
 Option flag(std::string name, std::string description, bool& target);
 /// `target` becomes the place of the chosen one among "a|b|c".
-Option choice(std::string name, std::string value, std::string description, std::size_t& target);
+Option choice(std::string name, const std::string& value, std::string description,
+              std::size_t& target);
 Option required(Option option);
 
 /// A text or a path.
