@@ -31,6 +31,9 @@ TEST_F(DevelopersTest, FilesGrowAreProvedAndMixed) {
         EXPECT_EQ(said(), "done");
         EXPECT_EQ(lineCount("addnewr.txt"), runs * 8 * 40) << "appended";
     }
+    EXPECT_NE(test::contentOf(folder / "addnewr.txt")
+                  .find(mirroredTopBottom(records[0], TopBottomHeader::Subtracts)),
+              std::string::npos);
     EXPECT_EQ(display.progressPath, session.ProgramFolder / "addnew.txt");
     EXPECT_TRUE(display.progressEnded);
     EXPECT_EQ(display.puzzle.PuzNum, 2) << "the puzzle in play is named again";
@@ -76,9 +79,11 @@ TEST_F(DevelopersTest, AutoSolveHardTellsTheHintAndSolvesWhenAsked) {
     EXPECT_EQ(prompts.shown.size(), 2u) << "no error";
     EXPECT_EQ(board.CellNum, board.SolNum);
     EXPECT_GT(display.yields, 0);
-    board = puzzleWithoutGivens();
-    developer.autoSolveHard(true);
-    EXPECT_EQ(said(), "Error");
+    for (const Board& unsolved : {puzzleWithoutGivens(), boardOf(recordOfTheRim(records[0]))}) {
+        board = unsolved;
+        developer.autoSolveHard(true);
+        EXPECT_EQ(said(), "Error");
+    }
 }
 
 TEST_F(DevelopersTest, TheBoardIsCheckedAndSolvedStepByStep) {

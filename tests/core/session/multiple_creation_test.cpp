@@ -1,6 +1,7 @@
 #include "core/session/multiple_creation.h"
 
 #include "support/core_fakes.h"
+#include "support/sample_boards.h"
 
 #include <gtest/gtest.h>
 
@@ -14,7 +15,10 @@ using Message = ScriptedPrompts::Message;
 struct MultipleCreationTest : testing::Test, SessionScene, CreationOrderChoice {
     MultipleCreationTest() {
         EXPECT_TRUE(Set6Combos(TESSALY_DATA "/hexabinx.txt", session.arrangements).ok());
-        creation.emplace(session, files, display, prompts, *this, Chance(11));
+        prepare(Chance(11));
+    }
+    void prepare(Chance chance) {
+        creation.emplace(session, files, display, prompts, *this, chance);
     }
     std::optional<CreationOrder> choose() override { return order; }
     void run(int count, DifficultyChoice difficulty = std::nullopt) {
@@ -50,10 +54,6 @@ TEST_F(MultipleCreationTest, AsksThenAppendsExactlyAsManyDifferentPuzzles) {
     run(60);
     const std::vector<std::string> all = made();
     EXPECT_EQ(std::set<std::string>(all.begin(), all.end()).size(), 61u);
-    const auto hard = std::count_if(all.begin(), all.end(),
-                                    [](const std::string& record) { return record[0] == 'H'; });
-    EXPECT_GT(hard, 10);
-    EXPECT_LT(hard, 50);
     EXPECT_EQ(prompts.shown,
               (std::vector<Message>{
                   {"Create Multiple Puzzles:\r\nOutput File: " + out.native() +
@@ -68,6 +68,28 @@ TEST_F(MultipleCreationTest, AsksThenAppendsExactlyAsManyDifferentPuzzles) {
     EXPECT_EQ(session.game.board, before) << "what was entered is kept";
     EXPECT_EQ(session.game.undoList.size(), 1u);
     EXPECT_EQ(display.puzzle.PuzCount, 61) << "the file has grown";
+}
+
+TEST_F(MultipleCreationTest, OneInAHundredMoreIsHardThanEasy) {
+    for (const auto& [number, letter] : {std::pair(0U, 'H'), {50U, 'H'}, {51U, 'E'}, {99U, 'E'}}) {
+        prepare(chanceOf(number));
+        run(1);
+        EXPECT_EQ(made().back().front(), letter) << number;
+    }
+}
+
+TEST_F(MultipleCreationTest, NoPuzzleIsMadeTwice) {
+    // The arrangements of one filling, which has three puzzles.
+    const Board board = boardOf(records[0]);
+    session.arrangements = {};
+    session.arrangements.wordCount = HexagonCount;
+    for (CellId cell : AllCells)
+        session.arrangements.words[static_cast<std::size_t>(cell.hexagon)] +=
+            static_cast<char>(board.SolNum[cell].front() - '1' + 'A');
+    prepare(Chance(11));
+    run(3, Difficulty::Easy);
+    const std::vector<std::string> all = made();
+    EXPECT_EQ(std::set<std::string>(all.begin(), all.end()).size(), 3u);
 }
 
 TEST_F(MultipleCreationTest, NothingIsMadeWithoutAnOrderOrAConfirmation) {
@@ -98,7 +120,6 @@ TEST_F(MultipleCreationTest, StoppingLeavesWholeRecordsAndAsksNothing) {
 
 TEST_F(MultipleCreationTest, AFileThatCannotBeWrittenIsSaid) {
     out = "/no/such/folder/out.txt";
-    prompts.answers = {};
     run(5);
     ASSERT_EQ(prompts.shown.size(), 3u);
     EXPECT_EQ(prompts.shown[1].style, "vbok+vbcritical");
