@@ -1,79 +1,71 @@
-#include "cli/program.h"
-
 #include "support/command_line.h"
-
-#include <gtest/gtest.h>
+#include "support/sample_puzzles.h"
 
 namespace tessaly {
 namespace {
 
 using test::CommandResult;
-using test::isOneLine;
 using test::linesOf;
-using test::runCommand;
+using Program = test::CommandLineTest;
 
-using Arguments = std::vector<std::string>;
-
-TEST(Program, EveryCommandHelpsWithAnExampleThatCanBeRead) {
-    const CommandResult all = runCommand({"--help"});
+TEST_F(Program, EveryCommandHelpsWithAnExample) {
+    const CommandResult all = run("--help");
     EXPECT_EQ(all.status, exit_status::Done);
     for (const std::string name : {"create", "solve", "check", "variants", "shuffle", "bench"}) {
         EXPECT_NE(all.out.find("\n  " + name), std::string::npos) << name;
-        const CommandResult help = runCommand({name, "--help"});
+        const CommandResult help = run(name + " --help");
         EXPECT_EQ(help.status, exit_status::Done);
         EXPECT_NE(help.out.find("Example: tessaly-cli " + name), std::string::npos) << help.out;
-        EXPECT_EQ(help.err, "");
     }
-    EXPECT_EQ(runCommand({"--version"}).out, "Tessaly 1.0.0\n");
+    EXPECT_EQ(run("--version").out, "Tessaly 1.0.0\n");
 }
 
-TEST(Program, WrongUsageIsOneLineAndStatusTwo) {
+TEST_F(Program, WrongUsageIsOneLineAndStatusTwo) {
     struct Case {
-        Arguments arguments;
-        std::string named;
+        std::string line, named;
     };
-    const Arguments create{"create", "--difficulty", "easy", "--count"};
-    const auto with = [](Arguments arguments, const Arguments& more) {
-        arguments.insert(arguments.end(), more.begin(), more.end());
-        return arguments;
-    };
-    const std::vector<Case> cases{
-        {{}, "subcommand"},
-        {{"crate"}, "no subcommand crate"},
-        {{"create"}, "--difficulty"},
-        {{"create", "--difficulty", "easy"}, "--count"},
-        {{"create", "--difficulty", "nasty", "--count", "1"}, "nasty"},
-        {create, "--count"},
-        {with(create, {"0"}), "--count"},
-        {with(create, {"-3"}), "--count"},
-        {with(create, {"10000001"}), "--count"},
-        {with(create, {"99999999999999999999"}), "--count"},
-        {with(create, {"2.5"}), "--count"},
-        {with(create, {"many"}), "--count"},
-        {with(create, {"1", "--jobs", "0"}), "--jobs"},
-        {with(create, {"1", "--jobs", "257"}), "--jobs"},
-        {with(create, {"1", "--seed", "-1"}), "--seed"},
-        {with(create, {"1", "--seed", "18446744073709551616"}), "--seed"},
-        {with(create, {"1", "--bogus"}), "--bogus"},
-        {{"solve"}, "FILE"},
-        {{"solve", "a.txt", "b.txt"}, "b.txt"},
-        {{"solve", "a.txt", "--number", "0"}, "--number"},
-        {{"solve", "a.txt", "--rules", "some"}, "some"},
-        {{"check"}, "FILE"},
-        {{"bench", "--seconds", "0"}, "--seconds"},
-    };
-    for (const Case& wrong : cases) {
-        const CommandResult result = runCommand(wrong.arguments);
-        EXPECT_EQ(result.status, exit_status::WrongUsage) << wrong.named;
-        EXPECT_EQ(result.out, "");
-        EXPECT_TRUE(isOneLine(result.err) && result.err.starts_with("tessaly-cli: ") &&
-                    result.err.find(wrong.named) != std::string::npos)
-            << result.err;
-    }
+    for (const auto& [line, named] : std::vector<Case>{
+             {"", "subcommand"},
+             {"crate", "no subcommand crate"},
+             {"create --count 1", "--difficulty"},
+             {"create --dificulty easy --count 1", "no option --dificulty"},
+             {"create --difficulty nasty --count 1", "nasty"},
+             {"create --difficulty easy", "--count"},
+             {"create --difficulty easy --count", "--count"},
+             {"create --difficulty easy --count 0", "--count"},
+             {"create --difficulty easy --count -3", "--count"},
+             {"create --difficulty easy --count 10000001", "--count"},
+             {"create --difficulty easy --count 99999999999999999999", "--count"},
+             {"create --difficulty easy --count 2.5", "--count"},
+             {"create --difficulty easy --count 1 --jobs 257", "--jobs"},
+             {"create --difficulty easy --count 1 --seed -1", "--seed"},
+             {"shuffle a.txt --output b.txt --seed 18446744073709551616", "--seed"},
+             {"shuffle a.txt", "--output"},
+             {"solve", "FILE"},
+             {"solve a.txt b.txt", "b.txt"},
+             {"solve a.txt --number 0", "--number"},
+             {"solve a.txt --rules some", "some"},
+             {"bench --seconds 0", "--seconds"},
+             {"bench --seconds nan", "--seconds"},
+         })
+        expectRefused(line, exit_status::WrongUsage, named);
 }
 
-TEST(Program, TheBenchShowsTheSignatureOfTheEngineAndRates) {
-    const CommandResult result = runCommand({"bench", "--seconds", "0.001"});
+TEST_F(Program, AnInterruptedCommandEndsWhereItIsAndSaysSoByItsStatus) {
+    const std::string record = sampleRecords("easy.txt").front() + "\r\n";
+    test::put(file, record + record);
+    for (const std::string& line :
+         {"check " + file, "solve " + file, std::string("bench --seconds 0.001"),
+          "variants " + file + " --output " + other, "shuffle " + file + " --output " + other}) {
+        const CommandResult result = run(line, {.wasInterrupted = [] { return true; }});
+        EXPECT_EQ(result.status, exit_status::Interrupted) << line;
+        EXPECT_LE(linesOf(result.out).size(), 1U) << result.out;
+    }
+    EXPECT_EQ(folder.names(), std::set<std::string>{"puzzles.txt"});
+}
+
+TEST_F(Program, TheBenchShowsTheSignatureOfTheEngineAndRates) {
+    const CommandResult result = run("bench --seconds 0.001");
     EXPECT_EQ(result.status, exit_status::Done);
     const std::vector<std::string> lines = linesOf(result.out);
     ASSERT_EQ(lines.size(), 6U) << result.out;

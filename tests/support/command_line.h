@@ -1,6 +1,9 @@
 #pragma once
 
 #include "cli/program.h"
+#include "support/temporary_folder.h"
+
+#include <gtest/gtest.h>
 
 #include <functional>
 #include <sstream>
@@ -20,7 +23,7 @@ struct CommandResult {
 /// How a command line is run.
 struct CommandSetting {
     bool errIsTerminal = false;
-    std::function<bool()> wasInterrupted;
+    std::function<bool()> wasInterrupted = {};
 };
 
 /// Runs "tessaly-cli" with these arguments in this process. `more` are the subcommands besides
@@ -39,22 +42,38 @@ inline CommandResult runCommand(const std::vector<std::string>& arguments,
     return {status, out.str(), err.str()};
 }
 
-/// The lines of a text without their ends; what follows the last line end is a line too, unless it
-/// is empty.
+/// The lines of a text without their ends, "\n" or "\r\n"; nothing may follow the last of them.
 inline std::vector<std::string> linesOf(const std::string& text, const std::string& end = "\n") {
     std::vector<std::string> lines;
-    std::size_t start = 0;
-    for (std::size_t at = 0; (at = text.find(end, start)) != std::string::npos;
-         start = at + end.size())
+    std::size_t start = 0, at = 0;
+    for (; (at = text.find(end, start)) != std::string::npos; start = at + end.size())
         lines.push_back(text.substr(start, at - start));
-    if (start < text.size())
-        lines.push_back(text.substr(start));
+    EXPECT_EQ(start, text.size()) << "a line that is not ended";
     return lines;
 }
 
-/// Whether a text is one whole line.
-inline bool isOneLine(const std::string& text) {
-    return text.size() > 1 && text.find('\n') == text.size() - 1;
-}
+/// Command lines beside files of their own.
+class CommandLineTest : public testing::Test {
+protected:
+    /// `line` is parted at its blanks.
+    static CommandResult run(const std::string& line, const CommandSetting& setting = {}) {
+        std::istringstream words(line);
+        return runCommand({std::istream_iterator<std::string>(words), {}}, setting);
+    }
+    /// That a command line fails, naming something on its one line.
+    static void expectRefused(const std::string& line, int status, const std::string& named) {
+        const CommandResult result = run(line);
+        EXPECT_EQ(result.status, status) << line;
+        EXPECT_EQ(result.out, "") << line;
+        EXPECT_EQ(linesOf(result.err).size(), 1U) << result.err;
+        EXPECT_TRUE(result.err.starts_with("tessaly-cli: ") &&
+                    result.err.find(named) != std::string::npos)
+            << line << " says " << result.err;
+    }
+
+    TemporaryFolder folder;
+    const std::string file = folder / "puzzles.txt";
+    const std::string other = folder / "other.txt";
+};
 
 } // namespace tessaly::test
