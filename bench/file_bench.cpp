@@ -1,7 +1,7 @@
 // Puzzle files of a million records, beside what the system's own tools need for the same bytes.
 // The page cache is warm in all of them. TMPDIR says on which disk the files are made.
 
-#include "core/board/puzzle_file.h"
+#include "core/board/puzzle_store.h"
 #include "core/files/file_access.h"
 
 #include "support/temporary_folder.h"
@@ -57,7 +57,7 @@ const HugeFile& hugeFile() {
 void countAndIndex(benchmark::State& state) {
     int count = 0;
     while (state.KeepRunning()) {
-        PuzzleFiles files;
+        PuzzleStore files;
         if (!files.CountLines(hugeFile().path(), count).ok() || count != MillionRecords)
             state.SkipWithError("the file was not counted");
     }
@@ -100,7 +100,7 @@ BENCHMARK(wordCountTool)->Unit(benchmark::kMillisecond)->UseManualTime();
 
 /// Any puzzle of the file onto the board, once the file is indexed.
 void readAnyPuzzle(benchmark::State& state) {
-    PuzzleFiles files;
+    PuzzleStore files;
     Board board;
     int number = 1;
     if (!files.ReadPuzzle(hugeFile().path(), number, board).ok())
@@ -114,7 +114,7 @@ void readAnyPuzzle(benchmark::State& state) {
 BENCHMARK(readAnyPuzzle)->Unit(benchmark::kMicrosecond);
 
 void appendOne(benchmark::State& state) {
-    PuzzleFiles files;
+    PuzzleStore files;
     Board board;
     const fs::path path = hugeFile().folder() / "grows.txt";
     fs::copy_file(hugeFile().path(), path, fs::copy_options::overwrite_existing);
@@ -160,7 +160,7 @@ bool copyAndFlush(const fs::path& copy) {
 /// Deleting takes turns with plain copying, for a busy disk is not the same from one second to the
 /// next; the times told are medians.
 void deleteOneBesidePlainCopy(benchmark::State& state) {
-    PuzzleFiles files;
+    PuzzleStore files;
     Board board;
     const fs::path copy = hugeFile().folder() / "copy.txt";
     const fs::path path = hugeFile().folder() / "shrinks.txt";

@@ -1,5 +1,5 @@
 #include "cli/commands.h"
-#include "core/board/record_lines.h"
+#include "core/board/puzzle_store.h"
 #include "core/solver/puzzle_audit.h"
 
 #include <filesystem>
@@ -23,7 +23,7 @@ std::vector<std::string> findingsOf(const RecordLine& line) {
 
 int check(const std::filesystem::path& path, const Console& console) {
     Tally tally;
-    const Outcome outcome = readRecordLines(path, [&](RecordLine line) {
+    const Outcome outcome = forEachRecord(path, [&](RecordLine line) {
         ++tally.records;
         for (const std::string& finding : findingsOf(line)) {
             ++tally.findings;

@@ -1,6 +1,6 @@
 #include "cli/commands.h"
 #include "cli/offscreen.h"
-#include "core/board/puzzle_file.h"
+#include "core/board/puzzle_store.h"
 #include "core/output/booklet.h"
 #include "core/output/page_layout.h"
 #include "ui/drawing/pdf_file.h"
@@ -44,7 +44,7 @@ Outcome checkRange(const PrintRange& range, int count) {
 }
 
 int print(const PrintOptions& options, const Console& console) {
-    PuzzleFiles files;
+    PuzzleStore files;
     int count = 0;
     if (const Outcome counted = files.CountLines(options.file, count); !counted.ok())
         return fail(console, counted.problem);

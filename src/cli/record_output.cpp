@@ -2,7 +2,7 @@
 
 #include "cli/console.h"
 #include "core/board/puzzle_record.h"
-#include "core/board/record_lines.h"
+#include "core/board/puzzle_store.h"
 #include "core/files/file_access.h"
 #include "core/files/line_reader.h"
 
@@ -30,7 +30,7 @@ RecordOutput::RecordOutput(std::ostream& stream, std::filesystem::path path)
 Outcome RecordOutput::open() {
     if (m_path.empty() || !FileExists(m_path))
         return Outcome::done();
-    return readRecordLines(m_path, [this](RecordLine line) {
+    return forEachRecord(m_path, [this](RecordLine line) {
         m_known.insert(puzzleHash(line.text));
         return true;
     });
@@ -53,7 +53,7 @@ Outcome RecordOutput::flush() {
     const std::string lines = std::exchange(m_lines, {});
     m_lastFlush = Clock::now();
     if (!m_path.empty())
-        return lines.empty() ? Outcome::done() : appendLines(m_path, lines);
+        return lines.empty() ? Outcome::done() : m_store.appendPuzzles(m_path, lines);
     m_stream << lines;
     return flushed(m_stream);
 }

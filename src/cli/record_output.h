@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/base/outcome.h"
+#include "core/board/puzzle_store.h"
 
 #include <chrono>
 #include <cstdint>
@@ -36,6 +36,7 @@ private:
 
     std::ostream& m_stream;
     std::filesystem::path m_path;
+    PuzzleStore m_store;
     /// A hash for each record. Two different records with one hash are no harm: the second is
     /// passed over like a repeated one.
     std::unordered_set<std::size_t> m_known;

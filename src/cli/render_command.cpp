@@ -1,6 +1,6 @@
 #include "cli/commands.h"
 #include "cli/offscreen.h"
-#include "core/board/puzzle_file.h"
+#include "core/board/puzzle_store.h"
 #include "core/options/scheme_library.h"
 #include "core/session/configuration.h"
 #include "core/session/program_folder.h"
@@ -41,7 +41,7 @@ int render(const RenderOptions& options, const Console& console) {
         return refuseUsage(console, "--output: " + output.native() +
                                         " ends in neither .png nor .svg nor .pdf");
     Board board;
-    if (const PuzzleRead read = PuzzleFiles().ReadPuzzle(file, number, board); !read.ok())
+    if (const PuzzleRead read = PuzzleStore().ReadPuzzle(file, number, board); !read.ok())
         return fail(console, read.reason);
     Appearance appearance;
     if (!scheme.empty())

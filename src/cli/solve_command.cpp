@@ -1,6 +1,6 @@
 #include "cli/commands.h"
 #include "core/board/puzzle_record.h"
-#include "core/board/record_lines.h"
+#include "core/board/puzzle_store.h"
 #include "core/solver/deduction.h"
 
 #include <filesystem>
@@ -44,22 +44,17 @@ std::string report(int number, int result, const Board& board) {
     return line + "\n";
 }
 
-Outcome readLine(const RecordLine& line, Board& board) {
-    return line.isOverLong ? Outcome::failed(std::string(OverLongProblem))
-                           : readRecord(line.text, board);
-}
-
 int solve(const SolveOptions& options, const Console& console) {
     int status = exit_status::Done;
     int lastNumber = 0;
     const auto& [path, number, rules] = options;
     const auto solveBoard = rules == 0 ? solveWithAllRules : solveWithBasicRules;
-    const Outcome outcome = readRecordLines(path, [&](RecordLine line) {
+    const Outcome outcome = forEachRecord(path, [&](RecordLine line) {
         lastNumber = line.number;
         if (number != 0 && line.number != number)
             return true;
         Board board;
-        if (const Outcome read = readLine(line, board); !read.ok()) {
+        if (const Outcome read = line.read(board); !read.ok()) {
             status = fail(console, lineProblem(path, line.number, read.problem));
         } else {
             const int result = solveBoard(board);

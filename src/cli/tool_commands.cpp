@@ -1,7 +1,7 @@
 // What makes one puzzle file out of another.
 
 #include "cli/commands.h"
-#include "core/board/puzzle_file.h"
+#include "core/board/puzzle_store.h"
 #include "core/solver/library_tools.h"
 
 #include <memory>
@@ -25,7 +25,7 @@ std::vector<Option> fileOptions(ToolFiles& files) {
 int run(const Console& console, const ToolFiles& files,
         const std::function<Outcome(const KeepGoing&)>& tool) {
     int count = 0;
-    if (const Outcome counted = PuzzleFiles().CountLines(files.input, count); !counted.ok())
+    if (const Outcome counted = PuzzleStore().CountLines(files.input, count); !counted.ok())
         return fail(console, counted.problem);
     ProgressBar bar(console, count);
     const Outcome outcome = tool([&](int records) {

@@ -1,7 +1,7 @@
 #include "faults/scene.h"
 
-#include "core/board/puzzle_file.h"
-#include "core/files/file_access.h"
+#include "core/board/puzzle_store.h"
+#include "core/files/locked_file.h"
 #include "core/options/scheme_library.h"
 #include "core/session/configuration.h"
 
@@ -73,7 +73,7 @@ std::set<std::string> litterIn(const Scene& scene) {
 /// A later start of the program: it clears up, loads, and saves again.
 Outcome startAgain(const Scene& scene) {
     removeLeftovers(scene.program());
-    PuzzleFiles files;
+    PuzzleStore files;
     Board board;
     int count = 0;
     const Content left = contentOf(scene.puzzles());
@@ -87,7 +87,7 @@ Outcome startAgain(const Scene& scene) {
         return saved;
     if (number != count + 1 || contentOf(scene.puzzles()) != left.value_or("") + record + "\r\n")
         return Outcome::failed("a puzzle saved later does not stand where it should");
-    SchemeLibrary schemes(scene.program().string());
+    SchemeLibrary schemes(scene.program());
     if (Outcome listed = schemes.RefreshSchemeList(); !listed.ok())
         return listed;
     // Replacing lists the schemes anew.
@@ -110,11 +110,10 @@ Outcome judge(const Operation& operation, const Scene& before, const Scene& afte
                                      said, description);
         !target.ok())
         return target;
-    for (const auto& other : {&Scene::puzzles, &Scene::configuration, &Scene::schemes})
+    for (const auto& other :
+         {&Scene::puzzles, &Scene::temporary, &Scene::configuration, &Scene::schemes})
         if (other != operation.target && contentOf((work.*other)()) != contentOf((before.*other)()))
             return Outcome::failed("another file has changed");
-    if (said.ends_with("done\n") && contentOf(work.temporary()) != contentOf(after.temporary()))
-        return Outcome::failed("the temporary file is not what it should be");
     if (!litterIn(work).empty())
         description << ", litter";
     return startAgain(work);

@@ -1,6 +1,6 @@
 #include "faults/scene.h"
 
-#include "core/board/puzzle_file.h"
+#include "core/board/puzzle_store.h"
 #include "core/files/file_access.h"
 #include "core/options/scheme_library.h"
 #include "core/session/configuration.h"
@@ -21,26 +21,26 @@ constexpr int NewSeed = 1'000'000;
 std::function<Outcome()> appendPuzzle(const Scene& scene) {
     return [path = scene.puzzles()] {
         int number = 0;
-        return PuzzleFiles().appendPuzzle(path, test::recordNumbered(NewSeed), number);
+        return PuzzleStore().appendPuzzle(path, test::recordNumbered(NewSeed), number);
     };
 }
 
 std::function<Outcome()> saveAsOnlyPuzzle(const Scene& scene) {
     Board board;
     static_cast<void>(readRecord(test::recordNumbered(NewSeed), board).ok());
-    return [path = scene.puzzles(), board] { return PuzzleFiles().WritePuzzle(path, 1, board); };
+    return [path = scene.puzzles(), board] { return PuzzleStore().WritePuzzle(path, 1, board); };
 }
 
 /// Deletes the puzzle in the middle of the file, after showing it.
 std::function<Outcome()> deletePuzzle(const Scene& scene) {
-    const auto files = std::make_shared<PuzzleFiles>();
+    const auto files = std::make_shared<PuzzleStore>();
     int count = 0;
     static_cast<void>(files->CountLines(scene.puzzles(), count).ok());
     const int number = (count + 1) / 2;
     Board board;
     const std::string record = files->ReadPuzzle(scene.puzzles(), number, board).record;
     return [scene, files, number, record] {
-        return files->DeletePuzzle(scene.puzzles(), number, record, scene.program());
+        return files->DeletePuzzle(scene.puzzles(), number, record);
     };
 }
 
@@ -108,7 +108,7 @@ std::function<Outcome()> makeBatch(const Scene& scene) {
             std::string records;
             for (int each = 0; each < WrittenAtOnce; ++each)
                 records += test::recordNumbered(NewSeed + ++made) + "\r\n";
-            outcome = appendLines(path, records);
+            outcome = PuzzleStore().appendPuzzles(path, records);
             if (outcome.ok())
                 say(STDOUT_FILENO, "made " + std::to_string(made));
         }
@@ -126,8 +126,10 @@ Outcome Scene::make(int records) const {
     std::filesystem::create_directories(program());
     if (Outcome saved = SavecfgFile(configuration(), configurationAt(1)); !saved.ok())
         return saved;
-    if (Outcome saved = replaceFile(schemes(), schemeFile()); !saved.ok())
-        return saved;
+    for (const auto& [path, content] :
+         {std::pair(schemes(), schemeFile()), std::pair(temporary(), test::recordFile(1))})
+        if (Outcome saved = replaceFile(path, content); !saved.ok())
+            return saved;
     return records < 0 ? Outcome::done() : replaceFile(puzzles(), test::recordFile(records));
 }
 

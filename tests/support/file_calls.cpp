@@ -1,8 +1,10 @@
 #include "support/file_calls.h"
 
 #include <cerrno>
+#include <ctime>
 #include <sys/stat.h>
 #include <sys/types.h>
+#include <unistd.h>
 #include <utility>
 
 namespace tessaly::test {
@@ -86,4 +88,6 @@ TESSALY_FILE_CALL(int, renameat, (int fromFolder, const char* from, int toFolder
                   fromFolder, from, toFolder, to)
 TESSALY_FILE_CALL(int, unlinkat, (int folder, const char* path, int flags), folder, path, flags)
 TESSALY_FILE_CALL(int, fchmod, (int file, mode_t mode), file, mode)
+TESSALY_FILE_CALL(int, fchown, (int file, uid_t owner, gid_t group), file, owner, group)
+TESSALY_FILE_CALL(int, nanosleep, (const timespec* time, timespec* left), time, left)
 }

@@ -1,5 +1,6 @@
 #include "core/board/arrangements.h"
 
+#include "core/files/file_access.h"
 #include "core/files/line_reader.h"
 
 #include <algorithm>
@@ -74,21 +75,12 @@ Outcome readArrangements(std::string_view line, ArrangementTable& table) {
 }
 
 Outcome Set6Combos(const std::filesystem::path& path, ArrangementTable& table) {
-    constexpr std::size_t Longest = 65536;
-    LineReader reader(Longest);
-    if (Outcome opened = reader.open(path); !opened.ok())
-        return opened;
-    switch (reader.next()) {
-    case LineReader::Result::Failed:
-        return reader.problem();
-    case LineReader::Result::OverLong:
-        return Outcome::failed(path.native() + ": the first line is longer than " +
-                               std::to_string(Longest) + " characters");
-    case LineReader::Result::Line:
-    case LineReader::Result::End:
-        break;
-    }
-    const Outcome read = readArrangements(reader.line(), table);
+    constexpr std::size_t Limit = 65536;
+    std::string content;
+    if (Outcome read = readSmallFile(path, Limit, content); !read.ok())
+        return read;
+    std::string_view rest = withoutMark(content);
+    const Outcome read = readArrangements(withoutLineEnd(takeLine(rest)), table);
     return read.ok() ? read : Outcome::failed(path.native() + ": " + read.problem);
 }
 

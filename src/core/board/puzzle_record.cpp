@@ -43,18 +43,23 @@ std::string progress(const Board& board) {
     return ProgressMark + numbers;
 }
 
-Outcome checkRecord(std::string_view line) {
-    if (line.size() < RecordLength)
-        return Outcome::failed("the record has " + std::to_string(line.size()) +
-                               " characters instead of " + std::to_string(RecordLength));
-    for (std::size_t i = 1; i < HeaderLength; ++i)
+/// Checks the characters of a record as far as they go.
+Outcome checkCharacters(std::string_view line) {
+    for (std::size_t i = 1; i < std::min(HeaderLength, line.size()); ++i)
         if (line[i] < '0' || line[i] > '9')
             return Outcome::failed("character " + std::to_string(i + 1) +
                                    " of the header is no digit");
-    for (std::size_t i = HeaderLength; i < RecordLength; ++i)
+    for (std::size_t i = HeaderLength; i < std::min(RecordLength, line.size()); ++i)
         if (SolutionCharacters.find(line[i]) == std::string_view::npos)
             return Outcome::failed("character " + std::to_string(i + 1) + " is no cell");
     return Outcome::done();
+}
+
+Outcome checkRecord(std::string_view line) {
+    if (line.size() >= RecordLength)
+        return checkCharacters(line);
+    return Outcome::failed("the record has " + std::to_string(line.size()) +
+                           " characters instead of " + std::to_string(RecordLength));
 }
 
 void readHeader(std::string_view line, Board& board) {
@@ -105,6 +110,15 @@ Outcome readRecord(std::string_view line, Board& board) {
     if (hasProgress && line.size() > ProgressStart)
         readProgress(line.substr(ProgressStart), board);
     return Outcome::done();
+}
+
+bool isRecordCutShort(std::string_view line) {
+    const auto begins = [line](const DifficultyEntry& each) {
+        return line.starts_with(each.letter);
+    };
+    return line.size() < RecordLength &&
+           std::any_of(Difficulties.begin(), Difficulties.end(), begins) &&
+           checkCharacters(line).ok();
 }
 
 } // namespace tessaly

@@ -27,4 +27,7 @@ std::string PuzzleRecord(const Board& board);
 /// with the reason, and the board stays as it was.
 Outcome readRecord(std::string_view line, Board& board);
 
+/// Whether a line is the first part of a record, and no more.
+bool isRecordCutShort(std::string_view line);
+
 } // namespace tessaly

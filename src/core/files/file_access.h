@@ -1,10 +1,7 @@
 #pragma once
 
 #include "core/base/outcome.h"
-#include "core/base/yield.h"
-#include "core/files/content_sink.h"
-#include "core/files/line_index.h"
-#include "core/files/locked_file.h"
+#include "core/files/file_descriptor.h"
 
 #include <filesystem>
 #include <functional>
@@ -18,19 +15,6 @@
 
 namespace tessaly {
 
-/// Writes a part of a file into the sink, calling `yield` for every piece.
-Outcome copyPart(const LockedFile& file, LineSpan part, const ContentSink& sink,
-                 const Yield& yield);
-
-/// Removes a line from a file that the caller has locked; all other bytes stay as they are. They
-/// are also written to the scratch file `copy`, unless that is the very file.
-///
-/// The copy is overwritten where it stands and in the same pass, for a second new file would double
-/// the time that a million records take. So it is no more than scratch: a process that dies
-/// meanwhile leaves old lines behind the new ones in it.
-Outcome removeLine(const LockedFile& file, LineSpan line, const std::filesystem::path& copy,
-                   const Yield& yield);
-
 /// Whether there is a regular file; false for the empty path and for one that ends in "/".
 bool FileExists(const std::filesystem::path& path);
 
@@ -39,10 +23,6 @@ Outcome replaceFile(const std::filesystem::path& path, std::string_view content)
 /// The same for content that is too large to hold in memory.
 Outcome replaceFile(const std::filesystem::path& path, const ContentWriter& writer);
 
-/// Appends lines, each with its line end. A last line that has none is ended first. Makes the file
-/// when there is none.
-Outcome appendLines(const std::filesystem::path& path, std::string_view wholeLines);
-
 /// The content of a file of at most `limit` bytes; a larger one is refused.
 Outcome readSmallFile(const std::filesystem::path& path, std::size_t limit, std::string& content);
 
@@ -50,11 +30,6 @@ Outcome readSmallFile(const std::filesystem::path& path, std::size_t limit, std:
 /// leaves the new one; a failure of its own leaves the file alone.
 Outcome rewriteSmallFile(const std::filesystem::path& path, std::size_t limit,
                          const std::function<Outcome(std::string& content)>& change);
-
-/// Removes what killed processes left in a folder while they wrote.
-void removeLeftovers(const std::filesystem::path& folder);
-/// Removes what a killed process left while it wrote the file `path`.
-void removeLeftoverOf(const std::filesystem::path& path);
 
 /// Makes the system's limit on the size of files a failure to write like any other, instead of the
 /// end of the process. For the start of a program.

@@ -120,9 +120,22 @@ std::int64_t readAt(const FileDescriptor& file, char* bytes, std::size_t size,
     return static_cast<std::int64_t>(done);
 }
 
+Outcome ContentSink::write(std::string_view piece) const {
+    while (!piece.empty()) {
+        const auto written =
+            retried([&] { return ::write(m_file.get(), piece.data(), piece.size()); });
+        if (written < 0)
+            return fileProblem(m_path, "cannot be written");
+        piece.remove_prefix(static_cast<std::size_t>(written));
+    }
+    return Outcome::done();
+}
+
 LockAnswer takeLock(const FileDescriptor& file) {
-    if (retried([&] { return ::flock(file.get(), LOCK_EX | LOCK_NB); }) == 0 || lacksLocks(errno))
+    if (retried([&] { return ::flock(file.get(), LOCK_EX | LOCK_NB); }) == 0)
         return LockAnswer::Taken;
+    if (lacksLocks(errno))
+        return LockAnswer::Unknown;
     return errno == EWOULDBLOCK ? LockAnswer::Busy : LockAnswer::Failed;
 }
 
@@ -132,13 +145,12 @@ void releaseLock(const FileDescriptor& file) {
 }
 
 bool patiently(const std::function<bool()>& attempt) {
-    const auto end = std::chrono::steady_clock::now() + Patience;
     std::chrono::microseconds pause = 100us;
-    while (!attempt()) {
-        if (std::chrono::steady_clock::now() > end)
+    for (auto waited = 0us; !attempt(); waited += pause) {
+        if (waited > Patience)
             return false;
-        std::this_thread::sleep_for(pause);
         pause = std::min<std::chrono::microseconds>(2 * pause, 5ms);
+        std::this_thread::sleep_for(pause);
     }
     return true;
 }

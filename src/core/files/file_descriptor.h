@@ -81,15 +81,34 @@ Outcome openForReading(const std::filesystem::path& path, FileDescriptor& file);
 /// or -1 with `errno` set.
 std::int64_t readAt(const FileDescriptor& file, char* bytes, std::size_t size, std::int64_t offset);
 
-enum class LockAnswer { Taken, Busy, Failed };
+/// Takes the content of a file that is being written, piece by piece.
+class ContentSink {
+public:
+    ContentSink(const FileDescriptor& file, const std::filesystem::path& path)
+        : m_file(file)
+        , m_path(path) {}
+
+    /// Writes all of `piece` or fails. Give large pieces: each is a system call.
+    Outcome write(std::string_view piece) const;
+
+private:
+    const FileDescriptor& m_file;
+    const std::filesystem::path& m_path;
+};
+
+/// Writes the whole content of a file into the sink it is given.
+using ContentWriter = std::function<Outcome(const ContentSink&)>;
+
+/// `Unknown` where the file system knows no locks: who works without one hopes for the best.
+enum class LockAnswer { Taken, Unknown, Busy, Failed };
 
 /// Asks for the advisory lock of an open file or folder, without waiting. The lock ends when the
-/// file is closed. Where the file system knows no locks, the answer is `Taken`.
+/// file is closed.
 LockAnswer takeLock(const FileDescriptor& file);
 
 void releaseLock(const FileDescriptor& file);
 
-/// Calls `attempt` until it answers true, for ten seconds at most. Whether it did.
+/// Calls `attempt` until it answers true, with pauses that last ten seconds in all. Whether it did.
 bool patiently(const std::function<bool()>& attempt);
 
 } // namespace tessaly

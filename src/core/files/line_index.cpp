@@ -13,8 +13,6 @@ namespace {
 // Small enough for the processor's caches, large enough that system calls do not count.
 constexpr std::int64_t BlockSize = std::int64_t{64} * 1024;
 
-constexpr std::string_view BlankCharacters = " \t\r\n";
-
 const char* nextLineEnd(const char* from, const char* end) {
     return static_cast<const char*>(std::memchr(from, '\n', static_cast<std::size_t>(end - from)));
 }
@@ -88,7 +86,7 @@ Outcome LineIndex::read(const FileDescriptor& file, std::int64_t offset, const Y
 
 void LineIndex::take(std::string_view block, std::int64_t offset) {
     if (offset == 0)
-        m_textStart = block.starts_with(ByteOrderMark) ? ByteOrderMark.size() : 0;
+        m_textStart = static_cast<std::int64_t>(block.size() - withoutMark(block).size());
     const auto mark = offset == 0 ? static_cast<std::size_t>(m_textStart) : 0;
     const std::size_t content = mark + sizeOfContent(block.substr(mark));
     m_lineEndsBefore.push_back(m_lineEnds);
@@ -113,11 +111,7 @@ Outcome LineIndex::find(const FileDescriptor& file, int number, LineSpan& span) 
     return Outcome::done();
 }
 
-Outcome LineIndex::findEnd(const FileDescriptor& file, std::int64_t& offset) const {
-    return findStart(file, m_count + 1, offset);
-}
-
-/// Where a line begins: behind the line end before it.
+/// A line begins behind the line end before it.
 Outcome LineIndex::findStart(const FileDescriptor& file, std::int64_t line,
                              std::int64_t& offset) const {
     if (line == 1) {

@@ -37,18 +37,19 @@ public:
     bool isOf(const FileState& state) const { return m_valid && m_settled && m_state == state; }
 
     int count() const { return static_cast<int>(m_count); }
+    /// Whether the last line is ended, and so cannot be one that was cut short.
+    bool endsInLineEnd() const { return m_lineEnds >= m_count; }
     /// Whether the last line is followed by more than its line end.
     bool hasBlankTail() const;
 
     /// Where line `number` lies, 1 .. count().
     Outcome find(const FileDescriptor& file, int number, LineSpan& span) const;
-    /// Where a line after the last one begins, when that is ended.
-    Outcome findEnd(const FileDescriptor& file, std::int64_t& offset) const;
+    /// Where a line begins; also the one behind the last, when that is ended.
+    Outcome findStart(const FileDescriptor& file, std::int64_t line, std::int64_t& offset) const;
 
 private:
     Outcome read(const FileDescriptor& file, std::int64_t offset, const Yield& yield);
     void take(std::string_view block, std::int64_t offset);
-    Outcome findStart(const FileDescriptor& file, std::int64_t line, std::int64_t& offset) const;
 
     bool m_valid = false;
     FileState m_state;

@@ -7,6 +7,25 @@ constexpr std::size_t BufferSize = std::size_t{64} * 1024;
 
 } // namespace
 
+std::string_view takeLine(std::string_view& rest) {
+    const std::size_t feed = rest.find('\n');
+    const std::string_view line = rest.substr(0, feed == std::string_view::npos ? feed : feed + 1);
+    rest.remove_prefix(line.size());
+    return line;
+}
+
+std::string_view withoutLineEnd(std::string_view line) {
+    if (line.ends_with('\n'))
+        line.remove_suffix(1);
+    if (line.ends_with('\r'))
+        line.remove_suffix(1);
+    return line;
+}
+
+std::string_view withoutMark(std::string_view text) {
+    return text.starts_with(ByteOrderMark) ? text.substr(ByteOrderMark.size()) : text;
+}
+
 LineReader::LineReader(std::size_t longest)
     : m_longest(longest)
     , m_buffer(BufferSize) {}
@@ -23,16 +42,11 @@ Outcome LineReader::open(const std::filesystem::path& path) {
 LineReader::Result LineReader::next() {
     m_line.clear();
     m_overLong = false;
+    m_ended = false;
     bool begun = false;
-    while (!m_rest.empty() || fill()) {
+    while (!m_ended && (!m_rest.empty() || fill())) {
         begun = true;
-        const std::size_t end = m_rest.find('\n');
-        take(m_rest.substr(0, end));
-        if (end != std::string_view::npos) {
-            m_rest.remove_prefix(end + 1);
-            return finish();
-        }
-        m_rest = {};
+        keep(takeLine(m_rest));
     }
     if (!m_problem.ok())
         return Result::Failed;
@@ -47,41 +61,33 @@ bool LineReader::fill() {
     if (got <= 0)
         return false;
     m_rest = {m_buffer.data(), static_cast<std::size_t>(got)};
-    if (m_offset == 0 && m_rest.starts_with(ByteOrderMark))
-        m_rest.remove_prefix(ByteOrderMark.size());
+    if (m_offset == 0)
+        m_rest = withoutMark(m_rest);
     m_offset += got;
     return !m_rest.empty();
 }
 
-void LineReader::take(std::string_view piece) {
-    // One more than the longest line may be the CR of its end.
-    m_overLong = m_overLong || m_line.size() + piece.size() > m_longest + 1;
-    if (m_overLong)
-        m_line.clear();
-    else
+void LineReader::keep(std::string_view piece) {
+    m_ended = piece.ends_with('\n');
+    m_overLong = m_overLong || m_line.size() + piece.size() > m_longest + LineEnd.size();
+    if (!m_overLong)
         m_line += piece;
 }
 
 LineReader::Result LineReader::finish() {
     ++m_number;
-    m_line.resize(withoutReturn(m_line).size());
-    if (m_line.size() > m_longest) {
+    m_line.resize(withoutLineEnd(m_line).size());
+    m_overLong = m_overLong || m_line.size() > m_longest;
+    if (m_overLong)
         m_line.clear();
-        m_overLong = true;
-    }
     return m_overLong ? Result::OverLong : Result::Line;
 }
 
 std::vector<TextLine> splitLines(std::string_view content) {
     std::vector<TextLine> lines;
     while (!content.empty()) {
-        const std::size_t feed = content.find('\n');
-        const std::size_t rawSize = feed == std::string_view::npos ? content.size() : feed + 1;
-        std::string_view text = withoutReturn(content.substr(0, feed));
-        if (lines.empty() && text.starts_with(ByteOrderMark))
-            text.remove_prefix(ByteOrderMark.size());
-        lines.push_back({text, content.substr(0, rawSize)});
-        content.remove_prefix(rawSize);
+        const std::string_view raw = takeLine(content);
+        lines.push_back({withoutLineEnd(lines.empty() ? withoutMark(raw) : raw), raw});
     }
     return lines;
 }

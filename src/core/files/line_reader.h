@@ -14,10 +14,21 @@ inline constexpr std::string_view LineEnd = "\r\n";
 /// What may stand at the start of a file that other programs wrote (UTF-8); no part of line 1.
 inline constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
 
-/// A line without the CR that belongs to its end.
-constexpr std::string_view withoutReturn(std::string_view line) {
-    return line.ends_with('\r') ? line.substr(0, line.size() - 1) : line;
+/// What may stand on a line that counts as blank.
+inline constexpr std::string_view BlankCharacters = " \t\r\n";
+
+inline bool isBlank(std::string_view text) {
+    return text.find_first_not_of(BlankCharacters) == std::string_view::npos;
 }
+
+/// Takes the first line off a text that is not empty, with its line end if it has one.
+std::string_view takeLine(std::string_view& rest);
+
+/// A line without its line end.
+std::string_view withoutLineEnd(std::string_view line);
+
+/// A text without the byte order mark at its start.
+std::string_view withoutMark(std::string_view text);
 
 /// Reads a file line by line, without its line ends, in bounded memory however long its lines are.
 class LineReader {
@@ -35,12 +46,14 @@ public:
     std::string_view line() const { return m_line; }
     /// Its number, counting from 1.
     int number() const { return m_number; }
+    /// Whether it ends in a line feed, as every line but the last of a file does.
+    bool isEnded() const { return m_ended; }
     /// What is wrong after `Failed`.
     const Outcome& problem() const { return m_problem; }
 
 private:
     bool fill();
-    void take(std::string_view piece);
+    void keep(std::string_view piece);
     Result finish();
 
     std::size_t m_longest;
@@ -50,6 +63,7 @@ private:
     std::vector<char> m_buffer;
     std::string_view m_rest;
     std::string m_line;
+    bool m_ended = false;
     bool m_overLong = false;
     int m_number = 0;
     Outcome m_problem;

@@ -1,7 +1,5 @@
 #include "core/files/locked_file.h"
 
-#include "core/base/fnv_hash.h"
-#include "core/files/file_descriptor.h"
 #include "core/files/line_reader.h"
 
 #include <algorithm>
@@ -9,13 +7,18 @@
 #include <climits>
 #include <cstdio>
 #include <fcntl.h>
+#include <random>
 #include <sys/stat.h>
+#include <sys/xattr.h>
+#include <system_error>
 #include <unistd.h>
+#include <vector>
 
 namespace tessaly {
 namespace {
 
 constexpr std::string_view CannotBeWritten = "cannot be written";
+constexpr std::string_view CannotBeExamined = "cannot be examined";
 constexpr int MostLinks = 40;
 
 /// Follows one symbolic link. False when there is none at `path`, or with a problem.
@@ -43,21 +46,11 @@ Outcome followLinks(std::filesystem::path& path) {
 
 FileDescriptor openFolder(const std::filesystem::path& folder) {
     constexpr int Flags = O_DIRECTORY | O_CLOEXEC;
-    const char* name = folder.empty() ? "." : folder.c_str();
-    FileDescriptor opened(retried([&] { return ::open(name, Flags | O_RDONLY); }));
+    FileDescriptor opened(retried([&] { return ::open(folder.c_str(), Flags | O_RDONLY); }));
     // A folder that may not be listed may still be written to.
     if (!opened.isOpen() && errno == EACCES)
-        opened = FileDescriptor(retried([&] { return ::open(name, Flags | O_PATH); }));
+        opened = FileDescriptor(retried([&] { return ::open(folder.c_str(), Flags | O_PATH); }));
     return opened;
-}
-
-constexpr std::string_view ScratchStart = ".tessaly-";
-constexpr std::string_view ScratchEnd = ".tmp";
-
-std::uint64_t hashOf(std::string_view text) {
-    FnvHash hash;
-    hash.add(text);
-    return hash.value();
 }
 
 enum class Named { Yes, No, Unknown };
@@ -73,24 +66,198 @@ Named isNamed(const FileDescriptor& file, const FileDescriptor& folder, const st
     return named->isSameFile(*opened) ? Named::Yes : Named::No;
 }
 
-Outcome takeBack(const LockedFile& file, Outcome problem) {
-    const auto cut = [&] { return ::ftruncate(file.file().get(), file.state().size); };
-    if (retried(cut) != 0)
-        problem.problem += "; a part of what was written may stand at its end";
-    return problem;
+// ---- scratch files
+
+constexpr std::string_view ScratchStart = ".tessaly-";
+constexpr std::string_view ScratchEnd = ".tmp";
+constexpr std::size_t ScratchDigits = 16;
+
+/// A name that nobody can foresee, and so nobody can occupy.
+std::string newScratchName() {
+    std::random_device chance;
+    std::string digits(ScratchDigits, '0');
+    for (char& digit : digits)
+        digit = "0123456789abcdef"[chance() % 16];
+    return std::string(ScratchStart) + digits + std::string(ScratchEnd);
+}
+
+bool isScratchName(std::string_view name) {
+    return name.size() == ScratchStart.size() + ScratchDigits + ScratchEnd.size() &&
+           name.starts_with(ScratchStart) && name.ends_with(ScratchEnd);
+}
+
+void removeLeftover(const FileDescriptor& folder, const std::string& name) {
+    constexpr int Flags = O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY;
+    const FileDescriptor file(retried([&] { return ::openat(folder.get(), name.c_str(), Flags); }));
+    // A living writer holds the lock. Where nothing can be locked nobody knows, and the file stays.
+    if (file.isOpen() && takeLock(file) == LockAnswer::Taken &&
+        isNamed(file, folder, name) == Named::Yes)
+        retried([&] { return ::unlinkat(folder.get(), name.c_str(), 0); });
+}
+
+void removeLeftovers(const std::filesystem::path& path, const FileDescriptor& folder) {
+    std::error_code error;
+    std::filesystem::directory_iterator entry(path, error);
+    for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error))
+        if (const auto name = entry->path().filename().native(); isScratchName(name))
+            removeLeftover(folder, name);
+}
+
+/// The new content of a file while it is being written: a hidden file beside the old one, locked
+/// for as long as its writer lives, so that what a killed process left is told from what another
+/// instance is writing.
+class ScratchFile {
+public:
+    explicit ScratchFile(const LockedFile& target)
+        : m_target(target)
+        , m_place(target.place()) {}
+    ScratchFile(const ScratchFile&) = delete;
+    ScratchFile& operator=(const ScratchFile&) = delete;
+    /// Removes the scratch file unless it has taken the target's place.
+    ~ScratchFile() {
+        if (m_file.isOpen())
+            retried([&] { return ::unlinkat(m_place.folder.get(), m_name.c_str(), 0); });
+    }
+
+    Outcome create();
+    ContentSink sink() const { return {m_file, m_place.path}; }
+    /// Puts the content in the target's place, whole, with the target's permissions, and on the
+    /// disk.
+    Outcome takePlace();
+
+private:
+    Outcome checkTarget() const;
+    Outcome copyPermissions() const;
+    Outcome flushFolder() const;
+
+    const LockedFile& m_target;
+    const FilePlace& m_place;
+    std::string m_name;
+    FileDescriptor m_file;
+};
+
+Outcome ScratchFile::create() {
+    constexpr int MostAttempts = 100;
+    constexpr int Flags = O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC;
+    // What replaces a file gets its permissions later, and must not be read by others until then.
+    const mode_t mode = m_target.exists() ? 0600 : 0666;
+    for (int attempt = 0; attempt < MostAttempts; ++attempt) {
+        m_name = newScratchName();
+        m_file = FileDescriptor(
+            retried([&] { return ::openat(m_place.folder.get(), m_name.c_str(), Flags, mode); }));
+        if (!m_file.isOpen() && errno != EEXIST)
+            return fileProblem(m_place.path, "no new file can be made beside it");
+        if (!m_file.isOpen())
+            continue;
+        const LockAnswer answer = takeLock(m_file);
+        const Named named = isNamed(m_file, m_place.folder, m_name);
+        if (answer == LockAnswer::Failed || named == Named::Unknown)
+            return fileProblem(m_place.path, "the new file beside it cannot be locked");
+        // Another instance may have taken the file for a leftover before it was locked.
+        if (answer != LockAnswer::Busy && named == Named::Yes)
+            return Outcome::done();
+        m_file.close();
+    }
+    return fileProblem(m_place.path, "no new file can be made beside it", EEXIST);
+}
+
+/// Gives a file away as far as the system lets this user. Whether the group, at least, was kept.
+bool giveTo(const FileDescriptor& file, const struct stat& owner, const struct stat& now) {
+    constexpr auto Same = static_cast<uid_t>(-1);
+    if (owner.st_uid != now.st_uid && ::fchown(file.get(), owner.st_uid, owner.st_gid) == 0)
+        return true;
+    return owner.st_gid == now.st_gid || ::fchown(file.get(), Same, owner.st_gid) == 0;
+}
+
+/// Copies the extended attributes, as far as they can be. Whether the list of who else has access,
+/// if there is one, was among them.
+bool copyAttributes(const FileDescriptor& from, const FileDescriptor& to) {
+    constexpr std::string_view AccessList = "system.posix_acl_access";
+    constexpr std::size_t Longest = std::size_t{64} * 1024;
+    std::vector<char> names(Longest);
+    std::vector<char> value(Longest);
+    const auto size = ::flistxattr(from.get(), names.data(), names.size());
+    bool kept = true;
+    for (std::size_t at = 0; size > 0 && at < static_cast<std::size_t>(size);) {
+        const std::string name(&names[at]);
+        at += name.size() + 1;
+        const auto length = ::fgetxattr(from.get(), name.c_str(), value.data(), value.size());
+        const bool copied = length >= 0 && ::fsetxattr(to.get(), name.c_str(), value.data(),
+                                                       static_cast<std::size_t>(length), 0) == 0;
+        kept = kept && (copied || name != AccessList);
+    }
+    return kept;
+}
+
+/// Whom the rights of the group are meant for is gone when the group or the access list cannot be
+/// kept; then nobody gets them, rather than somebody else, and all others no more than the group.
+Outcome ScratchFile::copyPermissions() const {
+    struct stat old {};
+    struct stat created {};
+    if (retried([&] { return ::fstat(m_target.file().get(), &old); }) != 0 ||
+        retried([&] { return ::fstat(m_file.get(), &created); }) != 0)
+        return fileProblem(m_place.path, CannotBeExamined);
+    const bool keptGroup = giveTo(m_file, old, created);
+    const bool keptList = copyAttributes(m_target.file(), m_file);
+    mode_t mode = old.st_mode & (S_IRWXU | S_IRWXG | S_IRWXO);
+    if (!keptGroup || !keptList)
+        mode = (mode & S_IRWXU) | (mode & (mode >> 3) & S_IRWXO);
+    if (retried([&] { return ::fchmod(m_file.get(), mode); }) != 0)
+        return fileProblem(m_place.path, "its permissions cannot be kept");
+    return Outcome::done();
+}
+
+Outcome ScratchFile::flushFolder() const {
+    if (retried([&] { return ::fsync(m_place.folder.get()); }) == 0)
+        return Outcome::done();
+    // A folder that may not be listed, or one of a file system that flushes no folders.
+    const bool cannot = errno == EBADF || errno == EINVAL;
+    if (cannot && retried([&] { return ::syncfs(m_file.get()); }) == 0)
+        return Outcome::done();
+    return fileProblem(m_place.path, "was saved, but its folder cannot be flushed to the disk");
+}
+
+/// Fails when a program that knows nothing of the lock has changed the target since.
+Outcome ScratchFile::checkTarget() const {
+    const auto now = FileState::of(m_place.folder, m_place.name);
+    if (!now && errno != ENOENT)
+        return fileProblem(m_place.path, CannotBeWritten);
+    if (now ? m_target.exists() && *now == m_target.state() : !m_target.exists())
+        return Outcome::done();
+    return Outcome::failed(m_place.path.native() +
+                           ": was changed by another program at the same moment");
+}
+
+Outcome ScratchFile::takePlace() {
+    const int folder = m_place.folder.get();
+    if (m_target.exists())
+        if (Outcome kept = copyPermissions(); !kept.ok())
+            return kept;
+    if (retried([&] { return ::fsync(m_file.get()); }) != 0)
+        return fileProblem(m_place.path, "cannot be flushed to the disk");
+    if (Outcome same = checkTarget(); !same.ok())
+        return same;
+    if (isNamed(m_file, m_place.folder, m_name) != Named::Yes)
+        return Outcome::failed(m_place.path.native() + ": is being written by another program");
+    if (retried([&] { return ::renameat(folder, m_name.c_str(), folder, m_place.name.c_str()); }) !=
+        0)
+        return fileProblem(m_place.path, "cannot be replaced");
+    Outcome flushed = flushFolder();
+    releaseLock(m_file);
+    m_file.close();
+    return flushed;
 }
 
 } // namespace
 
 Outcome FilePlace::find(const std::filesystem::path& path, FilePlace& place) {
     std::filesystem::path resolved = path;
-    if (Outcome named = checkName(path); !named.ok())
-        return named;
     if (Outcome followed = followLinks(resolved); !followed.ok())
         return followed;
     place.path = path;
     place.name = resolved.filename().native();
-    place.folder = openFolder(resolved.parent_path());
+    place.folderPath = resolved.has_parent_path() ? resolved.parent_path() : ".";
+    place.folder = openFolder(place.folderPath);
     if (!place.folder.isOpen())
         return fileProblem(path, CannotBeWritten);
     if (place.name.empty())
@@ -106,27 +273,30 @@ void LockedFile::unlock() {
 
 Outcome LockedFile::lock(const std::filesystem::path& path) {
     unlock();
-    if (Outcome found = FilePlace::find(path, m_place); !found.ok())
-        return found;
-    Outcome outcome;
-    if (!patiently([&] { return attempt(outcome); }))
+    Outcome outcome = checkName(path);
+    m_place.path = path;
+    if (outcome.ok() && !patiently([&] { return attempt(outcome); }))
         outcome = Outcome::failed(path.native() + ": is being written by another program");
-    if (!outcome.ok())
+    if (outcome.ok())
+        removeLeftovers(m_place.folderPath, m_place.folder);
+    else
         unlock();
     return outcome;
 }
 
-/// Whether the file is locked now, or cannot be.
+/// Whether the file is locked now, or cannot be. The kernel opens it, and so decides which links
+/// may be followed; where they lead is looked up for its folder's sake and compared.
 bool LockedFile::attempt(Outcome& outcome) {
-    constexpr int Flags = O_RDWR | O_APPEND | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY;
-    m_file = FileDescriptor(
-        retried([&] { return ::openat(m_place.folder.get(), m_place.name.c_str(), Flags); }));
-    if (m_file.isOpen())
-        return attemptFile(outcome);
-    if (errno == ENOENT)
-        return attemptFolder(outcome);
-    outcome = fileProblem(m_place.path, CannotBeWritten);
-    return true;
+    constexpr int Flags = O_RDWR | O_APPEND | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
+    const std::filesystem::path path = m_place.path;
+    m_file = FileDescriptor(retried([&] { return ::open(path.c_str(), Flags); }));
+    if (!m_file.isOpen() && errno != ENOENT)
+        outcome = fileProblem(path, CannotBeWritten);
+    else
+        outcome = FilePlace::find(path, m_place);
+    if (!outcome.ok())
+        return true;
+    return m_file.isOpen() ? attemptFile(outcome) : attemptFolder(outcome);
 }
 
 bool LockedFile::attemptFile(Outcome& outcome) {
@@ -136,7 +306,7 @@ bool LockedFile::attemptFile(Outcome& outcome) {
     const LockAnswer answer = takeLock(m_file);
     if (answer == LockAnswer::Failed)
         outcome = fileProblem(m_place.path, "cannot be locked");
-    if (answer != LockAnswer::Taken)
+    if (answer == LockAnswer::Failed || answer == LockAnswer::Busy)
         return answer == LockAnswer::Failed;
     const auto opened = FileState::of(m_file);
     if (!opened) {
@@ -145,17 +315,16 @@ bool LockedFile::attemptFile(Outcome& outcome) {
     }
     m_state = *opened;
     // Whoever held the lock before may have put a new file in this one's place.
-    const auto named = FileState::of(m_place.folder, m_place.name);
-    if (!named && errno != ENOENT)
-        outcome = fileProblem(m_place.path, CannotBeWritten);
-    return !outcome.ok() || (named && named->isSameFile(*opened));
+    bool stillNamed = false;
+    outcome = checkNamed(stillNamed);
+    return !outcome.ok() || stillNamed;
 }
 
 bool LockedFile::attemptFolder(Outcome& outcome) {
     const LockAnswer answer = takeLock(m_place.folder);
     if (answer == LockAnswer::Failed)
         outcome = fileProblem(m_place.path, "its folder cannot be locked");
-    if (answer != LockAnswer::Taken)
+    if (answer == LockAnswer::Failed || answer == LockAnswer::Busy)
         return answer == LockAnswer::Failed;
     if (!FileState::of(m_place.folder, m_place.name)) {
         if (errno != ENOENT)
@@ -167,145 +336,23 @@ bool LockedFile::attemptFolder(Outcome& outcome) {
     return false;
 }
 
-Outcome LockedFile::checkUnchanged() const {
-    const auto now = FileState::of(m_place.folder, m_place.name);
-    if (!now && errno != ENOENT)
-        return fileProblem(m_place.path, CannotBeWritten);
-    if (now ? exists() && *now == m_state : !exists())
-        return Outcome::done();
-    return Outcome::failed(m_place.path.native() +
-                           ": was changed by another program at the same moment");
-}
-
-std::string scratchNameOf(const std::string& name) {
-    std::uint64_t hash = hashOf(name);
-    std::string digits(16, '0');
-    for (std::size_t i = digits.size(); i-- > 0; hash /= 16)
-        digits[i] = "0123456789abcdef"[hash % 16];
-    return std::string(ScratchStart) + digits + std::string(ScratchEnd);
-}
-
-bool isScratchName(std::string_view name) {
-    return name.size() == scratchNameOf({}).size() && name.starts_with(ScratchStart) &&
-           name.ends_with(ScratchEnd);
-}
-
-Leftover removeLeftover(const FileDescriptor& folder, const std::string& name) {
-    constexpr int Flags = O_RDWR | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY;
-    const FileDescriptor file(retried([&] { return ::openat(folder.get(), name.c_str(), Flags); }));
-    if (!file.isOpen())
-        return errno == ENOENT ? Leftover::None : Leftover::Stuck;
-    const LockAnswer answer = takeLock(file);
-    if (answer != LockAnswer::Taken)
-        return answer == LockAnswer::Busy ? Leftover::InUse : Leftover::Stuck;
-    // Its writer may have finished, and another one begun, between the opening and the lock.
-    const Named named = isNamed(file, folder, name);
-    if (named != Named::Yes)
-        return named == Named::No ? Leftover::InUse : Leftover::Stuck;
-    const int removed = retried([&] { return ::unlinkat(folder.get(), name.c_str(), 0); });
-    return removed == 0 ? Leftover::Removed : Leftover::Stuck;
-}
-
-ScratchFile::ScratchFile(const LockedFile& target)
-    : m_target(target)
-    , m_name(scratchNameOf(target.place().name)) {}
-
-ScratchFile::~ScratchFile() {
-    if (m_file.isOpen())
-        retried([&] { return ::unlinkat(m_target.place().folder.get(), m_name.c_str(), 0); });
-}
-
-Outcome ScratchFile::create() {
-    Outcome outcome;
-    if (!patiently([&] { return attempt(outcome); }))
-        return Outcome::failed(m_target.place().path.native() +
-                               ": is being written by another program");
-    return outcome;
-}
-
-/// Whether the scratch file is there now, or cannot be made.
-bool ScratchFile::attempt(Outcome& outcome) {
-    constexpr int Flags = O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC;
-    const FilePlace& place = m_target.place();
-    // What replaces a file gets its permissions later, and must not be read by others until then.
-    const mode_t mode = m_target.exists() ? 0600 : 0666;
-    FileDescriptor file(
-        retried([&] { return ::openat(place.folder.get(), m_name.c_str(), Flags, mode); }));
-    if (!file.isOpen()) {
-        const int error = errno;
-        if (error == EEXIST && removeLeftover(place.folder, m_name) != Leftover::Stuck)
-            return false;
-        outcome = fileProblem(place.path, "no new file can be made beside it", error);
-        return true;
-    }
-    const LockAnswer answer = takeLock(file);
-    const Named named = isNamed(file, place.folder, m_name);
-    if (answer == LockAnswer::Failed || named == Named::Unknown)
-        outcome = fileProblem(place.path, "the new file beside it cannot be locked");
-    // Another instance may have taken the file for a leftover before it was locked.
-    else if (answer == LockAnswer::Busy || named == Named::No)
-        return false;
-    m_file = std::move(file);
-    return true;
-}
-
-Outcome ScratchFile::copyPermissions() const {
-    struct stat old {};
-    struct stat created {};
-    if (retried([&] { return ::fstat(m_target.file().get(), &old); }) != 0 ||
-        retried([&] { return ::fstat(m_file.get(), &created); }) != 0)
-        return fileProblem(m_target.place().path, "cannot be examined");
-    // Giving a file away is the system administrator's privilege: it is tried, no more.
-    if (old.st_uid != created.st_uid || old.st_gid != created.st_gid)
-        static_cast<void>(::fchown(m_file.get(), old.st_uid, old.st_gid) == 0);
-    const mode_t mode = old.st_mode & 07777;
-    const bool same = (created.st_mode & 07777) == mode;
-    if (!same && retried([&] { return ::fchmod(m_file.get(), mode); }) != 0)
-        return fileProblem(m_target.place().path, "its permissions cannot be kept");
+Outcome LockedFile::checkNamed(bool& stillNamed) const {
+    const auto named = FileState::of(m_place.folder, m_place.name);
+    stillNamed = named && named->isSameFile(m_state);
+    if (!named && errno != ENOENT)
+        return fileProblem(m_place.path, CannotBeExamined);
     return Outcome::done();
 }
 
-Outcome ScratchFile::flushFolder() const {
-    const FilePlace& place = m_target.place();
-    if (retried([&] { return ::fsync(place.folder.get()); }) == 0)
-        return Outcome::done();
-    // A folder that may not be listed, or one of a file system that flushes no folders.
-    const bool cannot = errno == EBADF || errno == EINVAL;
-    if (cannot && retried([&] { return ::syncfs(m_file.get()); }) == 0)
-        return Outcome::done();
-    return fileProblem(place.path, "its folder cannot be flushed to the disk");
-}
-
-Outcome ScratchFile::takePlace() {
-    const FilePlace& place = m_target.place();
-    const int folder = place.folder.get();
-    if (m_target.exists())
-        if (Outcome kept = copyPermissions(); !kept.ok())
-            return kept;
-    if (retried([&] { return ::fsync(m_file.get()); }) != 0)
-        return fileProblem(place.path, "cannot be flushed to the disk");
-    if (Outcome same = m_target.checkUnchanged(); !same.ok())
-        return same;
-    if (isNamed(m_file, place.folder, m_name) != Named::Yes)
-        return Outcome::failed(place.path.native() + ": is being written by another program");
-    if (retried([&] { return ::renameat(folder, m_name.c_str(), folder, place.name.c_str()); }) !=
-        0)
-        return fileProblem(place.path, "cannot be replaced");
-    Outcome flushed = flushFolder();
-    releaseLock(m_file);
-    m_file.close();
-    return flushed;
-}
-
-Outcome missingLineEnd(const LockedFile& file, std::string_view& missing) {
+Outcome LockedFile::missingLineEnd(std::string_view& missing) const {
     std::array<char, ByteOrderMark.size()> bytes{};
-    const auto size = file.state().size;
-    const auto tail = std::min<std::int64_t>(size, bytes.size());
-    const auto got = readAt(file.file(), bytes.data(), static_cast<std::size_t>(tail), size - tail);
+    const auto tail = std::min<std::int64_t>(m_state.size, bytes.size());
+    const auto got =
+        readAt(m_file, bytes.data(), static_cast<std::size_t>(tail), m_state.size - tail);
     if (got < tail)
-        return fileProblem(file.place().path, "cannot be read", got < 0 ? errno : EIO);
+        return fileProblem(m_place.path, "cannot be read", got < 0 ? errno : EIO);
     const std::string_view end(bytes.data(), static_cast<std::size_t>(got));
-    const bool holdsNoLine = got == size && (end.empty() || end == ByteOrderMark);
+    const bool holdsNoLine = got == m_state.size && withoutMark(end).empty();
     if (holdsNoLine || end.back() == '\n')
         missing = {};
     else
@@ -313,8 +360,8 @@ Outcome missingLineEnd(const LockedFile& file, std::string_view& missing) {
     return Outcome::done();
 }
 
-Outcome replaceLocked(const LockedFile& file, const ContentWriter& writer) {
-    ScratchFile scratch(file);
+Outcome LockedFile::replace(const ContentWriter& writer) const {
+    ScratchFile scratch(*this);
     if (Outcome created = scratch.create(); !created.ok())
         return created;
     if (Outcome written = writer(scratch.sink()); !written.ok())
@@ -322,20 +369,30 @@ Outcome replaceLocked(const LockedFile& file, const ContentWriter& writer) {
     return scratch.takePlace();
 }
 
-Outcome appendLocked(const LockedFile& file, std::string_view wholeLines) {
-    if (!file.exists())
-        return replaceLocked(file, [&](const ContentSink& sink) { return sink.write(wholeLines); });
+Outcome LockedFile::append(std::string_view wholeLines) const {
     std::string_view missing;
-    if (Outcome looked = missingLineEnd(file, missing); !looked.ok())
+    if (Outcome looked = missingLineEnd(missing); !looked.ok())
         return looked;
-    std::string addition(missing);
-    addition += wholeLines;
-    const FilePlace& place = file.place();
-    if (Outcome written = ContentSink(file.file(), place.path).write(addition); !written.ok())
-        return takeBack(file, written);
-    if (retried([&] { return ::fsync(file.file().get()); }) != 0)
-        return takeBack(file, fileProblem(place.path, "cannot be flushed to the disk"));
-    return Outcome::done();
+    const std::string addition = std::string(missing).append(wholeLines);
+    Outcome outcome = ContentSink(m_file, m_place.path).write(addition);
+    if (outcome.ok() && retried([&] { return ::fsync(m_file.get()); }) != 0)
+        outcome = fileProblem(m_place.path, "cannot be flushed to the disk");
+    return outcome.ok() ? outcome : takeBack(addition, outcome);
+}
+
+/// Cuts off what was written of `addition`, but nothing that another program has appended.
+Outcome LockedFile::takeBack(std::string_view addition, Outcome problem) const {
+    std::string behind(addition.size() + 1, '\0');
+    const auto got = readAt(m_file, behind.data(), behind.size(), m_state.size);
+    behind.resize(static_cast<std::size_t>(std::max<std::int64_t>(got, 0)));
+    const bool isOwn = got >= 0 && addition.starts_with(behind);
+    if (!isOwn || retried([&] { return ::ftruncate(m_file.get(), m_state.size); }) != 0)
+        problem.problem += "; a part of what was written may stand at its end";
+    return problem;
+}
+
+void removeLeftovers(const std::filesystem::path& folder) {
+    removeLeftovers(folder, openFolder(folder));
 }
 
 } // namespace tessaly

@@ -1,6 +1,6 @@
 #include "core/output/booklet.h"
 
-#include "core/board/puzzle_file.h"
+#include "core/board/puzzle_store.h"
 
 #include <algorithm>
 
@@ -28,7 +28,7 @@ BookletPage Booklet::page(int number) const {
     return {};
 }
 
-PrintJob jobOf(const PrintRange& range, PuzzleFiles& files) {
+PrintJob jobOf(const PrintRange& range, PuzzleStore& files) {
     std::vector<BookletPart> parts{{false, range.puzzlesPerPage}};
     if (range.solutions)
         parts.push_back({true, SolutionsPerPage});

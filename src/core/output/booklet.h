@@ -12,7 +12,7 @@
 
 namespace tessaly {
 
-class PuzzleFiles;
+class PuzzleStore;
 
 /// How many puzzles a page of a booklet may hold, and how many solutions it does.
 inline constexpr std::array<int, 4> PuzzlesPerPage{1, 2, 4, 6};
@@ -77,7 +77,7 @@ struct PrintRange {
 
 /// The job of printing a range: the puzzles as they were made, without what a player has entered,
 /// for a booklet is there to be solved, and then their solutions. `files` must outlive the job.
-PrintJob jobOf(const PrintRange& range, PuzzleFiles& files);
+PrintJob jobOf(const PrintRange& range, PuzzleStore& files);
 
 /// The job of printing one board as it stands, each part on a page of its own.
 PrintJob jobOf(const Board& board, int number, bool puzzle, bool solution);

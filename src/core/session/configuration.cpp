@@ -3,6 +3,7 @@
 #include "core/base/data_files.h"
 #include "core/files/file_access.h"
 #include "core/files/line_reader.h"
+#include "core/files/locked_file.h"
 #include "core/options/scheme_library.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "core/session/maintenance_commands.h"
 
-#include "core/board/puzzle_file.h"
+#include "core/board/puzzle_store.h"
 
 #include <future>
 
@@ -65,7 +65,7 @@ bool MaintenanceCommands::run(std::string_view input, std::string_view output, c
 
 Outcome MaintenanceCommands::runWithProgress(const ToolFiles& files, const Tool& tool) {
     int count = 0;
-    if (Outcome counted = PuzzleFiles().CountLines(files.input, count); !counted.ok())
+    if (Outcome counted = PuzzleStore().CountLines(files.input, count); !counted.ok())
         return counted;
     m_display.showBusy(true);
     m_display.beginProgress(files.input);

@@ -1,7 +1,6 @@
 #include "core/session/multiple_creation.h"
 
 #include "core/board/puzzle_record.h"
-#include "core/files/file_access.h"
 #include "core/solver/generator.h"
 
 #include <future>
@@ -82,7 +81,7 @@ Outcome MultipleCreation::createAll(const CreationOrder& order, int& made) {
 
 /// Appends to the file on a thread of its own: a disk may take its time.
 Outcome MultipleCreation::append(const std::filesystem::path& path, const std::string& records) {
-    auto writing = std::async([&] { return appendLines(path, records); });
+    auto writing = std::async([&] { return m_store.appendPuzzles(path, records); });
     while (writing.wait_for(Turn) == std::future_status::timeout)
         m_display.yield();
     return writing.get();

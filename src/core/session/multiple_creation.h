@@ -58,6 +58,7 @@ private:
     Display& m_display;
     Prompts& m_prompts;
     CreationOrderChoice& m_orders;
+    PuzzleStore m_store;
     SearchFill m_fill;
     Chance m_chance;
     std::unordered_set<std::string> m_known;

@@ -45,7 +45,7 @@ PuzzleFileCommands::PuzzleFileCommands(Session& session, BoardInput& input, Disp
     , m_display(display)
     , m_prompts(prompts)
     , m_chooseFile(std::move(chooseFile)) {
-    m_session.files = PuzzleFiles([&display] { display.yield(); });
+    m_session.files = PuzzleStore([&display] { display.yield(); });
 }
 
 void PuzzleFileCommands::tellCritical(const std::string& text) {
@@ -176,8 +176,7 @@ void PuzzleFileCommands::mnudelete() {
 
 Outcome PuzzleFileCommands::remove(const CurrentPuzzle& puzzle) {
     const WhileAtWork atWork(m_session, m_display);
-    return m_session.files.DeletePuzzle(puzzle.PuzPath, puzzle.PuzNum, puzzle.record,
-                                        m_session.ProgramFolder);
+    return m_session.files.DeletePuzzle(puzzle.PuzPath, puzzle.PuzNum, puzzle.record);
 }
 
 void PuzzleFileCommands::oldfiles_Click(int item) {

@@ -2,7 +2,7 @@
 
 #include "core/board/arrangements.h"
 #include "core/board/difficulty.h"
-#include "core/board/puzzle_file.h"
+#include "core/board/puzzle_store.h"
 #include "core/options/appearance.h"
 #include "core/play/busy.h"
 #include "core/play/display.h"
@@ -27,7 +27,7 @@ struct Session {
     ArrangementTable arrangements;
     Appearance appearance;
 
-    PuzzleFiles files;
+    PuzzleStore files;
     RecentFiles recentFiles;
     /// The file that "Save to" offers; empty for none.
     std::filesystem::path saveTarget;

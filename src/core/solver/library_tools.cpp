@@ -1,8 +1,7 @@
 #include "core/solver/library_tools.h"
 
-#include "core/board/puzzle_file.h"
 #include "core/board/puzzle_record.h"
-#include "core/board/record_lines.h"
+#include "core/board/puzzle_store.h"
 #include "core/files/file_access.h"
 #include "core/files/line_reader.h"
 #include "core/solver/deduction.h"
@@ -36,19 +35,14 @@ private:
     std::string m_lines;
 };
 
-Outcome readLine(const RecordLine& line, Board& board) {
-    return line.isOverLong ? Outcome::failed(std::string(OverLongProblem))
-                           : readRecord(line.text, board);
-}
-
 /// Reads every record onto a board and hands both to `take`. The first one that is broken or that
 /// `take` cannot go on after ends it.
 Outcome forEachPuzzle(const std::filesystem::path& path, const KeepGoing& keepGoing,
                       const std::function<Outcome(std::string_view line, Board& board)>& take) {
     Board board;
     Outcome outcome;
-    const Outcome read = readRecordLines(path, [&](RecordLine line) {
-        outcome = readLine(line, board);
+    const Outcome read = forEachRecord(path, [&](RecordLine line) {
+        outcome = line.read(board);
         if (!outcome.ok())
             outcome.problem = lineProblem(path, line.number, outcome.problem);
         else
@@ -63,7 +57,7 @@ Outcome forEachPuzzle(const std::filesystem::path& path, const KeepGoing& keepGo
 Outcome writePuzzles(const std::filesystem::path& path, OutputMode mode,
                      const ContentWriter& writer) {
     return mode == OutputMode::Replace ? replaceFile(path, writer)
-                                       : PuzzleFiles().appendPuzzles(path, writer);
+                                       : PuzzleStore().appendPuzzles(path, writer);
 }
 
 } // namespace

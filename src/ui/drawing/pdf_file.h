@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/files/content_sink.h"
+#include "core/files/file_descriptor.h"
 #include "core/options/appearance.h"
 #include "core/output/booklet.h"
 #include "core/output/page_layout.h"

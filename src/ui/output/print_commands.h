@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/base/prompts.h"
-#include "core/board/puzzle_file.h"
+#include "core/board/puzzle_store.h"
 #include "core/output/page_layout.h"
 #include "core/play/display.h"
 #include "ui/drawing/pdf_file.h"
@@ -53,7 +53,7 @@ private:
     Session& m_session;
     Printers& m_printers;
     PrintWindow m_window;
-    PuzzleFiles m_files;
+    PuzzleStore m_files;
     /// The program's printer once one was chosen; empty for a PDF file.
     std::optional<QString> m_printer;
     bool m_closing = false;

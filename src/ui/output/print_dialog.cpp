@@ -2,7 +2,7 @@
 
 #include "core/base/leading_number.h"
 #include "core/base/prompts.h"
-#include "core/board/puzzle_file.h"
+#include "core/board/puzzle_store.h"
 #include "ui/controls/box_control.h"
 #include "ui/controls/choice_mark.h"
 #include "ui/controls/dialog_parts.h"
@@ -158,7 +158,7 @@ void Form5::chooseFile() {
     if (chosen.empty())
         return;
     int count = 0;
-    if (const Outcome counted = PuzzleFiles().CountLines(chosen, count); !counted.ok()) {
+    if (const Outcome counted = PuzzleStore().CountLines(chosen, count); !counted.ok()) {
         m_prompts.message(counted.problem, "vbok+vbcritical");
         return;
     }

@@ -1,10 +1,15 @@
 #include "core/files/file_access.h"
 
+#include "core/board/puzzle_store.h"
+
+#include "support/full_disk.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 #include <vector>
 
@@ -15,68 +20,70 @@ namespace fs = std::filesystem;
 using Names = std::set<std::string>;
 using test::contentOf;
 using test::put;
-using test::TemporaryFolder;
 
 fs::perms permissionsOf(const fs::path& path) {
     return fs::status(path).permissions();
 }
 
-TEST(FileAccess, ReplacingKeepsPermissionsAndLeavesNothingElse) {
-    const TemporaryFolder folder;
-    put(folder / "a.txt", "old");
-    fs::permissions(folder / "a.txt", fs::perms(0641));
-    EXPECT_EQ(replaceFile(folder / "a.txt", "new").problem, "");
-    EXPECT_EQ(contentOf(folder / "a.txt"), "new");
-    EXPECT_EQ(permissionsOf(folder / "a.txt"), fs::perms(0641));
-    fs::permissions(folder / "a.txt", fs::perms(0600));
-    constexpr uid_t Nobody = 65534;
-    const bool givesAway = ::chown((folder / "a.txt").c_str(), Nobody, Nobody) == 0;
-    EXPECT_EQ(replaceFile(folder / "a.txt", "newer").problem, "");
-    EXPECT_EQ(permissionsOf(folder / "a.txt"), fs::perms(0600));
-    struct stat status {};
-    ASSERT_EQ(::stat((folder / "a.txt").c_str(), &status), 0);
-    EXPECT_EQ(status.st_uid == Nobody, givesAway || ::geteuid() == Nobody);
+class FileAccess : public testing::Test {
+protected:
+    Outcome append(const fs::path& path) { return PuzzleStore().appendPuzzles(path, "more\r\n"); }
+
+    test::TemporaryFolder folder;
+    fs::path file = folder / "a.txt";
+};
+
+TEST_F(FileAccess, ReplacingKeepsWhoMayDoWhatAndShowsNobodyMoreMeanwhile) {
+    put(file, "old");
+    fs::permissions(file, fs::perms(0641));
+    const bool takesAttributes = ::setxattr(file.c_str(), "user.note", "mine", 4, 0) == 0;
+    const auto write = [&](const ContentSink& sink) {
+        for (const std::string& name : folder.names())
+            EXPECT_EQ(permissionsOf(folder / name), fs::perms(name == "a.txt" ? 0641 : 0600));
+        EXPECT_EQ(folder.names().size(), 2u) << "the old file and the new one";
+        return sink.write("new");
+    };
+    EXPECT_EQ(replaceFile(file, write).problem, "");
+    EXPECT_EQ(contentOf(file), "new");
+    EXPECT_EQ(permissionsOf(file), fs::perms(0641));
+    std::array<char, 4> note{};
+    EXPECT_EQ(::getxattr(file.c_str(), "user.note", note.data(), note.size()) == 4,
+              takesAttributes);
     EXPECT_EQ(replaceFile(folder / "made.txt", "").problem, "");
     EXPECT_EQ(folder.names(), (Names{"a.txt", "made.txt"}));
 }
 
-TEST(FileAccess, SymbolicLinksStayLinks) {
-    const TemporaryFolder folder;
+TEST_F(FileAccess, AFileOfAnotherKeepsItsOwnerButNoRightToBeAnother) {
+    constexpr uid_t Nobody = 65534;
+    put(file, "old");
+    const bool givesAway = ::chown(file.c_str(), Nobody, Nobody) == 0;
+    fs::permissions(file, fs::perms(04750));
+    EXPECT_EQ(replaceFile(file, "new").problem, "");
+    struct stat status {};
+    ASSERT_EQ(::stat(file.c_str(), &status), 0);
+    EXPECT_EQ(status.st_uid == Nobody, givesAway || ::geteuid() == Nobody);
+    EXPECT_EQ(permissionsOf(file), fs::perms(0750));
+}
+
+TEST_F(FileAccess, SymbolicLinksStayLinks) {
     fs::create_directory(folder / "far");
-    put(folder / "far/a.txt", "old\n");
+    put(folder / "far/a.txt", "old\r\n");
     fs::create_symlink("far/a.txt", folder / "link");
     fs::create_symlink("link", folder / "chain");
     fs::create_symlink("far/absent.txt", folder / "dangling");
     fs::create_symlink("loop", folder / "loop");
 
-    EXPECT_EQ(replaceFile(folder / "chain", "new\n").problem, "");
-    EXPECT_EQ(appendLines(folder / "link", "more\r\n").problem, "");
-    EXPECT_EQ(contentOf(folder / "far/a.txt"), "new\nmore\r\n");
-    EXPECT_EQ(appendLines(folder / "dangling", "first\r\n").problem, "");
-    EXPECT_EQ(contentOf(folder / "far/absent.txt"), "first\r\n");
+    EXPECT_EQ(replaceFile(folder / "chain", "new\r\n").problem, "");
+    EXPECT_EQ(append(folder / "link").problem, "");
+    EXPECT_EQ(contentOf(folder / "far/a.txt"), "new\r\nmore\r\n");
+    EXPECT_EQ(append(folder / "dangling").problem, "");
+    EXPECT_EQ(contentOf(folder / "far/absent.txt"), "more\r\n");
     EXPECT_FALSE(replaceFile(folder / "loop", "x").ok());
     for (const char* link : {"link", "chain", "dangling", "loop"})
         EXPECT_TRUE(fs::is_symlink(folder / link)) << link;
 }
 
-TEST(FileAccess, AppendingEndsAnUnendedLineFirst) {
-    const TemporaryFolder folder;
-    const std::vector<std::pair<std::string, std::string>> cases{
-        {"", "new\r\n"},
-        {"old", "old\r\nnew\r\n"},
-        {"old\r", "old\r\nnew\r\n"},
-        {"old\n", "old\nnew\r\n"},
-        {"\xEF\xBB\xBF", "\xEF\xBB\xBFnew\r\n"},
-        {"\n", "\nnew\r\n"}};
-    for (const auto& [before, after] : cases) {
-        put(folder / "a.txt", before);
-        EXPECT_EQ(appendLines(folder / "a.txt", "new\r\n").problem, "");
-        EXPECT_EQ(contentOf(folder / "a.txt"), after);
-    }
-}
-
-TEST(FileAccess, WhatIsNoRegularFileIsRefusedWithoutWaiting) {
-    const TemporaryFolder folder;
+TEST_F(FileAccess, WhatIsNoRegularFileIsRefusedWithoutWaiting) {
     fs::create_directory(folder / "folder");
     ASSERT_EQ(::mkfifo((folder / "fifo").c_str(), 0600), 0);
     std::string content = "kept";
@@ -89,8 +96,8 @@ TEST(FileAccess, WhatIsNoRegularFileIsRefusedWithoutWaiting) {
                                       std::string("/tmp/a\0b", 8),
                                       folder / std::string(256, 'n')};
     for (const fs::path& path : paths) {
-        EXPECT_NE(replaceFile(path, "x").problem.find(path.native() + ": "), std::string::npos);
-        EXPECT_FALSE(appendLines(path, "x\n").ok()) << path;
+        EXPECT_TRUE(replaceFile(path, "x").problem.starts_with(path.native() + ": "));
+        EXPECT_FALSE(append(path).ok()) << path;
         EXPECT_FALSE(readSmallFile(path, 100, content).ok()) << path;
         EXPECT_FALSE(FileExists(path)) << path;
     }
@@ -98,42 +105,40 @@ TEST(FileAccess, WhatIsNoRegularFileIsRefusedWithoutWaiting) {
     EXPECT_EQ(folder.names(), (Names{"folder", "fifo"}));
 }
 
-TEST(FileAccess, AnyNameThatTheSystemTakesWillDo) {
-    const TemporaryFolder folder;
-    for (const std::string& name :
-         {std::string("two words"), std::string("\"quoted\""), std::string("line\nfeed"),
-          std::string(255, 'n'), std::string("\xff\xfe")}) {
-        EXPECT_EQ(replaceFile(folder / name, "a\n").problem, "");
-        EXPECT_EQ(appendLines(folder / name, "b\n").problem, "");
-        EXPECT_EQ(replaceFile(folder / name, contentOf(folder / name)).problem, "");
-        EXPECT_EQ(contentOf(folder / name), "a\nb\n") << name;
-    }
-    EXPECT_EQ(folder.names().size(), 5U);
+TEST_F(FileAccess, AFullDiskLeavesTheOldContentAndSaysSo) {
+    std::string before(1200, 'x');
+    before += "\r\n";
+    put(file, before);
+    const std::string more(2000, 'y');
+    const test::FullDisk disk(1205);
+    const auto expectFull = [](const Outcome& outcome) {
+        EXPECT_TRUE(outcome.problem.ends_with(": cannot be written: File too large"))
+            << outcome.problem;
+    };
+    expectFull(append(file));
+    expectFull(replaceFile(file, more));
+    expectFull(replaceFile(folder / "new.txt", more));
+    EXPECT_EQ(contentOf(file), before);
+    EXPECT_EQ(folder.names(), Names{"a.txt"});
 }
 
-TEST(FileAccess, RewritingStartsFromNothingWhereThereIsNoFile) {
-    const TemporaryFolder folder;
-    const auto addLine = [](std::string& content) {
+TEST_F(FileAccess, ASmallFileIsReadUpToItsLimitAndChangedInOneGo) {
+    const auto change = [](std::string& content) {
         content += "line\n";
         return Outcome::done();
     };
     for (const char* expected : {"line\n", "line\nline\n"}) {
-        EXPECT_EQ(rewriteSmallFile(folder / "a.txt", 100, addLine).problem, "");
-        EXPECT_EQ(contentOf(folder / "a.txt"), expected);
+        EXPECT_EQ(rewriteSmallFile(file, 5, change).problem, "") << "it begins with nothing";
+        EXPECT_EQ(contentOf(file), expected);
     }
-    removeLeftovers(folder / "none");
-    removeLeftoverOf(folder / "none/a.txt");
-    EXPECT_EQ(folder.names(), Names{"a.txt"});
-}
-
-TEST(FileAccess, SmallFilesAreReadUpToTheirLimit) {
-    const TemporaryFolder folder;
-    const std::string text(200'000, 'x');
-    put(folder / "a.txt", text);
-    std::string content;
-    EXPECT_EQ(readSmallFile(folder / "a.txt", text.size(), content).problem, "");
-    EXPECT_EQ(content, text);
-    EXPECT_FALSE(readSmallFile(folder / "a.txt", text.size() - 1, content).ok());
+    EXPECT_FALSE(rewriteSmallFile(file, 5, change).ok());
+    const Outcome changed = rewriteSmallFile(file, 100, [&](std::string& content) {
+        put(file, content + "foreign");
+        content = "ours";
+        return Outcome::done();
+    });
+    EXPECT_NE(changed.problem.find("another program"), std::string::npos);
+    EXPECT_EQ(contentOf(file), "line\nline\nforeign");
 }
 
 } // namespace

@@ -1,8 +1,7 @@
 // What becomes of files when a system call fails, or another program acts between two of them.
 
 #include "core/board/arrangements.h"
-#include "core/board/puzzle_file.h"
-#include "core/board/record_lines.h"
+#include "core/board/puzzle_store.h"
 #include "core/files/file_access.h"
 #include "core/files/file_descriptor.h"
 #include "core/files/locked_file.h"
@@ -16,10 +15,8 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
-#include <chrono>
 #include <cstdlib>
 #include <fcntl.h>
-#include <future>
 #include <sstream>
 #include <vector>
 
@@ -148,83 +145,118 @@ std::string problemWhile(FileCalls::Before before, const std::function<Outcome()
 
 class FileFaultsTest : public testing::Test {
 protected:
-    fs::path file() const { return m_folder / "a.txt"; }
-    fs::path scratch() const { return m_folder / scratchNameOf("a.txt"); }
     Names names() const { return m_folder.names(); }
-    const fs::path& folder() const { return m_folder.path(); }
+    /// The one hidden file beside those of the user.
+    fs::path scratch() const {
+        for (const std::string& name : names())
+            if (name.starts_with(".tessaly-") && name.ends_with(".tmp") && name.size() > 20)
+                return m_folder / name;
+        return {};
+    }
+    /// "FILE: " and `what`.
+    std::string told(const std::string& what) const { return file.native() + ": " + what; }
 
-    /// Puts another file in the place of `file()`, as a program does that replaces files.
+    /// Puts another file in the place of `file`, as a program does that replaces files.
     std::function<void()> replacedBy(const std::string& content) const {
         return [this, content] {
             put(m_folder / "new", content);
-            fs::rename(m_folder / "new", file());
+            fs::rename(m_folder / "new", file);
         };
     }
     std::function<Outcome()> appending(const std::string& line) const {
-        return [this, line] { return appendLines(file(), line); };
+        return [this, line] { return PuzzleStore().appendPuzzles(file, line); };
     }
     std::function<Outcome()> replacing(const std::string& content) const {
-        return [this, content] { return replaceFile(file(), content); };
+        return [this, content] { return replaceFile(file, content); };
     }
 
-private:
     TemporaryFolder m_folder;
+    fs::path file = m_folder / "a.txt";
 };
 
-TEST_F(FileFaultsTest, WhoeverWaitedForAFileSeesWhatWasDoneMeanwhile) {
-    EXPECT_EQ(problemWhile(meanwhile("flock", replacedBy("1\n")), appending("2\n")), "");
-    EXPECT_EQ(contentOf(file()), "1\n2\n") << "made by another while its folder was locked";
-    EXPECT_EQ(problemWhile(meanwhile("flock", replacedBy("3\n")), appending("4\n")), "");
-    EXPECT_EQ(contentOf(file()), "3\n4\n") << "replaced by another between opening and lock";
-    EXPECT_EQ(problemWhile(meanwhile("flock", [&] { fs::remove(file()); }), appending("5\n")), "");
-    EXPECT_EQ(contentOf(file()), "5\n") << "removed by another between opening and lock";
-    EXPECT_EQ(names(), Names{"a.txt"});
-}
-
-TEST_F(FileFaultsTest, AScratchFileIsOnlyUsedByWhomItBelongsTo) {
-    put(file(), "old");
-    // The lock of the file comes first, the one of its scratch file second.
-    const auto taken = [&] { fs::remove(scratch()); };
-    EXPECT_EQ(problemWhile(meanwhile("flock", taken, 1), replacing("new")), "");
-    EXPECT_EQ(contentOf(file()), "new") << "taken for a leftover before it was locked";
-
-    const std::string late = problemWhile(meanwhile("fsync", taken), replacing("newer"));
-    EXPECT_NE(late.find("is being written by another program"), std::string::npos) << late;
-    EXPECT_EQ(contentOf(file()), "new");
-
-    put(scratch(), "torn");
-    const auto begunAnew = [&] {
-        fs::remove(scratch());
-        put(scratch(), "another one's");
+TEST_F(FileFaultsTest, AnAppendedLineStandsInTheFileThatTheNameMeans) {
+    const auto removed = [&] { fs::remove(file); };
+    const struct {
+        const char* call;
+        std::function<void()> work;
+        const char* line;
+        const char* left;
+        const char* when;
+    } rows[] = {
+        {"flock", replacedBy("1\n"), "2\n", "1\n2\n", "made while its folder was locked"},
+        {"flock", replacedBy("3\n"), "4\n", "3\n4\n", "replaced between opening and lock"},
+        {"flock", removed, "5\n", "5\n", "removed between opening and lock"},
+        {"write", replacedBy("6\n"), "7\n", "6\n7\n", "replaced before the line was written"},
+        {"fsync", replacedBy("8\n"), "9\n", "8\n9\n", "replaced before it was flushed"},
+        {"fsync", removed, "10\n", "10\n", "removed before it was flushed"},
     };
-    EXPECT_EQ(problemWhile(meanwhile("flock", begunAnew),
-                           [&] {
-                               removeLeftoverOf(file());
-                               return Outcome::done();
-                           }),
-              "");
-    EXPECT_EQ(contentOf(scratch()), "another one's");
+    for (const auto& row : rows) {
+        EXPECT_EQ(problemWhile(meanwhile(row.call, row.work), appending(row.line)), "") << row.when;
+        EXPECT_EQ(contentOf(file), row.left) << row.when;
+    }
+    EXPECT_EQ(names(), Names{"a.txt"});
 }
 
-TEST_F(FileFaultsTest, ALeftoverThatCannotBeRemovedIsSaid) {
-    put(file(), "old");
-    put(scratch(), "torn");
-    // The first lock and the first look are the file's own, the first two openings its own and the
-    // one that finds the leftover.
-    for (const FileCalls::Before& stuck : {failing("openat", EIO, 2), failing("flock", EIO, 1),
-                                           failing("fstatat", EIO, 1), failing("unlinkat", EIO)}) {
-        EXPECT_EQ(problemWhile(stuck, replacing("new")),
-                  file().native() + ": no new file can be made beside it: File exists");
-        EXPECT_EQ(contentOf(file()) + contentOf(scratch()), "oldtorn");
+TEST_F(FileFaultsTest, OnlyWhatIsOnesOwnIsTakenBack) {
+    put(file, "old\n");
+    const auto foreign = [&] { std::ofstream(file, std::ios::app) << "foreign\n"; };
+    EXPECT_EQ(problemWhile(failing("fsync", EIO), appending("new\n")),
+              told("cannot be flushed to the disk: Input/output error"));
+    EXPECT_EQ(contentOf(file), "old\n");
+    const std::string left = problemWhile(
+        [&](std::string_view name, int) {
+            if (name == "fsync")
+                foreign();
+            return name == "fsync" ? EIO : 0;
+        },
+        appending("new\n"));
+    EXPECT_TRUE(left.ends_with("; a part of what was written may stand at its end")) << left;
+    EXPECT_EQ(contentOf(file), "old\nnew\nforeign\n");
+}
+
+TEST_F(FileFaultsTest, OnlyLeftoversOfDeadProcessesAreCleared) {
+    const Names own{"a.txt", ".tessaly-notes.tmp", ".tessaly-0123456789abcdef.txt"};
+    const fs::path torn = m_folder / ".tessaly-0123456789abcdef.tmp";
+    const auto begunAnew = [&] {
+        fs::remove(torn);
+        put(torn, "another one's");
+    };
+    for (const std::string& name : own)
+        put(m_folder / name, "the user's own");
+    put(torn, "torn");
+    Board board;
+    PuzzleStore().ReadPuzzle(file, 1, board);
+    EXPECT_TRUE(fs::exists(torn)) << "a reader removes nothing";
+    EXPECT_EQ(problemWhile(meanwhile("flock", begunAnew, 1), replacing("new")), "");
+    EXPECT_EQ(contentOf(torn), "another one's") << "begun between the opening and the lock";
+    EXPECT_EQ(problemWhile(failing("flock", ENOLCK, 0, 1000), replacing("new")), "");
+    EXPECT_TRUE(fs::exists(torn)) << "nobody knows whether its writer lives";
+    for (const auto& work : {appending("x\n"), replacing("new")}) {
+        EXPECT_EQ(work().problem, "");
+        EXPECT_EQ(names(), own);
+        put(torn, "torn");
     }
-    EXPECT_EQ(problemWhile(failing("openat", ENOENT, 2), replacing("new")), "") << "gone by itself";
-    EXPECT_EQ(names(), Names{"a.txt"});
+    fs::remove(torn);
+
+    const auto taken = [&] { fs::remove(scratch()); };
+    EXPECT_EQ(problemWhile(meanwhile("flock", taken, 1), replacing("newer")), "");
+    EXPECT_EQ(contentOf(file), "newer") << "taken for a leftover before it was locked";
+    EXPECT_EQ(problemWhile(meanwhile("fsync", taken), replacing("newest")),
+              told("is being written by another program"));
+    EXPECT_EQ(contentOf(file), "newer");
+    const auto write = [&](const ContentSink& sink) {
+        removeLeftovers(m_folder.path());
+        EXPECT_TRUE(fs::exists(scratch())) << "its writer is alive";
+        return sink.write("newest");
+    };
+    EXPECT_EQ(replaceFile(file, write).problem, "");
+    EXPECT_EQ(names(), own);
 }
 
 TEST_F(FileFaultsTest, AFileThatAppearsOrGoesWhileItIsWrittenIsNotOverwritten) {
     EXPECT_NE(problemWhile(meanwhile("fsync", replacedBy("foreign")), replacing("ours")), "");
-    EXPECT_EQ(contentOf(file()), "foreign");
-    EXPECT_NE(problemWhile(meanwhile("fsync", [&] { fs::remove(file()); }), replacing("ours")), "");
+    EXPECT_EQ(contentOf(file), "foreign");
+    EXPECT_NE(problemWhile(meanwhile("fsync", [&] { fs::remove(file); }), replacing("ours")), "");
     EXPECT_EQ(names(), Names{});
 }
 
@@ -233,34 +265,29 @@ TEST_F(FileFaultsTest, WhereNothingCanBeLockedOrAFolderNotFlushedFilesAreStillSa
         EXPECT_EQ(problemWhile(failing("flock", error, 0, 1000), replacing("locked by nobody")),
                   "");
     EXPECT_EQ(problemWhile(failing("fsync", EINVAL, 1), replacing("flushed as a whole")), "");
-    EXPECT_EQ(contentOf(file()), "flushed as a whole");
-    // A folder that may not be listed can neither be locked nor flushed.
-    EXPECT_EQ(problemWhile(failing("open", EACCES), replacing("in a folder without names")), "");
-    EXPECT_EQ(contentOf(file()), "in a folder without names");
-    const std::string unsure = problemWhile(
-        [](std::string_view name, int) { return name == "fsync" || name == "syncfs" ? EINVAL : 0; },
-        replacing("x"));
-    EXPECT_NE(unsure.find("cannot be flushed to the disk"), std::string::npos) << unsure;
+    EXPECT_EQ(contentOf(file), "flushed as a whole");
+    // A folder that may not be listed can neither be locked nor flushed. The file itself and what
+    // is left in the folder are opened before it.
+    EXPECT_EQ(problemWhile(failing("open", EACCES, 1), replacing("in a folder without names")), "");
+    EXPECT_EQ(contentOf(file), "in a folder without names");
+    EXPECT_EQ(problemWhile(failing("fsync", EIO, 1), replacing("not yet on the disk")),
+              told("was saved, but its folder cannot be flushed to the disk: Input/output error"));
+    EXPECT_EQ(contentOf(file), "not yet on the disk");
 }
 
-TEST_F(FileFaultsTest, PermissionsThatCannotBeKeptLeaveTheOldFile) {
-    put(file(), "old");
-    fs::permissions(file(), fs::perms(0640));
+TEST_F(FileFaultsTest, RightsThatCannotBeKeptAreNeverGivenToOthers) {
+    put(file, "old");
+    fs::permissions(file, fs::perms(0640));
     EXPECT_EQ(problemWhile(failing("fchmod", EPERM), replacing("new")),
-              file().native() + ": its permissions cannot be kept: Operation not permitted");
-    EXPECT_EQ(contentOf(file()), "old");
-    EXPECT_EQ(names(), Names{"a.txt"});
-}
-
-TEST_F(FileFaultsTest, AnAppendedLineThatCannotBeFlushedIsTakenBack) {
-    put(file(), "old\n");
-    EXPECT_EQ(problemWhile(failing("fsync", EIO), appending("new\n")),
-              file().native() + ": cannot be flushed to the disk: Input/output error");
-    EXPECT_EQ(contentOf(file()), "old\n");
-    const std::string left = problemWhile(
-        [](std::string_view name, int) { return name == "fsync" || name == "ftruncate" ? EIO : 0; },
-        appending("new\n"));
-    EXPECT_TRUE(left.ends_with("; a part of what was written may stand at its end")) << left;
+              told("its permissions cannot be kept: Operation not permitted"));
+    EXPECT_EQ(contentOf(file), "old");
+    if (::geteuid() != 0)
+        return;
+    constexpr gid_t Other = 65534;
+    ASSERT_EQ(::chown(file.c_str(), static_cast<uid_t>(-1), Other), 0);
+    fs::permissions(file, fs::perms(0645));
+    EXPECT_EQ(problemWhile(failing("fchown", EPERM, 0, 2), replacing("new")), "");
+    EXPECT_EQ(fs::status(file).permissions(), fs::perms(0604));
 }
 
 TEST_F(FileFaultsTest, AFileThatCannotBeReadToItsEndIsNamedAndStays) {
@@ -276,23 +303,23 @@ TEST_F(FileFaultsTest, AFileThatCannotBeReadToItsEndIsNamedAndStays) {
         std::function<Outcome()> work;
     };
     const std::vector<Reading> readings{
-        {2, [&] { return PuzzleFiles().CountLines(file(), number); }},
-        {5, [&] { return Outcome{PuzzleFiles().ReadPuzzle(file(), 500, board).reason}; }},
-        {7, [&] { return PuzzleFiles().DeletePuzzle(file(), 500, record, folder()); }},
-        {3, [&] { return PuzzleFiles().appendPuzzle(file(), recordNumbered(1), number); }},
-        {3, [&] { return PuzzleFiles().appendPuzzles(file(), write); }},
+        {2, [&] { return PuzzleStore().CountLines(file, number); }},
+        {5, [&] { return Outcome{PuzzleStore().ReadPuzzle(file, 500, board).reason}; }},
+        {7, [&] { return PuzzleStore().DeletePuzzle(file, 500, record); }},
+        {3, [&] { return PuzzleStore().appendPuzzle(file, recordNumbered(1), number); }},
+        {3, [&] { return PuzzleStore().appendPuzzles(file, write); }},
         // To these a file that ends early is just a shorter file.
-        {1, [&] { return readSmallFile(file(), 1'000'000, content); }},
-        {1, [&] { return readRecordLines(file(), [](const RecordLine&) { return true; }); }},
-        {1, [&] { return Set6Combos(file(), table); }},
+        {1, [&] { return readSmallFile(file, 1'000'000, content); }},
+        {1, [&] { return forEachRecord(file, [](const RecordLine&) { return true; }); }},
+        {1, [&] { return Set6Combos(file, table); }},
     };
     const auto attempt = [&](std::size_t reading, int error, int first) {
-        put(file(), before);
+        put(file, before);
         const FileCalls calls(failing("pread", error, first));
         const std::string problem = readings[reading].work().problem;
-        EXPECT_TRUE(problem.starts_with(file().native() + ": ")) << reading << " at " << first;
+        EXPECT_TRUE(problem.starts_with(told(""))) << reading << " at " << first;
         EXPECT_TRUE(error != EIO || problem.ends_with("Input/output error")) << problem;
-        EXPECT_TRUE(contentOf(file()) == before) << reading << " at " << first;
+        EXPECT_TRUE(contentOf(file) == before) << reading << " at " << first;
     };
     for (std::size_t reading = 0; reading < readings.size(); ++reading)
         for (int first = 0; first < readings[reading].reads; ++first) {
@@ -304,30 +331,24 @@ TEST_F(FileFaultsTest, AFileThatCannotBeReadToItsEndIsNamedAndStays) {
 }
 
 TEST_F(FileFaultsTest, NobodyIsWaitedForLongerThanTenSeconds) {
-    const fs::path locked = folder() / "locked.txt";
-    const fs::path home = folder() / "home";
-    put(file(), "old");
-    put(locked, "old");
-    put(scratch(), "being written");
-    fs::create_directory(home);
-    FileDescriptor writing;
-    FileDescriptor first;
+    put(file, "old");
     LockedFile held;
-    ASSERT_TRUE(held.lock(locked).ok() && openForReading(scratch(), writing).ok());
-    first = FileDescriptor(::open(home.c_str(), O_RDONLY));
-    ASSERT_TRUE(takeLock(writing) == LockAnswer::Taken && takeLock(first) == LockAnswer::Taken);
-
-    const auto start = std::chrono::steady_clock::now();
-    const auto inBackground = [](auto work) { return std::async(std::launch::async, work); };
-    auto appended = inBackground([&] { return appendLines(locked, "new\n"); });
-    auto replaced = inBackground([&] { return replaceFile(file(), "new"); });
-    auto installed = inBackground([&] { return installShippedFiles(TESSALY_DATA, home / "game"); });
-    EXPECT_EQ(appended.get().problem, locked.native() + ": is being written by another program");
-    EXPECT_EQ(replaced.get().problem, file().native() + ": is being written by another program");
-    EXPECT_EQ(installed.get().problem,
-              (home / "game").native() + ": another program is busy with it");
-    EXPECT_GE(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
-    EXPECT_EQ(contentOf(locked) + contentOf(file()) + contentOf(scratch()), "oldoldbeing written");
+    ASSERT_TRUE(held.lock(file).ok());
+    const FileDescriptor home(::open(m_folder.path().c_str(), O_RDONLY));
+    ASSERT_EQ(takeLock(home), LockAnswer::Taken);
+    int pauses = 0;
+    const auto pausing = [&](std::string_view name, int) {
+        const bool isPause = name == "nanosleep";
+        pauses += isPause ? 1 : 0;
+        return isPause ? FileCalls::Skipped : 0;
+    };
+    for (const auto& work : {appending("new\n"), replacing("new")})
+        EXPECT_EQ(problemWhile(pausing, work), told("is being written by another program"));
+    EXPECT_EQ(
+        problemWhile(pausing, [&] { return installShippedFiles(TESSALY_DATA, m_folder / "game"); }),
+        (m_folder / "game").native() + ": another program is busy with it");
+    EXPECT_NEAR(pauses, 3 * 2000, 100) << "of 5 ms, but for the first ones";
+    EXPECT_EQ(contentOf(file), "old");
 }
 
 } // namespace

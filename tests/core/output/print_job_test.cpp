@@ -1,6 +1,6 @@
 #include "core/output/booklet.h"
 
-#include "core/board/puzzle_file.h"
+#include "core/board/puzzle_store.h"
 #include "support/sample_board.h"
 #include "support/sample_puzzles.h"
 #include "support/temporary_folder.h"
@@ -27,7 +27,7 @@ TEST(PrintJob, ARangeIsPrintedAsItWasMadeWithItsSolutionsBehind) {
     const std::string path = folder / "my puzzles.txt";
     test::put(path, records[0] + "\r\n" + PuzzleRecord(played) + "\r\n" + records[2] + "\r\n");
 
-    PuzzleFiles files;
+    PuzzleStore files;
     PrintRange range{.path = path, .from = 2, .to = 4};
     const PrintJob job = jobOf(range, files);
     EXPECT_EQ(job.title, "my puzzles.txt, 2 to 4");

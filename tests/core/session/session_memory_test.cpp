@@ -1,6 +1,5 @@
 #include "core/session/configuration.h"
 
-#include "core/files/locked_file.h"
 #include "support/file_calls.h"
 #include "support/temporary_folder.h"
 
@@ -71,8 +70,7 @@ TEST_F(SessionMemoryTest, WhatWasSetIsThereAgainAfterARestart) {
 }
 
 TEST_F(SessionMemoryTest, AStartClearsWhatAKilledProcessLeft) {
-    const std::string leftover = scratchNameOf("tessaly.cfg");
-    test::put(folder / leftover, "half a configuration");
+    test::put(folder / ".tessaly-0123456789abcdef.tmp", "half a configuration");
     ASSERT_TRUE(loadSession(session).outcome.ok());
     EXPECT_EQ(folder.names(), (std::set<std::string>{"all.col", "hexabinx.txt"}));
 }

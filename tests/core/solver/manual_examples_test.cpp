@@ -1,6 +1,6 @@
 #include "manual/examples.h"
 
-#include "core/board/puzzle_file.h"
+#include "core/board/puzzle_store.h"
 #include "core/solver/deduction.h"
 
 #include <gtest/gtest.h>
@@ -57,7 +57,7 @@ TEST(ManualExamples, AreAsTheManualTellsThem) {
 TEST(ManualExamples, AreShippedPuzzles) {
     const std::filesystem::path folder = std::filesystem::path(TESSALY_DATA) / "puzzles";
     Board board;
-    PuzzleFiles files;
+    PuzzleStore files;
     EXPECT_EQ(files.ReadPuzzle(folder / "easy.txt", FirstNumber, board).record, FirstPuzzle);
     EXPECT_EQ(files.ReadPuzzle(folder / "hard.txt", CornerNumber, board).record, CornerPuzzle);
 }
