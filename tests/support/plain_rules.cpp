@@ -3,7 +3,8 @@
 #include "core/board/tables.h"
 
 #include <algorithm>
-#include <array>
+#include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -14,47 +15,11 @@ bool isSettled(const std::string& entry) {
     return entry.length() == 1;
 }
 
-std::string twoDigits(int number) {
-    return (number < 10 ? "0" : "") + std::to_string(number);
-}
-
-CellId cellAt(const std::string& text, std::size_t at) {
-    return {std::stoi(text.substr(at, 2)), std::stoi(text.substr(at + 2, 2))};
-}
-
-/// One item for each digit that occurs: " 3  0305 0802".
-std::vector<std::string> workList(const Board& board, const XcellCells& cells) {
-    std::array<std::string, 7> places;
-    for (CellId cell : cells)
-        for (char c : board.CellNum[cell])
-            if (c >= '1' && c <= '6')
-                places[static_cast<std::size_t>(c - '0')] +=
-                    " " + twoDigits(cell.hexagon) + twoDigits(cell.position);
-    std::vector<std::string> items;
-    for (std::size_t digit = 1; digit <= 6; ++digit)
-        if (!places[digit].empty())
-            items.push_back(" " + std::to_string(digit) + " " + places[digit]);
-    return items;
-}
-
-void applyItem(Board& board, const std::string& item, std::int32_t& counter) {
-    constexpr std::size_t LengthWithTwoCells = 13;
-    if (item.length() != LengthWithTwoCells)
+void settle(Board& board, CellId cell, char digit, std::int32_t& counter) {
+    if (board.CellNum[cell].length() <= 1)
         return;
-    const std::string digit = std::to_string(std::stoi(item.substr(0, 2)));
-    for (CellId cell : {cellAt(item, 4), cellAt(item, 9)})
-        if (board.CellNum[cell].length() > 1) {
-            board.CellNum[cell] = digit;
-            ++counter;
-        }
-}
-
-void onePass(Board& board, std::int32_t& counter) {
-    FixNeighbours(board, counter);
-    GetCandidates(board, counter);
-    FixSingles(board, counter);
-    FixXcellPairs(board, counter);
-    FixNeighbours(board, counter);
+    board.CellNum[cell] = std::string(1, digit);
+    ++counter;
 }
 
 } // namespace
@@ -103,23 +68,15 @@ void FixSingles(Board& board, std::int32_t& counter) {
     for (int hexagon = 1; hexagon <= HexagonCount; ++hexagon) {
         if (hexagon == board.SkipHex)
             continue;
-        auto& cells = board.CellNum[hexagon];
-        std::array<std::ptrdiff_t, 7> counts{};
-        for (char digit = '1'; digit <= '6'; ++digit)
-            counts[static_cast<std::size_t>(digit - '0')] =
-                std::count_if(cells.begin() + 1, cells.end(), [digit](const std::string& entry) {
-                    return entry.find(digit) != std::string::npos;
-                });
-        for (char digit = '1'; digit <= '6'; ++digit) {
-            if (counts[static_cast<std::size_t>(digit - '0')] != 1)
-                continue;
-            for (std::size_t position = 1; position <= 6; ++position)
-                if (cells[position].length() > 1 &&
-                    cells[position].find(digit) != std::string::npos) {
-                    cells[position] = std::string(1, digit);
-                    ++counter;
-                }
+        std::map<char, std::vector<CellId>> places;
+        for (int position = 1; position <= CellCount; ++position) {
+            const std::string& entry = board.CellNum[{hexagon, position}];
+            for (char c : std::set<char>(entry.begin(), entry.end()))
+                places[c].push_back({hexagon, position});
         }
+        for (const auto& [digit, named] : places)
+            if (digit != '0' && named.size() == 1)
+                settle(board, named.front(), digit, counter);
     }
 }
 
@@ -132,20 +89,29 @@ void FixXcellPairs(Board& board, std::int32_t& counter) {
         if (std::all_of(cells.begin(), cells.end(),
                         [&board](CellId cell) { return isSettled(board.CellNum[cell]); }))
             continue;
-        const std::vector<std::string> items = workList(board, cells);
-        if (items.size() != 3)
+        std::map<char, std::vector<CellId>> places;
+        for (CellId cell : cells)
+            for (char c : board.CellNum[cell])
+                if (c >= '1' && c <= '6')
+                    places[c].push_back(cell);
+        if (places.size() != 3)
             continue;
-        for (const std::string& item : items)
-            applyItem(board, item, counter);
+        for (const auto& [digit, named] : places)
+            for (CellId cell : named)
+                if (named.size() == 2)
+                    settle(board, cell, digit, counter);
     }
 }
 
 int SolveByDeduction(Board& board) {
-    std::int32_t counter = 0;
-    onePass(board, counter);
+    std::int32_t counter = 1;
     while (counter != 0) {
         counter = 0;
-        onePass(board, counter);
+        FixNeighbours(board, counter);
+        GetCandidates(board, counter);
+        FixSingles(board, counter);
+        FixXcellPairs(board, counter);
+        FixNeighbours(board, counter);
     }
     return std::all_of(AllCells.begin(), AllCells.end(),
                        [&board](CellId cell) { return isSettled(board.CellNum[cell]); })
