@@ -31,7 +31,7 @@ TEST(DebugSolve, AnnouncesItsStepsInOrderAndStopsAtAContradiction) {
                          "Xpairs done, loop back",        "All Done"};
     for (const auto& [start, steps, redraws] :
          {std::tuple(filledBoard(chance), whole, 6),
-          std::tuple(contradictoryBoard(), Messages{whole[0], whole[1], whole[2], whole[7]}, 3)}) {
+          {contradictoryBoard(), {whole[0], whole[1], whole[2], whole[7]}, 3}}) {
         Board board = start;
         Recorder recorder;
         DebugSolve(board, true, recorder);

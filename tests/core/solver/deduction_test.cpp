@@ -138,8 +138,7 @@ TEST(Deduction, OpenCellsAreThoseOfSeveralCandidates) {
     EXPECT_EQ(countOpenCells(board), 4);
 }
 
-/// "12 12 12 13 13 12" into the cells of an xcell.
-Board withXcell(std::size_t xcell, const std::array<const char*, 6>& texts) {
+Board withXcell(std::size_t xcell, const std::vector<std::string>& texts) {
     Board board;
     for (std::size_t i = 0; i < texts.size(); ++i)
         board.CellNum[XcellTable[xcell][i]] = texts[i];
@@ -150,14 +149,13 @@ TEST(Deduction, TheXcellRuleCountsTextsAsTheyAreWritten) {
     const Board three = withXcell(8, {"12", "12", "12", "13", "13", "12"});
     Board blank = three;
     blank.BlankHex = XcellTable[8][5].hexagon;
+    const Board four = withXcell(8, {"12", "12", "12", "34", "34", "12"});
+    const Board twice = withXcell(1, {"11", "23"}); // 1 in one cell
     for (const auto& [start, expected, changes] :
          {std::tuple(three, withXcell(8, {"12", "12", "12", "3", "3", "12"}), 2),
-          std::tuple(blank, blank, 0),
-          std::tuple(withXcell(8, {"12", "12", "12", "34", "34", "12"}),
-                     withXcell(8, {"12", "12", "12", "34", "34", "12"}), 0),
-          // "11" names 1 twice in one cell.
-          std::tuple(withXcell(1, {"11", "23", "", "", "", ""}),
-                     withXcell(1, {"1", "23", "", "", "", ""}), 1)}) {
+          {blank, blank, 0},
+          {four, four, 0},
+          {twice, withXcell(1, {"1", "23"}), 1}}) {
         Board board = start;
         std::int32_t counter = 0;
         FixXcellPairs(board, counter);

@@ -139,12 +139,13 @@ TEST(Generator, ABlankHexagonIsChosenOrTheGivensAreLeft) {
 }
 
 TEST(Generator, OneHalfOfTheDrawsIsEasy) {
+    constexpr auto Easy = Difficulty::Easy;
+    constexpr auto Hard = Difficulty::Hard;
     for (const auto& [number, drawn] :
-         {std::pair(0U, Difficulty::Easy), std::pair(49U, Difficulty::Easy),
-          std::pair(50U, Difficulty::Hard), std::pair(99U, Difficulty::Hard)}) {
+         {std::pair(0U, Easy), {49U, Easy}, {50U, Hard}, {99U, Hard}}) {
         Chance chance = chanceOf(number);
         EXPECT_EQ(drawDifficulty(std::nullopt, chance), drawn) << number;
-        EXPECT_EQ(drawDifficulty(Difficulty::Hard, chance), Difficulty::Hard);
+        EXPECT_EQ(drawDifficulty(Hard, chance), Hard);
     }
 }
 

@@ -36,18 +36,15 @@ class LibraryToolsTest : public testing::Test {
 protected:
     using ToolRun = std::function<Outcome(const KeepGoing&)>;
 
+    Outcome expand(OutputMode mode, const KeepGoing& goOn = {}) {
+        return expandPuzzles(files, mode, TopBottomHeader::Follows, goOn);
+    }
     std::vector<ToolRun> allTools() {
         return {
-            [this](const KeepGoing& keepGoing) {
-                return expandPuzzles(files, OutputMode::Replace, TopBottomHeader::Follows,
-                                     keepGoing);
-            },
-            [this](const KeepGoing& keepGoing) {
-                return expandPuzzles(files, OutputMode::Append, TopBottomHeader::Subtracts,
-                                     keepGoing);
-            },
-            [this](const KeepGoing& keepGoing) { return verifyPuzzles(files, count, keepGoing); },
-            [this](const KeepGoing& keepGoing) { return shufflePuzzles(files, chance, keepGoing); },
+            [this](const KeepGoing& goOn) { return expand(OutputMode::Replace, goOn); },
+            [this](const KeepGoing& goOn) { return expand(OutputMode::Append, goOn); },
+            [this](const KeepGoing& goOn) { return verifyPuzzles(files, count, goOn); },
+            [this](const KeepGoing& goOn) { return shufflePuzzles(files, chance, goOn); },
         };
     }
 
@@ -65,11 +62,11 @@ TEST_F(LibraryToolsTest, ExpandingWritesTheVariantsOfEveryPuzzleInOrder) {
         for (const std::string& variant : variantsOf(puzzle, TopBottomHeader::Follows))
             expected.push_back(variant);
     for (int time = 0; time < 2; ++time) {
-        ASSERT_TRUE(expandPuzzles(files, OutputMode::Replace, TopBottomHeader::Follows).ok());
+        ASSERT_TRUE(expand(OutputMode::Replace).ok());
         EXPECT_EQ(linesOf(files.output), expected);
     }
     put(files.output, puzzles[2] + "\r\n\r\n  \n");
-    ASSERT_TRUE(expandPuzzles(files, OutputMode::Append, TopBottomHeader::Follows).ok());
+    ASSERT_TRUE(expand(OutputMode::Append).ok());
     expected.insert(expected.begin(), puzzles[2]);
     EXPECT_EQ(linesOf(files.output), expected);
 }
@@ -108,10 +105,10 @@ TEST_F(LibraryToolsTest, ShufflingKeepsEveryLineOnceInAnOrderOfTheSeed) {
     EXPECT_NE(shuffledWith(2), shuffled);
     std::vector<std::string> expected = puzzles;
     expected.push_back(inProgress);
-    std::sort(expected.begin(), expected.end());
+    std::ranges::sort(expected);
     files.output = files.input;
     for (std::vector<std::string> lines : {shuffled, shuffledWith(3)}) {
-        std::sort(lines.begin(), lines.end());
+        std::ranges::sort(lines);
         EXPECT_EQ(lines, expected);
     }
 }

@@ -41,10 +41,11 @@ void expectMoved(const Board& from, const Board& to, const Symmetry& symmetry) {
 
 TEST(PuzzleVariants, EveryCellTheBlankHexagonAndTheHintMoveTogetherAndBack) {
     for (const std::string& record : records())
-        for (const auto& [symmetry, order] :
-             {std::pair(symmetry::TopBottom, 2), std::pair(symmetry::LeftRight, 2),
-              std::pair(symmetry::Rising, 2), std::pair(symmetry::Falling, 2),
-              std::pair(symmetry::Turn, 6)}) {
+        for (const auto& [symmetry, order] : {std::pair(symmetry::TopBottom, 2),
+                                              {symmetry::LeftRight, 2},
+                                              {symmetry::Rising, 2},
+                                              {symmetry::Falling, 2},
+                                              {symmetry::Turn, 6}}) {
             std::string moved = transformed(record, symmetry);
             expectMoved(boardOf(record), boardOf(moved), symmetry);
             for (int i = 1; i < order; ++i)

@@ -88,8 +88,7 @@ TEST(SolutionCounter, AgreesWithTryingEveryArrangement) {
 
 TEST(SolutionCounter, StopsWhereItIsTold) {
     for (const auto& [limits, isCertain] :
-         {std::pair(CountLimits{1}, true), std::pair(CountLimits{5000}, true),
-          std::pair(CountLimits{5000, 30}, false)}) {
+         {std::pair(CountLimits{1}, true), {{5000}, true}, {{5000, 30}, false}}) {
         const SolutionCount count = countSolutions(Board(), limits);
         EXPECT_EQ(count.found == limits.solutions, isCertain);
         EXPECT_EQ(count.isCertain, isCertain);
