@@ -43,7 +43,7 @@ struct MultipleCreationTest : testing::Test, SessionScene, CreationOrderChoice {
 };
 
 TEST_F(MultipleCreationTest, AsksThenAppendsExactlyAsManyDifferentPuzzles) {
-    fileOf("out.txt", records[0]); // unended
+    fileOf("out.txt", records[0] + "\r\n\r\n  "); // blank lines behind it
     files.load(out);
     session.game.place({1, 5}, "4");
     const Board before = session.game.board;
