@@ -8,7 +8,9 @@
 #include "ui/play/board_view.h"
 #include "ui/window/main_window.h"
 
+#include <QAction>
 #include <QLabel>
+#include <QLineEdit>
 #include <QTest>
 
 #include <filesystem>
@@ -64,7 +66,22 @@ public:
         return *found;
     }
 
-    QString message() { return find<QLabel>(QStringLiteral("MsgLab")).text(); }
+    void click(const QString& name, Qt::MouseButton button = Qt::LeftButton) {
+        QTest::mouseClick(&find(name), button);
+    }
+    void choose(const QString& item) { find<QAction>(item).trigger(); }
+    /// Loads a copy of one of the sample puzzle files; its path.
+    std::string load(const std::string& name, int number = 1) {
+        std::string path = folder.puzzles(name);
+        window->files().load(path, number);
+        return path;
+    }
+
+    QString text(const QString& label) { return find<QLabel>(label).text(); }
+    QString message() { return text(QStringLiteral("MsgLab")); }
+    /// What the box of the puzzle's number shows.
+    QString number() { return find<QLineEdit>(QStringLiteral("PuzNumNow")).text(); }
+    const ScriptedPrompts::Message& lastPrompt() { return prompts.shown.back(); }
     BoardView& board() { return find<BoardView>(QStringLiteral("Picture2")); }
 
     /// Where a cell lies on the board's widget.

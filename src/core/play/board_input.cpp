@@ -54,6 +54,7 @@ void BoardInput::place(CellId cell, const std::string& entry) {
 void BoardInput::showEntry(CellId cell, const std::string& before) {
     if (m_game.board.CellNum[cell] != before)
         m_display.DrawHexagon(cell.hexagon);
+    m_display.hidePopup();
     m_display.focusBoard();
 }
 

@@ -58,7 +58,8 @@ public:
 private:
     void select(CellId cell);
     void place(CellId cell, const std::string& entry);
-    /// Draws a cell's hexagon, unless the cell holds what it held before.
+    /// Draws a cell's hexagon, unless the cell holds what it held before. The pop-up has been
+    /// answered, by whatever way.
     void showEntry(CellId cell, const std::string& before);
 
     Game& m_game;

@@ -259,6 +259,11 @@ void BoardView::leaveEvent(QEvent* event) {
 }
 
 void BoardView::keyPressEvent(QKeyEvent* event) {
+    m_popup.restartTimer();
+    if (m_popup.isVisible() && event->key() == Qt::Key_Escape) {
+        m_input->Num16_Click(BoardInput::PopupClose);
+        return;
+    }
     if (moveSelection(*m_input, *event))
         return;
     if (!asksForMenu(*event)) {

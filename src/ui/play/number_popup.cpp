@@ -2,6 +2,7 @@
 
 #include "ui/controls/box_control.h"
 
+#include <QApplication>
 #include <QGridLayout>
 #include <QKeyEvent>
 
@@ -72,6 +73,7 @@ NumberPopup::NumberPopup(QWidget* parent)
 void NumberPopup::addButton(int index, BoxControl* button, int row, int column) {
     button->setObjectName(u"Num16_%1"_s.arg(index));
     button->setFixedSize(ButtonSize, ButtonSize);
+    button->installEventFilter(this);
     connect(button, &BoxControl::clicked, this, [this, index] { Q_EMIT clicked(index); });
     static_cast<QGridLayout*>(layout())->addWidget(button, row, column);
     m_buttons[static_cast<std::size_t>(index)] = button;
@@ -86,7 +88,7 @@ void NumberPopup::open(QPoint corner, bool upwards) {
                 size.height());
     raise();
     show();
-    m_timer->start(OpenTime);
+    restartTimer();
 }
 
 void NumberPopup::close() {
@@ -94,21 +96,47 @@ void NumberPopup::close() {
     hide();
 }
 
-void NumberPopup::keyPressEvent(QKeyEvent* event) {
-    switch (event->key()) {
+void NumberPopup::restartTimer() {
+    m_timer->stop();
+    if (isVisible() && !underMouse() && !isAncestorOf(QApplication::focusWidget()))
+        m_timer->start(OpenTime);
+}
+
+void NumberPopup::enterEvent(QEnterEvent* event) {
+    QFrame::enterEvent(event);
+    restartTimer();
+}
+
+void NumberPopup::leaveEvent(QEvent* event) {
+    QFrame::leaveEvent(event);
+    restartTimer();
+}
+
+bool NumberPopup::eventFilter(QObject*, QEvent* event) {
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
+        restartTimer();
+    return event->type() == QEvent::KeyPress && takesKey(static_cast<QKeyEvent*>(event)->key());
+}
+
+bool NumberPopup::takesKey(int key) {
+    switch (key) {
     case Qt::Key_Escape:
         Q_EMIT clicked(BoardInput::PopupClose);
-        return;
+        return true;
     case Qt::Key_Left:
-        return moveFocus(-1, 0);
+        moveFocus(-1, 0);
+        return true;
     case Qt::Key_Right:
-        return moveFocus(1, 0);
+        moveFocus(1, 0);
+        return true;
     case Qt::Key_Up:
-        return moveFocus(0, -1);
+        moveFocus(0, -1);
+        return true;
     case Qt::Key_Down:
-        return moveFocus(0, 1);
+        moveFocus(0, 1);
+        return true;
     default:
-        QFrame::keyPressEvent(event);
+        return false;
     }
 }
 

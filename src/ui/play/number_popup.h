@@ -12,7 +12,8 @@ namespace tessaly {
 class BoxControl;
 
 /// The number pop-up (`Picture1`): a small panel with the numbers 1 to 6, an eraser, side copy,
-/// close and the single candidate (`Num16`, items 0..9). It closes by itself after a while.
+/// close and the single candidate (`Num16`, items 0..9). It closes by itself after a while, but not
+/// while the pointer or the focus is in it.
 class NumberPopup : public QFrame {
     Q_OBJECT
 
@@ -25,15 +26,21 @@ public:
     /// the parent, moved as little as needed to lie inside, and starts the timer.
     void open(QPoint corner, bool upwards);
     void close();
+    /// Lets the time until it closes begin anew.
+    void restartTimer();
 
 Q_SIGNALS:
     void clicked(int button);
     void timedOut();
 
 protected:
-    void keyPressEvent(QKeyEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    /// The arrow keys walk the panel as it lies, where a button would take them for the next one.
+    bool eventFilter(QObject* button, QEvent* event) override;
 
 private:
+    bool takesKey(int key);
     void addButton(int index, BoxControl* button, int row, int column);
     void moveFocus(int columns, int rows);
 

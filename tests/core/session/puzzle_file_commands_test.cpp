@@ -20,8 +20,12 @@ struct PuzzleFileCommandsTest : testing::Test, SessionScene {
 
 TEST_F(PuzzleFileCommandsTest, LoadShowsTheFirstPuzzleAndRemembersTheFile) {
     const fs::path path = chosen = fileOfPuzzles("a.txt", 3);
+    session.game.board = puzzleWithoutGivens();
     session.game.undoList.push({1, 1}, false, "");
+    input.selectFirst();
+    input.openPopupAtSelection();
     files.mnuload();
+    EXPECT_FALSE(input.selection() || display.marker || display.popupShown);
     EXPECT_EQ(asked, std::vector<std::string>{"OPEN: Select a Puzzle file to open"});
     EXPECT_EQ(number(), 1);
     EXPECT_EQ(display.puzzle.PuzCount, 3);

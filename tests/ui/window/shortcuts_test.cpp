@@ -5,9 +5,7 @@
 #include "ui/play/board_keys.h"
 
 #include <QApplication>
-#include <QLineEdit>
 #include <QMenu>
-#include <QShortcut>
 #include <QSignalSpy>
 
 #include <set>
@@ -17,21 +15,15 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-class ShortcutsTest : public testing::Test {
-protected:
-    ShortcutsTest() { game.window->files().load(game.folder.puzzles("easy.txt")); }
-
+struct ShortcutsTest : testing::Test {
+    ShortcutsTest() { game.load("easy.txt"); }
     void press(QKeyCombination keys) {
         QTest::keyClick(QApplication::focusWidget(), keys.key(), keys.keyboardModifiers());
     }
-    int number() { return game.session.puzzle.PuzNum; }
-
     GameWindow game;
 };
 
-/// Everything that a menu item or a button of the window does has keys of its own, none of which
-/// the board takes for itself.
-TEST_F(ShortcutsTest, EveryCommandHasKeysOfItsOwn) {
+TEST_F(ShortcutsTest, EveryCommandHasKeysOfItsOwnThatTheBoardDoesNotTake) {
     std::set<QString> taken;
     const auto expectOwn = [&taken](const QKeySequence& keys, const QString& name) {
         EXPECT_FALSE(keys.isEmpty()) << name.toStdString() << " has no keys";
@@ -47,75 +39,36 @@ TEST_F(ShortcutsTest, EveryCommandHasKeysOfItsOwn) {
     for (BoxControl* button : game.window->centralWidget()->findChildren<BoxControl*>()) {
         if (!button->isVisible())
             continue;
+        EXPECT_NE(button->toolTip() + button->text(), QString());
         ASSERT_FALSE(button->shownKeys().isEmpty()) << button->objectName().toStdString();
         if (!button->shortcut().isEmpty())
             expectOwn(button->shortcut(), button->objectName());
         else
             EXPECT_TRUE(taken.contains(button->shownKeys().front().toString()));
     }
+    EXPECT_EQ(game.find<BoxControl>(u"cmdallpencil"_s).toolTipWithKeys(),
+              u"Display All Pencilmarks; rightclick to clear\nF6; Shift+F6"_s);
 }
 
-TEST_F(ShortcutsTest, TheKeysDoWhatTheButtonsDo) {
-    press(Qt::Key_PageDown);
-    press(Qt::Key_PageDown);
-    EXPECT_EQ(number(), 3);
-    press(Qt::Key_PageUp);
-    EXPECT_EQ(number(), 2);
-
-    press(Qt::CTRL | Qt::Key_G);
-    auto& box = game.find<QLineEdit>(u"PuzNumNow"_s);
-    ASSERT_TRUE(box.hasFocus());
-    QTest::keyClicks(&box, u"7"_s);
-    press(Qt::Key_Return);
-    EXPECT_EQ(number(), 7);
-    EXPECT_TRUE(game.board().hasFocus());
-
-    press(Qt::Key_Home);
-    press(Qt::Key_4);
-    const std::size_t steps = game.session.game.undoList.size();
-    EXPECT_EQ(steps, 1u);
-    press(Qt::CTRL | Qt::Key_Z);
-    EXPECT_EQ(game.session.game.undoList.size(), 0u);
-    press(Qt::CTRL | Qt::Key_L);
-    EXPECT_EQ(game.find<BoxControl>(u"DifLab"_s).text(), u"Hard"_s);
-    press(Qt::CTRL | Qt::Key_L);
-    EXPECT_EQ(game.find<BoxControl>(u"DifLab"_s).text(), u"Random"_s);
-    press(Qt::ALT | Qt::Key_3);
-    EXPECT_TRUE(game.find<BoxControl>(u"digt_2"_s).isLatched());
-    press(Qt::Key_F5);
-    EXPECT_EQ(game.message(), u"Not done yet ..."_s);
-}
-
-TEST_F(ShortcutsTest, TheAlternateKeysDoWhatTheRightButtonDoes) {
-    QSignalSpy cleared(&game.find<BoxControl>(u"cmdallpencil"_s), &BoxControl::alternateClicked);
+TEST_F(ShortcutsTest, TheKeysDoWhatTheControlsDo) {
     QSignalSpy filled(&game.find<BoxControl>(u"cmdallpencil"_s), &BoxControl::clicked);
     game.prompts.answers = {answer::No};
-    press(Qt::SHIFT | Qt::Key_F6);
-    EXPECT_EQ(cleared.count(), 1);
+    press(Qt::SHIFT | Qt::Key_F6); // as the right button
+    EXPECT_EQ(game.lastPrompt().text, "Existing Pencilmarks will be cleared, Proceed?");
     EXPECT_EQ(filled.count(), 0);
-}
+    press(Qt::Key_PageDown);
+    EXPECT_EQ(game.number(), u"2"_s);
+    press(Qt::CTRL | Qt::Key_G);
+    EXPECT_TRUE(game.find(u"PuzNumNow"_s).hasFocus());
+    press(Qt::Key_7); // the old number is selected
+    press(Qt::Key_Return);
+    EXPECT_EQ(game.session.puzzle.PuzNum, 7);
+    press(Qt::CTRL | Qt::Key_L);
+    press(Qt::CTRL | Qt::Key_L);
+    EXPECT_EQ(game.find<BoxControl>(u"DifLab"_s).text(), u"Random"_s) << "it keeps its keys";
+    press(Qt::ALT | Qt::Key_3);
+    EXPECT_TRUE(game.find<BoxControl>(u"digt_2"_s).isLatched());
 
-TEST_F(ShortcutsTest, TheSolutionShowsForAsLongAsItsKeyIsDown) {
-    auto& button = game.find<BoxControl>(u"cmdshowsol"_s);
-    const QImage before = game.board().grab().toImage();
-    QTest::keyPress(&game.board(), Qt::Key_F2);
-    EXPECT_TRUE(button.isDown());
-    EXPECT_NE(game.board().grab().toImage(), before);
-    QTest::keyPress(&game.board(), Qt::Key_F2); // held down, the key repeats
-    QTest::keyRelease(&game.board(), Qt::Key_F3);
-    EXPECT_TRUE(button.isDown());
-    QTest::keyRelease(&game.board(), Qt::Key_F2);
-    EXPECT_FALSE(button.isDown());
-    EXPECT_EQ(game.board().grab().toImage(), before);
-
-    QTest::keyPress(&game.board(), Qt::Key_F2);
-    QEvent away(QEvent::WindowDeactivate);
-    QApplication::sendEvent(game.window.get(), &away);
-    EXPECT_FALSE(button.isDown()) << "the window will not see the key come up";
-}
-
-/// A key that comes with Ctrl, Alt or Meta is no entry, whatever character it makes.
-TEST_F(ShortcutsTest, TheBoardTakesNoKeysThatArePartOfAShortcut) {
     press(Qt::Key_Home);
     press(Qt::Key_4);
     const Board played = game.session.game.board;
@@ -123,17 +76,26 @@ TEST_F(ShortcutsTest, TheBoardTakesNoKeysThatArePartOfAShortcut) {
         QTest::sendKeyEvent(QTest::Click, &game.board(), Qt::Key_H, QString(QChar(8)), modifier);
         QTest::sendKeyEvent(QTest::Click, &game.board(), Qt::Key_6, u"6"_s, modifier);
     }
-    EXPECT_EQ(game.session.game.board, played);
+    EXPECT_EQ(game.session.game.board, played) << "part of a shortcut is no entry";
+    press(Qt::CTRL | Qt::Key_Z);
+    EXPECT_NE(game.session.game.board, played);
 }
 
-TEST_F(ShortcutsTest, ToolTipsKeepTheirTextAndNameTheKeysBeneath) {
-    EXPECT_EQ(game.find(u"cmdundo"_s).toolTip(), u"Undo"_s);
-    EXPECT_EQ(game.find<BoxControl>(u"cmdundo"_s).toolTipWithKeys(), u"Undo\nCtrl+Z"_s);
-    EXPECT_EQ(game.find<BoxControl>(u"cmdload"_s).toolTipWithKeys(),
-              u"Load a Puzzle File\nCtrl+O"_s);
-    EXPECT_EQ(game.find<BoxControl>(u"cmdallpencil"_s).toolTipWithKeys(),
-              u"Display All Pencilmarks; rightclick to clear\nF6; Shift+F6"_s);
-    EXPECT_EQ(BoxControl(u"Plain"_s, nullptr).toolTipWithKeys(), QString());
+TEST_F(ShortcutsTest, TheSolutionShowsForAsLongAsItsKeyIsDown) {
+    auto& button = game.find<BoxControl>(u"cmdshowsol"_s);
+    const QImage before = game.board().grab().toImage();
+    QTest::keyPress(&game.board(), Qt::Key_F2);
+    EXPECT_NE(game.board().grab().toImage(), before);
+    QTest::keyPress(&game.board(), Qt::Key_F2); // held down, the key repeats
+    QTest::keyRelease(&game.board(), Qt::Key_F3);
+    EXPECT_TRUE(button.isDown());
+    QTest::keyRelease(&game.board(), Qt::Key_F2);
+    EXPECT_FALSE(button.isDown());
+    EXPECT_EQ(game.board().grab().toImage(), before);
+    QTest::keyPress(&game.board(), Qt::Key_F2);
+    QEvent away(QEvent::WindowDeactivate);
+    QApplication::sendEvent(game.window.get(), &away);
+    EXPECT_FALSE(button.isDown()) << "the window will not see the key come up";
 }
 
 } // namespace
