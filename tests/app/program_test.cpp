@@ -44,18 +44,9 @@ protected:
     DataFolder folder;
 };
 
-TEST_F(Program, ExplainsItselfWithoutADisplay) {
-    const Ended version = start({u"--version"_s});
-    EXPECT_EQ(version.status, 0);
-    EXPECT_TRUE(version.said.startsWith(u"Tessaly 1."_s)) << version.said.toStdString();
-    const Ended help = start({u"--help"_s});
-    EXPECT_EQ(help.status, 0);
-    for (const char* option : {"--puzzle", "--folder", "--screenshot", "--developer", "FILE"})
-        EXPECT_TRUE(help.said.contains(QLatin1String(option))) << option;
+TEST_F(Program, NeedsADisplayForAWindowOnly) {
+    EXPECT_EQ(start({u"--version"_s}).status, 0);
     EXPECT_EQ(start({u"--nonsense"_s}).status, 2);
-}
-
-TEST_F(Program, SaysThatThereIsNoDisplay) {
     const Ended ended = start({u"--folder"_s, folderName()});
     EXPECT_EQ(ended.status, 1);
     EXPECT_EQ(ended.complained, u"tessaly: there is no display to open a window on\n"_s);
@@ -78,24 +69,19 @@ TEST_F(Program, DrawsThePuzzleThatIsAskedFor) {
     EXPECT_NE(drawn(), first);
 }
 
-TEST_F(Program, DoesNotStartOnDataFilesThatAreMissingOrGarbled) {
+TEST_F(Program, SaysWhatItCouldNotReadOrWrite) {
     for (const char* name : {"all.col", "hexabinx.txt"}) {
-        DataFolder broken;
-        const QString of = QString::fromStdString(broken.path());
-        const QStringList arguments{u"--folder"_s, of, u"--screenshot"_s, picture()};
+        const DataFolder broken;
+        const QStringList arguments{u"--folder"_s, QString::fromStdString(broken.path()),
+                                    u"--screenshot"_s, picture()};
         test::put(broken.path() + name, "garbage");
-        Ended ended = start(arguments);
-        EXPECT_EQ(ended.status, 1);
-        EXPECT_TRUE(ended.complained.contains(QLatin1String(name)));
+        EXPECT_TRUE(start(arguments).complained.contains(QLatin1String(name)));
         std::filesystem::remove(broken.path() + name);
-        ended = start(arguments);
+        const Ended ended = start(arguments);
         EXPECT_EQ(ended.status, 1);
         EXPECT_TRUE(ended.complained.contains(QLatin1String(name)));
         EXPECT_TRUE(drawn().isNull());
     }
-}
-
-TEST_F(Program, SaysWhatItCouldNotOpenOrWrite) {
     Ended ended = draw({u"/nowhere/at all.txt"_s});
     EXPECT_EQ(ended.status, 1);
     EXPECT_TRUE(ended.complained.contains(u"Error reading file:"_s));

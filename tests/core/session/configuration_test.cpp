@@ -41,21 +41,17 @@ Configuration sample() {
     return sample;
 }
 
-TEST_F(ConfigurationTest, WhatIsSavedIsReadBackAsItWas) {
-    for (const Configuration& saved : {sample(), Configuration()}) {
+TEST_F(ConfigurationTest, TheFileHasItsLinesAndNumbersInOrderAndIsReadBack) {
+    for (const auto& [saved, content] :
+         {std::pair(sample(), "123456,9,5,1,256,65536,1,16777215,1\r\n"
+                              "a, \"b\";c.col\r\nDejaVu Sans, Condensed\r\n"
+                              "/home/me/ my \xff puzzles\r\r\n"
+                              "/1 , \r\n/2\"\r\n/3\r\r\n/4\r\n/5\r\n"),
+          {Configuration(), "1,2,2,,,,0,,0\r\nxp.col\r\nArial\r\n\r\n"}}) {
         ASSERT_EQ(SavecfgFile(path, saved).problem, "");
+        EXPECT_EQ(contentOf(path), content);
         EXPECT_EQ(ReadcfgFile(path), saved);
     }
-}
-
-TEST_F(ConfigurationTest, TheFileHasItsLinesAndNumbersInOrder) {
-    ASSERT_TRUE(SavecfgFile(path, sample()).ok());
-    EXPECT_EQ(contentOf(path), "123456,9,5,1,256,65536,1,16777215,1\r\n"
-                               "a, \"b\";c.col\r\nDejaVu Sans, Condensed\r\n"
-                               "/home/me/ my \xff puzzles\r\r\n"
-                               "/1 , \r\n/2\"\r\n/3\r\r\n/4\r\n/5\r\n");
-    ASSERT_TRUE(SavecfgFile(path, Configuration()).ok());
-    EXPECT_EQ(contentOf(path), "1,2,2,,,,0,,0\r\nxp.col\r\nArial\r\n\r\n");
 }
 
 TEST_F(ConfigurationTest, EachValueFallsBackAlone) {
@@ -95,37 +91,34 @@ TEST_F(ConfigurationTest, EachValueFallsBackAlone) {
 TEST_F(ConfigurationTest, WhatIsMissingKeepsItsDefault) {
     EXPECT_EQ(ReadcfgFile(path), Configuration());
     EXPECT_EQ(ReadcfgFile(folder.path()), Configuration());
-    EXPECT_EQ(reading(""), Configuration());
-    EXPECT_EQ(reading("\xEF\xBB\xBF"
-                      "1\r\n\r\n  \n\n \t\n\n"),
-              Configuration());
-    EXPECT_EQ(reading(std::string(100'000, '\0')), Configuration());
-
+    for (const std::string& bare :
+         {std::string(), "\xEF\xBB\xBF" + std::string("1\n\n \t\r\n"), std::string(100'000, '\0')})
+        EXPECT_EQ(reading(bare), Configuration());
     Configuration expected;
     expected.PuzNum = 12;
     expected.PrintLineWidth = 4;
-    EXPECT_EQ(reading("\xEF\xBB\xBF"
-                      "12,4"),
-              expected);
     expected.ActiveScheme = "sky.col";
     EXPECT_EQ(reading("12,4,,,,,,,,99\nsky.col"), expected);
 }
 
-TEST_F(ConfigurationTest, BlankLinesBetweenRecentFilesLeaveNoGapsAndTheSixthIsIgnored) {
-    const Configuration read =
-        reading("1\r\n\r\n\r\n\r\n\r\n/a\r\n  \r\n/b\n\n\n/c\r\n\t\r\n/d\r\n/e\r\n/f\r\n/g");
-    EXPECT_EQ(read.recentFiles.paths(), (Paths{"/a", "/b", "/c", "/d", "/e"}));
-    EXPECT_EQ(read.PuzPath, "");
-}
+TEST_F(ConfigurationTest, RecentFilesLeaveNoGapsAndTheSixthIsDropped) {
+    EXPECT_EQ(reading("1\r\n\r\n\r\n\r\n/a\r\n  \r\n/b\n\n/c\r\n\t\r\n/d\r\n/e\r\n/f")
+                  .recentFiles.paths(),
+              (Paths{"/a", "/b", "/c", "/d", "/e"}));
+    RecentFiles recent;
+    for (const char* each : {"/a", "/b", "/c", "/d", "/e", "/b"})
+        recent.AddRecentFile(each);
+    EXPECT_EQ(recent.paths(), (Paths{"/e", "/d", "/c", "/b", "/a"})) << "each keeps its place";
+    recent.AddRecentFile("/B");
+    EXPECT_EQ(recent.paths(), (Paths{"/B", "/e", "/d", "/c", "/b"}));
 
-TEST_F(ConfigurationTest, APathWithALineFeedIsLeftOut) {
     Configuration configuration;
     configuration.PuzPath = "/a\n/b";
     configuration.recentFiles.append("/c\n/d");
     configuration.recentFiles.append("/e");
     ASSERT_TRUE(SavecfgFile(path, configuration).ok());
     const Configuration read = ReadcfgFile(path);
-    EXPECT_EQ(read.PuzPath, "");
+    EXPECT_EQ(read.PuzPath, "") << "a path with a line feed is left out";
     EXPECT_EQ(read.recentFiles.paths(), Paths{"/e"});
 }
 
@@ -148,31 +141,6 @@ TEST(ConfigurationAndAppearance, ColoursThatWereNeverChosenComeFromTheScheme) {
     appearance.SchemeColours[slot::Button] = RGB(250, 250, 250);
     Configuration().applyTo(appearance);
     EXPECT_EQ(appearance.FixedNumberColour, Black);
-}
-
-TEST(ConfigurationAndAppearance, WhatIsRememberedIsAppliedAgain) {
-    Appearance chosen;
-    sample().applyTo(chosen);
-    chosen.ActiveScheme = "sky.col";
-    Configuration remembered;
-    remembered.remember(chosen);
-    EXPECT_EQ(remembered.ActiveScheme, "sky.col");
-    Appearance restored;
-    restored.ActiveScheme = remembered.ActiveScheme;
-    remembered.applyTo(restored);
-    EXPECT_EQ(restored, chosen);
-    EXPECT_EQ(restored.UserNumberColour, RGB(0, 1, 0));
-    EXPECT_EQ(restored.PrintLineWidth, 9);
-}
-
-TEST(RecentFiles, AKnownPathKeepsItsPlaceAndTheSixthDropsTheOldest) {
-    RecentFiles recent;
-    for (const char* path : {"/a", "/b", "/c", "/d", "/e"})
-        recent.AddRecentFile(path);
-    recent.AddRecentFile("/b");
-    EXPECT_EQ(recent.paths(), (Paths{"/e", "/d", "/c", "/b", "/a"}));
-    recent.AddRecentFile("/B");
-    EXPECT_EQ(recent.paths(), (Paths{"/B", "/e", "/d", "/c", "/b"}));
 }
 
 } // namespace

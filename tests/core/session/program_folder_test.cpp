@@ -31,9 +31,6 @@ protected:
         return problem.empty() ? result : fs::path();
     }
     std::string user(const char* name) const { return contentOf(userFolder / name); }
-    static void age(const fs::path& file, int hours) {
-        fs::last_write_time(file, fs::last_write_time(file) - std::chrono::hours(hours));
-    }
     static Names namesIn(const fs::path& folder) {
         Names names;
         for (const auto& entry : fs::directory_iterator(folder))
@@ -51,33 +48,24 @@ protected:
     std::string problem;
 };
 
-TEST_F(ProgramFolderTest, TheGivenFolderComesFirst) {
+TEST_F(ProgramFolderTest, IsTheGivenOneElseTheExecutablesElseTheUsers) {
     put(bin / "all.col", "");
-    sources.given = share;
-    EXPECT_EQ(found(), share / "");
-    sources.given += "/puzzles/../";
+    sources.given = share / "puzzles/../";
     EXPECT_EQ(found(), share / "");
     for (const fs::path& wrong : {root / "none", share / "all.col"}) {
         sources.given = wrong;
         EXPECT_EQ(found(), "");
         EXPECT_EQ(problem.find(wrong.native() + ": "), 0U) << problem;
     }
-}
-
-TEST_F(ProgramFolderTest, TheExecutablesFolderIsNextWhenItHoldsTheColourSchemes) {
-    put(bin / "all.col", "");
+    sources.given.clear();
     EXPECT_EQ(found(), bin / "");
     EXPECT_FALSE(fs::exists(data));
     fs::remove(bin / "all.col");
     EXPECT_EQ(found(), userFolder / "");
-}
-
-TEST_F(ProgramFolderTest, TheDataHomeIsUnderHomeUnlessAnAbsoluteOneIsNamed) {
     for (const char* notCounting : {"", "relative/data"}) {
         sources.dataHome = notCounting;
         sources.home = root / "me";
         EXPECT_EQ(found(), root / "me/.local/share/tessaly/");
-        fs::remove_all(root / "me");
         sources.home.clear();
         EXPECT_EQ(found(), "");
         EXPECT_NE(problem.find("HOME"), std::string::npos);
@@ -98,24 +86,15 @@ TEST_F(ProgramFolderTest, TheFirstStartCopiesWhatIsShippedAndLeavesNothingElse) 
     EXPECT_EQ(user("puzzles/easy.txt"), "shipped puzzles/easy.txt");
 }
 
-TEST_F(ProgramFolderTest, LaterStartsLeaveTheUsersFilesAlone) {
+TEST_F(ProgramFolderTest, LaterStartsRenewTheProgramsFilesAndLeaveTheUsersAlone) {
     ASSERT_NE(found(), "");
     put(userFolder / "puzzles/easy.txt", "my progress");
     fs::remove(userFolder / "all.col");
-    age(userFolder / "puzzles/easy.txt", 1000);
     put(share / "puzzles/hard.txt", "new library");
-
-    ASSERT_NE(found(), "");
-    EXPECT_FALSE(fs::exists(userFolder / "all.col"));
-    EXPECT_EQ(user("puzzles/easy.txt"), "my progress");
-    EXPECT_EQ(namesIn(userFolder / "puzzles"), Names{"easy.txt"});
-}
-
-TEST_F(ProgramFolderTest, LaterStartsRenewTheProgramsFilesWhereOthersAreShipped) {
-    ASSERT_NE(found(), "");
     // Neither files nor folders need to look newer: some systems give all the same time.
     put(share / "hexabinx.txt", "second release");
-    age(share / "hexabinx.txt", 1000);
+    for (const fs::path& old : {share / "hexabinx.txt", userFolder / "puzzles/easy.txt"})
+        fs::last_write_time(old, fs::last_write_time(old) - std::chrono::hours(1000));
     put(share / "tessaly.htm", "new page");
     fs::create_directory(share / "manual");
     put(share / "manual/side.png", "new drawing");
@@ -123,23 +102,23 @@ TEST_F(ProgramFolderTest, LaterStartsRenewTheProgramsFilesWhereOthersAreShipped)
     EXPECT_EQ(user("manual/side.png"), "new drawing");
     EXPECT_EQ(user("hexabinx.txt"), "second release");
     EXPECT_EQ(user("tessaly.htm"), "new page");
-
+    EXPECT_EQ(user("puzzles/easy.txt"), "my progress");
+    EXPECT_EQ(namesIn(userFolder / "puzzles"), Names{"easy.txt"});
+    EXPECT_FALSE(fs::exists(userFolder / "all.col"));
     fs::remove_all(share);
     EXPECT_NE(found(), "") << "an installed folder is enough: " << problem;
 }
 
 TEST_F(ProgramFolderTest, AFirstStartThatFailsLeavesNothingBehind) {
     fs::remove(share / "hexabinx.txt");
-    EXPECT_EQ(found(), "");
-    EXPECT_EQ(problem.find((share / "hexabinx.txt").native()), 0U) << problem;
-    EXPECT_EQ(namesIn(data), Names{});
-    put(share / "hexabinx.txt", "repaired");
-
     // Even a file that the program could do without is not left out when it is only in trouble.
     fs::create_directory(share / "tessaly.htm");
-    EXPECT_EQ(found(), "");
-    EXPECT_EQ(problem.find((share / "tessaly.htm").native()), 0U) << problem;
-    EXPECT_EQ(namesIn(data), Names{});
+    for (const char* name : {"hexabinx.txt", "tessaly.htm"}) {
+        EXPECT_EQ(found(), "");
+        EXPECT_EQ(problem.find((share / name).native()), 0U) << problem;
+        EXPECT_EQ(namesIn(data), Names{});
+        put(share / "hexabinx.txt", "repaired");
+    }
     fs::remove(share / "tessaly.htm");
     EXPECT_NE(found(), "") << problem;
 }
