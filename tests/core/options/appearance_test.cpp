@@ -15,7 +15,8 @@ Colour grey(int level) {
     return RGB(level, level, level);
 }
 
-TEST(SchemeBuilder, ShiftsTheBaseColourIntoTheSlotsWithinItsBounds) {
+TEST(Appearance, ASchemeIsBuiltOfABaseColourShiftedWithinItsBounds) {
+    const Colour edge = RGB(1, 120, 244);
     const struct {
         int contrast;
         Colour base;
@@ -27,39 +28,34 @@ TEST(SchemeBuilder, ShiftsTheBaseColourIntoTheSlotsWithinItsBounds) {
         {13, grey(100), {grey(83), grey(96), grey(92), grey(117), grey(104), grey(108)}},
         {-100, grey(100), {grey(228), grey(132), grey(164), grey(1), grey(68), grey(36)}},
         {300, grey(100), {grey(1), grey(4), grey(1), grey(244), grey(196), grey(244)}},
-        // Even with no shift at all every channel is brought within the bounds.
-        {0,
-         RGB(0, 120, 255),
-         {RGB(1, 120, 244), RGB(1, 120, 244), RGB(1, 120, 244), RGB(1, 120, 244), RGB(1, 120, 244),
-          RGB(1, 120, 244)}},
+        {0, RGB(0, 120, 255), {edge, edge, edge, edge, edge, edge}},
     };
-    for (const auto& expected : cases) {
-        const SchemeColours colours = built(expected.base, expected.contrast);
-        EXPECT_EQ(colours[slot::Background], expected.base);
-        for (std::size_t i = 0; i < expected.slots3To8.size(); ++i)
-            EXPECT_EQ(colours[i + 3], expected.slots3To8[i])
-                << "slot " << i + 3 << " at contrast " << expected.contrast;
+    for (const auto& [contrast, base, shifted] : cases) {
+        const SchemeColours colours = built(base, contrast);
+        EXPECT_EQ(colours[slot::Background], base);
+        for (std::size_t i = 0; i < shifted.size(); ++i)
+            EXPECT_EQ(colours[i + 3], shifted[i]) << "slot " << i + 3 << " at " << contrast;
     }
+    SchemeColours design = built(DesignBackground, 100);
+    design[slot::Menu] = Black;
+    design[slot::Button] = DesignBackground;
+    EXPECT_EQ(DesignColours, design) << "the other slots are the same in every scheme";
 }
 
-TEST(SchemeBuilder, TheOtherSlotsAreFixedAndTheLastIsLeftAlone) {
-    SchemeColours colours{};
-    colours[13] = 77;
-    BuildScheme(grey(9), 100, colours);
-    EXPECT_EQ(colours[0], grey(1));
-    EXPECT_EQ(colours[1], grey(240));
-    EXPECT_EQ(colours[9], RGB(128, 0, 0));
-    EXPECT_EQ(colours[10], RGB(255, 0, 0));
-    EXPECT_EQ(colours[11], RGB(0, 128, 0));
-    EXPECT_EQ(colours[12], RGB(0, 255, 0));
-    EXPECT_EQ(colours[13], 77U);
-}
-
-TEST(SchemeBuilder, TheColoursOfTheDesignAreABuiltSchemeSaveForMenuAndButtons) {
-    SchemeColours expected = built(DesignBackground, 100);
-    expected[slot::Menu] = Black;
-    expected[slot::Button] = DesignBackground;
-    EXPECT_EQ(DesignColours, expected);
+TEST(Appearance, ContrastIsThatOfWcag) {
+    const std::tuple<Colour, Colour, double, Colour> rows[] = {
+        {White, Black, 21, White},
+        {White, RGB(255, 0, 0), 3.998, Black},
+        {RGB(0, 255, 0), White, 1.372, Black},
+        {White, RGB(0, 0, 255), 8.592, White},
+        {White, grey(128), 3.949, Black},
+        {Black, grey(9), 1.054, White}, // on the straight piece near black
+    };
+    for (const auto& [one, other, ratio, readable] : rows) {
+        EXPECT_NEAR(contrastRatio(one, other), ratio, 0.001) << one << " on " << other;
+        EXPECT_EQ(contrastRatio(one, other), contrastRatio(other, one));
+        EXPECT_EQ(readableOn(other), other == White ? Black : readable) << other;
+    }
 }
 
 } // namespace

@@ -11,7 +11,6 @@ namespace {
 
 using test::contentOf;
 using test::put;
-using testing::Test;
 using Names = std::vector<std::string>;
 
 /// A scheme whose slots are all different; slot 2 is (`base`, 2, 3).
@@ -34,12 +33,7 @@ std::string record(const std::string& header, int base) {
     return header + "\r\n" + colourLines(base);
 }
 
-std::string withLineFeeds(std::string text) {
-    std::erase(text, '\r');
-    return text;
-}
-
-class SchemeLibraryTest : public Test {
+class SchemeLibraryTest : public testing::Test {
 protected:
     void setFile(const std::string& content) {
         put(m_file, content);
@@ -49,171 +43,119 @@ protected:
     std::string problemOfLoading(const std::string& scheme) {
         return library.LoadScheme(scheme, appearance).problem;
     }
-    bool colourLineIsRefused(const std::string& line) {
-        put(m_file, "bad.col\r\n" + colourLines(100, 5) + line + "\r\n" + colourLines(105, 7));
-        return problemOfLoading("bad.col").find("all.col: line 7: this is no colour") !=
-               std::string::npos;
+    std::string problemOfAdding(const std::string& name) {
+        return library.AddScheme(name, sampleColours(100)).problem;
     }
 
     test::TemporaryFolder folder;
     std::filesystem::path m_file = folder / "all.col";
-    SchemeLibrary library{folder.path().native() + "/"};
+    SchemeLibrary library{folder.path() / ""};
     Appearance appearance;
+    SchemeColours before = appearance.SchemeColours;
 };
 
 TEST_F(SchemeLibraryTest, ListsEveryLineWithTheExtensionUpToItsFirstOne) {
-    setFile(record("Ocean.col", 50) + record("a;b.col", 60) + record("x.colour.col", 70) +
-            "\xEF\xBB\xBF" + record("Été.col", 80) + ".col\r\nno scheme\r\n" +
-            record("Ocean.col", 90));
-    EXPECT_EQ(library.names(), (Names{"Ocean", "a;b", "x", "\xEF\xBB\xBFÉté", "", "Ocean"}));
-    setFile("\xEF\xBB\xBF" + withLineFeeds(record("xp.col", 10)) + "last.col");
-    EXPECT_EQ(library.names(), (Names{"xp", "last"}));
-    EXPECT_EQ(problemOfLoading("xp.col"), "");
-    setFile("");
-    EXPECT_EQ(library.names(), Names{});
+    const std::pair<std::string, Names> rows[] = {
+        {"", {}},
+        {"\xEF\xBB\xBF" + record("xp.col", 10) + "last.col", {"xp", "last"}},
+        {"Été.col\nx.colour.col\n.col\nno scheme\r\na;b.col", {"Été", "x", "", "a;b"}},
+        {record("Ocean.col", 50) + record("Ocean.col", 90), {"Ocean", "Ocean"}},
+    };
+    for (const auto& [content, names] : rows) {
+        setFile(content);
+        EXPECT_EQ(library.names(), names);
+    }
 }
 
 TEST_F(SchemeLibraryTest, LoadsTheFirstRecordWithExactlyThatHeader) {
-    const std::string ocean = "Ocean.col\r\n" + colourLines(100, 12) + "0;128;255;9;x\r\n";
-    setFile(record("ocean.col", 50) + ocean + record("Ocean.col", 150));
+    setFile(record("ocean.col", 50) + "Ocean.col\r\n" + colourLines(100, 12) +
+            "0.5;\t1.5;254.5;9;x\r\n" + record("Ocean.col", 150));
     appearance.SchemeColours[13] = 99;
     ASSERT_EQ(problemOfLoading("Ocean.col"), "");
     EXPECT_EQ(appearance.SchemeColours[slot::Background], RGB(100, 2, 3));
-    EXPECT_EQ(appearance.SchemeColours[11], RGB(109, 2, 3));
-    EXPECT_EQ(appearance.SchemeColours[12], RGB(0, 128, 255));
+    EXPECT_EQ(appearance.SchemeColours[12], RGB(0, 2, 254)) << "rounded, halves to even";
     EXPECT_EQ(appearance.SchemeColours[13], 99U);
-    ASSERT_EQ(problemOfLoading("ocean.col"), "");
-    EXPECT_EQ(appearance.SchemeColours[slot::Background], RGB(50, 2, 3));
     EXPECT_EQ(appearance.ActiveScheme, "xp.col") << "loading alone does not choose a scheme";
-}
 
-TEST_F(SchemeLibraryTest, ASchemeThatIsGoneLeavesTheColoursAndTheBuiltInSchemeActive) {
-    setFile(record("xp.col", 50));
-    const Appearance before = appearance;
-    EXPECT_EQ(problemOfLoading("XP.col"), "Colour Scheme: XP.col not found");
+    const SchemeColours loaded = appearance.SchemeColours;
+    EXPECT_EQ(problemOfLoading("OCEAN.col"), "Colour Scheme: OCEAN.col not found");
     EXPECT_EQ(appearance.ActiveScheme, "default.col");
-    EXPECT_EQ(appearance.SchemeColours, before.SchemeColours);
-}
-
-TEST_F(SchemeLibraryTest, TheBuiltInSchemeNeedsNoFileAndSetsThreeSlots) {
-    appearance.SchemeColours = sampleColours(100);
+    EXPECT_EQ(appearance.SchemeColours, loaded);
     ASSERT_EQ(problemOfLoading("DEFAULT.COL"), "");
-    SchemeColours expected = sampleColours(100);
-    expected[2] = expected[4] = DesignColours[slot::Background];
-    expected[3] = Black;
-    EXPECT_EQ(appearance.SchemeColours, expected);
+    SchemeColours builtIn = loaded;
+    builtIn[2] = builtIn[4] = DesignColours[slot::Background];
+    builtIn[3] = Black;
+    EXPECT_EQ(appearance.SchemeColours, builtIn);
 }
 
 TEST_F(SchemeLibraryTest, DamagedRecordsAreRefusedWithTheLineAndChangeNothing) {
-    const Appearance before = appearance;
     for (const char* line : {"1;2", "", "a;b;c", "1;2;", "1;;3", "256;0;0", "0;-1;0", "0;255.6;0",
-                             "1;2;3x", "nan;0;0", "1e400;0;0", "next.col"})
-        EXPECT_TRUE(colourLineIsRefused(line)) << line;
-    for (const char* line : {"1;2;3", "  0 ;\t255; 7", "0.5;1.5;254.5;x", "1;2;3;"})
-        EXPECT_FALSE(colourLineIsRefused(line)) << line;
-    appearance = before;
-
-    put(m_file, "short.col\r\n" + colourLines(50, 12));
-    EXPECT_NE(problemOfLoading("short.col").find("12 colours instead of 13"), std::string::npos);
-    put(m_file, "bare.col");
-    EXPECT_NE(problemOfLoading("bare.col").find("0 colours instead of 13"), std::string::npos);
-    put(m_file, "short.col\r\n" + colourLines(50, 12) + record("next.col", 60));
-    EXPECT_NE(problemOfLoading("short.col").find("line 14: this is no colour"), std::string::npos);
-    EXPECT_EQ(appearance, before);
-}
-
-TEST_F(SchemeLibraryTest, ChannelsAreRoundedHalvesToEven) {
-    setFile("a.col\r\n0.5;1.5;254.5\r\n" + colourLines(50, 12));
-    ASSERT_EQ(problemOfLoading("a.col"), "");
-    EXPECT_EQ(appearance.SchemeColours[0], RGB(0, 2, 254));
+                             "1;2;3x", "nan;0;0", "1e400;0;0", "next.col"}) {
+        put(m_file, "bad.col\r\n" + colourLines(100, 5) + line + "\r\n" + colourLines(105, 7));
+        EXPECT_NE(problemOfLoading("bad.col").find("all.col: line 7: this is no colour"),
+                  std::string::npos)
+            << line;
+    }
+    const std::string shortOne = "a.col\r\n" + colourLines(50, 12);
+    for (const auto& [content, problem] :
+         {std::pair<std::string, std::string>{shortOne, "12 colours instead of 13"},
+          {"a.col", "0 colours instead of 13"},
+          {shortOne + record("next.col", 60), "line 14: this is no colour"}}) {
+        put(m_file, content);
+        EXPECT_NE(problemOfLoading("a.col").find(problem), std::string::npos) << problem;
+    }
+    EXPECT_EQ(appearance.SchemeColours, before);
 }
 
 TEST_F(SchemeLibraryTest, AddsTheNameInLowerCaseAndRefusesItInAnyCaseFromThenOn) {
-    setFile(record("xp.col", 50));
-    EXPECT_EQ(library.AddScheme("Ocean", sampleColours(100)).problem, "");
-    EXPECT_EQ(file(), record("xp.col", 50) + record("ocean.col", 100));
-    EXPECT_EQ(library.names(), (Names{"xp", "ocean"}));
-    EXPECT_EQ(library.AddScheme("OCEAN", sampleColours(1)).problem,
-              "Colour Scheme: OCEAN already exists");
-    EXPECT_EQ(library.AddScheme("ÉTÉ×", sampleColours(60)).problem, "");
-    EXPECT_EQ(library.AddScheme("été×", sampleColours(60)).problem,
-              "Colour Scheme: été× already exists");
-    EXPECT_EQ(library.names().back(), "été×");
-    EXPECT_EQ(library.AddScheme("two\nlines", sampleColours(60)).problem,
+    const std::string xp = record("xp.col", 50);
+    setFile(xp.substr(0, xp.size() - 2)); // whose last line is ended first
+    EXPECT_EQ(SchemeLibrary(folder.path() / "").AddScheme("Ocean", sampleColours(100)).problem, "");
+    EXPECT_EQ(problemOfAdding("OCEAN"), "Colour Scheme: OCEAN already exists");
+    EXPECT_EQ(file(), xp + record("ocean.col", 100));
+    EXPECT_EQ(problemOfAdding("ÉTÉ×"), "");
+    EXPECT_EQ(problemOfAdding("été×"), "Colour Scheme: été× already exists");
+    EXPECT_EQ(library.names(), (Names{"xp", "ocean", "été×"}));
+    EXPECT_EQ(problemOfAdding("two\nlines"),
               "Error in adding Colour Scheme:\r\nA name cannot hold a line break");
-    EXPECT_EQ(library.names().size(), 3U);
-}
-
-TEST_F(SchemeLibraryTest, OddNamesAreStoredAsTheyAreAndLoadAgain) {
-    setFile("");
-    const std::string longName(300, 'n');
-    for (const std::string& name : {std::string("semi;colon"), longName, std::string(" "),
-                                    std::string("no \xff text"), std::string("nul\0l", 5)}) {
-        ASSERT_EQ(library.AddScheme(name, sampleColours(100)).problem, "");
-        EXPECT_EQ(library.names().back(), name);
-        EXPECT_EQ(problemOfLoading(name + ".col"), "");
+    for (const std::string& name :
+         {std::string("semi;colon"), std::string(300, 'n'), std::string(" "),
+          std::string("no \xff text"), std::string("nul\0l", 5), std::string("my.colours")}) {
+        EXPECT_EQ(problemOfAdding(name), "");
+        EXPECT_EQ(library.names().back(), name.substr(0, name.find(".col")));
+        EXPECT_EQ(problemOfLoading(name + ".col"), "") << name;
     }
-    ASSERT_EQ(library.AddScheme("my.colours", sampleColours(100)).problem, "");
-    EXPECT_EQ(library.names().back(), "my") << "the list cuts a name at its first .col";
-    EXPECT_EQ(problemOfLoading("my.colours.col"), "");
 }
 
-TEST_F(SchemeLibraryTest, AnUnfinishedLastLineIsEndedBeforeASchemeIsAdded) {
-    const std::string unfinished = record("xp.col", 50).substr(0, record("xp.col", 50).size() - 2);
-    setFile(unfinished);
-    ASSERT_EQ(library.AddScheme("new", sampleColours(100)).problem, "");
-    EXPECT_EQ(file(), record("xp.col", 50) + record("new.col", 100));
-}
-
-TEST_F(SchemeLibraryTest, ReplacesEveryRecordOfTheNameInPlaceAndKeepsTheOthersBytes) {
-    const std::string others = withLineFeeds(record("Other.col", 60)) + "stray line\n";
-    setFile(record("ocean.col", 50) + others + record("ocean.col", 70) + others);
-    ASSERT_EQ(library.ReplaceScheme("Ocean", sampleColours(100)).problem, "");
-    const std::string expected =
-        record("ocean.col", 100) + others + record("ocean.col", 100) + others;
-    EXPECT_EQ(file(), expected);
-    EXPECT_EQ(contentOf(folder / "newall.cox"), expected);
-    EXPECT_EQ(folder.names(), (std::set<std::string>{"all.col", "newall.cox"}));
-}
-
-TEST_F(SchemeLibraryTest, DeletesEveryRecordOfTheNameAndNothingElse) {
-    setFile(record("a.col", 50) + record("b.col", 60) + record("a.col", 70) + record("C.col", 80));
-    ASSERT_EQ(library.DeleteScheme("A").problem, "");
-    EXPECT_EQ(file(), record("b.col", 60) + record("C.col", 80));
-    EXPECT_EQ(contentOf(folder / "newall.cox"), file());
-    EXPECT_EQ(library.names(), (Names{"b", "C"}));
-    EXPECT_EQ(library.DeleteScheme("C").problem, "") << "c.col is not there: nothing to remove";
-    EXPECT_EQ(library.names(), (Names{"b", "C"}));
-    ASSERT_EQ(library.DeleteScheme("b").problem, "");
-    EXPECT_EQ(file(), record("C.col", 80));
-}
-
-TEST_F(SchemeLibraryTest, ARecordOfTheWrongLengthDoesNotTakeItsNeighbourAlong) {
-    const std::string twelve = "a.col\r\n" + colourLines(50, 12);
-    const std::string bare = "a.col\r\n";
+TEST_F(SchemeLibraryTest, ReplacesAndDeletesEveryRecordOfTheNameAndNothingElse) {
     const std::string next = record("next.col", 60);
-    for (const std::string& damaged : {twelve, bare}) {
-        setFile(damaged + next);
-        ASSERT_EQ(library.ReplaceScheme("a", sampleColours(100)).problem, "");
-        EXPECT_EQ(file(), record("a.col", 100) + next);
-        setFile(next + damaged);
-        ASSERT_EQ(library.DeleteScheme("a").problem, "");
-        EXPECT_EQ(file(), next);
+    std::string odd = record("A.col", 60) + "stray line\n";
+    std::erase(odd, '\r');
+    const std::string two = record("a.col", 50) + odd + record("a.col", 70) + odd;
+    const std::string ofTwelve = "a.col\r\n" + colourLines(50, 12);
+    const std::string ofFourteen = "a.col\r\n" + colourLines(50, 14);
+    const std::string changed = record("a.col", 100);
+    const struct {
+        std::string content, replaced, deleted;
+    } rows[] = {
+        {two, changed + odd + changed + odd, odd + odd},
+        {next, next, next},
+        {ofTwelve + next, changed + next, next}, // the neighbour does not go with it
+        {"a.col\r\n" + next, changed + next, next},
+        {next + ofTwelve, next + changed, next},
+        {ofFourteen + next, changed + " 61; 2; 3\r\n" + next, " 61; 2; 3\r\n" + next},
+    };
+    for (const auto& [content, replaced, deleted] : rows) {
+        setFile(content);
+        EXPECT_EQ(library.ReplaceScheme("A", sampleColours(100)).problem, "");
+        EXPECT_EQ(file(), replaced);
+        EXPECT_EQ(contentOf(folder / "newall.cox"), replaced);
+        setFile(content);
+        EXPECT_EQ(library.DeleteScheme("A").problem, "");
+        EXPECT_EQ(file(), deleted);
+        EXPECT_EQ(std::count(library.names().begin(), library.names().end(), "a"), 0);
     }
-    setFile("a.col\r\n" + colourLines(50, 14) + next);
-    ASSERT_EQ(library.DeleteScheme("a").problem, "");
-    EXPECT_EQ(file(), " 61; 2; 3\r\n" + next);
-    EXPECT_EQ(library.names(), Names{"next"});
-}
-
-TEST_F(SchemeLibraryTest, WorksOnWhatTheFileHoldsNow) {
-    setFile(record("xp.col", 50));
-    SchemeLibrary other(folder.path().native() + "/");
-    ASSERT_EQ(other.AddScheme("new", sampleColours(60)).problem, "");
-    EXPECT_EQ(library.AddScheme("New", sampleColours(70)).problem,
-              "Colour Scheme: New already exists");
-    ASSERT_EQ(library.DeleteScheme("xp").problem, "");
-    EXPECT_EQ(file(), record("new.col", 60));
+    EXPECT_EQ(folder.names(), (std::set<std::string>{"all.col", "newall.cox"}));
 }
 
 TEST_F(SchemeLibraryTest, FailuresNameTheFileAndLeaveTheLibraryWhole) {
@@ -221,7 +163,7 @@ TEST_F(SchemeLibraryTest, FailuresNameTheFileAndLeaveTheLibraryWhole) {
     std::filesystem::create_directory(folder / "newall.cox");
     for (const Outcome& outcome :
          {library.ReplaceScheme("b", sampleColours(1)), library.DeleteScheme("b")}) {
-        EXPECT_EQ(outcome.problem.find("Error in updating Colour Scheme:\r\n"), 0U);
+        EXPECT_TRUE(outcome.problem.starts_with("Error in updating Colour Scheme:\r\n"));
         EXPECT_NE(outcome.problem.find("newall.cox"), std::string::npos) << outcome.problem;
     }
     EXPECT_EQ(file(), record("xp.col", 50) + record("b.col", 60));
@@ -234,11 +176,6 @@ TEST_F(SchemeLibraryTest, FailuresNameTheFileAndLeaveTheLibraryWhole) {
           library.LoadScheme("xp.col", appearance)})
         EXPECT_NE(outcome.problem.find(m_file.native()), std::string::npos) << outcome.problem;
     EXPECT_FALSE(std::filesystem::exists(m_file));
-}
-
-TEST(SchemeInForce, IsComparedWithTheBareEntry) {
-    EXPECT_FALSE(isSchemeInForce("xp", "xp.col"));
-    EXPECT_TRUE(isSchemeInForce("XP", "xP"));
 }
 
 } // namespace

@@ -1,107 +1,75 @@
-#include "core/play/board_geometry.h"
+#include "ui/drawing/board_picture.h"
+
 #include "support/sample_appearances.h"
 #include "support/sample_board.h"
-#include "ui/drawing/board_surface.h"
-#include "ui/drawing/hexagon_tag.h"
 #include "ui/golden_picture.h"
 
 #include <gtest/gtest.h>
 
-#include <QFontDatabase>
+#include <QBuffer>
 #include <QPainter>
+#include <QSvgGenerator>
+#include <QSvgRenderer>
 
 namespace tessaly {
 namespace {
 
-/// The picture with the tags over it, as the window shows them.
-QImage withTags(const BoardSurface& surface, const Board& board, const Appearance& appearance) {
-    QImage picture = surface.image();
-    QPainter painter(&picture);
-    painter.setTransform(surface.boardToDevice());
-    for (int hexagon = 1; hexagon <= HexagonCount; ++hexagon) {
-        const Rect tag = tagRectangle(hexagon);
-        const TagState state = hexagon == 5   ? TagState::Hovered
-                               : hexagon == 8 ? TagState::Pressed
-                                              : TagState::Plain;
-        if (!board.isBlank(hexagon))
-            drawTag(painter, {tag.left, tag.top, tag.width(), tag.height()}, hexagon, appearance,
-                    state);
-    }
-    return picture;
+using namespace Qt::StringLiterals;
+
+/// Its user's numbers can be read on white too.
+Appearance colourful() {
+    Appearance appearance = dark();
+    appearance.UserNumberColour = RGB(20, 60, 200);
+    return appearance;
 }
 
-class BoardPicture : public testing::Test {
-protected:
-    void expectBoard(const QString& name, const Board& board, const Appearance& appearance,
-                     QSize size = {506, 476}) {
-        ASSERT_TRUE(
-            QFontDatabase::families().contains(QString::fromStdString(appearance.NumberFont)))
-            << "script/bootstrap installs " << appearance.NumberFont;
-        surface.setSize(size);
-        surface.setAppearance(appearance);
-        surface.DrawBoard(board);
-        expectPicture(withTags(surface, board, appearance), QStringLiteral("board_pictures"), name);
-    }
-
-    BoardSurface surface;
-};
-
-TEST_F(BoardPicture, Empty) {
-    Appearance appearance = light();
-    appearance.HexaBorderWidth = 5;
-    expectBoard(QStringLiteral("empty"), Board(), appearance);
+TEST(BoardPicture, ACopyIsBlackOnWhiteAndNamesEveryHexagon) {
+    const Appearance appearance = colourful();
+    const Board played = sampleBoardInPlay();
+    Board noBlank = sampleBoard();
+    noBlank.BlankHex = NoHexagon;
+    expectPicture(drawImage({played, appearance}, 1), u"board_pictures"_s, u"copy-puzzle"_s);
+    expectPicture(drawImage({played, appearance, true}, 1), u"board_pictures"_s,
+                  u"copy-solution"_s);
+    expectPicture(drawImage({noBlank, appearance}, 1), u"board_pictures"_s, u"copy-no-blank"_s);
 }
 
-TEST_F(BoardPicture, Givens) {
-    Appearance appearance = light();
-    appearance.HexaBorderWidth = 1;
-    expectBoard(QStringLiteral("givens"), sampleBoard(), appearance);
+TEST(BoardPicture, ACopyKeepsThePlayersColourWhereItIsSeenOnWhite) {
+    Appearance appearance = colourful();
+    const Board board;
+    EXPECT_EQ(appearanceOf({board, appearance}).UserNumberColour, RGB(20, 60, 200));
+    appearance.UserNumberColour = RGB(240, 255, 200);
+    EXPECT_EQ(appearanceOf({board, appearance}).UserNumberColour, Black);
 }
 
-TEST_F(BoardPicture, NumbersAndMarks) {
-    expectBoard(QStringLiteral("marks"), sampleBoardInPlay(), light());
-}
-
-TEST_F(BoardPicture, Smallest) {
-    expectBoard(QStringLiteral("smallest"), sampleBoardInPlay(), light(), {304, 286});
-}
-
-TEST_F(BoardPicture, AnotherFontAndScale) {
-    Appearance appearance = light();
-    appearance.NumberFont = "DejaVu Sans";
-    appearance.NumBorder = true;
-    appearance.HexaBorderWidth = 3;
-    expectBoard(QStringLiteral("dejavu"), sampleBoardInPlay(), appearance, {759, 700});
-}
-
-TEST_F(BoardPicture, Split) {
-    Appearance appearance = light();
-    appearance.SplitHexas = true;
-    expectBoard(QStringLiteral("split"), sampleBoardInPlay(), appearance);
-}
-
-TEST_F(BoardPicture, Dark) {
-    expectBoard(QStringLiteral("dark"), sampleBoardInPlay(), dark());
-}
-
-TEST_F(BoardPicture, Solution) {
+TEST(BoardPicture, VectorPicturesShowTheSame) {
+    const Appearance appearance = colourful();
     const Board board = sampleBoardInPlay();
-    surface.setAppearance(light());
-    surface.DrawSolution(board, RGB(0, 128, 0));
-    expectPicture(surface.image(), QStringLiteral("board_pictures"), QStringLiteral("solution"));
-}
-
-TEST(GoldenPicture, OneMarkMoreIsADifference) {
-    Board board = sampleBoardInPlay();
-    BoardSurface surface;
-    surface.setAppearance(light());
-    surface.DrawBoard(board);
-    const QImage before = surface.image();
-    ASSERT_EQ(board.CellNum[1][5], "12");
-    board.CellNum[1][5] = "112";
-    surface.DrawHexagon(board, 1);
-    EXPECT_EQ(compare(before, before).pixels, 0);
-    EXPECT_GT(compare(before, surface.image()).pixels, 10);
+    for (const bool solution : {false, true})
+        for (const auto look : {BoardPicture::Look::Copy, BoardPicture::Look::Game}) {
+            const BoardPicture picture{board, appearance, solution, look};
+            QByteArray svg;
+            QBuffer buffer(&svg);
+            {
+                QSvgGenerator generator;
+                generator.setOutputDevice(&buffer);
+                generator.setSize({506, 476});
+                generator.setViewBox(QRect(0, 0, 506, 476));
+                QPainter painter(&generator);
+                paintPicture(painter, picture);
+            }
+            const QImage expected = drawImage(picture, 2);
+            QImage drawn(expected.size(), QImage::Format_RGB32);
+            drawn.fill(Qt::white);
+            QPainter painter(&drawn);
+            QSvgRenderer(svg).render(&painter);
+            painter.end();
+            // The smoothing differs along every line, so both are looked at from afar.
+            const auto blurred = [](const QImage& image) {
+                return image.scaled(253, 238, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+            };
+            EXPECT_LT(compare(blurred(expected), blurred(drawn)).pixels, 60);
+        }
 }
 
 } // namespace

@@ -1,6 +1,5 @@
 #include "ui/options/options_dialog.h"
 
-#include "core/options/appearance.h"
 #include "core/session/configuration.h"
 #include "ui/drawing/qt_values.h"
 #include "ui/game_window.h"
@@ -37,20 +36,22 @@ protected:
             throw std::runtime_error("no such control");
         return *found;
     }
-
     void click(const char16_t* name, Qt::MouseButton button = Qt::LeftButton) {
         QTest::mouseClick(&find(name), button);
     }
-
-    void choose(const char16_t* list, const QString& entry) {
+    void choose(const char16_t* list, int row) {
         auto& widget = find<QListWidget>(list);
-        QListWidgetItem* item = widget.findItems(entry, Qt::MatchExactly).value(0);
-        ASSERT_NE(item, nullptr) << entry.toStdString();
+        QListWidgetItem* item = widget.item(row);
         widget.scrollToItem(item);
         QTest::mouseClick(widget.viewport(), Qt::LeftButton, {},
                           widget.visualItemRect(item).center());
     }
-
+    void chooseScheme(const QString& name) {
+        auto& list = find<QListWidget>(u"List1");
+        const auto found = list.findItems(name, Qt::MatchExactly);
+        ASSERT_FALSE(found.isEmpty()) << name.toStdString();
+        choose(u"List1", list.row(found.front()));
+    }
     void pickColour(int index) {
         auto& surface = find<ColourSurfaceView>(u"surface");
         const auto box = colour_surface::paletteBox(index);
@@ -58,86 +59,29 @@ protected:
                           surface.toWidget(box.left + 20, box.top + 100).toPoint());
     }
 
-    void drag(const char16_t* slider, int value) { find<QSlider>(slider).setSliderPosition(value); }
-
-    Colour textOf(const char16_t* label) {
-        return toColour(find<QLabel>(label).palette().color(QPalette::WindowText));
-    }
-    Colour groundOf(QWidget& widget) { return toColour(widget.palette().color(QPalette::Window)); }
+    Colour groundOf(QWidget& widget) { return toColour(widget.palette().window().color()); }
     QString caption() { return find<QGroupBox>(u"Frame1").title(); }
-    Colour fillSample() { return toColour(find<FillSample>(u"Shape1").fill()); }
-    LineSample& borderSample() { return find<LineSample>(u"Line2"); }
-    Appearance& settings() { return game.session.appearance; }
+    QImage sample() { return find(u"sampleBoard").grab().toImage(); }
     QImage boardPicture() { return game.board().grab().toImage(); }
+    Appearance& settings() { return game.session.appearance; }
 
     GameWindow game;
     Form2x& dialog = game.find<Form2x>(u"Form2x"_s);
 };
 
-TEST_F(OptionsDialog, ShowsTheSettingsUnderTheFixedNamesAndTexts) {
-    EXPECT_TRUE(dialog.isModal());
-    EXPECT_EQ(dialog.windowTitle(), u"Tessaly Options"_s);
-    const std::vector<std::pair<const char16_t*, QString>> frames{
-        {u"Frame1", u"Colour Scheme: xp"_s}, {u"Frame2", u"Num Border"_s},
-        {u"Frame3", u"Split Hexas"_s},       {u"Frame6", u"Print Line"_s},
-        {u"Frame7", u"Colour Selector"_s},   {u"Frame12", u"Fonts"_s}};
-    for (const auto& [name, title] : frames)
-        EXPECT_EQ(find<QGroupBox>(name).title(), title);
-    const std::vector<std::pair<const char16_t*, QString>> toolTips{
-        {u"Frame3", u"Display spaced hexagons"_s},
-        {u"Frame2", u"Draw border around number in the centre of a hexagon"_s},
-        {u"Frame6", u"Size of the border lines in printed puzzles"_s},
-        {u"cmdcol_0", u"Left click to set number colour; click colour selector first"_s},
-        {u"cmdcol_1", u"Left click to set hexagon fill colour; click colour selector first"_s},
-        {u"cmdcol_2", u"Left click to set border colour; right click to set border width"_s},
-        {u"cmdcol_3", u"Left click to set number colour; click colour selector first"_s},
-        {u"ShowSch", u"View current color setting"_s},
-        {u"RepSch", u"Replace the current color scheme"_s},
-        {u"DelSch", u"Delete the color scheme"_s},
-        {u"AddSch", u"Add this color scheme"_s}};
-    for (const auto& [name, text] : toolTips)
-        EXPECT_EQ(find(name).toolTip(), text);
-    EXPECT_EQ(find<QLineEdit>(u"Text3").text(), u"2"_s);
-    EXPECT_EQ(textOf(u"Label1"), settings().FixedNumberColour);
-    EXPECT_EQ(textOf(u"Label2"), settings().UserNumberColour);
-    EXPECT_EQ(fillSample(), settings().HexaFillColour);
-    EXPECT_EQ(borderSample().lineWidth(), 2);
-    EXPECT_EQ(find<QListWidget>(u"List1").count(), 15);
-    EXPECT_TRUE(find<QListWidget>(u"List1").selectedItems().isEmpty());
-    EXPECT_EQ(find<ColPik>(u"ColPik1").SelColor(), settings().SchemeColours[slot::Background]);
-}
-
 TEST_F(OptionsDialog, ASchemeIsSeenInTheDialogFirstAndAfterApplyEverywhere) {
-    const QImage before = boardPicture();
-    const Colour old = groundOf(*game.window);
-    const QImage sample = find(u"sampleBoard").grab().toImage();
-    choose(u"List1", u"rose"_s);
-    EXPECT_EQ(caption(), u"Colour Scheme: rose"_s);
-    EXPECT_EQ(groundOf(dialog), RGB(236, 205, 211));
-    EXPECT_EQ(groundOf(find(u"Frame7")), RGB(236, 205, 211));
-    EXPECT_EQ(fillSample(), RGB(236, 205, 211));
-    EXPECT_NE(find(u"sampleBoard").grab().toImage(), sample);
-    EXPECT_EQ(groundOf(*game.window), old);
-    EXPECT_EQ(boardPicture(), before);
-    click(u"Command1");
-    EXPECT_FALSE(dialog.isVisible());
-    EXPECT_EQ(settings().ActiveScheme, "rose.col");
-    EXPECT_EQ(groundOf(*game.window), RGB(236, 205, 211));
-    EXPECT_NE(boardPicture(), before);
-    const Colour menu = settings().SchemeColours[slot::Menu];
-    EXPECT_TRUE(game.window->menuBar()->styleSheet().contains(toQColor(menu).name()));
-    EXPECT_EQ(caption(), u"Colour Scheme: rose"_s);
-}
-
-TEST_F(OptionsDialog, ExitDropsWhatWasNotApplied) {
     const Appearance before = settings();
     const QImage board = boardPicture();
+    const QImage firstSample = sample();
+    EXPECT_EQ(caption(), u"Colour Scheme: xp");
+    EXPECT_EQ(find<QLineEdit>(u"Text3").text(), u"2");
+    EXPECT_EQ(find<ColPik>(u"ColPik1").SelColor(), settings().SchemeColours[slot::Background]);
     for (const bool byEscape : {false, true}) {
-        choose(u"List1", u"night"_s);
-        pickColour(12);
-        click(u"cmdcol_0");
-        click(u"Check1");
-        find<QLineEdit>(u"Text3").setText(u"7"_s);
+        chooseScheme(u"rose"_s);
+        EXPECT_EQ(caption(), u"Colour Scheme: rose");
+        EXPECT_EQ(groundOf(dialog), RGB(236, 205, 211));
+        EXPECT_EQ(groundOf(find(u"Frame7")), RGB(236, 205, 211));
+        EXPECT_NE(sample(), firstSample);
         if (byEscape)
             QTest::keyClick(&dialog, Qt::Key_Escape);
         else
@@ -146,92 +90,101 @@ TEST_F(OptionsDialog, ExitDropsWhatWasNotApplied) {
         EXPECT_EQ(settings(), before);
         EXPECT_EQ(boardPicture(), board);
         open();
-        EXPECT_EQ(caption(), u"Colour Scheme: xp"_s);
-        EXPECT_EQ(textOf(u"Label1"), before.FixedNumberColour);
-        EXPECT_EQ(find<QLineEdit>(u"Text3").text(), u"2"_s);
+        EXPECT_EQ(caption(), u"Colour Scheme: xp") << "what was not applied is dropped";
+        EXPECT_EQ(sample(), firstSample);
     }
+    chooseScheme(u"rose"_s);
+    click(u"Command1");
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_EQ(groundOf(*game.window), RGB(236, 205, 211));
+    EXPECT_NE(boardPicture(), board);
+    const QColor menu = toQColor(settings().SchemeColours[slot::Menu]);
+    EXPECT_TRUE(game.window->menuBar()->styleSheet().contains(menu.name()));
 }
 
-TEST_F(OptionsDialog, SamplesTakeThePickedColourAndEveryOneShowsOnTheLiveBoard) {
-    QImage last = find(u"sampleBoard").grab().toImage();
+TEST_F(OptionsDialog, EachControlShowsOnTheSampleAndAppliedSurvivesARestart) {
+    chooseScheme(u"sand"_s);
+    QList<QImage> samples{sample()};
     const auto expectNewSample = [&](const char* what) {
-        const QImage now = find(u"sampleBoard").grab().toImage();
-        EXPECT_NE(now, last) << what;
-        last = now;
+        EXPECT_FALSE(samples.contains(sample())) << what;
+        samples << sample();
     };
-    pickColour(9);
-    click(u"cmdcol_0");
-    EXPECT_EQ(textOf(u"Label1"), ClassicPalette[9]);
-    expectNewSample("givens");
-    pickColour(2);
-    click(u"cmdcol_3");
-    EXPECT_EQ(textOf(u"Label2"), ClassicPalette[2]);
-    expectNewSample("numbers");
-    pickColour(14);
-    click(u"cmdcol_1");
-    EXPECT_EQ(fillSample(), ClassicPalette[14]);
-    expectNewSample("fill");
-    pickColour(12);
-    click(u"cmdcol_2");
-    EXPECT_EQ(toColour(borderSample().colour()), ClassicPalette[12]);
-    expectNewSample("border");
-    for (int width : {3, 4, 5, 1, 2}) {
-        click(u"cmdcol_2", Qt::RightButton);
-        EXPECT_EQ(borderSample().lineWidth(), width);
+    for (const auto& [colour, button] :
+         {std::pair{9, u"cmdcol_0"}, {2, u"cmdcol_3"}, {14, u"cmdcol_1"}, {12, u"cmdcol_2"}}) {
+        pickColour(colour);
+        click(button);
+        expectNewSample("a colour");
     }
-    for (int clicks = 0; clicks < 3; ++clicks)
+    EXPECT_EQ(toColour(find(u"Label1").palette().windowText().color()), ClassicPalette[9]);
+    EXPECT_EQ(toColour(find(u"Label2").palette().windowText().color()), ClassicPalette[2]);
+    EXPECT_EQ(toColour(find<FillSample>(u"Shape1").fill()), ClassicPalette[14]);
+    EXPECT_EQ(toColour(find<LineSample>(u"Line2").colour()), ClassicPalette[12]);
+    for (int width : {3, 4, 5}) {
         click(u"cmdcol_2", Qt::RightButton);
+        EXPECT_EQ(find<LineSample>(u"Line2").lineWidth(), width);
+    }
     expectNewSample("width");
     click(u"Check1");
     expectNewSample("number borders");
     click(u"Check2");
     expectNewSample("spaced hexagons");
-    auto& fonts = find<QListWidget>(u"List2");
-    choose(u"List2", fonts.item(0)->text());
-    EXPECT_EQ(find<QLabel>(u"Label1").font().family(), fonts.item(0)->text());
-    EXPECT_EQ(find<QLabel>(u"Label2").font().pointSize(), 18);
-}
-
-TEST_F(OptionsDialog, AppliedSettingsShowOnTheBoardAndSurviveARestart) {
-    const QImage before = boardPicture();
-    choose(u"List1", u"sand"_s);
-    pickColour(9);
-    click(u"cmdcol_3");
-    click(u"cmdcol_2", Qt::RightButton);
-    click(u"Check1");
-    click(u"Check2");
+    choose(u"List2", 0);
+    EXPECT_EQ(find(u"Label1").font().family(), find<QListWidget>(u"List2").item(0)->text());
     auto& printLine = find<QLineEdit>(u"Text3");
     printLine.selectAll();
     QTest::keyClicks(&printLine, u"3.5"_s);
     click(u"Command1");
-    EXPECT_NE(boardPicture(), before);
     game.prompts.answers = {answer::Yes};
     game.find<QAction>(u"cmdexit"_s).trigger();
 
     Session next;
     next.ProgramFolder = game.session.ProgramFolder;
     ASSERT_TRUE(loadSession(next).outcome.ok());
+    EXPECT_EQ(next.appearance, settings());
     EXPECT_EQ(next.appearance.ActiveScheme, "sand.col");
-    EXPECT_EQ(next.appearance.UserNumberColour, ClassicPalette[9]);
-    EXPECT_EQ(next.appearance.HexaFillColour, next.appearance.SchemeColours[slot::Background]);
-    EXPECT_EQ(next.appearance.HexaBorderWidth, 3);
+    EXPECT_EQ(next.appearance.HexaFillColour, ClassicPalette[14]);
     EXPECT_EQ(next.appearance.PrintLineWidth, 4);
     EXPECT_TRUE(next.appearance.SplitHexas && next.appearance.NumBorder);
-    EXPECT_EQ(next.appearance, settings());
+}
+
+TEST_F(OptionsDialog, ContrastAndSelectorMakeASchemeThatIsStoredAppliedAndDeleted) {
+    auto& schemes = find<QListWidget>(u"List1");
+    pickColour(14);
+    find<QSlider>(u"ContrastV").setSliderPosition(50);
+    EXPECT_EQ(groundOf(dialog), ClassicPalette[14]);
+    pickColour(11);
+    click(u"ShowSch");
+    EXPECT_EQ(groundOf(dialog), ClassicPalette[11]);
+    game.prompts.lines = {"My & <b>Sea</b>; " + std::string(300, 'n')};
+    const int width = dialog.width();
+    click(u"AddSch");
+    EXPECT_EQ(schemes.count(), 16);
+    EXPECT_TRUE(schemes.selectedItems().isEmpty());
+    choose(u"List1", 15);
+    EXPECT_EQ(find<QSlider>(u"ContrastV").value(), 100);
+    QApplication::processEvents();
+    EXPECT_EQ(dialog.width(), width) << "a long name must not widen the dialog";
+    click(u"Command1");
+    EXPECT_EQ(groundOf(*game.window), ClassicPalette[11]);
+    open();
+    choose(u"List1", 15);
+    game.prompts.answers = {answer::Yes};
+    click(u"DelSch");
+    EXPECT_EQ(schemes.count(), 15);
+    click(u"Command1");
+    EXPECT_TRUE(game.prompts.shown.back().text.ends_with(" not found")) << "the one in force";
+    EXPECT_EQ(settings().ActiveScheme, "default.col");
 }
 
 TEST_F(OptionsDialog, DefaultIsInForceAtOnceButSeenAfterApply) {
-    choose(u"List1", u"night"_s);
+    chooseScheme(u"night"_s);
     click(u"Command1");
     const QImage night = boardPicture();
     open();
     click(u"cmddef");
-    EXPECT_TRUE(dialog.isVisible());
-    EXPECT_EQ(caption(), u"Colour Scheme: xp"_s);
+    EXPECT_EQ(caption(), u"Colour Scheme: xp");
     EXPECT_EQ(settings().ActiveScheme, "xp.col");
-    EXPECT_EQ(fillSample(), settings().SchemeColours[slot::Button]);
     click(u"Command2");
-    EXPECT_EQ(settings().ActiveScheme, "xp.col");
     game.window->resize(game.window->size() + QSize(2, 2));
     game.window->resize(game.window->size() - QSize(2, 2));
     EXPECT_EQ(boardPicture(), night);
@@ -241,59 +194,10 @@ TEST_F(OptionsDialog, DefaultIsInForceAtOnceButSeenAfterApply) {
     EXPECT_EQ(groundOf(*game.window), settings().SchemeColours[slot::Background]);
 }
 
-TEST_F(OptionsDialog, ContrastAndSelectorMakeASchemeThatIsOnlySeen) {
-    pickColour(14);
-    drag(u"ContrastV", 50);
-    SchemeColours expected{};
-    BuildScheme(ClassicPalette[14], 50, expected);
-    EXPECT_EQ(groundOf(dialog), ClassicPalette[14]);
-    EXPECT_EQ(toColour(find(u"Command1").palette().color(QPalette::Button)),
-              expected[slot::Button]);
-    pickColour(10);
-    click(u"ShowSch");
-    EXPECT_EQ(groundOf(dialog), ClassicPalette[10]);
-    choose(u"List1", u"sky"_s);
-    EXPECT_EQ(find<QSlider>(u"ContrastV").value(), 100);
-    open();
-    click(u"ShowSch");
-    const Colour xp = settings().SchemeColours[slot::Background];
-    click(u"Command1");
-    EXPECT_EQ(settings().ActiveScheme, "xp.col");
-    EXPECT_EQ(groundOf(*game.window), xp);
-}
-
-TEST_F(OptionsDialog, ASchemeIsStoredAppliedAndDeleted) {
-    auto& schemes = find<QListWidget>(u"List1");
-    click(u"DelSch");
-    EXPECT_EQ(game.prompts.shown.back().text, "Select a colour scheme to delete");
-    pickColour(11);
-    click(u"ShowSch");
-    game.prompts.lines = {"My & <b>Sea</b>; " + std::string(300, 'n')};
-    const int width = dialog.width();
-    click(u"AddSch");
-    EXPECT_EQ(schemes.count(), 16);
-    EXPECT_TRUE(schemes.selectedItems().isEmpty());
-    choose(u"List1", schemes.item(15)->text());
-    QApplication::processEvents();
-    EXPECT_EQ(dialog.width(), width) << "a long name must not widen the dialog";
-    click(u"Command1");
-    EXPECT_EQ(groundOf(*game.window), ClassicPalette[11]);
-    open();
-    choose(u"List1", schemes.item(15)->text());
-    game.prompts.answers = {answer::Yes};
-    click(u"DelSch");
-    EXPECT_EQ(schemes.count(), 15);
-    game.prompts.shown.clear();
-    click(u"Command1");
-    ASSERT_EQ(game.prompts.shown.size(), 1U) << "the scheme in force is gone";
-    EXPECT_TRUE(game.prompts.shown.front().text.ends_with(" not found"));
-    EXPECT_EQ(settings().ActiveScheme, "default.col");
-}
-
 TEST_F(OptionsDialog, WorksByKeysAlone) {
     EXPECT_TRUE(find(u"List1").hasFocus());
     QTest::keyClick(&find(u"List1"), Qt::Key_Down);
-    EXPECT_EQ(caption(), u"Colour Scheme: daylight"_s);
+    EXPECT_EQ(caption(), u"Colour Scheme: daylight");
     QSet<QWidget*> reached;
     for (int tabs = 0; tabs < 60; ++tabs) {
         reached << QApplication::focusWidget();

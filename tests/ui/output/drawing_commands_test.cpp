@@ -79,21 +79,16 @@ TEST_F(DrawingCommands, WhatCannotBeDoneIsSaidOnOneLineAndLeavesNothing) {
     const auto before = folder.names();
     for (const Case& c : std::vector<Case>{
              {{"print", Easy, "--to", "41", "--output", out}, 1, "no puzzle 41 among its 40"},
-             {{"print", Easy, "--from", "41", "--output", out}, 1, "no puzzle 41 among its 40"},
              {{"print", Easy, "--from", "9", "--to", "8", "--output", out}, 1, "9 comes after"},
              {{"print", broken, "--output", out}, 1, broken + ": line 41: "},
              {{"print", folder / "none", "--output", out}, 1, "No such file"},
              {{"print", Easy, "--output", folder / "none" / "o.pdf"}, 1, "No such file"},
              {{"print", Easy, "--output", folder.path()}, 1, "directory"},
-             {{"print", Easy, "--output", "/dev/null"}, 1, "/dev/null: "},
              {{"render", broken, "--number", "41", "--output", out}, 1, broken + ": line 41: "},
              {{"render", Easy, "--number", "1", "--output", "/nowhere/o.png"}, 1, "No such file"},
-             {{"render", Easy, "--number", "1", "--output", "/nowhere/o.svg"}, 1, "No such file"},
-             {{"render", Easy, "--number", "1", "--output", "/nowhere/o.pdf"}, 1, "No such file"},
              {{"print", Easy, "--per-page", "3", "--output", out}, 2, "--per-page"},
              {{"print", Easy, "--from", "0", "--output", out}, 2, "--from"},
              {{"print", Easy, "--paper", "a5", "--output", out}, 2, "--paper"},
-             {{"print", Easy}, 2, "--output"},
              {{"render", Easy, "--number", "41", "--output", out}, 1, "no puzzle 41"},
              {{"render", Easy, "--number", "1", "--output", "x.gif"}, 2, "x.gif"},
              {{"render", Easy, "--number", "1", "--output", out, "--scale", "0"}, 2, "--scale"},
@@ -111,12 +106,10 @@ TEST_F(DrawingCommands, OnAFullDiskTheOldFileStaysAndTheNewOneIsNotSaidToBeThere
     for (const char* name : {"a.png", "a.svg", "a.pdf"}) {
         ASSERT_EQ(render(name), 0) << said;
         const std::string whole = test::contentOf(folder / name);
-        for (const auto room : {whole.size() - 1, whole.size() / 2, std::size_t{0}}) {
-            const test::FullDisk disk(room);
-            EXPECT_EQ(render(name, {"--solution"}), 1) << name << " with room for " << room;
-            EXPECT_NE(said.find(name), std::string::npos) << said;
-            EXPECT_NE(said.find("File too large"), std::string::npos) << said;
-        }
+        const test::FullDisk disk(whole.size() / 2);
+        EXPECT_EQ(render(name, {"--solution"}), 1) << name;
+        EXPECT_NE(said.find(name), std::string::npos) << said;
+        EXPECT_NE(said.find("File too large"), std::string::npos) << said;
         EXPECT_EQ(test::contentOf(folder / name), whole);
     }
     EXPECT_EQ(folder.names(), (std::set<std::string>{"a.png", "a.svg", "a.pdf"}));
