@@ -32,9 +32,12 @@ QString textIn(std::vector<PdfDocument::Word> words, const Rect& area) {
     return text.join(u' ');
 }
 
-/// What stands in the corners of a board's area that the board leaves empty, left and right.
+/// What stands in the corners of a board's area that the board leaves empty.
 QString captionsIn(const std::vector<PdfDocument::Word>& words, const Rect& area) {
-    return textIn(words, {area.left, area.top, area.right, area.top + 0.09 * area.height()});
+    const double width = 0.33 * area.width();
+    const double bottom = area.top + 0.09 * area.height();
+    return textIn(words, {area.left, area.top, area.left + width, bottom}) + u'|' +
+           textIn(words, {area.right - width, area.top, area.right, bottom});
 }
 
 /// What a page says at the middle of a cell of the board in a place.
@@ -51,7 +54,8 @@ QString textAt(const std::vector<PdfDocument::Word>& words, const Rect& area, Ce
 
 class PdfFile : public testing::Test {
 protected:
-    PrintResult print(const PrintJob& job, PaperSize paper = A4, const GoOn& goOn = [](int) { return true; }) {
+    PrintResult print(
+        const PrintJob& job, PaperSize paper = A4, const GoOn& goOn = [](int) { return true; }) {
         return writePdf(path, paper, job, appearance, goOn);
     }
 
@@ -63,8 +67,10 @@ protected:
 TEST_F(PdfFile, HoldsEveryNumberCaptionAndFooterOnEitherPaper) {
     constexpr int First = 3;
     constexpr int Count = 7;
-    for (const auto& [paper, perPage] : {std::pair{NamedPapers[0], 1}, {NamedPapers[1], 2},
-                                         {NamedPapers[0], 4}, {NamedPapers[1], 6}}) {
+    for (const auto& [paper, perPage] : {std::pair{NamedPapers[0], 1},
+                                         {NamedPapers[1], 2},
+                                         {NamedPapers[0], 4},
+                                         {NamedPapers[1], 6}}) {
         SCOPED_TRACE(testing::Message() << paper.name << ", " << perPage << " a page");
         const Booklet booklet(Count, {{false, perPage}, {true, SolutionsPerPage}});
         ASSERT_TRUE(print({booklet, First, sample, "Sample"}, paper.size).isComplete());
@@ -91,7 +97,7 @@ TEST_F(PdfFile, HoldsEveryNumberCaptionAndFooterOnEitherPaper) {
                               shown ? board.SolNum[cell] : std::string());
                 }
                 EXPECT_EQ(captionsIn(words, area),
-                          u"%1# %2 %3"_s.arg(page.part.solutions ? u"Sol"_s : u"Puz"_s)
+                          u"%1# %2|%3"_s.arg(page.part.solutions ? u"Sol"_s : u"Puz"_s)
                               .arg(puzzle)
                               .arg(QString::fromUtf8(board.DifName())));
             }

@@ -69,7 +69,7 @@ TEST_F(Copying, WritesTheWindowAsBitmapOrPngAndAsksBeforeItReplacesAFile) {
             EXPECT_EQ(test::contentOf(folder + "old.bmp"), "old");
         }
     }
-    const FileQuestion& asked = game.fileDialogs.asked.back().question;
+    const FileQuestion& asked = game.fileDialogs.asked.back();
     EXPECT_EQ(asked.title, u"Select destination file for a bitmap copy of this puzzle");
     EXPECT_EQ(asked.kind, u"Facetto Bitmap Files (*.bmp)");
     EXPECT_EQ(asked.folder.toStdString(), folder);

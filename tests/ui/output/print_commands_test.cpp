@@ -14,6 +14,8 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
+constexpr std::size_t CaptionsAndFooter = 8;
+
 class Printing : public testing::Test {
 protected:
     Printing() { game.window->files().load(puzzles, 3); }
@@ -44,83 +46,68 @@ protected:
     std::function<void()> meanwhile;
 };
 
-TEST_F(Printing, PrintsTheShownPuzzleItsSolutionOrBoth) {
+TEST_F(Printing, PrintsTheShownPuzzleAsItStandsItsSolutionOrBoth) {
     Board& board = game.session.game.board;
     const CellId open = *std::find_if(AllCells.begin(), AllCells.end(), [&](CellId cell) {
         return !board.isBlank(cell.hexagon) && !board.FixedCell[cell];
     });
-    const auto count = [&] { return PdfDocument(pdf).words(1).size(); };
     game.printers.userSetsUp = [&](QPrinter& printer) {
         printer.setOutputFileName(QString::fromStdString(pdf));
         printer.setPageSize(QPageSize(QPageSize::Letter));
         return true;
     };
-    choose(u"mnuprintx_0"_s);
-    EXPECT_EQ(PdfDocument(pdf).pageCount(), 1);
-    EXPECT_TRUE(PdfDocument(pdf).info(u"Page size"_s).startsWith(u"612 x 792"_s));
-    EXPECT_EQ(PdfDocument(pdf).info(u"Title"_s), u"Puz# 3"_s);
-    const auto givens = count();
+    const auto print = [&](const QString& item) {
+        choose(item);
+        return PdfDocument(pdf);
+    };
+    const auto givens = print(u"mnuprintx_0"_s).words(1).size();
     board.CellNum[open] = board.SolNum[open];
-    choose(u"mnuprintx_0"_s);
-    EXPECT_EQ(count(), givens + 1) << "the puzzle is printed as it stands";
-    choose(u"mnuprintx_1"_s);
-    EXPECT_EQ(PdfDocument(pdf).pageCount(), 1);
-    constexpr std::size_t CaptionsAndFooter = 8;
-    EXPECT_EQ(count(), std::size_t{HexagonCount - 1} * CellCount + CaptionsAndFooter);
-    choose(u"mnuprintx_2"_s);
-    EXPECT_EQ(PdfDocument(pdf).pageCount(), 2);
-    EXPECT_EQ(game.prompts.shown, std::vector<ScriptedPrompts::Message>{});
+    const PdfDocument puzzle = print(u"mnuprintx_0"_s);
+    EXPECT_EQ(puzzle.words(1).size(), givens + 1);
+    EXPECT_EQ(puzzle.pageCount(), 1);
+    EXPECT_TRUE(puzzle.info(u"Page size"_s).startsWith(u"612 x 792"_s));
+    EXPECT_EQ(puzzle.info(u"Title"_s), u"Puz# 3");
+    EXPECT_EQ(print(u"mnuprintx_1"_s).words(1).size(),
+              std::size_t{HexagonCount - 1} * CellCount + CaptionsAndFooter);
+    EXPECT_EQ(print(u"mnuprintx_2"_s).pageCount(), 2);
+    EXPECT_TRUE(game.prompts.shown.empty());
 }
 
-TEST_F(Printing, OneThatIsCancelledOrCannotBeWrittenPrintsNothing) {
-    choose(u"mnuprintx_2"_s);
-    EXPECT_EQ(game.printers.asked, 1);
-    game.printers.userSetsUp = [&](QPrinter& printer) {
+TEST_F(Printing, WhatCannotBePrintedIsSaid) {
+    const auto shown = [&] {
+        choose(u"mnuprintx_0"_s);
+        return game.prompts.shown.empty() ? "" : game.prompts.shown.back().text;
+    };
+    EXPECT_EQ(shown(), "") << "cancelled";
+    game.printers.userSetsUp = [](QPrinter& printer) {
         printer.setOutputFileName(u"/nowhere/out.pdf"_s);
         return true;
     };
-    choose(u"mnuprintx_0"_s);
-    EXPECT_NE(game.prompts.shown.back().text.find("/nowhere/out.pdf"), std::string::npos);
+    EXPECT_NE(shown().find("/nowhere/out.pdf"), std::string::npos);
     EXPECT_EQ(game.prompts.shown.back().style, "vbok+vbcritical");
     game.printers.userSetsUp = [](QPrinter&) { return true; };
-    choose(u"mnuprintx_0"_s);
-    EXPECT_EQ(game.prompts.shown.back().text, "There is no printer.");
-    game.window->files().goTo(1);
+    EXPECT_EQ(shown(), "There is no printer.");
+    std::filesystem::create_directory(pdf);
+    for (const std::string& path : {pdf, std::string("/nowhere/out.pdf")}) {
+        pdf = path;
+        printMultipleToPdf(u"1"_s, u"4"_s);
+        EXPECT_NE(game.prompts.shown.back().text.find(path), std::string::npos);
+    }
+    EXPECT_FALSE(game.session.busy.isBusy());
     game.session.puzzle = {};
-    choose(u"mnuprintx_0"_s);
-    EXPECT_EQ(game.prompts.shown.back().text, "There is no puzzle to print");
-    EXPECT_EQ(game.printers.asked, 3);
+    EXPECT_EQ(shown(), "There is no puzzle to print");
 }
 
-TEST_F(Printing, ARangeGoesToAPdfFileWithoutWhatThePlayerEntered) {
-    auto records = sampleRecords("easy.txt");
-    records[4] += ":" + std::string(114, '1');
-    std::string content;
-    for (const std::string& record : records)
-        content += record + "\n";
-    test::put(puzzles, content);
-    printMultipleToPdf(u"5"_s, u"10"_s);
-    const PdfDocument document(pdf);
-    EXPECT_EQ(document.pageCount(), 3);
-    EXPECT_EQ(game.message().toStdString(), "3 pages printed to " + pdf);
-    const Board board = boardOf(sampleRecords("easy.txt")[4]);
-    const auto givens = std::count_if(AllCells.begin(), AllCells.end(), [&](CellId cell) {
-        return board.FixedCell[cell] && !board.isBlank(cell.hexagon);
-    });
-    std::filesystem::remove(pdf);
-    printMultipleToPdf(u"5"_s, u"5"_s);
-    EXPECT_EQ(PdfDocument(pdf).words(1).size(), static_cast<std::size_t>(givens) + 8);
-}
-
-TEST_F(Printing, AskedBeforeAFileIsReplaced) {
+TEST_F(Printing, ARangeGoesToAPdfFileOnceTheUserAgreesToReplaceIt) {
     test::put(pdf, "old");
     game.prompts.answers = {answer::No, answer::Yes};
-    printMultipleToPdf(u"1"_s, u"1"_s);
+    printMultipleToPdf(u"5"_s, u"10"_s);
     EXPECT_EQ(game.prompts.shown.back(),
               (ScriptedPrompts::Message{"OverWrite file: " + pdf + " ?", "vbyesno+vbquestion"}));
     EXPECT_EQ(test::contentOf(pdf), "old");
-    printMultipleToPdf(u"1"_s, u"1"_s);
-    EXPECT_EQ(PdfDocument(pdf).pageCount(), 2);
+    printMultipleToPdf(u"5"_s, u"10"_s);
+    EXPECT_EQ(PdfDocument(pdf).pageCount(), 3);
+    EXPECT_EQ(game.message().toStdString(), "3 pages printed to " + pdf);
 }
 
 TEST_F(Printing, APrinterGetsAWholeDocumentOnItsPaper) {
@@ -128,8 +115,8 @@ TEST_F(Printing, APrinterGetsAWholeDocumentOnItsPaper) {
     game.printers.paper = NamedPapers[1].size;
     printMultiple(u"2"_s, u"14"_s, u"Laser"_s);
     ASSERT_EQ(game.printers.printed.size(), 1U);
-    EXPECT_EQ(game.printers.printed[0].name, u"Laser"_s);
-    EXPECT_EQ(game.printers.printed[0].title, u"easy.txt, 2 to 14"_s);
+    EXPECT_EQ(game.printers.printed[0].name, u"Laser");
+    EXPECT_EQ(game.printers.printed[0].title, u"easy.txt, 2 to 14");
     test::put(pdf, game.printers.printed[0].pdf);
     EXPECT_EQ(PdfDocument(pdf).pageCount(), 4 + 2);
     EXPECT_TRUE(PdfDocument(pdf).info(u"Page size"_s).startsWith(u"612 x 792"_s));
@@ -141,35 +128,17 @@ TEST_F(Printing, APrinterGetsAWholeDocumentOnItsPaper) {
 
 TEST_F(Printing, BadFilesAreNamedAndNothingIsPrinted) {
     game.printers.installed = {u"Laser"_s};
-    auto records = sampleRecords("easy.txt");
-    meanwhile = [&] { test::put(puzzles, records[0] + "\n" + records[1] + "\n"); };
-    printMultiple(u"1"_s, u"40"_s, u"Laser"_s);
-    EXPECT_EQ(game.prompts.shown.back().text, puzzles + ": there is no puzzle 3 among its 2");
-    meanwhile = [&] {
-        test::put(puzzles, records[0] + "\nno record\n" + records[1] + "\n" + records[2] + "\n");
-    };
-    printMultipleToPdf(u"1"_s, u"4"_s);
-    EXPECT_NE(game.prompts.shown.back().text.find(puzzles + ": line 2: the record has"),
-              std::string::npos);
-    printMultiple(u"1"_s, u"3"_s, u"Laser"_s);
-    EXPECT_NE(game.prompts.shown.back().text.find("line 2"), std::string::npos);
-    EXPECT_EQ(game.prompts.shown.back().style, "vbok+vbcritical");
-    meanwhile = [&] { std::filesystem::remove(puzzles); };
-    printMultiple(u"1"_s, u"4"_s, u"Laser"_s);
-    EXPECT_NE(game.prompts.shown.back().text.find(puzzles), std::string::npos);
-    EXPECT_TRUE(game.printers.printed.empty());
-    EXPECT_FALSE(std::filesystem::exists(pdf));
-    EXPECT_FALSE(game.session.busy.isBusy());
-}
-
-TEST_F(Printing, AFileThatCannotBeWrittenIsNamed) {
-    std::filesystem::create_directory(pdf);
-    for (const std::string& path : {pdf, std::string("/nowhere/out.pdf")}) {
-        pdf = path;
-        printMultipleToPdf(u"1"_s, u"4"_s);
-        EXPECT_NE(game.prompts.shown.back().text.find(path), std::string::npos);
-        EXPECT_EQ(game.prompts.shown.back().style, "vbok+vbcritical");
+    const auto records = sampleRecords("easy.txt");
+    const std::string two = records[0] + "\n" + records[1] + "\n";
+    for (const auto& [content, problem] :
+         {std::pair<std::string, std::string>{two, ": there is no puzzle 3 among its 2"},
+          {two + "no record\n" + two, ": line 3: the record has"}}) {
+        meanwhile = [&, now = content] { test::put(puzzles, now); };
+        printMultiple(u"1"_s, u"3"_s, u"Laser"_s);
+        EXPECT_NE(game.prompts.shown.back().text.find(puzzles + problem), std::string::npos)
+            << game.prompts.shown.back().text;
     }
+    EXPECT_TRUE(game.printers.printed.empty());
     EXPECT_FALSE(game.session.busy.isBusy());
 }
 
@@ -184,7 +153,6 @@ protected:
         test::put(puzzles, content);
         game.window->files().load(puzzles);
         QObject::connect(&watch, &QTimer::timeout, [this] {
-            auto& progress = game.find(u"PrintProgress"_s);
             if (progress.isVisible() && !seen) {
                 seen = true;
                 during();
@@ -193,6 +161,7 @@ protected:
         watch.start(10);
     }
 
+    QWidget& progress = game.find(u"PrintProgress"_s);
     QTimer watch;
     bool seen = false;
     std::function<void()> during;
@@ -200,22 +169,18 @@ protected:
 
 TEST_F(LongPrinting, CancelLeavesNoFileAndTheWindowLivesMeanwhile) {
     during = [&] {
-        auto& progress = game.find(u"PrintProgress"_s);
         EXPECT_EQ(progress.findChild<QProgressBar*>()->maximum(), 1000 + 334);
         EXPECT_TRUE(game.session.busy.isBusy());
-        const int before = game.session.puzzle.PuzNum;
         QTest::mouseClick(&game.find(u"cmdarrow_1"_s), Qt::LeftButton);
-        EXPECT_EQ(game.session.puzzle.PuzNum, before) << "one command at a time";
+        EXPECT_EQ(game.session.puzzle.PuzNum, 1) << "one command at a time";
         QTest::mouseClick(progress.findChild<QWidget*>(u"cancelPrint"_s), Qt::LeftButton);
     };
     printMultipleToPdf(u"1"_s, u"4000"_s);
     EXPECT_TRUE(seen);
     EXPECT_FALSE(std::filesystem::exists(pdf));
-    EXPECT_EQ(game.message(), u"Nothing was printed"_s);
-    EXPECT_FALSE(game.find(u"PrintProgress"_s).isVisible());
+    EXPECT_EQ(game.message(), u"Nothing was printed");
+    EXPECT_FALSE(progress.isVisible());
     EXPECT_FALSE(game.session.busy.isBusy());
-    QTest::mouseClick(&game.find(u"cmdarrow_1"_s), Qt::LeftButton);
-    EXPECT_EQ(game.session.puzzle.PuzNum, 2);
 }
 
 TEST_F(LongPrinting, ClosingTheWindowEndsIt) {
@@ -224,7 +189,7 @@ TEST_F(LongPrinting, ClosingTheWindowEndsIt) {
     printMultiple(u"1"_s, u"4000"_s, u"Laser"_s);
     EXPECT_TRUE(seen);
     EXPECT_TRUE(game.printers.printed.empty());
-    EXPECT_FALSE(game.find(u"PrintProgress"_s).isVisible());
+    EXPECT_FALSE(progress.isVisible());
 }
 
 } // namespace

@@ -8,8 +8,6 @@
 #include "ui/drawing/qt_values.h"
 
 #include <QComboBox>
-#include <QGroupBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QTest>
 #include <QTimer>
@@ -33,7 +31,6 @@ protected:
         return *form.findChild<Widget*>(name);
     }
     void click(const QString& name) { QTest::mouseClick(&find<BoxControl>(name), Qt::LeftButton); }
-    void write(const QString& name, const QString& text) { find(name).setText(text); }
 
     /// Opens the dialog, does what the user does in it, and takes it away when it stays open.
     std::optional<PrintOrder> choose(const std::function<void()>& user) {
@@ -46,8 +43,8 @@ protected:
     }
     std::optional<PrintOrder> chooseRange(const QString& from, const QString& to) {
         return choose([&] {
-            write(u"Text1"_s, from);
-            write(u"Text2"_s, to);
+            find(u"Text1"_s).setText(from);
+            find(u"Text2"_s).setText(to);
             click(u"Command1"_s);
         });
     }
@@ -62,27 +59,15 @@ protected:
     Form5 form{appearance, printers, fileDialogs.dialog(), prompts, folder.path().string() + "/"};
 };
 
-TEST_F(PrintDialog, ShowsThePrintersTheFileAndTheWholeRange) {
+TEST_F(PrintDialog, OffersThePrintersTheFileAndTheWholeRange) {
     appearance.SchemeColours[slot::Background] = RGB(20, 30, 40);
     appearance.SchemeColours[slot::Button] = RGB(220, 230, 200);
     const auto order = choose([&] {
-        EXPECT_EQ(form.windowTitle(), u"Print Puzzles From File"_s);
-        EXPECT_EQ(find<QGroupBox>(u"Frame5"_s).title(), u"Printer"_s);
-        EXPECT_EQ(find<QGroupBox>(u"InFileFrame"_s).title(), u"Puzzles File"_s);
-        EXPECT_EQ(find<QGroupBox>(u"Frame1"_s).title(), u"Number of Puzzles"_s);
-        EXPECT_EQ(find<QLabel>(u"Label1"_s).text(), u"From"_s);
-        EXPECT_EQ(find<BoxControl>(u"Command1"_s).text(), u"Print"_s);
-        EXPECT_EQ(find<BoxControl>(u"Command2"_s).text(), u"Exit"_s);
-        auto& list = find<QComboBox>(u"Combo1"_s);
-        EXPECT_EQ(list.toolTip(), u"Select a printer for output"_s);
-        ASSERT_EQ(list.count(), 3);
-        EXPECT_EQ(list.itemText(0), u"Laser"_s);
-        EXPECT_EQ(list.itemText(2), u"Print to PDF"_s);
-        EXPECT_EQ(list.currentText(), u"Kitchen"_s) << "the default printer";
-        EXPECT_EQ(find(u"FileNow"_s).text(), u"/puzzles/mine.txt"_s);
-        EXPECT_EQ(find(u"FileNow"_s).toolTip(), u"Puzzles to be printed are stored in this file"_s);
-        EXPECT_EQ(find(u"Text1"_s).text(), u"1"_s);
-        EXPECT_EQ(find(u"Text2"_s).text(), u"40"_s);
+        QStringList offered;
+        for (int i = 0; i < find<QComboBox>(u"Combo1"_s).count(); ++i)
+            offered << find<QComboBox>(u"Combo1"_s).itemText(i);
+        EXPECT_EQ(offered, (QStringList{u"Laser"_s, u"Kitchen"_s, u"Print to PDF"_s}));
+        EXPECT_EQ(find(u"FileNow"_s).text(), u"/puzzles/mine.txt");
         EXPECT_EQ(toColour(form.palette().window().color()), RGB(20, 30, 40));
         EXPECT_EQ(toColour(find(u"Text1"_s).palette().base().color()), RGB(220, 230, 200));
         EXPECT_EQ(form.property("tag"), u"X"_s);
@@ -90,91 +75,74 @@ TEST_F(PrintDialog, ShowsThePrintersTheFileAndTheWholeRange) {
     });
     EXPECT_EQ(form.property("tag"), u"Y"_s);
     ASSERT_TRUE(order);
-    EXPECT_EQ(order->printer, u"Kitchen"_s);
+    EXPECT_EQ(order->printer, u"Kitchen") << "the default printer";
     EXPECT_EQ(order->range.path, "/puzzles/mine.txt");
+    EXPECT_EQ(order->range.from, 1);
     EXPECT_EQ(order->range.to, 40);
-}
+    EXPECT_EQ(order->range.puzzlesPerPage, 4);
 
-TEST_F(PrintDialog, RefusesRangesOutsideTheFileAndBackwardOnes) {
-    using Box = ScriptedPrompts::Message;
-    const std::string text = "Invalid from or to puzzle number";
-    const Box outside{text, "vbok+vbcritical"};
-    const Box backward{text, "vbcritical+vbok"};
-    struct Case {
-        QString from;
-        QString to;
-        std::optional<Box> box;
-    };
-    for (const auto& [from, to, box] :
-         {Case{u"0"_s, u"5"_s, outside}, Case{u"1"_s, u"41"_s, outside},
-          Case{u"0"_s, u"-3"_s, outside}, Case{u""_s, u"5"_s, outside},
-          Case{u"five"_s, u"5"_s, outside}, Case{u"99999999999"_s, u"99999999999"_s, outside},
-          Case{u"0.9"_s, u"5"_s, outside}, Case{u"5"_s, u"3"_s, backward},
-          Case{u"1"_s, u""_s, backward}, Case{u"1"_s, u"0"_s, backward}, Case{u"7"_s, u"7"_s, {}},
-          Case{u" 2.9 "_s, u"40x"_s, {}}}) {
-        prompts.shown.clear();
-        const auto order = chooseRange(from, to);
-        SCOPED_TRACE(from.toStdString() + " to " + to.toStdString());
-        EXPECT_EQ(order.has_value(), !box);
-        EXPECT_EQ(stayedOpen, box.has_value());
-        EXPECT_EQ(prompts.shown, box ? std::vector{*box} : std::vector<Box>{});
-    }
-    const auto order = chooseRange(u" 2.9 "_s, u"40x"_s);
-    EXPECT_EQ(order->range.from, 2);
-    EXPECT_EQ(order->range.to, 40);
-}
-
-TEST_F(PrintDialog, ExitAndTheCloseBoxPrintNothing) {
     EXPECT_FALSE(choose([&] { click(u"Command2"_s); }));
-    EXPECT_FALSE(choose([&] { form.close(); }));
     EXPECT_FALSE(choose([&] { QTest::keyClick(&form, Qt::Key_Escape); }));
     EXPECT_EQ(form.property("tag"), u"X"_s);
 }
 
-TEST_F(PrintDialog, AChosenFileIsCounted) {
+TEST_F(PrintDialog, RefusesRangesOutsideTheFileAndBackwardOnes) {
+    const char* const outside = "vbok+vbcritical";
+    const char* const backward = "vbcritical+vbok";
+    for (const auto& [from, to, refused] : {std::tuple{u"0"_s, u"5"_s, outside},
+                                            {u"1"_s, u"41"_s, outside},
+                                            {u"0"_s, u"-3"_s, outside},
+                                            {u""_s, u"5"_s, outside},
+                                            {u"five"_s, u"5"_s, outside},
+                                            {u"99999999999"_s, u"99999999999"_s, outside},
+                                            {u"0.9"_s, u"5"_s, outside},
+                                            {u"5"_s, u"3"_s, backward},
+                                            {u"1"_s, u""_s, backward}}) {
+        SCOPED_TRACE(from.toStdString() + " to " + to.toStdString());
+        EXPECT_FALSE(chooseRange(from, to));
+        EXPECT_TRUE(stayedOpen);
+        EXPECT_EQ(prompts.shown.back(),
+                  (ScriptedPrompts::Message{"Invalid from or to puzzle number", refused}));
+    }
+    EXPECT_TRUE(chooseRange(u"7"_s, u"7"_s));
+    const auto order = chooseRange(u" 2.9 "_s, u"40x"_s);
+    ASSERT_TRUE(order);
+    EXPECT_EQ(order->range.from, 2);
+    EXPECT_EQ(order->range.to, 40);
+}
+
+TEST_F(PrintDialog, AChosenFileIsCountedAndABadOneChangesNothing) {
+    fileDialogs.add({});
+    fileDialogs.add(QString::fromStdString(folder / "none.txt"));
     fileDialogs.add(QString::fromStdString(puzzles()));
     const auto order = choose([&] {
+        for (std::size_t failures : {0U, 1U}) {
+            find<FNDialog>(u"gf1"_s).findChild<BoxControl*>()->click();
+            EXPECT_EQ(find(u"FileNow"_s).text(), u"/puzzles/mine.txt");
+            EXPECT_EQ(prompts.shown.size(), failures);
+        }
         find<FNDialog>(u"gf1"_s).findChild<BoxControl*>()->click();
-        EXPECT_EQ(find(u"FileNow"_s).text().toStdString(), puzzles());
         EXPECT_EQ(find(u"FileNow"_s).toolTip().toStdString(), puzzles());
-        EXPECT_EQ(find(u"Text2"_s).text(), u"3"_s);
         click(u"Command1"_s);
     });
-    const FileQuestion& asked = fileDialogs.asked.front();
-    EXPECT_EQ(asked.title, u"Select a Puzzle file to print"_s);
-    EXPECT_EQ(asked.kind, u"Tessaly Files (*.txt;*.dat)"_s);
-    EXPECT_EQ(asked.folder.toStdString(), folder.path().string() + "/");
+    EXPECT_NE(prompts.shown.back().text.find("none.txt"), std::string::npos);
+    EXPECT_EQ(fileDialogs.asked.front().title, u"Select a Puzzle file to print");
     ASSERT_TRUE(order);
     EXPECT_EQ(order->range.path, puzzles());
     EXPECT_EQ(order->range.to, 3);
 }
 
-TEST_F(PrintDialog, NoFileOrABadOneChangesNothing) {
-    fileDialogs.add({});
-    fileDialogs.add(QString::fromStdString(folder / "none.txt"));
-    choose([&] {
-        for (int turn = 0; turn < 2; ++turn) {
-            find<FNDialog>(u"gf1"_s).findChild<BoxControl*>()->click();
-            EXPECT_EQ(find(u"FileNow"_s).text(), u"/puzzles/mine.txt"_s);
-            EXPECT_EQ(find(u"Text2"_s).text(), u"40"_s);
-            EXPECT_EQ(prompts.shown.size(), static_cast<std::size_t>(turn));
-        }
-    });
-    EXPECT_NE(prompts.shown.back().text.find("none.txt"), std::string::npos);
-}
-
 TEST_F(PrintDialog, RemembersThePrinterAndOffersPdfWhenThereIsNone) {
-    printer = u"Laser"_s;
-    EXPECT_EQ(choose([&] { click(u"Command1"_s); })->printer, u"Laser"_s);
-    printer = QString();
-    EXPECT_EQ(choose([&] { click(u"Command1"_s); })->printer, QString());
+    for (const QString& last : {u"Laser"_s, QString()}) {
+        printer = last;
+        EXPECT_EQ(choose([&] { click(u"Command1"_s); })->printer, last);
+    }
     printer.reset();
     printers.installed.clear();
     printers.usual.clear();
     const auto order = choose([&] {
-        EXPECT_EQ(find<QComboBox>(u"Combo1"_s).count(), 1);
-        QTest::mouseClick(form.findChild<QWidget*>(u"perPage_6"_s), Qt::LeftButton, {}, {8, 8});
-        QTest::mouseClick(form.findChild<QWidget*>(u"withSolutions"_s), Qt::LeftButton, {}, {8, 8});
+        find<QAbstractButton>(u"perPage_6"_s).click();
+        find<QAbstractButton>(u"withSolutions"_s).click();
         click(u"Command1"_s);
     });
     EXPECT_EQ(order->printer, QString());
