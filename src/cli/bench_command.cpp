@@ -21,13 +21,14 @@ constexpr std::size_t PuzzleCount = 200;
 
 using Clock = std::chrono::steady_clock;
 
-/// How often a second `work` can be done; it gets the number of its turn.
+/// How often a second `work` can be done; it gets the number of its turn. Ends early when the user
+/// asks for it.
 template <class Work>
-double rateOf(double seconds, const Work& work) {
+double rateOf(double seconds, const Console& console, const Work& work) {
     const auto start = Clock::now();
     std::chrono::duration<double> passed{0};
     std::size_t turns = 0;
-    while (passed.count() < seconds) {
+    while (passed.count() < seconds && !console.isInterrupted()) {
         for (int i = 0; i < 10; ++i)
             work(turns++);
         passed = Clock::now() - start;
@@ -51,9 +52,9 @@ int bench(double seconds, const Console& console) {
     console.out << "signature " << engineSignature(fill) << std::endl;
 
     const auto show = [&](const char* what, auto work) {
+        const double rate = rateOf(seconds, console, work);
         if (!console.isInterrupted())
-            console.out << what << ' ' << std::llround(rateOf(seconds, work)) << " a second"
-                        << std::endl;
+            console.out << what << ' ' << std::llround(rate) << " a second" << std::endl;
     };
     Chance chance(Seed);
     HexagonWords cells{};

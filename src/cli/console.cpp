@@ -29,6 +29,11 @@ int refuseUsage(const Console& console, std::string_view problem) {
     return exit_status::WrongUsage;
 }
 
+bool isSameFile(const std::filesystem::path& one, const std::filesystem::path& other) {
+    std::error_code oneIsMissing;
+    return std::filesystem::equivalent(one, other, oneIsMissing);
+}
+
 Outcome flushed(std::ostream& out) {
     return out.flush() ? Outcome::done() : fileProblem("standard output", "cannot be written");
 }

@@ -6,6 +6,7 @@
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
+#include <filesystem>
 #include <functional>
 #include <iosfwd>
 #include <streambuf>
@@ -40,6 +41,9 @@ struct Console {
 int fail(const Console& console, std::string_view problem);
 /// The same for a command line that asks for what cannot be.
 int refuseUsage(const Console& console, std::string_view problem);
+
+/// Whether two names, through links or not, mean one file.
+bool isSameFile(const std::filesystem::path& one, const std::filesystem::path& other);
 
 /// Flushes standard output; a failure when something, now or before, could not be written.
 Outcome flushed(std::ostream& out);

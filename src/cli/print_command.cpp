@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <memory>
 #include <optional>
+#include <strings.h>
 
 namespace tessaly {
 namespace {
@@ -27,6 +28,10 @@ struct PrintOptions {
     std::size_t paper = 0;
     std::filesystem::path output;
 };
+bool isPdfName(const std::filesystem::path& path) {
+    return ::strcasecmp(path.extension().c_str(), ".pdf") == 0;
+}
+
 /// Whether the file has the puzzles that are asked for.
 Outcome checkRange(const PrintRange& range, int count) {
     const auto missing = [&](int number) {
@@ -44,6 +49,11 @@ Outcome checkRange(const PrintRange& range, int count) {
 }
 
 int print(const PrintOptions& options, const Console& console) {
+    if (!isPdfName(options.output))
+        return refuseUsage(console,
+                           "--output: " + options.output.native() + " does not end in .pdf");
+    if (isSameFile(options.file, options.output))
+        return refuseUsage(console, "--output: " + options.output.native() + " is the puzzle file");
     PuzzleStore files;
     int count = 0;
     if (const Outcome counted = files.CountLines(options.file, count); !counted.ok())

@@ -40,6 +40,8 @@ int render(const RenderOptions& options, const Console& console) {
     if (!isPictureDocument(output))
         return refuseUsage(console, "--output: " + output.native() +
                                         " ends in neither .png nor .svg nor .pdf");
+    if (isSameFile(file, output))
+        return refuseUsage(console, "--output: " + output.native() + " is the puzzle file");
     Board board;
     if (const PuzzleRead read = PuzzleStore().ReadPuzzle(file, number, board); !read.ok())
         return fail(console, read.reason);

@@ -62,6 +62,7 @@ TEST_F(CreateCommand, AppendsToAFileWithoutRepeatingWhatItHolds) {
     };
     for (const auto& [before, kept] :
          {Case{records, records}, Case{records.substr(0, records.size() - 2), records},
+          Case{records + "\r\n\r\n", records},
           Case{played + records.substr(RecordLength + 2),
                played + records.substr(RecordLength + 2)}}) {
         put(file, before);

@@ -76,6 +76,8 @@ TEST_F(DrawingCommands, WhatCannotBeDoneIsSaidOnOneLineAndLeavesNothing) {
     const std::string out = folder / "out.pdf";
     const std::string broken = folder / "broken.txt";
     test::put(broken, test::contentOf(Easy) + "no record\r\n");
+    const std::string link = folder / "link.pdf";
+    std::filesystem::create_symlink(broken, link);
     const auto before = folder.names();
     for (const Case& c : std::vector<Case>{
              {{"print", Easy, "--to", "41", "--output", out}, 1, "no puzzle 41 among its 40"},
@@ -83,7 +85,9 @@ TEST_F(DrawingCommands, WhatCannotBeDoneIsSaidOnOneLineAndLeavesNothing) {
              {{"print", broken, "--output", out}, 1, broken + ": line 41: "},
              {{"print", folder / "none", "--output", out}, 1, "No such file"},
              {{"print", Easy, "--output", folder / "none" / "o.pdf"}, 1, "No such file"},
-             {{"print", Easy, "--output", folder.path()}, 1, "directory"},
+             {{"print", Easy, "--output", "/dev/null"}, 2, "/dev/null does not end in .pdf"},
+             {{"print", broken, "--output", link}, 2, link + " is the puzzle file"},
+             {{"render", broken, "--number", "1", "--output", link}, 2, link + " is the puzzle"},
              {{"render", broken, "--number", "41", "--output", out}, 1, broken + ": line 41: "},
              {{"render", Easy, "--number", "1", "--output", "/nowhere/o.png"}, 1, "No such file"},
              {{"print", Easy, "--per-page", "3", "--output", out}, 2, "--per-page"},
