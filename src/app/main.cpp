@@ -56,7 +56,9 @@ void openPuzzle(const GameOptions& options, const LastPuzzle& last, PuzzleFileCo
         return;
     }
     files.reopen({}, 1);
-    files.load(std::filesystem::absolute(options.file).lexically_normal());
+    std::error_code noFolder;
+    const std::filesystem::path file = std::filesystem::absolute(options.file, noFolder);
+    files.load(noFolder ? options.file : file.lexically_normal());
     if (options.puzzle > 1)
         files.goTo(options.puzzle);
 }

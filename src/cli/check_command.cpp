@@ -33,8 +33,8 @@ int check(const std::filesystem::path& path, const Console& console) {
     });
     if (!outcome.ok())
         return fail(console, outcome.problem);
-    console.out << path.native() << ": " << tally.records << " puzzles checked, " << tally.findings
-                << " findings\n";
+    console.out << path.native() << ": " << counted(tally.records, "puzzle") << " checked, "
+                << counted(tally.findings, "finding") << '\n';
     if (const Outcome written = flushed(console.out); !written.ok())
         return fail(console, written.problem);
     if (console.isInterrupted())

@@ -14,8 +14,18 @@ namespace tessaly {
 namespace {
 
 constexpr auto ProgressInterval = std::chrono::milliseconds(100);
-constexpr std::int64_t BarWidth = 30;
+constexpr std::int64_t WidestBar = 30;
 constexpr const char* EmptyLine = "\r\x1B[K";
+
+/// "12 s", "3 min", "2 h 5 min"
+std::string inWords(std::int64_t seconds) {
+    constexpr std::int64_t Minute = 60;
+    if (seconds < 2 * Minute)
+        return std::to_string(seconds) + " s";
+    const std::int64_t minutes = seconds / Minute;
+    return (minutes < Minute ? "" : std::to_string(minutes / Minute) + " h ") +
+           std::to_string(minutes % Minute) + " min";
+}
 
 } // namespace
 
@@ -29,9 +39,19 @@ int refuseUsage(const Console& console, std::string_view problem) {
     return exit_status::WrongUsage;
 }
 
+void tellSeed(const Console& console, const std::optional<std::uint64_t>& given,
+              std::uint64_t seed) {
+    if (!given)
+        sayProblem(console.err, ProgramName, "the seed was " + std::to_string(seed));
+}
+
 bool isSameFile(const std::filesystem::path& one, const std::filesystem::path& other) {
     std::error_code oneIsMissing;
     return std::filesystem::equivalent(one, other, oneIsMissing);
+}
+
+std::string counted(std::int64_t count, const std::string& thing) {
+    return std::to_string(count) + " " + thing + (count == 1 ? "" : "s");
 }
 
 Outcome flushed(std::ostream& out) {
@@ -50,10 +70,13 @@ void ProgressBar::show(std::int64_t done) {
     const std::chrono::duration<double> passed = now - m_start;
     const double left = passed.count() * static_cast<double>(m_total - done) /
                         static_cast<double>(std::max<std::int64_t>(done, 1));
-    std::string bar(static_cast<std::size_t>(BarWidth * done / m_total), '#');
-    bar.resize(static_cast<std::size_t>(BarWidth), '.');
-    m_console.err << EmptyLine << '[' << bar << "] " << done << " of " << m_total << ", "
-                  << std::llround(left) << " s left" << std::flush;
+    const std::string text = "] " + std::to_string(done) + " of " + std::to_string(m_total) + ", " +
+                             inWords(std::llround(left)) + " left";
+    const std::int64_t width = std::clamp<std::int64_t>(
+        m_console.errColumns - static_cast<std::int64_t>(text.size()) - 2, 0, WidestBar);
+    std::string bar(static_cast<std::size_t>(width * done / m_total), '#');
+    bar.resize(static_cast<std::size_t>(width), '.');
+    m_console.err << EmptyLine << '[' << bar << text << std::flush;
 }
 
 void ProgressBar::clear() {

@@ -9,7 +9,9 @@
 #include <filesystem>
 #include <functional>
 #include <iosfwd>
+#include <optional>
 #include <streambuf>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -32,7 +34,9 @@ struct Console {
     /// Whether `err` is a terminal, where a progress bar can be drawn.
     bool errIsTerminal = false;
     /// Whether the user has asked to stop; may be empty.
-    std::function<bool()> wasInterrupted;
+    std::function<bool()> wasInterrupted = {};
+    /// How wide the terminal is.
+    int errColumns = 80;
 
     bool isInterrupted() const { return wasInterrupted && wasInterrupted(); }
 };
@@ -42,8 +46,15 @@ int fail(const Console& console, std::string_view problem);
 /// The same for a command line that asks for what cannot be.
 int refuseUsage(const Console& console, std::string_view problem);
 
+/// Says which seed chance has chosen, so that it can be given again; nothing when it was given.
+void tellSeed(const Console& console, const std::optional<std::uint64_t>& given,
+              std::uint64_t seed);
+
 /// Whether two names, through links or not, mean one file.
 bool isSameFile(const std::filesystem::path& one, const std::filesystem::path& other);
+
+/// "1 puzzle", "2 puzzles"
+std::string counted(std::int64_t count, const std::string& thing);
 
 /// Flushes standard output; a failure when something, now or before, could not be written.
 Outcome flushed(std::ostream& out);

@@ -54,10 +54,11 @@ int create(const CreateOptions& options, const Console& console) {
         outcome = output.flush();
     bar.clear();
     if (!outcome.ok())
-        return fail(console, outcome.problem);
+        return fail(console, outcome.problem + output.howMuch());
+    tellSeed(console, options.seed, series.seed);
     if (output.count() == options.count)
         return exit_status::Done;
-    fail(console, "interrupted after " + std::to_string(output.count()) + " puzzles");
+    fail(console, "interrupted after " + counted(output.count(), "puzzle"));
     return exit_status::Interrupted;
 }
 
@@ -73,14 +74,15 @@ Subcommand createCommand() {
          .options =
              {required(choice("--difficulty", "easy|hard|random", "How hard the puzzles are to be",
                               options->difficulty)),
-              required(number("--count", "N",
+              required(number("--count,-n", "N",
                               "How many puzzles to make, at most " + std::to_string(MaxCount),
                               options->count, std::int64_t{1}, MaxCount)),
-              number("--seed", "S", "A whole number; makes the same puzzles whenever it is given",
-                     options->seed, std::uint64_t{0}),
-              number("--jobs", "J", "How many threads to work with (by default all processors)",
+              number("--seed,-s", "S",
+                     "A whole number; makes the same puzzles whenever it is given", options->seed,
+                     std::uint64_t{0}),
+              number("--jobs,-j", "J", "How many threads to work with (by default all processors)",
                      options->jobs, 1, MaxJobs),
-              text("--output", "FILE", "A puzzle file to append to, instead of standard output",
+              text("--output,-o", "FILE", "A puzzle file to append to, instead of standard output",
                    options->output)}},
         [options](const Console& console) { return create(*options, console); }};
 }

@@ -2,7 +2,10 @@
 #include "core/files/file_access.h"
 
 #include <csignal>
+#include <exception>
 #include <iostream>
+#include <new>
+#include <sys/ioctl.h>
 #include <unistd.h>
 
 namespace {
@@ -27,6 +30,23 @@ void dieOfSignal() {
     static_cast<void>(std::raise(caught));
 }
 
+int terminalColumns() {
+    winsize size{};
+    return ::ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0 ? size.ws_col : 80;
+}
+
+/// What nothing else has caught, a lack of memory mostly, ends in one line too.
+int run(int argc, const char* const* argv, const tessaly::Console& console) {
+    try {
+        return tessaly::runProgram(argc, argv, console,
+                                   tessaly::allCommands(tessaly::drawingCommands()));
+    } catch (const std::bad_alloc&) {
+        return tessaly::fail(console, "there is not enough memory");
+    } catch (const std::exception& problem) {
+        return tessaly::fail(console, problem.what());
+    }
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -35,9 +55,8 @@ int main(int argc, char** argv) {
     tessaly::StandardOutput buffer(STDOUT_FILENO);
     std::ostream out(&buffer);
     const tessaly::Console console{out, std::cerr, ::isatty(STDERR_FILENO) == 1,
-                                   [] { return caught != 0; }};
-    const int status =
-        tessaly::runProgram(argc, argv, console, tessaly::allCommands(tessaly::drawingCommands()));
+                                   [] { return caught != 0; }, terminalColumns()};
+    const int status = run(argc, argv, console);
     if (status == tessaly::exit_status::Interrupted)
         dieOfSignal();
     return status;

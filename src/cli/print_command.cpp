@@ -96,7 +96,7 @@ Subcommand printCommand() {
                             options->perPage),
                      flag("--no-solutions", "Leave the solutions out", options->noSolutions),
                      choice("--paper", "a4|letter", "The paper (by default a4)", options->paper),
-                     required(text("--output", "OUT.pdf", "The PDF file", options->output))}},
+                     required(text("--output,-o", "OUT.pdf", "The PDF file", options->output))}},
         [options](const Console& console) { return print(*options, console); }};
 }
 

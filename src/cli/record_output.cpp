@@ -30,10 +30,18 @@ RecordOutput::RecordOutput(std::ostream& stream, std::filesystem::path path)
 Outcome RecordOutput::open() {
     if (m_path.empty() || !FileExists(m_path))
         return Outcome::done();
-    return forEachRecord(m_path, [this](RecordLine line) {
+    bool hasLines = false;
+    bool hasRecord = false;
+    Board board;
+    const Outcome read = forEachRecord(m_path, [&](RecordLine line) {
         m_known.insert(puzzleHash(line.text));
+        hasLines = true;
+        hasRecord = hasRecord || line.read(board).ok();
         return true;
     });
+    if (read.ok() && hasLines && !hasRecord)
+        return Outcome::failed(m_path.native() + ": is no puzzle file");
+    return read;
 }
 
 void RecordOutput::add(const std::string& record) {
@@ -52,10 +60,17 @@ bool RecordOutput::isDue() const {
 Outcome RecordOutput::flush() {
     const std::string lines = std::exchange(m_lines, {});
     m_lastFlush = Clock::now();
-    if (!m_path.empty())
-        return lines.empty() ? Outcome::done() : m_store.appendPuzzles(m_path, lines);
+    if (!m_path.empty()) {
+        Outcome written = lines.empty() ? Outcome::done() : m_store.appendPuzzles(m_path, lines);
+        m_inFile = written.ok() ? m_count : m_inFile;
+        return written;
+    }
     m_stream << lines;
     return flushed(m_stream);
+}
+
+std::string RecordOutput::howMuch() const {
+    return m_path.empty() || m_count == 0 ? "" : "; " + counted(m_inFile, "puzzle") + " added";
 }
 
 } // namespace tessaly

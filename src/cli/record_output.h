@@ -28,6 +28,8 @@ public:
     /// Writes out what was added; what goes to a file is then on the disk.
     Outcome flush();
 
+    /// "; 2 puzzles added" when it is a file: how many of them are on the disk.
+    std::string howMuch() const;
     /// How many records were added.
     std::int64_t count() const { return m_count; }
 
@@ -43,6 +45,7 @@ private:
     std::string m_lines;
     Clock::time_point m_lastFlush = Clock::now();
     std::int64_t m_count = 0;
+    std::int64_t m_inFile = 0;
 };
 
 } // namespace tessaly

@@ -83,7 +83,7 @@ Subcommand solveCommand() {
                    "The result is, with all rules, 0 when every cell was settled and 1 when not; "
                    "with the basic ones, the number of cells with several candidates.",
          .options = {required(positional("FILE", "The puzzle file", options->file)),
-                     number("--number", "N", "Solve only this puzzle, counted from 1",
+                     number("--number,-n", "N", "Solve only this puzzle, counted from 1",
                             options->number, 1),
                      choice("--rules", "all|basic",
                             "all (the four rules from the givens) or basic (rules 1 to 3 with the "

@@ -17,7 +17,7 @@ struct ShuffleOptions {
 
 std::vector<Option> fileOptions(ToolFiles& files) {
     return {required(positional("FILE", "The puzzle file", files.input)),
-            required(text("--output", "OUT", "The puzzle file to write; replaced if it exists",
+            required(text("--output,-o", "OUT", "The puzzle file to write; replaced if it exists",
                           files.output))};
 }
 
@@ -40,10 +40,14 @@ int run(const Console& console, const ToolFiles& files,
 }
 
 int shuffle(const ShuffleOptions& options, const Console& console) {
-    Chance chance(options.seed.value_or(Chance::freshSeed()));
-    return run(console, options.files, [&](const KeepGoing& keepGoing) {
+    const std::uint64_t seed = options.seed.value_or(Chance::freshSeed());
+    Chance chance(seed);
+    const int status = run(console, options.files, [&](const KeepGoing& keepGoing) {
         return shufflePuzzles(options.files, chance, keepGoing);
     });
+    if (status == exit_status::Done)
+        tellSeed(console, options.seed, seed);
+    return status;
 }
 
 int makeVariants(const ToolFiles& files, const Console& console) {
@@ -61,7 +65,7 @@ Subcommand shuffleCommand() {
         .description = "Write the puzzles of a file in random order, each only once",
         .footer = "Example: tessaly-cli shuffle easy.txt --seed 1 --output mixed.txt",
         .options = fileOptions(options->files)};
-    syntax.options.push_back(number("--seed", "S", "Gives the same order whenever it is given",
+    syntax.options.push_back(number("--seed,-s", "S", "Gives the same order whenever it is given",
                                     options->seed, std::uint64_t{0}));
     return {std::move(syntax),
             [options](const Console& console) { return shuffle(*options, console); }};

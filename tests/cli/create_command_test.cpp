@@ -38,7 +38,10 @@ TEST_F(CreateCommand, ASeedGivesTheSameBytesWhateverTheNumberOfJobs) {
         EXPECT_EQ(create(more).out, one) << more;
     EXPECT_EQ(create("40 --seed 5").out, one.substr(0, one.size() * 40 / 150));
     EXPECT_NE(create("40 --seed 6").out, create("40 --seed 5").out);
-    EXPECT_NE(create("1").out, create("1").out) << "without a seed, chance decides";
+    const CommandResult random = create("3");
+    EXPECT_NE(create("3").out, random.out) << "without a seed, chance decides";
+    const std::string seed = random.err.substr(random.err.find_first_of("0123456789"));
+    EXPECT_EQ(create("3 -s " + seed).out, random.out);
     EXPECT_GT(std::count(one.begin(), one.end(), 'E'), 30);
     EXPECT_GT(std::count(one.begin(), one.end(), 'H'), 30);
 }
@@ -79,6 +82,8 @@ TEST_F(CreateCommand, AnUnwritableOutputIsNamedOnOneLine) {
                                     folder.path().string() + "/", std::string("/dev/full")})
         expectRefused(asked + path, exit_status::Failed, ": " + path);
     EXPECT_TRUE(folder.names().empty());
+    put(file, "dear diary\n");
+    expectRefused(asked + file, exit_status::Failed, "puzzles.txt: is no puzzle file\n");
     const std::string before = create("100 --seed 2").out;
     put(file, before);
     {
@@ -87,7 +92,7 @@ TEST_F(CreateCommand, AnUnwritableOutputIsNamedOnOneLine) {
         EXPECT_EQ(contentOf(file), before) << "what it holds is not to be repeated";
     }
     const test::FullDisk disk(600 * (RecordLength + 2) + 50);
-    expectRefused(asked + file, exit_status::Failed, "cannot be written: File too large");
+    expectRefused(asked + file, exit_status::Failed, "File too large; 0 puzzles added\n");
     EXPECT_GE(differentRecords(contentOf(file)), 100);
     EXPECT_TRUE(contentOf(file).starts_with(before));
 }
@@ -95,8 +100,8 @@ TEST_F(CreateCommand, AnUnwritableOutputIsNamedOnOneLine) {
 TEST_F(CreateCommand, AStopLeavesWholeRecords) {
     for (const std::string& more : {std::string("--jobs 3"), "--output " + file}) {
         int asked = 0;
-        const CommandResult result =
-            create("1000000 " + more, {.wasInterrupted = [&asked] { return ++asked == 70; }});
+        const CommandResult result = create("1000000 --seed 1 " + more,
+                                            {.wasInterrupted = [&asked] { return ++asked == 70; }});
         EXPECT_EQ(result.status, exit_status::Interrupted);
         EXPECT_EQ(result.err, "tessaly-cli: interrupted after 70 puzzles\n");
         EXPECT_EQ(differentRecords(result.out + contentOf(file)), 70);

@@ -11,6 +11,52 @@
 namespace tessaly {
 namespace {
 
+constexpr std::size_t HelpWidth = 80;
+
+/// Breaks lines between words, so that none is wider than `width`.
+std::string wrapped(const std::string& text, std::size_t width) {
+    std::string lines = text;
+    std::size_t start = 0, blank = std::string::npos;
+    for (std::size_t at = 0; at < lines.size(); ++at) {
+        if (lines[at] == ' ')
+            blank = at;
+        if (at - start >= width && blank != std::string::npos) {
+            lines[blank] = '\n';
+            start = blank + 1;
+            blank = std::string::npos;
+        }
+        if (lines[at] == '\n') {
+            start = at + 1;
+            blank = std::string::npos;
+        }
+    }
+    return lines;
+}
+
+/// --help in lines that fit into a terminal.
+class Help : public CLI::Formatter {
+public:
+    std::string make_description(const CLI::App* app) const override {
+        return wrapped(CLI::Formatter::make_description(app), HelpWidth);
+    }
+    std::string make_footer(const CLI::App* app) const override {
+        return wrapped(CLI::Formatter::make_footer(app), HelpWidth);
+    }
+    std::string make_option_desc(const CLI::Option* option) const override {
+        return wrapped(CLI::Formatter::make_option_desc(option), besideNames());
+    }
+    std::string make_subcommand(const CLI::App* command) const override {
+        std::ostringstream line;
+        CLI::detail::format_help(line, command->get_name(),
+                                 wrapped(command->get_description(), besideNames()),
+                                 get_column_width());
+        return line.str();
+    }
+
+private:
+    std::size_t besideNames() const { return HelpWidth - get_column_width(); }
+};
+
 void add(CLI::App& command, const Option& option) {
     const std::string names =
         option.isPositional() ? option.value : CLI::detail::join(option.names);
@@ -56,7 +102,7 @@ std::vector<Option> standardOptions(bool isProgram) {
                                  .value = "",
                                  .description = "Print this help message and exit"}};
     if (isProgram)
-        options.push_back({.names = {"--version"},
+        options.push_back({.names = {"--version", "-V"},
                            .value = "",
                            .description = "Display program version information and exit"});
     return options;
@@ -65,7 +111,8 @@ std::vector<Option> standardOptions(bool isProgram) {
 CommandLine parseCommandLine(const CommandSyntax& program, int argc, const char* const* argv,
                              std::ostream& out, std::ostream& err) {
     CLI::App app;
-    app.set_version_flag("--version", std::string(Product::Name) + " " + Product::Version);
+    app.set_version_flag("-V,--version", std::string(Product::Name) + " " + Product::Version);
+    app.formatter(std::make_shared<Help>());
     describe(app, program);
     try {
         app.parse(argc, argv);
@@ -91,15 +138,19 @@ void sayProblem(std::ostream& err, std::string_view program, std::string_view pr
     err << program << ": " << line << '\n';
 }
 
-Option flag(std::string name, std::string description, bool& target) {
+std::vector<std::string> namesIn(const std::string& names) {
+    return CLI::detail::split(names, ',');
+}
+
+Option flag(const std::string& names, std::string description, bool& target) {
     const auto take = [&target](const std::string&) -> std::string {
         target = true;
         return {};
     };
-    return {{std::move(name)}, "", std::move(description), take};
+    return {namesIn(names), "", std::move(description), take};
 }
 
-Option choice(std::string name, const std::string& value, std::string description,
+Option choice(const std::string& names, const std::string& value, std::string description,
               std::size_t& target) {
     const auto take = [&target, value](const std::string& given) -> std::string {
         const std::vector<std::string> choices = CLI::detail::split(value, '|');
@@ -109,7 +160,7 @@ Option choice(std::string name, const std::string& value, std::string descriptio
         target = static_cast<std::size_t>(chosen - choices.begin());
         return {};
     };
-    return {{std::move(name)}, value, std::move(description), take};
+    return {namesIn(names), value, std::move(description), take};
 }
 
 Option required(Option option) {

@@ -63,21 +63,25 @@ CommandLine parseCommandLine(const CommandSyntax& program, int argc, const char*
 /// Says in one line what is wrong, as every program does: "tessaly: no such file".
 void sayProblem(std::ostream& err, std::string_view program, std::string_view problem);
 
-/// The options by what they put where. What is not given leaves its target as it was.
-Option flag(std::string name, std::string description, bool& target);
+/// "--output,-o" one by one.
+std::vector<std::string> namesIn(const std::string& names);
+
+/// The options by what they put where; their names are told as "--output,-o". What is not given
+/// leaves its target as it was.
+Option flag(const std::string& names, std::string description, bool& target);
 /// `target` becomes the place of the chosen one among "a|b|c".
-Option choice(std::string name, const std::string& value, std::string description,
+Option choice(const std::string& names, const std::string& value, std::string description,
               std::size_t& target);
 Option required(Option option);
 
 /// A text or a path.
 template <class Text>
-Option text(std::string name, std::string value, std::string description, Text& target) {
+Option text(const std::string& names, std::string value, std::string description, Text& target) {
     const auto take = [&target](const std::string& given) -> std::string {
         target = given;
         return {};
     };
-    return {{std::move(name)}, std::move(value), std::move(description), take};
+    return {namesIn(names), std::move(value), std::move(description), take};
 }
 
 template <class Text>
@@ -89,7 +93,7 @@ Option positional(std::string value, std::string description, Text& target) {
 
 /// A decimal number, whole or not as its type is.
 template <class Number, class Target>
-Option number(std::string name, std::string value, std::string description, Target& target,
+Option number(const std::string& names, std::string value, std::string description, Target& target,
               Number least, Number most = std::numeric_limits<Number>::max()) {
     const auto take = [&target, least, most](const std::string& given) -> std::string {
         Number number{};
@@ -104,7 +108,7 @@ Option number(std::string name, std::string value, std::string description, Targ
                 << "number from " << least << " to " << most;
         return problem.str();
     };
-    return {{std::move(name)}, std::move(value), std::move(description), take};
+    return {namesIn(names), std::move(value), std::move(description), take};
 }
 
 } // namespace tessaly

@@ -112,6 +112,8 @@ QImage drawImage(const BoardPicture& picture, double scale) {
     else
         surface.DrawBoard(picture.board);
     QImage image = surface.image();
+    if (image.isNull()) // there is not enough memory
+        return image;
     {
         QPainter painter(&image);
         painter.setTransform(surface.boardToDevice());
