@@ -112,10 +112,10 @@ QImage drawImage(const BoardPicture& picture, double scale) {
     else
         surface.DrawBoard(picture.board);
     QImage image = surface.image();
-    if (image.isNull()) // there is not enough memory
-        return image;
     {
         QPainter painter(&image);
+        if (!painter.isActive()) // there is not enough memory
+            return {};
         painter.setTransform(surface.boardToDevice());
         drawLabels(painter, picture, appearance);
     }
