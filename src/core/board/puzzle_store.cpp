@@ -1,5 +1,6 @@
 #include "core/board/puzzle_store.h"
 
+#include "core/base/text.h"
 #include "core/board/puzzle_record.h"
 #include "core/files/file_access.h"
 #include "core/files/line_reader.h"

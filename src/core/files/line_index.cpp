@@ -1,5 +1,6 @@
 #include "core/files/line_index.h"
 
+#include "core/base/text.h"
 #include "core/files/line_reader.h"
 
 #include <algorithm>

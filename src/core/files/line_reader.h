@@ -14,13 +14,6 @@ inline constexpr std::string_view LineEnd = "\r\n";
 /// What may stand at the start of a file that other programs wrote (UTF-8); no part of line 1.
 inline constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
 
-/// What may stand on a line that counts as blank.
-inline constexpr std::string_view BlankCharacters = " \t\r\n";
-
-inline bool isBlank(std::string_view text) {
-    return text.find_first_not_of(BlankCharacters) == std::string_view::npos;
-}
-
 /// Takes the first line off a text that is not empty, with its line end if it has one.
 std::string_view takeLine(std::string_view& rest);
 

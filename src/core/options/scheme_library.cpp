@@ -1,6 +1,5 @@
 #include "core/options/scheme_library.h"
 
-#include "core/base/data_files.h"
 #include "core/files/file_access.h"
 #include "core/files/line_reader.h"
 

@@ -12,6 +12,9 @@
 
 namespace tessaly {
 
+/// The library of colour schemes in the program's folder.
+inline constexpr const char* SchemeLibraryFile = "all.col";
+
 /// A scheme in the library file is one header line, the scheme's name in lower case with ".col"
 /// behind it, and one line for each of the slots 0 to 12:
 ///

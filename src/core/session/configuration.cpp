@@ -1,10 +1,11 @@
 #include "core/session/configuration.h"
 
-#include "core/base/data_files.h"
+#include "core/base/text.h"
 #include "core/files/file_access.h"
 #include "core/files/line_reader.h"
 #include "core/files/locked_file.h"
 #include "core/options/scheme_library.h"
+#include "core/session/program_folder.h"
 
 #include <algorithm>
 #include <charconv>
@@ -15,19 +16,7 @@
 namespace tessaly {
 namespace {
 
-constexpr std::string_view Blanks = " \t\r";
 constexpr Colour LastColour = White;
-
-bool isBlank(std::string_view text) {
-    return text.find_first_not_of(Blanks) == std::string_view::npos;
-}
-
-std::string_view trimmed(std::string_view text) {
-    if (isBlank(text))
-        return {};
-    const std::size_t first = text.find_first_not_of(Blanks);
-    return text.substr(first, text.find_last_not_of(Blanks) - first + 1);
-}
 
 /// Takes a list of numbers apart, one number after the other. Each is nothing when it is missing,
 /// garbled or out of the range that is asked for.

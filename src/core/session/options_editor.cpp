@@ -1,6 +1,6 @@
 #include "core/session/options_editor.h"
 
-#include "core/base/leading_number.h"
+#include "core/base/text.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,8 +1,8 @@
 #include "core/session/program_folder.h"
 
-#include "core/base/data_files.h"
 #include "core/files/file_access.h"
 #include "core/files/file_descriptor.h"
+#include "core/options/scheme_library.h"
 
 #include <cstdlib>
 #include <fcntl.h>

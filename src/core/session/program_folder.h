@@ -6,6 +6,16 @@
 
 namespace tessaly {
 
+/// The data files in the program's folder, beside the library of schemes.
+inline constexpr const char* ArrangementFile = "hexabinx.txt";
+inline constexpr const char* HelpPageFile = "tessaly.htm";
+/// The folder of its drawings.
+inline constexpr const char* HelpDrawingsFolder = "manual";
+inline constexpr const char* ConfigurationFile = "tessaly.cfg";
+inline constexpr const char* WindowPlaceFile = "window.cfg";
+inline constexpr const char* EasyLibraryFile = "puzzles/easy.txt";
+inline constexpr const char* HardLibraryFile = "puzzles/hard.txt";
+
 /// Makes `folder`, which does not exist or is empty, with a copy of every data file that `share`
 /// has. All or nothing: the folder is filled under another name, and whatever interrupts that, the
 /// next start begins anew. Two instances may start at once.

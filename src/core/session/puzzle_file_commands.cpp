@@ -1,5 +1,6 @@
 #include "core/session/puzzle_file_commands.h"
 
+#include "core/base/text.h"
 #include "core/board/puzzle_record.h"
 #include "core/files/file_access.h"
 
@@ -11,13 +12,6 @@ namespace {
 constexpr std::string_view Information = "vbok+vbinformation";
 constexpr std::string_view Critical = "vbok+vbcritical";
 constexpr std::string_view FileProblem = "vbcritical+vbok";
-
-std::string trimmed(const std::string& text) {
-    const auto first = text.find_first_not_of(" \t");
-    return first == std::string::npos
-               ? std::string()
-               : text.substr(first, text.find_last_not_of(" \t") - first + 1);
-}
 
 /// For as long as it lives the pointer is busy and other commands are refused.
 class WhileAtWork {
@@ -195,7 +189,7 @@ void PuzzleFileCommands::oldfiles_Click(int item) {
 void PuzzleFileCommands::reopen(const std::filesystem::path& path, int number) {
     int count = 0;
     m_display.showRecentFiles(m_session.recentFiles.paths());
-    if (trimmed(path).empty() || path == temporaryFile() || !FileExists(path) ||
+    if (isBlank(path.native()) || path == temporaryFile() || !FileExists(path) ||
         !m_session.files.CountLines(path, count).ok()) {
         showEmptyBoard();
         return;

@@ -1,7 +1,7 @@
 #include "ui/output/print_dialog.h"
 
-#include "core/base/leading_number.h"
 #include "core/base/prompts.h"
+#include "core/base/text.h"
 #include "core/board/puzzle_store.h"
 #include "ui/controls/box_control.h"
 #include "ui/controls/choice_mark.h"

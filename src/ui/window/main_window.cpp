@@ -1,9 +1,9 @@
 #include "ui/window/main_window.h"
 
-#include "core/base/data_files.h"
 #include "core/files/file_access.h"
 #include "core/options/scheme_library.h"
 #include "core/session/configuration.h"
+#include "core/session/program_folder.h"
 #include "core/session/session.h"
 #include "ui/controls/box_control.h"
 #include "ui/controls/file_name_picker.h"

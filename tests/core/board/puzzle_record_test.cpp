@@ -1,8 +1,8 @@
 #include "core/board/puzzle_record.h"
 
-#include <gtest/gtest.h>
+#include "support/sample_puzzles.h"
 
-#include <vector>
+#include <gtest/gtest.h>
 
 namespace tessaly {
 namespace {
@@ -15,102 +15,64 @@ std::string sampleRecord() {
     return record;
 }
 
+std::string changed(std::size_t at, const std::string& characters) {
+    return sampleRecord().replace(at, characters.size(), characters);
+}
+
 std::string withProgress(const std::string& numbers) {
     return sampleRecord() + ":" + numbers;
 }
 
-TEST(PuzzleRecord, ReadsGivensAsNumbersAndTheRestAsSolutionOnly) {
-    Board board;
-    ASSERT_TRUE(readRecord(sampleRecord(), board).ok());
-    EXPECT_EQ(board.DifName(), "Easy");
-    EXPECT_EQ(board.BlankHex, 7);
-    EXPECT_TRUE(board.FixedCell[1][1]);
-    EXPECT_EQ(board.CellNum[1][1], "1");
-    EXPECT_FALSE(board.FixedCell[2][1]);
-    EXPECT_EQ(board.CellNum[2][1], "");
-    EXPECT_EQ(board.SolNum[2][1], "1");
-    EXPECT_EQ(board.SolNum[19][6], "6");
-}
-
-TEST(PuzzleRecord, HardRecordsCarryTheirHint) {
-    std::string record = sampleRecord();
-    record.replace(0, 5, "H1243");
-    Board board;
-    ASSERT_TRUE(readRecord(record, board).ok());
-    EXPECT_EQ(board.DifName(), "Hard");
-    EXPECT_EQ(board.BlankHex, 12);
-    EXPECT_EQ(board.HintCell, 4);
-    EXPECT_EQ(board.HintNum, 3);
-    EXPECT_EQ(PuzzleRecord(board), record);
-}
-
-TEST(PuzzleRecord, ProgressIsWrittenOnlyForSingleNumbersOfThePlayer) {
-    Board board;
-    ASSERT_TRUE(readRecord(sampleRecord(), board).ok());
-    EXPECT_EQ(PuzzleRecord(board), sampleRecord());
-
-    board.CellNum[2][1] = "35";
-    EXPECT_EQ(PuzzleRecord(board), sampleRecord()) << "pencil marks alone are no progress";
-
-    board.CellNum[19][6] = "0";
-    const std::string record = PuzzleRecord(board);
-    ASSERT_EQ(record.size(), RecordLengthWithProgress);
-    EXPECT_EQ(record, withProgress(std::string(BoardCellCount - 1, ' ').append("0")));
-}
-
-TEST(PuzzleRecord, ProgressMayBeCutShortAndIgnoresWhatIsNoNumber) {
-    Board board;
-    // Cells 1 to 6 are givens; cell 2/1 holds 4; "7" and "x" count as blank.
-    ASSERT_TRUE(readRecord(withProgress("5     47x 2"), board).ok());
-    EXPECT_EQ(board.CellNum[1][1], "1");
-    EXPECT_EQ(board.CellNum[2][1], "4");
-    EXPECT_EQ(board.CellNum[2][2], "");
-    EXPECT_EQ(board.CellNum[2][3], "");
-    EXPECT_EQ(board.CellNum[2][5], "2");
-    EXPECT_EQ(board.CellNum[3][1], "");
-}
-
-TEST(PuzzleRecord, ReadingReplacesEverythingThatTheBoardHeld) {
+TEST(PuzzleRecord, ARecordIsTheWholeBoardWhateverItHeldBefore) {
     Board board;
     board.FixedCell[5][5] = true;
     board.CellNum[5][5] = "12";
     board.SkipHex = 3;
-    Board fresh;
-    ASSERT_TRUE(readRecord(sampleRecord(), board).ok());
-    ASSERT_TRUE(readRecord(sampleRecord(), fresh).ok());
-    EXPECT_EQ(board, fresh);
+    const std::string record = changed(0, "H1243");
+    ASSERT_TRUE(readRecord(record, board).ok());
+    EXPECT_EQ(board, boardOf(record));
+    EXPECT_EQ(PuzzleRecord(board), record);
+    EXPECT_EQ(board.DifName(), "Hard");
+    EXPECT_EQ((std::array{board.BlankHex, board.HintCell, board.HintNum}), (std::array{12, 4, 3}));
+    EXPECT_TRUE(board.FixedCell[1][1] && !board.FixedCell[2][1]);
+    EXPECT_EQ(board.CellNum[1][1] + board.CellNum[2][1], "1");
+    EXPECT_EQ(board.SolNum[2][1] + board.SolNum[19][6], "16");
+    EXPECT_FALSE(isHexagon(boardOf(changed(1, "20")).BlankHex));
+    EXPECT_EQ(boardOf(changed(118, "0")).SolNum[19][6], "0");
 }
 
-TEST(PuzzleRecord, AnEmptySolutionCellIsZeroAndABlankHexagonOutOfRangeIsNone) {
-    std::string record = sampleRecord();
-    record[118] = '0';
-    record.replace(1, 2, "20");
-    Board board;
-    ASSERT_TRUE(readRecord(record, board).ok());
-    EXPECT_EQ(board.SolNum[19][6], "0");
-    EXPECT_FALSE(isHexagon(board.BlankHex));
+TEST(PuzzleRecord, ProgressIsWrittenForSingleNumbersOfThePlayerAndReadBack) {
+    Board board = boardOf(sampleRecord());
+    board.CellNum[2][1] = "35";
+    EXPECT_EQ(PuzzleRecord(board), sampleRecord()) << "pencil marks alone are no progress";
+    std::string numbers(BoardCellCount, ' ');
+    for (int number = 0; number <= 6; ++number) {
+        board.CellNum[3 + number][2] = std::to_string(number);
+        numbers[static_cast<std::size_t>(6 * (2 + number) + 1)] = static_cast<char>('0' + number);
+    }
+    EXPECT_EQ(PuzzleRecord(board), withProgress(numbers));
+    board.CellNum[2][1].clear();
+    EXPECT_EQ(boardOf(withProgress(numbers)), board);
+
+    // Cells 1 to 6 are givens; what is no number counts as blank, and the rest may be missing.
+    board = boardOf(withProgress("5     47x 2"));
+    EXPECT_EQ(board.CellNum[1][1], "1");
+    EXPECT_EQ(board.CellNum[2], (std::array<std::string, 7>{"", "4", "", "", "", "2", ""}));
 }
 
 TEST(PuzzleRecord, LinesThatAreNoRecordAreRefusedAndChangeNothing) {
-    std::string badHeader = sampleRecord();
-    badHeader.replace(0, 5, "EXX00");
-    std::string letters = sampleRecord();
-    letters[60] = 'A';
-    std::string seven = sampleRecord();
-    seven[118] = '7';
-    std::string zeroGiven = sampleRecord();
-    zeroGiven[50] = 'P';
-    std::string nul = sampleRecord();
-    nul[60] = '\0';
-    const std::vector<std::string> lines{
-        "", "E", sampleRecord().substr(0, 118), badHeader, letters, seven, zeroGiven, nul};
-    Board before;
-    ASSERT_TRUE(readRecord(withProgress("      3"), before).ok());
-    for (const std::string& line : lines) {
-        Board board = before;
+    const std::string cut = sampleRecord().substr(0, 118);
+    for (const std::string& line :
+         {std::string(), std::string("E"), cut, changed(0, "EXX00"), changed(60, "A"),
+          changed(118, "7"), changed(50, "P"), changed(60, std::string(1, '\0'))}) {
+        Board board = boardOf(withProgress("      3"));
         EXPECT_FALSE(readRecord(line, board).ok()) << line;
-        EXPECT_EQ(board, before) << line;
+        EXPECT_EQ(board, boardOf(withProgress("      3"))) << line;
+        EXPECT_EQ(isRecordCutShort(line), line == "E" || line == cut) << line;
     }
+    for (const char* other : {"x", "EXX", "E0700A", "07"})
+        EXPECT_FALSE(isRecordCutShort(other)) << other;
+    EXPECT_FALSE(isRecordCutShort(sampleRecord()));
 }
 
 } // namespace

@@ -1,10 +1,17 @@
-#include "core/base/leading_number.h"
+#include "core/base/text.h"
 
 #include <algorithm>
 #include <charconv>
 #include <limits>
 
 namespace tessaly {
+
+std::string_view trimmed(std::string_view text) {
+    if (isBlank(text))
+        return {};
+    const std::size_t first = text.find_first_not_of(BlankCharacters);
+    return text.substr(first, text.find_last_not_of(BlankCharacters) - first + 1);
+}
 
 double leadingNumber(std::string_view text) {
     text.remove_prefix(std::min(text.find_first_not_of(" \t"), text.size()));
