@@ -120,16 +120,6 @@ TEST(Deduction, TheOwnerSeesTheBoardBeforeEveryPass) {
     EXPECT_EQ(seen.back(), board.CellNum) << "the last pass changes nothing";
 }
 
-TEST(Deduction, AContradictionIsCountedMinusOneAndStopsTheRule) {
-    Board board = contradictoryBoard();
-    std::int32_t counter = 7;
-    GetCandidates(board, counter);
-    EXPECT_EQ(counter, -1);
-    EXPECT_EQ(board.CellNum[1][4], "");
-    EXPECT_EQ(board.CellNum[1][5], "") << "nothing behind the contradiction is touched";
-    EXPECT_EQ(SolveByDeduction(board), 1);
-}
-
 TEST(Deduction, OpenCellsAreThoseOfSeveralCandidates) {
     Board board;
     EXPECT_EQ(countOpenCells(board), 0);
@@ -164,13 +154,18 @@ TEST(Deduction, TheXcellRuleCountsTextsAsTheyAreWritten) {
     }
 }
 
-TEST(Deduction, CandidatesAreWrittenInAscendingOrder) {
+TEST(Deduction, CandidatesAreWrittenInAscendingOrderUpToAContradiction) {
     Board board;
     board.CellNum[10].fill("654321");
     std::int32_t counter = 0;
     GetCandidates(board, counter);
     EXPECT_EQ(board.CellNum[10][3], "123456");
     EXPECT_EQ(counter, 84) << "every cell that has a neighbour";
+
+    board = contradictoryBoard();
+    GetCandidates(board, counter);
+    EXPECT_EQ(counter, -1);
+    EXPECT_EQ(board.CellNum[1][4] + board.CellNum[1][5], "") << "nothing behind it is touched";
 }
 
 } // namespace

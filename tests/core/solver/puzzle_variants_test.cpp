@@ -1,7 +1,6 @@
 #include "core/solver/puzzle_variants.h"
 
 #include "core/solver/blank_hexagon.h"
-#include "core/solver/solution_counter.h"
 #include "support/sample_puzzles.h"
 
 #include <gtest/gtest.h>
@@ -77,10 +76,8 @@ TEST(PuzzleVariants, AreEightDifferentPuzzles) {
         const PuzzleVariants variants = variantsOf(record, TopBottomHeader::Follows);
         EXPECT_EQ(std::set<std::string>(variants.begin(), variants.end()).size(), 8u);
         EXPECT_EQ(variants.front(), record);
-        EXPECT_EQ(transformed(variants[7], symmetry::Turn),
-                  transformed(transformed(variants[6], symmetry::Turn), symmetry::Turn));
-        for (const std::string& variant : variants)
-            EXPECT_EQ(countSolutions(boardOf(variant)).found, 1);
+        for (std::size_t turned : {6, 7})
+            EXPECT_EQ(variants[turned], transformed(variants[turned - 1], symmetry::Turn));
     }
 }
 
