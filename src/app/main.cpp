@@ -38,13 +38,26 @@ bool choosePlatform(const GameOptions& options) {
     return hasDisplay();
 }
 
+/// Whether a library without a colour scheme was replaced by the installed one, as the user wished.
+bool restored(const std::filesystem::path& share, const Session& session, Prompts& prompts,
+              LoadedSession& loaded) {
+    const std::string question = loaded.outcome.problem + "\r\nRestore the installed one?";
+    if (!loaded.holdsNoScheme || prompts.message(question, "vbyesno+vbcritical") != answer::Yes)
+        return false;
+    loaded.outcome = restoreSchemes(share, session.ProgramFolder);
+    return loaded.outcome.ok();
+}
+
 /// Finds the data files and reads them; tells the user when the game cannot start.
 bool start(const GameOptions& options, Session& session, Prompts& prompts, LoadedSession& loaded) {
     auto sources = ProgramFolderSources::ofThisProcess();
     sources.given = options.folder;
     loaded.outcome = findProgramFolder(sources, session.ProgramFolder);
+    const std::string scheme = schemeLikeDesktop(QApplication::palette());
     if (loaded.outcome.ok())
-        loaded = loadSession(session, schemeLikeDesktop(QApplication::palette()));
+        loaded = loadSession(session, scheme);
+    if (restored(sources.shareFolder, session, prompts, loaded))
+        loaded = loadSession(session, scheme);
     if (!loaded.outcome.ok())
         prompts.message(loaded.outcome.problem, Critical);
     return loaded.outcome.ok();
@@ -58,7 +71,7 @@ void openPuzzle(const GameOptions& options, const LastPuzzle& last, PuzzleFileCo
     files.reopen({}, 1);
     std::error_code noFolder;
     const std::filesystem::path file = std::filesystem::absolute(options.file, noFolder);
-    files.load(noFolder ? options.file : file.lexically_normal());
+    files.load(noFolder ? options.file : file);
     if (options.puzzle > 1)
         files.goTo(options.puzzle);
 }

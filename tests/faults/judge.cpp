@@ -95,7 +95,9 @@ Outcome startAgain(const Scene& scene) {
     for (const std::string& name : names)
         if (Outcome saved = schemes.ReplaceScheme(name, SchemeColours{}); !saved.ok())
             return saved;
-    const Configuration configuration = ReadcfgFile(scene.configuration());
+    Configuration configuration;
+    if (Outcome read = ReadcfgFile(scene.configuration(), configuration); !read.ok())
+        return read;
     if (Outcome saved = SavecfgFile(scene.configuration(), configuration); !saved.ok())
         return saved;
     return litterIn(scene).empty() ? Outcome::done() : Outcome::failed("litter stays");

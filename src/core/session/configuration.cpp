@@ -112,24 +112,24 @@ std::filesystem::path configurationPath(const Session& session) {
     return session.ProgramFolder / ConfigurationFile;
 }
 
-/// The schemes must be listed before anything can be coloured by them.
-Outcome checkSchemes(const std::filesystem::path& folder) {
-    const std::filesystem::path path = folder / SchemeLibraryFile;
-    SchemeLibrary schemes(folder);
-    if (Outcome read = schemes.RefreshSchemeList(); !read.ok())
-        return read;
-    if (schemes.names().empty())
-        return Outcome::failed(path.native() + ": there is no colour scheme in it");
-    return Outcome::done();
+/// False only where there is no file; one that cannot be examined may hold what must not be lost.
+bool isThere(const std::filesystem::path& path) {
+    std::error_code error;
+    return std::filesystem::status(path, error).type() != std::filesystem::file_type::not_found;
 }
 
-/// The files that the game cannot run without.
-Outcome loadRequiredFiles(Session& session) {
-    if (!FileExists(session.ProgramFolder / SchemeLibraryFile))
-        return Outcome::failed("File: all.col is missing\r\nProgram cannot run without this file");
-    if (Outcome checked = checkSchemes(session.ProgramFolder); !checked.ok())
-        return checked;
-    return Set6Combos(session.ProgramFolder / ArrangementFile, session.arrangements);
+/// The schemes must be listed before anything can be coloured by them.
+void checkSchemes(const std::filesystem::path& folder, LoadedSession& loaded) {
+    const std::filesystem::path path = folder / SchemeLibraryFile;
+    SchemeLibrary schemes(folder);
+    if (!isThere(path))
+        loaded.outcome =
+            Outcome::failed("File: all.col is missing\r\nProgram cannot run without this file");
+    else
+        loaded.outcome = schemes.RefreshSchemeList();
+    loaded.holdsNoScheme = loaded.outcome.ok() && schemes.names().empty();
+    if (loaded.holdsNoScheme)
+        loaded.outcome = Outcome::failed(path.native() + ": there is no colour scheme in it");
 }
 
 bool hasScheme(const std::filesystem::path& folder, const std::string& scheme) {
@@ -179,13 +179,16 @@ void Configuration::applyTo(Appearance& appearance) const {
         FixedNumberColour.value_or(readableOn(appearance.HexaFillColour));
 }
 
-Configuration ReadcfgFile(const std::filesystem::path& path) {
+Outcome ReadcfgFile(const std::filesystem::path& path, Configuration& configuration) {
     constexpr std::size_t Limit = std::size_t{1} << 20;
     std::string content;
-    // Nobody is waiting for an answer here: what cannot be read counts as not there.
-    if (!readSmallFile(path, Limit, content).ok())
-        return {};
-    return readLines(splitLines(content));
+    configuration = {};
+    if (!isThere(path))
+        return Outcome::done();
+    Outcome read = readSmallFile(path, Limit, content);
+    if (read.ok())
+        configuration = readLines(splitLines(content));
+    return read;
 }
 
 Outcome SavecfgFile(const std::filesystem::path& path, const Configuration& configuration) {
@@ -202,22 +205,29 @@ Outcome SavecfgFile(const std::filesystem::path& path, const Configuration& conf
 LoadedSession loadSession(Session& session, const std::string& firstScheme) {
     LoadedSession loaded;
     removeLeftovers(session.ProgramFolder);
-    loaded.outcome = loadRequiredFiles(session);
+    checkSchemes(session.ProgramFolder, loaded);
+    if (loaded.outcome.ok())
+        loaded.outcome = Set6Combos(session.ProgramFolder / ArrangementFile, session.arrangements);
     if (!loaded.outcome.ok())
         return loaded;
     const std::filesystem::path path = configurationPath(session);
-    Configuration configuration = ReadcfgFile(path);
+    Configuration configuration;
+    const Outcome read = ReadcfgFile(path, configuration);
+    session.configurationIsUnread = !read.ok();
     session.last = {configuration.PuzPath, configuration.PuzNum};
-    if (!FileExists(path)) {
+    if (!isThere(path)) {
         session.last.path = session.ProgramFolder / EasyLibraryFile;
         if (hasScheme(session.ProgramFolder, firstScheme))
             configuration.ActiveScheme = firstScheme;
     }
-    loaded.notice = applyConfiguration(configuration, session).problem;
+    const Outcome applied = applyConfiguration(configuration, session);
+    loaded.notice = read.ok() ? applied.problem : read.problem;
     return loaded;
 }
 
-void SavecfgFile(const Session& session) {
+Outcome SavecfgFile(const Session& session) {
+    if (session.configurationIsUnread)
+        return Outcome::done();
     Configuration configuration;
     const bool showedPuzzle = !session.puzzle.PuzPath.empty();
     configuration.PuzNum = std::max(showedPuzzle ? session.puzzle.PuzNum : session.last.number, 1);
@@ -225,7 +235,7 @@ void SavecfgFile(const Session& session) {
     configuration.remember(session.appearance);
     configuration.PuzPath = showedPuzzle ? session.puzzle.PuzPath : session.last.path;
     configuration.recentFiles = session.recentFiles;
-    static_cast<void>(SavecfgFile(configurationPath(session), configuration));
+    return SavecfgFile(configurationPath(session), configuration);
 }
 
 } // namespace tessaly

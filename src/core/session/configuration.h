@@ -43,15 +43,15 @@ struct Configuration {
     friend bool operator==(const Configuration&, const Configuration&) = default;
 };
 
-/// Reads "tessaly.cfg". It never fails: each value that is missing, garbled or out of its range
-/// takes its default, one by one, and a file that cannot be read gives the configuration of a first
-/// run.
+/// Reads "tessaly.cfg": each value that is missing, garbled or out of its range takes its default,
+/// one by one, and where there is no file the configuration is that of a first run. Fails only when
+/// there is one that cannot be read.
 ///
 /// Lines: (1) nine whole numbers separated by commas: `PuzNum`, `PrintLineWidth`,
 /// `HexaBorderWidth`, `FixedNumberColour`, `UserNumberColour`, `HexaBorderColour`, `SplitHexas`,
 /// `HexaFillColour`, `NumBorder`, a colour that was never chosen being empty; (2) the scheme;
 /// (3) the font; (4) the last puzzle file; (5) and on, the recent files.
-Configuration ReadcfgFile(const std::filesystem::path& path);
+Outcome ReadcfgFile(const std::filesystem::path& path, Configuration& configuration);
 
 /// Writes the file anew: whole, or not at all.
 Outcome SavecfgFile(const std::filesystem::path& path, const Configuration& configuration);
@@ -60,6 +60,9 @@ Outcome SavecfgFile(const std::filesystem::path& path, const Configuration& conf
 struct LoadedSession {
     /// Why the game cannot start; done when it can.
     Outcome outcome;
+    /// Whether it cannot because there is no colour scheme in the library of schemes, which the
+    /// installed one could mend.
+    bool holdsNoScheme = false;
     /// What the user should know all the same; may be empty.
     std::string notice;
 };
@@ -71,8 +74,8 @@ struct LoadedSession {
 LoadedSession loadSession(Session& session, const std::string& firstScheme = DefaultScheme);
 
 /// Writes what the next run is to remember: while no other puzzle was shown, the one that was to be
-/// opened, though its file may be out of reach today. A file that cannot be written is no one's
-/// concern at the end of a run.
-void SavecfgFile(const Session& session);
+/// opened, though its file may be out of reach today. Nothing is written over a configuration that
+/// could not be read.
+Outcome SavecfgFile(const Session& session);
 
 } // namespace tessaly

@@ -57,10 +57,11 @@ void CreationCommands::create(Difficulty difficulty) {
 }
 
 void CreationCommands::save() {
-    const std::filesystem::path& current = m_session.puzzle.PuzPath;
+    const std::filesystem::path current = m_session.puzzle.PuzPath;
+    const std::filesystem::path path = current.empty() ? m_files.temporaryFile() : current;
     int number = 0;
     // A puzzle that cannot be saved can be played all the same; it only stands in no file.
-    if (!m_files.appendAndShow(current.empty() ? m_files.temporaryFile() : current, number).ok())
+    if (!m_files.append(path, number).ok() || !m_files.ReadPuzzle(path, number).ok())
         m_files.showWithoutFile();
 }
 

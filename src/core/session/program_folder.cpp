@@ -94,7 +94,7 @@ std::string environment(const char* name) {
 
 /// The folder's path, absolute, with "/" at its end.
 fs::path asFolder(const fs::path& path) {
-    return fs::absolute(path).lexically_normal() / "";
+    return fs::absolute(path) / "";
 }
 
 /// Where no /proc is mounted, in a bare root, the kernel's word at the start must do.
@@ -182,6 +182,10 @@ void renewShippedFiles(const fs::path& share, const fs::path& folder) {
         fs::create_directories(copy.parent_path(), ignored);
         static_cast<void>(replaceFile(copy, shipped));
     }
+}
+
+Outcome restoreSchemes(const fs::path& share, const fs::path& folder) {
+    return copyShipped(share / SchemeLibraryFile, folder / SchemeLibraryFile);
 }
 
 ProgramFolderSources ProgramFolderSources::ofThisProcess() {

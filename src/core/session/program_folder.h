@@ -27,6 +27,9 @@ Outcome installShippedFiles(const std::filesystem::path& share,
 /// older file still works.
 void renewShippedFiles(const std::filesystem::path& share, const std::filesystem::path& folder);
 
+/// Puts the shipped library of schemes in the place of the one in `folder`.
+Outcome restoreSchemes(const std::filesystem::path& share, const std::filesystem::path& folder);
+
 /// What decides which folder the program runs from. Folders may be given with or without their
 /// last "/"; an empty one is unknown.
 struct ProgramFolderSources {

@@ -119,22 +119,22 @@ void PuzzleFileCommands::setSaveTarget(const std::filesystem::path& path) {
     m_display.showSaveTarget(path);
 }
 
-Outcome PuzzleFileCommands::appendAndShow(const std::filesystem::path& path, int& number) {
+Outcome PuzzleFileCommands::append(const std::filesystem::path& path, int& number) {
     const WhileAtWork atWork(m_session, m_display);
-    const std::string record = PuzzleRecord(m_session.game.board);
-    if (Outcome saved = m_session.files.appendPuzzle(path, record, number); !saved.ok())
-        return saved;
-    return {ReadPuzzle(path, number).reason};
+    return m_session.files.appendPuzzle(path, PuzzleRecord(m_session.game.board), number);
 }
 
 bool PuzzleFileCommands::appendTo(const std::filesystem::path& path) {
     int number = 0;
-    if (const Outcome saved = appendAndShow(path, number); !saved.ok()) {
+    if (const Outcome saved = append(path, number); !saved.ok()) {
         tellCritical(saved.problem);
         return false;
     }
+    const PuzzleRead shown = ReadPuzzle(path, number);
     m_prompts.message("Puzzle#" + std::to_string(number) + " added to file " + path.native(),
                       Information);
+    if (!shown.ok())
+        tellCritical(shown.reason);
     return true;
 }
 

@@ -40,8 +40,8 @@ public:
     /// Reads a puzzle onto the board and shows it. When that fails the board stays as it was and
     /// the message line says so.
     PuzzleRead ReadPuzzle(const std::filesystem::path& path, int number);
-    /// Appends the puzzle on the board to a file and shows it there, as the puzzle `number`.
-    Outcome appendAndShow(const std::filesystem::path& path, int& number);
+    /// Appends the puzzle on the board to a file; `number` gets its number there.
+    Outcome append(const std::filesystem::path& path, int& number);
     /// The puzzle on the board stands in no file.
     void showWithoutFile();
     /// The file of the puzzles that were created without a file.

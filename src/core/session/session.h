@@ -38,6 +38,8 @@ struct Session {
     /// What the difficulty label shows, and so what the next puzzle will be.
     DifficultyChoice difficulty;
     BusyState busy;
+    /// Whether there is a configuration that could not be read, and so must not be written over.
+    bool configurationIsUnread = false;
     /// Whether the developer's commands are shown.
     bool developer = false;
 };

@@ -252,7 +252,8 @@ void Form1::ApplyScheme() {
 void Form1::cmdexit() {
     if (m_prompts.message("Exit?", "vbYesNo+vbquestion") != answer::Yes)
         return;
-    SavecfgFile(m_session);
+    if (const Outcome saved = SavecfgFile(m_session); !saved.ok())
+        m_prompts.message(saved.problem, "vbok+vbcritical");
     QApplication::closeAllWindows();
     QApplication::quit();
 }

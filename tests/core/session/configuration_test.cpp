@@ -1,5 +1,6 @@
 #include "core/session/configuration.h"
 
+#include "support/file_calls.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -7,19 +8,25 @@
 namespace tessaly {
 namespace {
 
+namespace fs = std::filesystem;
 using test::contentOf;
 using test::put;
-using Paths = std::vector<std::filesystem::path>;
+using Paths = std::vector<fs::path>;
 
 class ConfigurationTest : public testing::Test {
 protected:
+    Configuration readBack() {
+        Configuration configuration;
+        EXPECT_EQ(ReadcfgFile(path, configuration).problem, "");
+        return configuration;
+    }
     Configuration reading(const std::string& content) {
         put(path, content);
-        return ReadcfgFile(path);
+        return readBack();
     }
 
     test::TemporaryFolder folder;
-    std::string path = folder / "tessaly.cfg";
+    fs::path path = folder / "tessaly.cfg";
 };
 
 Configuration sample() {
@@ -41,23 +48,32 @@ Configuration sample() {
     return sample;
 }
 
-TEST_F(ConfigurationTest, TheFileHasItsLinesAndNumbersInOrderAndIsReadBack) {
-    for (const auto& [saved, content] :
-         {std::pair(sample(), "123456,9,5,1,256,65536,1,16777215,1\r\n"
-                              "a, \"b\";c.col\r\nDejaVu Sans, Condensed\r\n"
-                              "/home/me/ my \xff puzzles\r\r\n"
-                              "/1 , \r\n/2\"\r\n/3\r\r\n/4\r\n/5\r\n"),
-          {Configuration(), "1,2,2,,,,0,,0\r\nxp.col\r\nArial\r\n\r\n"}}) {
-        ASSERT_EQ(SavecfgFile(path, saved).problem, "");
+TEST_F(ConfigurationTest, WhatIsSavedHasItsPlaceAndIsReadBackAsItWas) {
+    const std::pair<Configuration, std::string> rows[] = {
+        {sample(), "123456,9,5,1,256,65536,1,16777215,1\r\n"
+                   "a, \"b\";c.col\r\nDejaVu Sans, Condensed\r\n"
+                   "/home/me/ my \xff puzzles\r\r\n"
+                   "/1 , \r\n/2\"\r\n/3\r\r\n/4\r\n/5\r\n"},
+        {{}, "1,2,2,,,,0,,0\r\nxp.col\r\nArial\r\n\r\n"},
+    };
+    for (const auto& [saved, content] : rows) {
+        EXPECT_EQ(SavecfgFile(path, saved).problem, "");
         EXPECT_EQ(contentOf(path), content);
-        EXPECT_EQ(ReadcfgFile(path), saved);
+        EXPECT_EQ(readBack(), saved);
     }
+    Configuration odd;
+    odd.PuzPath = "/a\n/b";
+    odd.recentFiles.append("/c\n/d");
+    odd.recentFiles.append("/e");
+    EXPECT_TRUE(SavecfgFile(path, odd).ok());
+    EXPECT_EQ(readBack().PuzPath, "") << "a line feed cannot be stored";
+    EXPECT_EQ(readBack().recentFiles.paths(), Paths{"/e"});
 }
 
 TEST_F(ConfigurationTest, EachValueFallsBackAlone) {
     const std::string rest = "\r\na.col\r\nCourier\r\n/p\r\n/r\r\n";
     const std::vector<std::string> good{"7", "3", "4", "1", "2", "3", "1", "4", "1"};
-    Configuration expected = reading("7,3,4,1,2,3,1,4,1" + rest);
+    const Configuration expected = reading("7,3,4,1,2,3,1,4,1" + rest);
     EXPECT_EQ(expected.PuzNum, 7);
     EXPECT_EQ(expected.PuzPath, "/p");
 
@@ -86,61 +102,118 @@ TEST_F(ConfigurationTest, EachValueFallsBackAlone) {
             EXPECT_EQ(reading(line + rest), fallenBack) << line;
         }
     }
-}
-
-TEST_F(ConfigurationTest, WhatIsMissingKeepsItsDefault) {
-    EXPECT_EQ(ReadcfgFile(path), Configuration());
-    EXPECT_EQ(ReadcfgFile(folder.path()), Configuration());
-    for (const std::string& bare :
-         {std::string(), "\xEF\xBB\xBF" + std::string("1\n\n \t\r\n"), std::string(100'000, '\0')})
-        EXPECT_EQ(reading(bare), Configuration());
-    Configuration expected;
-    expected.PuzNum = 12;
-    expected.PrintLineWidth = 4;
-    expected.ActiveScheme = "sky.col";
-    EXPECT_EQ(reading("12,4,,,,,,,,99\nsky.col"), expected);
-}
-
-TEST_F(ConfigurationTest, RecentFilesLeaveNoGapsAndTheSixthIsDropped) {
-    EXPECT_EQ(reading("1\r\n\r\n\r\n\r\n/a\r\n  \r\n/b\n\n/c\r\n\t\r\n/d\r\n/e\r\n/f")
-                  .recentFiles.paths(),
+    for (const std::string& none : {std::string(), std::string("\xEF\xBB\xBF\r\n\r\n  \n\n \t\n\n"),
+                                    std::string(100'000, '\0')})
+        EXPECT_EQ(reading(none), Configuration());
+    fs::remove(path);
+    EXPECT_EQ(readBack(), Configuration());
+    EXPECT_EQ(reading("1\n\n\n\n\n/a\r\n  \r\n/b\n\n/c\r\n\t\r\n/d\n/e\n/f").recentFiles.paths(),
               (Paths{"/a", "/b", "/c", "/d", "/e"}));
+}
+
+TEST(RecentFiles, AKnownPathKeepsItsPlaceAndTheSixthDropsTheOldest) {
     RecentFiles recent;
-    for (const char* each : {"/a", "/b", "/c", "/d", "/e", "/b"})
-        recent.AddRecentFile(each);
-    EXPECT_EQ(recent.paths(), (Paths{"/e", "/d", "/c", "/b", "/a"})) << "each keeps its place";
+    for (const char* path : {"/a", "/b", "/c", "/d", "/e", "/b"})
+        recent.AddRecentFile(path);
+    EXPECT_EQ(recent.paths(), (Paths{"/e", "/d", "/c", "/b", "/a"}));
     recent.AddRecentFile("/B");
     EXPECT_EQ(recent.paths(), (Paths{"/B", "/e", "/d", "/c", "/b"}));
-
-    Configuration configuration;
-    configuration.PuzPath = "/a\n/b";
-    configuration.recentFiles.append("/c\n/d");
-    configuration.recentFiles.append("/e");
-    ASSERT_TRUE(SavecfgFile(path, configuration).ok());
-    const Configuration read = ReadcfgFile(path);
-    EXPECT_EQ(read.PuzPath, "") << "a path with a line feed is left out";
-    EXPECT_EQ(read.recentFiles.paths(), Paths{"/e"});
 }
 
-TEST_F(ConfigurationTest, AFailureToSaveIsToldAndKeepsTheOldFile) {
-    std::filesystem::create_directory(path);
-    EXPECT_EQ(SavecfgFile(path, sample()).problem.find(path), 0U);
-    EXPECT_EQ(folder.names(), std::set<std::string>{"tessaly.cfg"});
+// ---- one run and the next
+
+class SessionMemoryTest : public testing::Test {
+protected:
+    SessionMemoryTest() {
+        session.ProgramFolder = folder.path() / "";
+        for (const char* name : {"all.col", "hexabinx.txt"})
+            fs::copy_file(fs::path(TESSALY_DATA) / name, folder / name);
+    }
+
+    test::TemporaryFolder folder;
+    Session session;
+};
+
+TEST_F(SessionMemoryTest, TheFirstStartOpensTheBundledPuzzlesInTheSchemeOfTheDesktop) {
+    put(folder / ".tessaly-0123456789abcdef.tmp", "half a configuration");
+    EXPECT_EQ(loadSession(session, DarkScheme).notice, "");
+    EXPECT_EQ(folder.names().size(), 2u) << "what a killed process left is cleared up";
+    EXPECT_EQ(session.last.path, session.ProgramFolder / "puzzles/easy.txt");
+    EXPECT_EQ(session.appearance.ActiveScheme, DarkScheme);
+    const Appearance& worn = session.appearance;
+    EXPECT_GE(contrastRatio(worn.FixedNumberColour, worn.HexaFillColour), 4.5);
+    EXPECT_EQ(worn.HexaFillColour, worn.SchemeColours[slot::Button]);
+    EXPECT_EQ(worn.UserNumberColour, worn.SchemeColours[slot::DarkRed]);
+    EXPECT_EQ(session.arrangements.wordCount, ArrangementCount);
+    EXPECT_EQ(loadSession(session, "none.col").notice, "");
+    EXPECT_EQ(session.appearance.ActiveScheme, DefaultScheme);
 }
 
-TEST(ConfigurationAndAppearance, ColoursThatWereNeverChosenComeFromTheScheme) {
-    Appearance appearance;
-    appearance.SchemeColours[slot::DarkRed] = RGB(9, 9, 9);
-    appearance.SchemeColours[slot::Button] = RGB(4, 4, 4);
-    appearance.HexaBorderColour = White;
-    Configuration().applyTo(appearance);
-    EXPECT_EQ(appearance.FixedNumberColour, White) << "black would not read";
-    EXPECT_EQ(appearance.HexaBorderColour, Black);
-    EXPECT_EQ(appearance.UserNumberColour, RGB(9, 9, 9));
-    EXPECT_EQ(appearance.HexaFillColour, RGB(4, 4, 4));
-    appearance.SchemeColours[slot::Button] = RGB(250, 250, 250);
-    Configuration().applyTo(appearance);
-    EXPECT_EQ(appearance.FixedNumberColour, Black);
+TEST_F(SessionMemoryTest, WhatWasSetIsThereAgainAfterARestart) {
+    ASSERT_TRUE(loadSession(session).outcome.ok());
+    session.puzzle = {"/home/me/a.txt", 12, 40, ""};
+    session.recentFiles.AddRecentFile("/home/me/a.txt");
+    Configuration chosen = sample();
+    chosen.applyTo(session.appearance);
+    EXPECT_EQ(SavecfgFile(session).problem, "");
+
+    // The second time no puzzle was shown, as when the file's disk is not there.
+    Session next;
+    next.ProgramFolder = session.ProgramFolder;
+    for (int run = 0; run < 2; ++run) {
+        EXPECT_TRUE(loadSession(next, DarkScheme).outcome.ok());
+        EXPECT_EQ(next.last.path, "/home/me/a.txt");
+        EXPECT_EQ(next.last.number, 12);
+        EXPECT_EQ(next.recentFiles, session.recentFiles);
+        EXPECT_EQ(next.appearance, session.appearance);
+        EXPECT_EQ(SavecfgFile(next).problem, "");
+    }
+}
+
+TEST_F(SessionMemoryTest, AConfigurationThatCannotBeReadIsToldAndNotWrittenOver) {
+    put(folder / "tessaly.cfg", "7,3\r\nsky.col\r\n");
+    {
+        // The schemes and the arrangements are read first, each to its end.
+        const test::FileCalls calls(test::failing("pread", EIO, 4));
+        EXPECT_EQ(loadSession(session).notice,
+                  (folder / "tessaly.cfg").native() + ": cannot be read: Input/output error");
+    }
+    EXPECT_EQ(SavecfgFile(session).problem, "");
+    EXPECT_EQ(contentOf(folder / "tessaly.cfg"), "7,3\r\nsky.col\r\n");
+    ASSERT_EQ(loadSession(session).notice, "");
+    const test::FileCalls calls(test::failing("write", ENOSPC));
+    EXPECT_EQ(SavecfgFile(session).problem,
+              (folder / "tessaly.cfg").native() + ": cannot be written: No space left on device");
+}
+
+TEST_F(SessionMemoryTest, AMissingOrGarbledDataFileStopsTheStart) {
+    for (const char* name : {"hexabinx.txt", "all.col"}) {
+        for (const char* garbled : {"", "garbage", "255;255;255\r\n"}) {
+            put(folder / name, garbled);
+            const LoadedSession loaded = loadSession(session);
+            EXPECT_TRUE(loaded.outcome.problem.starts_with((folder / name).native() + ": "));
+            EXPECT_EQ(loaded.holdsNoScheme, std::string_view(name) == "all.col");
+        }
+        fs::remove(folder / name);
+        EXPECT_NE(loadSession(session).outcome.problem.find(name), std::string::npos);
+        fs::copy_file(fs::path(TESSALY_DATA) / name, folder / name);
+    }
+    const test::FileCalls calls(test::failing("open", EACCES, 1));
+    EXPECT_EQ(loadSession(session).outcome.problem,
+              (folder / "all.col").native() + ": cannot be read: Permission denied");
+}
+
+TEST_F(SessionMemoryTest, ASchemeThatIsGoneOrDamagedIsSaidAndTheBuiltInOneServes) {
+    put(folder / "all.col", "xp.col\r\n1;2\r\n");
+    for (const auto& [scheme, notice] : {std::pair("gone.col", "Colour Scheme: gone.col not found"),
+                                         std::pair("xp.col", "line 2")}) {
+        session.appearance.ActiveScheme = scheme;
+        EXPECT_TRUE(SavecfgFile(session).ok());
+        const LoadedSession loaded = loadSession(session);
+        EXPECT_TRUE(loaded.outcome.ok());
+        EXPECT_NE(loaded.notice.find(notice), std::string::npos) << loaded.notice;
+        EXPECT_EQ(session.appearance.ActiveScheme, "default.col");
+    }
 }
 
 } // namespace

@@ -159,6 +159,18 @@ TEST_F(PuzzleFileCommandsTest, AFailedSaveIsSaidAndKeepsThePlay) {
     EXPECT_EQ(session.game.board, before);
     EXPECT_EQ(session.game.undoList.size(), 1u);
     EXPECT_NE(display.saveTarget, chosen);
+
+    chosen = session.ProgramFolder / "new.txt";
+    bool saved = false;
+    const test::FileCalls calls([&](std::string_view name, int) {
+        saved = saved || name == "fsync";
+        return saved && name == "pread" ? EIO : 0;
+    });
+    files.mnusavex();
+    EXPECT_EQ(prompts.shown.at(prompts.shown.size() - 2).text,
+              "Puzzle#1 added to file " + chosen.native());
+    EXPECT_EQ(lastMessage().text, chosen.native() + ": cannot be read: Input/output error");
+    EXPECT_EQ(display.saveTarget, chosen);
 }
 
 TEST_F(PuzzleFileCommandsTest, DeleteAsksRemovesThePuzzleAndShowsTheFirst) {
