@@ -1,5 +1,6 @@
 #include "faults/scene.h"
 
+#include "core/board/puzzle_record.h"
 #include "core/board/puzzle_store.h"
 #include "core/files/file_access.h"
 #include "core/options/scheme_library.h"
@@ -8,7 +9,6 @@
 
 #include "support/sample_records.h"
 
-#include <algorithm>
 #include <memory>
 #include <sys/uio.h>
 #include <unistd.h>
@@ -18,52 +18,39 @@ namespace {
 
 constexpr int NewSeed = 1'000'000;
 
-std::function<Outcome()> appendPuzzle(const Scene& scene) {
-    return [path = scene.puzzles()] {
-        int number = 0;
-        return PuzzleStore().appendPuzzle(path, test::recordNumbered(NewSeed), number);
-    };
-}
+using Work = std::function<Outcome()>;
 
-std::function<Outcome()> saveAsOnlyPuzzle(const Scene& scene) {
-    Board board;
-    static_cast<void>(readRecord(test::recordNumbered(NewSeed), board).ok());
-    return [path = scene.puzzles(), board] { return PuzzleStore().WritePuzzle(path, 1, board); };
+std::string newRecord(int number = 0) {
+    return test::recordNumbered(NewSeed + number);
 }
 
 /// Deletes the puzzle in the middle of the file, after showing it.
-std::function<Outcome()> deletePuzzle(const Scene& scene) {
-    const auto files = std::make_shared<PuzzleStore>();
+Work deletePuzzle(const Scene& scene) {
+    const auto store = std::make_shared<PuzzleStore>();
     int count = 0;
-    static_cast<void>(files->CountLines(scene.puzzles(), count).ok());
+    static_cast<void>(store->CountLines(scene.puzzles(), count).ok());
     const int number = (count + 1) / 2;
     Board board;
-    const std::string record = files->ReadPuzzle(scene.puzzles(), number, board).record;
-    return [scene, files, number, record] {
-        return files->DeletePuzzle(scene.puzzles(), number, record);
+    const std::string record = store->ReadPuzzle(scene.puzzles(), number, board).record;
+    return [scene, store, number, record] {
+        return store->DeletePuzzle(scene.puzzles(), number, record);
     };
 }
 
-/// Appends the variants of the puzzles to the very file.
-std::function<Outcome()> expandLibrary(const Scene& scene) {
-    return [path = scene.puzzles().string()] {
-        return expandPuzzles({path, path}, OutputMode::Append, TopBottomHeader::Follows);
+/// Writes a few puzzles at a time, and says each time how many are made.
+Work makeBatch(const Scene& scene) {
+    return [path = scene.puzzles()] {
+        Outcome outcome;
+        for (int made = 0; made < BatchSize && outcome.ok();) {
+            std::string records;
+            for (int each = 0; each < WrittenAtOnce; ++each)
+                records += newRecord(++made) + "\r\n";
+            outcome = PuzzleStore().appendPuzzles(path, records);
+            if (outcome.ok())
+                say(STDOUT_FILENO, "made " + std::to_string(made));
+        }
+        return outcome;
     };
-}
-
-std::function<Outcome()> shuffleLibrary(const Scene& scene) {
-    return [path = scene.puzzles().string()] {
-        Chance chance(1);
-        return shufflePuzzles({path, path}, chance);
-    };
-}
-
-/// Three schemes; the one in the middle is replaced and deleted.
-std::string schemeFile() {
-    std::string content;
-    for (const char* name : {"first", "middle", "last"})
-        content += schemeRecord(schemeHeader(name), SchemeColours{});
-    return content;
 }
 
 SchemeColours newColours() {
@@ -72,48 +59,16 @@ SchemeColours newColours() {
     return colours;
 }
 
-std::function<Outcome()> addScheme(const Scene& scene) {
-    return [folder = scene.program().string()] {
-        return SchemeLibrary(folder).AddScheme("added", newColours());
-    };
-}
-
-std::function<Outcome()> replaceScheme(const Scene& scene) {
-    return [folder = scene.program().string()] {
-        return SchemeLibrary(folder).ReplaceScheme("middle", newColours());
-    };
-}
-
-std::function<Outcome()> deleteScheme(const Scene& scene) {
-    return [folder = scene.program().string()] {
-        return SchemeLibrary(folder).DeleteScheme("middle");
-    };
-}
-
-Configuration configurationAt(int puzzle) {
+Outcome saveConfiguration(const Scene& scene, int puzzle) {
     Configuration configuration;
     configuration.PuzNum = puzzle;
-    return configuration;
+    return SavecfgFile(scene.configuration(), configuration);
 }
 
-std::function<Outcome()> saveConfiguration(const Scene& scene) {
-    return [path = scene.configuration()] { return SavecfgFile(path, configurationAt(2)); };
-}
-
-/// Writes a few puzzles at a time, and says each time how many are made.
-std::function<Outcome()> makeBatch(const Scene& scene) {
-    return [path = scene.puzzles()] {
-        Outcome outcome;
-        for (int made = 0; made < BatchSize && outcome.ok();) {
-            std::string records;
-            for (int each = 0; each < WrittenAtOnce; ++each)
-                records += test::recordNumbered(NewSeed + ++made) + "\r\n";
-            outcome = PuzzleStore().appendPuzzles(path, records);
-            if (outcome.ok())
-                say(STDOUT_FILENO, "made " + std::to_string(made));
-        }
-        return outcome;
-    };
+/// Makes an operation of what needs nothing to be got ready.
+template <auto act>
+Work doing(const Scene& scene) {
+    return [scene] { return act(scene); };
 }
 
 } // namespace
@@ -124,13 +79,18 @@ std::filesystem::path Scene::temporary() const {
 
 Outcome Scene::make(int records) const {
     std::filesystem::create_directories(program());
-    if (Outcome saved = SavecfgFile(configuration(), configurationAt(1)); !saved.ok())
-        return saved;
-    for (const auto& [path, content] :
-         {std::pair(schemes(), schemeFile()), std::pair(temporary(), test::recordFile(1))})
-        if (Outcome saved = replaceFile(path, content); !saved.ok())
-            return saved;
-    return records < 0 ? Outcome::done() : replaceFile(puzzles(), test::recordFile(records));
+    // Three schemes; the one in the middle is replaced and deleted.
+    std::string schemeFile;
+    for (const char* name : {"first", "middle", "last"})
+        schemeFile += schemeRecord(schemeHeader(name), SchemeColours{});
+    Outcome made = saveConfiguration(*this, 1);
+    if (made.ok())
+        made = replaceFile(schemes(), schemeFile);
+    if (made.ok())
+        made = replaceFile(temporary(), test::recordFile(1));
+    if (made.ok() && records >= 0)
+        made = replaceFile(puzzles(), test::recordFile(records));
+    return made;
 }
 
 void say(int stream, std::string_view line) {
@@ -140,17 +100,40 @@ void say(int stream, std::string_view line) {
 }
 
 const std::vector<Operation>& operations() {
+    using S = const Scene&;
+    constexpr auto Puzzles = &Scene::puzzles;
+    constexpr auto Schemes = &Scene::schemes;
     static const std::vector<Operation> all{
-        {"append", &Scene::puzzles, appendPuzzle},
-        {"replace", &Scene::puzzles, saveAsOnlyPuzzle},
-        {"delete", &Scene::puzzles, deletePuzzle},
-        {"configuration", &Scene::configuration, saveConfiguration},
-        {"batch", &Scene::puzzles, makeBatch},
-        {"expand", &Scene::puzzles, expandLibrary},
-        {"shuffle", &Scene::puzzles, shuffleLibrary},
-        {"addscheme", &Scene::schemes, addScheme},
-        {"replacescheme", &Scene::schemes, replaceScheme},
-        {"deletescheme", &Scene::schemes, deleteScheme},
+        {"append", Puzzles, doing<[](S scene) {
+             int number = 0;
+             return PuzzleStore().appendPuzzle(scene.puzzles(), newRecord(), number);
+         }>},
+        {"replace", Puzzles, doing<[](S scene) {
+             Board board;
+             static_cast<void>(readRecord(newRecord(), board).ok());
+             return PuzzleStore().WritePuzzle(scene.puzzles(), 1, board);
+         }>},
+        {"delete", Puzzles, deletePuzzle},
+        {"configuration", &Scene::configuration,
+         doing<[](S scene) { return saveConfiguration(scene, 2); }>},
+        {"batch", Puzzles, makeBatch},
+        // The variants go to the very file that they are made of.
+        {"expand", Puzzles, doing<[](S scene) {
+             return expandPuzzles({scene.puzzles(), scene.puzzles()}, OutputMode::Append,
+                                  TopBottomHeader::Follows);
+         }>},
+        {"shuffle", Puzzles, doing<[](S scene) {
+             Chance chance(1);
+             return shufflePuzzles({scene.puzzles(), scene.puzzles()}, chance);
+         }>},
+        {"addscheme", Schemes, doing<[](S scene) {
+             return SchemeLibrary(scene.program()).AddScheme("added", newColours());
+         }>},
+        {"replacescheme", Schemes, doing<[](S scene) {
+             return SchemeLibrary(scene.program()).ReplaceScheme("middle", newColours());
+         }>},
+        {"deletescheme", Schemes,
+         doing<[](S scene) { return SchemeLibrary(scene.program()).DeleteScheme("middle"); }>},
     };
     return all;
 }

@@ -173,8 +173,8 @@ TEST_F(SessionMemoryTest, WhatWasSetIsThereAgainAfterARestart) {
 TEST_F(SessionMemoryTest, AConfigurationThatCannotBeReadIsToldAndNotWrittenOver) {
     put(folder / "tessaly.cfg", "7,3\r\nsky.col\r\n");
     {
-        // The schemes and the arrangements are read first, each to its end.
-        const test::FileCalls calls(test::failing("pread", EIO, 4));
+        // The folder, the schemes and the arrangements are opened first.
+        const test::FileCalls calls(test::failing("open", EIO, 3));
         EXPECT_EQ(loadSession(session).notice,
                   (folder / "tessaly.cfg").native() + ": cannot be read: Input/output error");
     }
