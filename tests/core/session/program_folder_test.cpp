@@ -51,7 +51,7 @@ protected:
 TEST_F(ProgramFolderTest, IsTheGivenOneElseTheExecutablesElseTheUsers) {
     put(bin / "all.col", "");
     sources.given = share / "puzzles/../";
-    EXPECT_EQ(found(), share / "");
+    EXPECT_TRUE(fs::equivalent(found(), share)) << "only the system knows where .. leads";
     for (const fs::path& wrong : {root / "none", share / "all.col"}) {
         sources.given = wrong;
         EXPECT_EQ(found(), "");
