@@ -49,15 +49,15 @@ TEST_F(GameTest, CopyAcrossSidesFeedsLaterCellsAndIsUndoneAsOne) {
     board.BlankHex = 5;
     place({2, 3}, "6"); // faces hexagon 1 cell 6
     place({5, 1}, "4"); // faces hexagon 2 cell 4, but hexagon 5 is blank
-    board.CellNum[1][6] = "12";
+    board.CellNum[1][6] = "123456";
     int count = 0;
     CopyAcrossSides(count);
     EXPECT_EQ(count, 1);
     EXPECT_EQ(board.CellNum[1][6], "6");
     EXPECT_EQ(board.CellNum[2][4], "");
-    EXPECT_EQ(undoList.text(0), "0106*12");
+    EXPECT_EQ(undoList.text(0), "0106*123456");
     EXPECT_TRUE(undo().test(1));
-    EXPECT_EQ(board.CellNum[1][6], "12");
+    EXPECT_EQ(board.CellNum[1][6], "123456");
     EXPECT_FALSE(TouchedCell[1][6]);
 }
 
