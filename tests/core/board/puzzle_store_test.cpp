@@ -91,6 +91,13 @@ TEST_F(PuzzleStoreTest, ReadsARecordOrSaysWhatIsWrongWithItAndChangesNothing) {
         EXPECT_EQ(got.reason.starts_with(path.native() + ": "), !got.ok()) << got.reason;
         EXPECT_NE(got.reason.find(row.reason), std::string::npos) << got.reason;
         EXPECT_EQ(board, got.ok() ? boardOf(row.record) : before);
+        std::string visited;
+        EXPECT_TRUE(forEachRecord(path, [&](const RecordLine& line) {
+                        if (line.number == row.number && line.read(board).ok())
+                            visited = line.text;
+                        return true;
+                    }).ok());
+        EXPECT_EQ(visited, row.record);
     }
 }
 

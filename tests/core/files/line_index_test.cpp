@@ -133,21 +133,5 @@ TEST(LineIndex, ReadsNothingUntilTheFileChangesOrMayHaveChangedUnseen) {
     EXPECT_TRUE(state.wouldShowAChange());
 }
 
-TEST(LineReader, ReadsWhatTheIndexCountsAndKeepsNoOverLongLine) {
-    const TemporaryFolder folder;
-    put(folder / "a.txt", Mark + "one\r\n\ntwo\rtwo\n" + std::string(300'000, 'x') +
-                              "\r\n12345678\r\n123456789\nlast\r");
-    LineReader reader(8);
-    ASSERT_EQ(reader.open(folder / "a.txt").problem, "");
-    std::vector<std::string> lines;
-    for (auto result = reader.next(); result != LineReader::Result::End; result = reader.next()) {
-        ASSERT_NE(result, LineReader::Result::Failed);
-        lines.emplace_back(result == LineReader::Result::OverLong ? "too long" : reader.line());
-        EXPECT_EQ(reader.number(), static_cast<int>(lines.size()));
-    }
-    EXPECT_EQ(lines, (std::vector<std::string>{"one", "", "two\rtwo", "too long", "12345678",
-                                               "too long", "last"}));
-}
-
 } // namespace
 } // namespace tessaly
