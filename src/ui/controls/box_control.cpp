@@ -153,8 +153,7 @@ bool isReleaseOf(int key, const QEvent& event) {
     return released.key() == key && !released.isAutoRepeat();
 }
 
-/// Waits until a key that is down comes up, or until the window can no longer see it come up;
-/// says so once, whoever has the focus.
+/// Waits until a key that is down comes up, and says so once, whoever has the focus.
 class KeyHold : public QObject {
 public:
     KeyHold(int key, QObject* parent, std::function<void()> ended)
@@ -165,7 +164,7 @@ public:
     }
 
     bool eventFilter(QObject*, QEvent* event) override {
-        if (isReleaseOf(m_key, *event) || event->type() == QEvent::WindowDeactivate) {
+        if (isReleaseOf(m_key, *event)) {
             QCoreApplication::instance()->removeEventFilter(this);
             deleteLater();
             m_ended();
@@ -183,6 +182,11 @@ bool isEnter(const QKeyEvent& event) {
 }
 
 } // namespace
+
+bool endsHolds(const QEvent& event) {
+    return event.type() == QEvent::WindowDeactivate || event.type() == QEvent::WindowBlocked ||
+           event.type() == QEvent::Hide;
+}
 
 BoxControl::BoxControl(QWidget* parent)
     : QAbstractButton(parent) {
@@ -256,6 +260,8 @@ bool BoxControl::event(QEvent* event) {
         answerShortcut(*static_cast<QShortcutEvent*>(event));
         return true;
     default:
+        if (endsHolds(*event))
+            letUp();
         break;
     }
     return QAbstractButton::event(event);
@@ -286,13 +292,18 @@ void BoxControl::answerShortcut(const QShortcutEvent& event) {
         click();
 }
 
+void BoxControl::letUp() {
+    m_alternateDown = false;
+    if (!isDown())
+        return;
+    setDown(false);
+    Q_EMIT released();
+}
+
 void BoxControl::holdUntilReleased(int key) {
     if (isDown())
         return;
-    new KeyHold(key, this, [this] {
-        setDown(false);
-        Q_EMIT released();
-    });
+    new KeyHold(key, this, [this] { letUp(); });
     setDown(true);
     Q_EMIT pressed();
 }

@@ -80,6 +80,8 @@ private:
     void nameAfterToolTip();
     void answerShortcut(const QShortcutEvent& event);
     void holdUntilReleased(int key);
+    /// Ends whatever holds it down, without a click.
+    void letUp();
 
     Picture m_picture = Picture::None;
     QColor m_face;
@@ -89,5 +91,9 @@ private:
     bool m_heldByShortcut = false;
     bool m_alternateDown = false;
 };
+
+/// Whether a widget that is held down will not see what holds it come up: its window loses the
+/// focus, a dialog opens, or it is hidden.
+bool endsHolds(const QEvent& event);
 
 } // namespace tessaly

@@ -1,5 +1,6 @@
 #include "ui/play/hexagon_tag_widget.h"
 
+#include "ui/controls/box_control.h"
 #include "ui/drawing/hexagon_tag.h"
 #include "ui/drawing/qt_values.h"
 
@@ -34,6 +35,12 @@ void HexagonTagWidget::release() {
     m_down = false;
     update();
     Q_EMIT released();
+}
+
+bool HexagonTagWidget::event(QEvent* event) {
+    if (endsHolds(*event))
+        release();
+    return QWidget::event(event);
 }
 
 void HexagonTagWidget::paintEvent(QPaintEvent*) {

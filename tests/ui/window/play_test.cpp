@@ -142,6 +142,13 @@ TEST_F(Play, SolutionAndCandidatesShowOnlyWhileTheirButtonIsHeld) {
             QApplication::processEvents();
         }
         EXPECT_EQ(picture(), before);
+        for (const QEvent::Type end : {QEvent::WindowDeactivate, QEvent::WindowBlocked}) {
+            QTest::mousePress(&game.find(name), Qt::LeftButton);
+            QEvent away(end);
+            QApplication::sendEvent(game.window.get(), &away);
+            EXPECT_EQ(picture(), before) << "the window will not see the button come up";
+            QTest::mouseRelease(&game.find(name), Qt::LeftButton);
+        }
     }
 }
 

@@ -93,7 +93,7 @@ TEST_F(ShortcutsTest, TheSolutionShowsForAsLongAsItsKeyIsDown) {
     EXPECT_FALSE(button.isDown());
     EXPECT_EQ(game.board().grab().toImage(), before);
     QTest::keyPress(&game.board(), Qt::Key_F2);
-    QEvent away(QEvent::WindowDeactivate);
+    QEvent away(QEvent::WindowBlocked);
     QApplication::sendEvent(game.window.get(), &away);
     EXPECT_FALSE(button.isDown()) << "the window will not see the key come up";
 }
