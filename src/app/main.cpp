@@ -12,6 +12,7 @@
 #include "ui/window/main_window.h"
 
 #include <QApplication>
+#include <QTimer>
 
 #include <filesystem>
 #include <iostream>
@@ -92,9 +93,13 @@ int run(const GameOptions& options) {
     window.show();
     if (!loaded.notice.empty())
         prompts.message(loaded.notice, Critical);
-    openPuzzle(options, session.last, window.files());
-    if (!toPicture)
+    const auto open = [&] { openPuzzle(options, session.last, window.files()); };
+    if (!toPicture) {
+        // Within the event loop, which ends when the window is closed while a large file is read.
+        QTimer::singleShot(0, &window, open);
         return QApplication::exec();
+    }
+    open();
     const Outcome written = writeScreenshot(window, options.screenshot);
     if (!written.ok())
         prompts.message(written.problem, Critical);

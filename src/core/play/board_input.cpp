@@ -59,6 +59,7 @@ void BoardInput::showEntry(CellId cell, const std::string& before) {
 }
 
 void BoardInput::Picture2_MouseMove(Point point) {
+    m_pointer = point;
     if (!m_busy.isBusy())
         select(cellAt(point));
 }
@@ -172,6 +173,7 @@ void BoardInput::openPopupAtSelection() {
 }
 
 void BoardInput::pointerLeft() {
+    m_pointer.reset();
     if (!m_busy.isBusy())
         select({});
 }
@@ -180,7 +182,7 @@ void BoardInput::forgetSelection() {
     m_popupTarget = {};
     m_peekedHexagon = 0;
     m_display.hidePopup();
-    select({});
+    select(m_pointer ? cellAt(*m_pointer) : CellId{});
 }
 
 } // namespace tessaly

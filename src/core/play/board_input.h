@@ -5,6 +5,8 @@
 #include "core/play/game.h"
 #include "core/play/play_commands.h"
 
+#include <optional>
+
 namespace tessaly {
 
 enum class PointerButton { None, Left, Right, Other };
@@ -46,7 +48,7 @@ public:
     /// The pointer is no longer over the board.
     void pointerLeft();
 
-    /// Another puzzle is on the board: nothing is selected any more.
+    /// Another puzzle is on the board: only what is under the pointer is selected any more.
     void forgetSelection();
 
     /// The selected cell; -1 and -1 when there is none.
@@ -68,6 +70,8 @@ private:
     Display& m_display;
 
     CellId m_selection;
+    /// Where the pointer is, while it is over the board.
+    std::optional<Point> m_pointer;
     /// The cell that the pop-up was opened for; the pointer may have moved on since.
     CellId m_popupTarget;
     int m_paletteItem = NoPaletteItem;

@@ -60,9 +60,12 @@ void CreationCommands::save() {
     const std::filesystem::path current = m_session.puzzle.PuzPath;
     const std::filesystem::path path = current.empty() ? m_files.temporaryFile() : current;
     int number = 0;
-    // A puzzle that cannot be saved can be played all the same; it only stands in no file.
-    if (!m_files.append(path, number).ok() || !m_files.ReadPuzzle(path, number).ok())
-        m_files.showWithoutFile();
+    Outcome saved = m_files.append(path, number);
+    if (saved.ok())
+        saved = {m_files.ReadPuzzle(path, number).reason};
+    // A puzzle that cannot be saved can be played all the same.
+    if (!saved.ok())
+        m_files.showWithoutFile(saved);
 }
 
 } // namespace tessaly

@@ -13,6 +13,9 @@ constexpr std::string_view Information = "vbok+vbinformation";
 constexpr std::string_view Critical = "vbok+vbcritical";
 constexpr std::string_view FileProblem = "vbcritical+vbok";
 
+/// A file whose first lines are no records is not searched through to its end.
+constexpr int MostTried = 1000;
+
 /// For as long as it lives the pointer is busy and other commands are refused.
 class WhileAtWork {
 public:
@@ -46,19 +49,38 @@ void PuzzleFileCommands::tellCritical(const std::string& text) {
     m_prompts.message(text, Critical);
 }
 
-PuzzleRead PuzzleFileCommands::ReadPuzzle(const std::filesystem::path& path, int number) {
+PuzzleRead PuzzleFileCommands::show(const std::filesystem::path& path, int number) {
     const WhileAtWork atWork(m_session, m_display);
     PuzzleRead read = m_session.files.ReadPuzzle(path, number, m_session.game.board);
-    if (!read.ok()) {
-        m_display.showMessage("Error reading p# " + std::to_string(number));
+    if (!read.ok())
         return read;
-    }
     m_session.game.startPuzzle();
     m_session.puzzle = {path, number, read.count, read.record};
     m_session.difficulty = m_session.game.board.difficulty;
     m_input.forgetSelection();
     m_display.showPuzzle(m_session.puzzle);
     m_display.showMessage("");
+    return read;
+}
+
+PuzzleRead PuzzleFileCommands::ReadPuzzle(const std::filesystem::path& path, int number) {
+    PuzzleRead read = show(path, number);
+    if (!read.ok())
+        m_display.showMessage("Error reading p# " + std::to_string(number));
+    return read;
+}
+
+PuzzleRead PuzzleFileCommands::showReadable(const std::filesystem::path& path, int number,
+                                            int step) {
+    PuzzleRead read = ReadPuzzle(path, number);
+    const int tries = std::min(read.count, MostTried);
+    int next = number;
+    for (int tried = 1; read.status == PuzzleRead::Status::NoRecord && tried < tries; ++tried) {
+        next = (next - 1 + step + read.count) % read.count + 1;
+        read = show(path, next);
+    }
+    if (read.ok() && next != number)
+        m_display.showMessage("Error reading p# " + std::to_string(number));
     return read;
 }
 
@@ -69,7 +91,7 @@ void PuzzleFileCommands::mnuload() {
 }
 
 void PuzzleFileCommands::load(const std::filesystem::path& path, int number) {
-    if (!ReadPuzzle(path, number).ok()) {
+    if (!showReadable(path, number).ok()) {
         m_prompts.message("Error reading file:\r\n" + path.native(), FileProblem);
         return;
     }
@@ -80,8 +102,7 @@ void PuzzleFileCommands::load(const std::filesystem::path& path, int number) {
     m_display.showRecentFiles(m_session.recentFiles.paths());
 }
 
-void PuzzleFileCommands::step(int number) {
-    const PuzzleRead read = ReadPuzzle(m_session.puzzle.PuzPath, number);
+void PuzzleFileCommands::tellUnreadable(const PuzzleRead& read) {
     if (read.status == PuzzleRead::Status::CannotRead)
         tellCritical(read.reason);
 }
@@ -95,7 +116,8 @@ void PuzzleFileCommands::cmdarrow(int item) {
         return;
     const int previous = number > 1 ? std::min(number - 1, count) : count;
     const int next = number < count ? number + 1 : 1;
-    step(std::max(item == 0 ? previous : next, 1));
+    tellUnreadable(showReadable(m_session.puzzle.PuzPath, std::max(item == 0 ? previous : next, 1),
+                                item == 0 ? -1 : 1));
 }
 
 std::filesystem::path PuzzleFileCommands::temporaryFile() const {
@@ -110,8 +132,14 @@ int PuzzleFileCommands::recount() {
 }
 
 void PuzzleFileCommands::goTo(int number) {
-    if (m_session.puzzle.PuzNum > 0 && number >= 1 && number <= recount())
-        step(number);
+    if (m_session.puzzle.PuzNum == 0)
+        return;
+    const int count = recount();
+    if (number >= 1 && number <= count)
+        tellUnreadable(ReadPuzzle(m_session.puzzle.PuzPath, number));
+    else
+        m_display.showMessage("There is no puzzle " + std::to_string(number) + " among the " +
+                              std::to_string(count));
 }
 
 void PuzzleFileCommands::setSaveTarget(const std::filesystem::path& path) {
@@ -149,8 +177,10 @@ void PuzzleFileCommands::mnusavex() {
 }
 
 void PuzzleFileCommands::mnusaveto() {
-    if (FileExists(m_session.saveTarget))
-        appendTo(m_session.saveTarget);
+    const std::filesystem::path& path = m_session.saveTarget;
+    const std::string question = "File not found:\r\n" + path.native() + "\r\nMake it anew?";
+    if (FileExists(path) || m_prompts.message(question, "vbyesno+vbquestion") == answer::Yes)
+        appendTo(path);
 }
 
 void PuzzleFileCommands::mnudelete() {
@@ -163,8 +193,10 @@ void PuzzleFileCommands::mnudelete() {
         tellCritical(deleted.problem);
         return;
     }
-    if (!ReadPuzzle(puzzle.PuzPath, 1).ok())
-        m_session.puzzle.PuzCount = 0;
+    if (!showReadable(puzzle.PuzPath, 1).ok()) {
+        m_session.game = {};
+        showWithoutFile();
+    }
     m_prompts.message("Done", "vbinformation+vbok");
 }
 
@@ -180,7 +212,7 @@ void PuzzleFileCommands::oldfiles_Click(int item) {
         m_prompts.message("File not found:\r\n" + path.native(), FileProblem);
         return;
     }
-    if (const PuzzleRead read = ReadPuzzle(path, 1); read.ok())
+    if (showReadable(path, 1).ok())
         setSaveTarget(path);
     else
         m_prompts.message("Error reading file:\r\n" + path.native(), FileProblem);
@@ -194,7 +226,7 @@ void PuzzleFileCommands::reopen(const std::filesystem::path& path, int number) {
         showEmptyBoard();
         return;
     }
-    if (ReadPuzzle(path, number > count ? 1 : number).ok())
+    if (showReadable(path, number > count ? 1 : number).ok())
         setSaveTarget(path);
     else
         showEmptyBoard();
@@ -202,10 +234,12 @@ void PuzzleFileCommands::reopen(const std::filesystem::path& path, int number) {
     m_display.focusBoard();
 }
 
-void PuzzleFileCommands::showWithoutFile() {
+void PuzzleFileCommands::showWithoutFile(const Outcome& why) {
     m_session.puzzle.PuzNum = 0;
     m_input.forgetSelection();
     m_display.showPuzzle(m_session.puzzle);
+    if (!why.ok())
+        tellCritical("The puzzle stands in no file:\r\n" + why.problem);
 }
 
 void PuzzleFileCommands::showEmptyBoard() {

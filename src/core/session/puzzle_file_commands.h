@@ -18,15 +18,18 @@ public:
 
     /// Lets the user choose a puzzle file and shows its first puzzle.
     void mnuload();
-    /// Shows a puzzle of a file and remembers the file as a recent one.
+    /// Shows a puzzle of a file, or the next that can be read, and remembers the file as a recent
+    /// one.
     void load(const std::filesystem::path& path, int number = 1);
-    /// Steps to the previous (item 0) or the next puzzle (item 1), around the ends of the file.
+    /// Steps to the previous (item 0) or the next puzzle (item 1), around the ends of the file and
+    /// over what cannot be read.
     void cmdarrow(int item);
-    /// Shows a puzzle by its number; a number that the file does not have is ignored.
+    /// Shows a puzzle by its number; a number that the file does not have is only told.
     void goTo(int number);
     /// Appends the puzzle to a file that the user chooses, and shows it there.
     void mnusavex();
-    /// The same with the file that "Save to" offers.
+    /// The same with the file that "Save to" offers; one that is gone is made anew after a
+    /// question.
     void mnusaveto();
     /// Removes the puzzle from its file, after a question.
     void mnudelete();
@@ -42,15 +45,19 @@ public:
     PuzzleRead ReadPuzzle(const std::filesystem::path& path, int number);
     /// Appends the puzzle on the board to a file; `number` gets its number there.
     Outcome append(const std::filesystem::path& path, int& number);
-    /// The puzzle on the board stands in no file.
-    void showWithoutFile();
+    /// The puzzle on the board stands in no file; the user is told why, if there is a problem.
+    void showWithoutFile(const Outcome& why = {});
     /// The file of the puzzles that were created without a file.
     std::filesystem::path temporaryFile() const;
 
 private:
     void showEmptyBoard();
-    /// Reads a puzzle of the current file; tells the user when the file cannot be read.
-    void step(int number);
+    PuzzleRead show(const std::filesystem::path& path, int number);
+    /// Shows the puzzle `number` of a file or, in steps of `step` around the ends of the file, the
+    /// first that can be read; the message line names the one that cannot.
+    PuzzleRead showReadable(const std::filesystem::path& path, int number, int step = 1);
+    /// Tells the user when the current file cannot be read.
+    void tellUnreadable(const PuzzleRead& read);
     /// How many puzzles the current file holds now; as many as before when it cannot be read.
     int recount();
     bool appendTo(const std::filesystem::path& path);

@@ -238,6 +238,10 @@ void BoardView::resizeEvent(QResizeEvent* event) {
 bool BoardView::event(QEvent* event) {
     if (event->type() == QEvent::ScreenChangeInternal)
         updateSurface();
+    // The pointer may stand on a cell that it did not move to, as a box has closed over it.
+    if (const QPoint pointer = mapFromGlobal(QCursor::pos());
+        event->type() == QEvent::WindowUnblocked && rect().contains(pointer))
+        m_input->Picture2_MouseMove(onBoard(pointer));
     return QWidget::event(event);
 }
 

@@ -21,6 +21,7 @@
 #include "ui/window/tool_row.h"
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QVBoxLayout>
 
 namespace tessaly {
@@ -130,7 +131,10 @@ void Form1::DrawPeek(const Board& other, int hexagon) {
 }
 
 void Form1::focusBoard() {
-    m_board->setFocus();
+    // A pointer that only crosses the board does not take the focus from what is being typed.
+    const auto* field = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    if (field == nullptr || !field->isModified())
+        m_board->setFocus();
 }
 
 void Form1::showSelection(CellId) {

@@ -18,8 +18,9 @@ constexpr int ButtonSize = 40;
 constexpr int PictureSize = 24;
 constexpr int Spacing = 6;
 constexpr int GroupSpacing = 18;
-/// Room for the numbers of a library of a million puzzles.
-constexpr QLatin1String WidestNumber("1000000");
+/// Room for the numbers of a library of a million puzzles; a larger one makes its own.
+constexpr QLatin1String UsualNumber("1000000");
+constexpr int MostDigits = 10;
 
 /// Room for this count even while there is none, so that the row rarely moves.
 constexpr QLatin1String UsualCount(" of 1000");
@@ -46,6 +47,7 @@ ToolRow::ToolRow(QWidget* parent)
     cmdreset = addButton(Picture::Reset, u"Reset Puzzle"_s, u"cmdreset"_s);
     cmdshowsol = addButton(Picture::ShowSolution, u"Show Solution"_s, u"cmdshowsol"_s);
     cmdshowsol->setHeldByShortcut(true);
+    showPuzzleNumber(0, 0);
 }
 
 BoxControl* ToolRow::addButton(Picture picture, const QString& toolTip, const QString& name) {
@@ -69,11 +71,13 @@ void ToolRow::addNumberBox() {
     m_puzNumNow->setToolTip(tr("Puzzle number; Enter goes there"));
     m_puzNumNow->setAcceptDrops(false); // a file that is dropped there is for the window
     m_puzNumNow->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    m_puzNumNow->setMaxLength(WidestNumber.size());
-    m_puzNumNow->setFixedSize(fontMetrics().horizontalAdvance(WidestNumber) + 2 * Spacing,
-                              ButtonSize);
+    m_puzNumNow->setMaxLength(MostDigits);
+    m_puzNumNow->setFixedHeight(ButtonSize);
     connect(m_puzNumNow, &QLineEdit::returnPressed, this,
             [this] { Q_EMIT numberEntered(m_puzNumNow->text().trimmed().toInt()); });
+    // Whatever was typed, the box names the puzzle that is shown.
+    connect(m_puzNumNow, &QLineEdit::editingFinished, this,
+            [this] { m_puzNumNow->setText(m_shownNumber); });
     m_puzNumber = new QLabel(this);
     m_puzNumber->setObjectName(u"puznumber"_s);
     m_puzNumber->setTextFormat(Qt::PlainText);
@@ -91,7 +95,11 @@ BoxControl* ToolRow::addDifficultyLabel() {
 }
 
 void ToolRow::showPuzzleNumber(int number, int count) {
-    m_puzNumNow->setText(count > 0 ? QString::number(number) : QString());
+    m_shownNumber = count > 0 ? QString::number(number) : QString();
+    m_puzNumNow->setText(m_shownNumber);
+    m_puzNumNow->setFixedWidth(2 * Spacing +
+                               std::max(fontMetrics().horizontalAdvance(UsualNumber),
+                                        fontMetrics().horizontalAdvance(QString::number(count))));
     m_puzNumber->setText(count > 0 ? u" of %1"_s.arg(count) : QString());
     m_puzNumber->setMinimumWidth(std::max(m_puzNumber->fontMetrics().horizontalAdvance(UsualCount),
                                           m_puzNumber->sizeHint().width()));

@@ -49,6 +49,7 @@ private:
     QHBoxLayout* m_row;
     QLineEdit* m_puzNumNow = nullptr; // PuzNumNow
     QLabel* m_puzNumber = nullptr;    // puznumber
+    QString m_shownNumber;
 };
 
 } // namespace tessaly

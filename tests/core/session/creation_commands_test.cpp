@@ -54,6 +54,8 @@ TEST_F(CreationCommandsTest, APuzzleThatCannotBeSavedIsPlayedAllTheSame) {
     EXPECT_EQ(display.message, "New Puzzle Created (Easy)");
     EXPECT_EQ(session.puzzle.PuzNum, 0);
     EXPECT_TRUE(session.game.hasPuzzle());
+    EXPECT_EQ(lastMessage().text.find("The puzzle stands in no file:\r\n/no/such/folder/a.txt"),
+              0U);
 }
 
 } // namespace

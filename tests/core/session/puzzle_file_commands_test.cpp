@@ -86,6 +86,30 @@ TEST_F(PuzzleFileCommandsTest, SteppingWrapsAroundBothEndsOfWhatTheFileHoldsNow)
     EXPECT_TRUE(prompts.shown.empty());
 }
 
+TEST_F(PuzzleFileCommandsTest, WhatCannotBeReadIsSteppedOverAndNamed) {
+    const fs::path path = fileOf("a.txt", "bad\r\n" + records[0] + "\r\nbad\r\n" + records[1]);
+    const auto expect = [this](int shown, const char* message) {
+        EXPECT_EQ(number(), shown);
+        EXPECT_EQ(display.message, message);
+    };
+    files.load(path);
+    expect(2, "Error reading p# 1");
+    files.cmdarrow(1);
+    expect(4, "Error reading p# 3");
+    files.cmdarrow(1);
+    expect(2, "Error reading p# 1");
+    files.cmdarrow(0);
+    expect(4, "Error reading p# 1");
+    files.goTo(3);
+    expect(4, "Error reading p# 3");
+    files.goTo(5);
+    expect(4, "There is no puzzle 5 among the 4");
+    prompts.answers = {answer::Yes};
+    files.mnudelete();
+    expect(2, "Error reading p# 1");
+    EXPECT_EQ(prompts.shown.size(), 2u);
+}
+
 TEST_F(PuzzleFileCommandsTest, AFileThatIsEmptyOrGoneIsSaidAndTheBoardStays) {
     const fs::path path = fileOfPuzzles("a.txt", 3);
     files.load(path, 3);
@@ -145,6 +169,14 @@ TEST_F(PuzzleFileCommandsTest, SavingAppendsThePlayAndShowsTheCopy) {
     EXPECT_EQ(number(), 2);
     const std::string saved = PuzzleRecord(session.game.board) + "\r\n";
     EXPECT_EQ(test::contentOf(chosen), saved + saved);
+
+    fs::remove(chosen);
+    prompts.answers = {answer::No, answer::Yes};
+    files.mnusaveto();
+    EXPECT_EQ(lastMessage().text, "File not found:\r\n" + chosen.native() + "\r\nMake it anew?");
+    EXPECT_FALSE(FileExists(chosen));
+    files.mnusaveto();
+    EXPECT_EQ(test::contentOf(chosen), saved);
 }
 
 TEST_F(PuzzleFileCommandsTest, AFailedSaveIsSaidAndKeepsThePlay) {
@@ -207,6 +239,8 @@ TEST_F(PuzzleFileCommandsTest, DeletingTheOnlyPuzzleLeavesAnEmptyFile) {
     EXPECT_EQ(test::contentOf(path), "");
     EXPECT_EQ(display.message, "Error reading p# 1");
     EXPECT_EQ(lastMessage().text, "Done");
+    EXPECT_EQ(number(), 0);
+    EXPECT_FALSE(session.game.hasPuzzle()) << "the board is empty";
 }
 
 TEST_F(PuzzleFileCommandsTest, RecentFilesOpenUnlessTheyAreGone) {

@@ -1,3 +1,4 @@
+#include "core/play/selection_walk.h"
 #include "ui/controls/box_control.h"
 #include "ui/game_window.h"
 
@@ -42,6 +43,12 @@ TEST_F(MainWindow, ShowsWhichPuzzleOfWhichFileIsOnTheBoard) {
     enterNumber(u"17"_s);
     EXPECT_EQ(game.session.puzzle.PuzNum, 17);
     EXPECT_TRUE(game.board().hasFocus());
+    enterNumber(u"999"_s);
+    EXPECT_EQ(game.number(), u"17"_s) << "the box names what is shown";
+    game.find(u"PuzNumNow"_s).setFocus();
+    QTest::keyClicks(&game.find(u"PuzNumNow"_s), u"2"_s);
+    game.pointAt(firstSelectable(game.session.game));
+    EXPECT_TRUE(game.find(u"PuzNumNow"_s).hasFocus()) << "a crossing pointer takes no focus";
 }
 
 TEST_F(MainWindow, CreatesAPuzzleOfTheShownDifficulty) {
