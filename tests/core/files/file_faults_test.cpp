@@ -266,6 +266,9 @@ TEST_F(FileFaultsTest, WhereNothingCanBeLockedOrAFolderNotFlushedFilesAreStillSa
                   "");
     EXPECT_EQ(problemWhile(failing("fsync", EINVAL, 1), replacing("flushed as a whole")), "");
     EXPECT_EQ(contentOf(file), "flushed as a whole");
+    EXPECT_EQ(problemWhile(failing("open", EACCES), replacing("x")),
+              told("cannot be written: Permission denied"))
+        << "the system says which links may be followed";
     // A folder that may not be listed can neither be locked nor flushed. The file itself and what
     // is left in the folder are opened before it.
     EXPECT_EQ(problemWhile(failing("open", EACCES, 1), replacing("in a folder without names")), "");
