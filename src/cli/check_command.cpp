@@ -1,10 +1,12 @@
 #include "cli/commands.h"
+#include "core/board/puzzle_record.h"
 #include "core/board/puzzle_store.h"
 #include "core/solver/puzzle_audit.h"
 
 #include <filesystem>
 #include <memory>
 #include <ostream>
+#include <unordered_map>
 #include <vector>
 
 namespace tessaly {
@@ -21,24 +23,45 @@ std::vector<std::string> findingsOf(const RecordLine& line) {
                            : auditRecord(line.text);
 }
 
+/// Remembers puzzles; tells of one that comes again at which line it stood first.
+class Repeats {
+public:
+    void look(const RecordLine& line, std::vector<std::string>& findings) {
+        const std::string puzzle(line.text.substr(0, RecordLength));
+        const auto [first, isNew] = m_lines.emplace(puzzle, line.number);
+        if (!isNew && !puzzle.empty())
+            findings.push_back("the same puzzle as line " + std::to_string(first->second));
+    }
+
+private:
+    std::unordered_map<std::string, int> m_lines;
+};
+
 int check(const std::filesystem::path& path, const Console& console) {
     Tally tally;
+    Repeats repeats;
     const Outcome outcome = forEachRecord(path, [&](RecordLine line) {
         ++tally.records;
-        for (const std::string& finding : findingsOf(line)) {
+        std::vector<std::string> findings = findingsOf(line);
+        repeats.look(line, findings);
+        for (const std::string& finding : findings) {
             ++tally.findings;
             console.out << lineProblem(path, line.number, finding) << '\n';
         }
         return !console.isInterrupted() && console.out.good();
     });
-    if (!outcome.ok())
-        return fail(console, outcome.problem);
+    if (!outcome.ok()) {
+        fail(console, outcome.problem);
+        return exit_status::CannotCheck;
+    }
     console.out << path.native() << ": " << counted(tally.records, "puzzle") << " checked, "
                 << counted(tally.findings, "finding") << '\n';
     if (const Outcome written = flushed(console.out); !written.ok())
         return fail(console, written.problem);
-    if (console.isInterrupted())
+    if (console.isInterrupted()) {
+        fail(console, "interrupted after " + counted(tally.records, "puzzle"));
         return exit_status::Interrupted;
+    }
     return tally.findings == 0 ? exit_status::Done : exit_status::Failed;
 }
 
@@ -52,7 +75,11 @@ Subcommand checkCommand() {
              .footer =
                  "Example: tessaly-cli check easy.txt\n\n"
                  "Every record must be well formed, its solution right and the only one with the "
-                 "blank hexagon withheld, and its difficulty, header and hint true.",
+                 "blank hexagon withheld, and its difficulty, header and hint true; the cells of "
+                 "the blank hexagon and the hint are given, and no puzzle comes "
+                 "twice.\n\nThe status is 0 when all is well, 1 when something was found, 2 when "
+                 "the file "
+                 "cannot be read.",
              .options = {required(positional("FILE", "The puzzle file", *path))}},
             [path](const Console& console) { return check(*path, console); }};
 }

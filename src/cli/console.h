@@ -23,6 +23,8 @@ namespace exit_status {
 inline constexpr int Done = 0;
 inline constexpr int Failed = 1;
 inline constexpr int WrongUsage = tessaly::WrongUsage;
+/// Of a check, which tells by `Failed` that something was found.
+inline constexpr int CannotCheck = 2;
 /// As shells report the end by Ctrl+C.
 inline constexpr int Interrupted = 130;
 } // namespace exit_status

@@ -63,20 +63,23 @@ TEST_F(CheckCommand, ALineForEachFindingASummaryAndAStatus) {
     const CommandResult sound = run("check " + file);
     EXPECT_EQ(sound.status, exit_status::Done);
     EXPECT_EQ(sound.out, file + ": 2 puzzles checked, 0 findings\n");
-    put(file, Easy + "\r\n\r\nX" + Easy.substr(1) + "\r\n" + std::string(300'000, '1') + "\r\n");
+    put(file, Easy + "\r\n\r\nX" + Easy.substr(1) + "\r\n" + std::string(300'000, '1') + "\r\n" +
+                  Easy + ":1\r\n");
     const CommandResult broken = run("check " + file);
     EXPECT_EQ(broken.status, exit_status::Failed);
     EXPECT_EQ(broken.err, "");
     EXPECT_EQ(broken.out, file + ": line 2: the record has 0 characters instead of 119\n" + file +
                               ": line 3: the record begins with neither \"E\" nor \"H\"\n" + file +
                               ": line 4: the line is longer than any record\n" + file +
-                              ": 4 puzzles checked, 3 findings\n");
+                              ": line 5: the same puzzle as line 1\n" + file +
+                              ": 5 puzzles checked, 4 findings\n");
 }
 
 TEST_F(CheckCommand, AFileThatCannotBeReadIsNamed) {
-    for (const std::string command : {"solve ", "check "})
-        for (const std::string path : {"/nonexistent/puzzles.txt", "/", "/dev/zero"})
-            expectRefused(command + path, exit_status::Failed, ": " + path + ": ");
+    for (const std::string path : {"/nonexistent/puzzles.txt", "/", "/dev/zero"}) {
+        expectRefused("solve " + path, exit_status::Failed, ": " + path + ": ");
+        expectRefused("check " + path, exit_status::CannotCheck, ": " + path + ": ");
+    }
 }
 
 } // namespace

@@ -71,6 +71,18 @@ void checkHint(const Board& board, Findings& findings) {
                            cellName(hint) + " holds " + board.SolNum[hint]);
 }
 
+/// What the player does not see or is told has to be given, or the puzzle cannot be finished.
+void checkGivens(const Board& board, Findings& findings) {
+    const auto isOpen = [&board](CellId cell) { return !board.FixedCell[cell]; };
+    if (isHexagon(board.BlankHex) &&
+        std::any_of(AllCells.begin(), AllCells.end(),
+                    [&](CellId cell) { return cell.hexagon == board.BlankHex && isOpen(cell); }))
+        findings.push_back("a cell of the blank hexagon is not given");
+    const CellId hint = hintedCell(board.BlankHex, board.HintCell);
+    if (board.difficulty == Difficulty::Hard && hint && isOpen(hint))
+        findings.push_back("the hint is not given");
+}
+
 void checkUniqueness(const Board& board, Findings& findings) {
     const SolutionCount count = countSolutions(board);
     if (!count.isCertain)
@@ -79,14 +91,11 @@ void checkUniqueness(const Board& board, Findings& findings) {
         findings.push_back("there is more than one solution with the blank hexagon withheld");
 }
 
-/// Whether the rules lead from the givens, without those of the blank hexagon and with the hint of
-/// a hard puzzle in place, to the solution.
+/// Whether the rules lead from the givens, without those of the blank hexagon, to the solution.
 bool isSolved(Board board, bool useXcells) {
     board.ResetToGivens();
     if (isHexagon(board.BlankHex))
         board.CellNum[board.BlankHex].fill({});
-    if (const CellId hint = hintedCell(board.BlankHex, board.HintCell))
-        board.CellNum[hint] = board.SolNum[hint];
     board.BlankHex = NoHexagon;
     std::int32_t counter = 0;
     SolveBasic(board, useXcells, counter);
@@ -100,7 +109,7 @@ void checkDifficulty(const Board& board, Findings& findings) {
     if (board.difficulty == Difficulty::Hard && fallsToBasicRules)
         findings.push_back("the puzzle is not hard: rules 1 to 3 solve it");
     if (board.difficulty == Difficulty::Hard && !isSolved(board, true))
-        findings.push_back("the puzzle is too hard: its hint and the four rules do not solve it");
+        findings.push_back("the puzzle is too hard: the four rules do not solve it");
 }
 
 } // namespace
@@ -118,6 +127,7 @@ std::vector<std::string> auditRecord(std::string_view line) {
         return findings;
     if (board.difficulty == Difficulty::Hard)
         checkHint(board, findings);
+    checkGivens(board, findings);
     checkUniqueness(board, findings);
     checkDifficulty(board, findings);
     return findings;

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <new>
 
 namespace tessaly {
 namespace {
@@ -117,6 +118,8 @@ void BoardSurface::makeEmptyForms() {
     };
     Board board;
     m_image = QImage(m_size, QImage::Format_RGB32);
+    if (m_image.isNull() && !m_size.isEmpty())
+        throw std::bad_alloc();
     draw(m_image, {}, board, [](BoardRenderer& renderer) { renderer.DrawBoard(); });
     m_openForm = m_image.copy(middle);
 
