@@ -1,4 +1,3 @@
-#include "app/screenshot.h"
 #include "core/base/product.h"
 #include "core/files/file_access.h"
 #include "core/session/configuration.h"
@@ -7,13 +6,17 @@
 #include "ui/controls/file_name_picker.h"
 #include "ui/controls/icon_set.h"
 #include "ui/controls/message_box.h"
+#include "ui/drawing/picture_document.h"
 #include "ui/drawing/qt_values.h"
 #include "ui/output/printers.h"
 #include "ui/window/main_window.h"
 
 #include <QApplication>
+#include <QImage>
+#include <QPixmap>
 #include <QTimer>
 
+#include <algorithm>
 #include <filesystem>
 #include <iostream>
 
@@ -22,6 +25,30 @@ namespace {
 using namespace tessaly;
 
 constexpr const char* Critical = "vbok+vbcritical";
+
+/// Says on standard error what a message box would say, and waits for nobody.
+class PrintedPrompts : public Prompts {
+public:
+    int message(std::string_view text, std::string_view) override {
+        std::string line(text);
+        std::erase(line, '\r');
+        std::replace(line.begin(), line.end(), '\n', ' ');
+        std::cerr << "tessaly: " << line << '\n';
+        m_saidAnything = true;
+        return 0;
+    }
+    std::string ask(std::string_view) override { return {}; }
+    bool saidAnything() const { return m_saidAnything; }
+
+private:
+    bool m_saidAnything = false;
+};
+
+/// Writes the picture of a window to a PNG file.
+Outcome writeScreenshot(QWidget& window, const std::filesystem::path& path) {
+    QApplication::processEvents();
+    return writePicture(path, window.grab().toImage(), PictureFormat::Png);
+}
 
 bool hasDisplay() {
     return !qEnvironmentVariableIsEmpty("DISPLAY") ||
@@ -80,7 +107,7 @@ void openPuzzle(const GameOptions& options, const LastPuzzle& last, PuzzleFileCo
 int run(const GameOptions& options) {
     Session session;
     MsgForm messageBox(session.appearance);
-    PrintedPrompts printed(std::cerr);
+    PrintedPrompts printed;
     const bool toPicture = !options.screenshot.empty();
     Prompts& prompts = toPicture ? static_cast<Prompts&>(printed) : messageBox;
 

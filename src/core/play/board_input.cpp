@@ -54,8 +54,13 @@ void BoardInput::place(CellId cell, const std::string& entry) {
 void BoardInput::showEntry(CellId cell, const std::string& before) {
     if (m_game.board.CellNum[cell] != before)
         m_display.DrawHexagon(cell.hexagon);
-    m_display.hidePopup();
+    hidePopup();
     m_display.focusBoard();
+}
+
+void BoardInput::hidePopup() {
+    if (std::exchange(m_popupTarget, CellId{}))
+        m_display.hidePopup();
 }
 
 void BoardInput::Picture2_MouseMove(Point point) {
@@ -68,7 +73,7 @@ void BoardInput::Picture2_MouseDown(PointerButton button, Point point) {
     if (m_busy.isBusy())
         return;
     if (button != PointerButton::Right || !m_selection) {
-        m_display.hidePopup();
+        hidePopup();
         return;
     }
     m_popupTarget = m_selection;
@@ -81,7 +86,7 @@ void BoardInput::Picture2_MouseUp(PointerButton button) {
     if (m_busy.isBusy())
         return;
     if (!m_selection) {
-        m_display.hidePopup();
+        hidePopup();
         return;
     }
     if (button == PointerButton::Right || m_paletteItem == NoPaletteItem)
@@ -117,21 +122,20 @@ void BoardInput::digt_MouseUp(int item, PointerButton button) {
 }
 
 void BoardInput::Num16_Click(int button) {
-    if (!m_popupTarget)
-        return;
-    m_display.hidePopup();
-    if (button == PopupClose || m_busy.isBusy())
+    const CellId target = m_popupTarget;
+    hidePopup();
+    if (!target || button == PopupClose || m_busy.isBusy())
         return;
     switch (button) {
     case PopupSideCopy:
         m_commands.cmdsetpairs();
         return;
     case PopupSingle:
-        if (const Single single = SingleCandidate(m_game.board, m_popupTarget.hexagon); single.cell)
+        if (const Single single = SingleCandidate(m_game.board, target.hexagon); single.cell)
             place(single.cell, single.number);
         return;
     default:
-        place(m_popupTarget, button == PopupEraser ? "" : NumText(button + 1));
+        place(target, button == PopupEraser ? "" : NumText(button + 1));
     }
 }
 
@@ -149,7 +153,7 @@ void BoardInput::Celltags_MouseUp() {
 }
 
 void BoardInput::Timer1_Timer() {
-    m_display.hidePopup();
+    hidePopup();
 }
 
 void BoardInput::moveSelection(int columns, int rows) {
@@ -179,9 +183,8 @@ void BoardInput::pointerLeft() {
 }
 
 void BoardInput::forgetSelection() {
-    m_popupTarget = {};
     m_peekedHexagon = 0;
-    m_display.hidePopup();
+    hidePopup();
     select(m_pointer ? cellAt(*m_pointer) : CellId{});
 }
 

@@ -59,6 +59,7 @@ public:
 
 private:
     void select(CellId cell);
+    void hidePopup();
     void place(CellId cell, const std::string& entry);
     /// Draws a cell's hexagon, unless the cell holds what it held before. The pop-up has been
     /// answered, by whatever way.
@@ -72,7 +73,7 @@ private:
     CellId m_selection;
     /// Where the pointer is, while it is over the board.
     std::optional<Point> m_pointer;
-    /// The cell that the pop-up was opened for; the pointer may have moved on since.
+    /// The cell that the pop-up is open for; the pointer may have moved on since.
     CellId m_popupTarget;
     int m_paletteItem = NoPaletteItem;
     /// The hexagon that shows its candidates; 0 for none.

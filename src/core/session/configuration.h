@@ -2,7 +2,6 @@
 
 #include "core/base/outcome.h"
 #include "core/options/appearance.h"
-#include "core/session/recent_files.h"
 #include "core/session/session.h"
 
 #include <filesystem>

@@ -7,12 +7,42 @@
 #include "core/play/busy.h"
 #include "core/play/display.h"
 #include "core/play/game.h"
-#include "core/session/recent_files.h"
 
+#include <algorithm>
 #include <filesystem>
-#include <string>
+#include <utility>
+#include <vector>
 
 namespace tessaly {
+
+/// The puzzle files used last, up to five, the most recent first.
+class RecentFiles {
+public:
+    static constexpr std::size_t Capacity = 5;
+
+    /// Puts `path` at the head, where the oldest may fall off the end. A path that is listed
+    /// already keeps its place.
+    void AddRecentFile(const std::filesystem::path& path) {
+        if (std::find(m_paths.begin(), m_paths.end(), path) != m_paths.end())
+            return;
+        if (m_paths.size() == Capacity)
+            m_paths.pop_back();
+        m_paths.insert(m_paths.begin(), path);
+    }
+
+    /// Puts `path` behind the others, as when a stored list is read; a full list stays as it is.
+    void append(std::filesystem::path path) {
+        if (m_paths.size() < Capacity)
+            m_paths.push_back(std::move(path));
+    }
+
+    const std::vector<std::filesystem::path>& paths() const { return m_paths; }
+
+    friend bool operator==(const RecentFiles&, const RecentFiles&) = default;
+
+private:
+    std::vector<std::filesystem::path> m_paths;
+};
 
 /// The puzzle that was shown when the game ended last.
 struct LastPuzzle {
