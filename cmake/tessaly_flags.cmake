@@ -11,6 +11,19 @@ if(TESSALY_SANITIZE)
   target_link_options(tessaly_flags INTERFACE -fsanitize=${TESSALY_SANITIZE})
 endif()
 
+# What is shipped is hardened as a distribution's own packages are.
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+include(CheckPIESupported)
+check_pie_supported()
+include(CheckCXXCompilerFlag)
+check_cxx_compiler_flag(-fcf-protection TESSALY_HAS_CF_PROTECTION)
+target_compile_options(
+  tessaly_flags
+  INTERFACE
+    $<$<CONFIG:Release>:-fstack-protector-strong;-fstack-clash-protection;-Wp,-U_FORTIFY_SOURCE,-D_FORTIFY_SOURCE=2>
+    $<$<AND:$<CONFIG:Release>,$<BOOL:${TESSALY_HAS_CF_PROTECTION}>>:-fcf-protection>)
+target_link_options(tessaly_flags INTERFACE $<$<CONFIG:Release>:LINKER:-z,relro,-z,now>)
+
 # What every target that sees Qt has besides: no silent conversion of bytes to text.
 add_library(tessaly_qt_flags INTERFACE)
 target_compile_definitions(
