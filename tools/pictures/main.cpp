@@ -183,7 +183,7 @@ void takeDialogs(Pictures& pictures, const QString& scheme) {
     game.find<QAction>(u"mnucreaten_1"_s).trigger();
     MsgForm box(game.session.appearance);
     takeWhenOpen(pictures, u"message-"_s + scheme);
-    box.message("Delete current puzzle from file?", "vbyesno+vbquestion");
+    box.message("Delete current puzzle from file?", "vbyesno+vbquestion+vbdefaultbutton2");
     takeWhenOpen(pictures, u"prompt-"_s + scheme);
     static_cast<void>(box.ask("Enter new Colour Scheme name"));
 }

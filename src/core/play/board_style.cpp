@@ -19,6 +19,11 @@ Point crossing(Point a, Point b, double level) {
     return {a.x + along * (b.x - a.x), a.y + along * (b.y - a.y)};
 }
 
+Colour seenOn(Colour fill, Colour signal) {
+    constexpr double LeastContrast = 3; // of WCAG 2, for signs and large text
+    return contrastRatio(signal, fill) >= LeastContrast ? signal : readableOn(fill);
+}
+
 } // namespace
 
 std::vector<std::pair<Point, Point>> hatchLines(int hexagon) {
@@ -56,6 +61,14 @@ BoardStyle boardStyle(const Appearance& appearance) {
         .userNumber = appearance.UserNumberColour,
         .borderWidth = appearance.HexaBorderWidth + (split ? WiderWhenSplit : 0),
     };
+}
+
+Colour solutionColour(const Appearance& appearance) {
+    return seenOn(appearance.HexaFillColour, appearance.SchemeColours[slot::Green]);
+}
+
+Colour markerColour(const Appearance& appearance) {
+    return seenOn(appearance.HexaFillColour, appearance.SchemeColours[slot::Red]);
 }
 
 BoardStyle paperStyle(const Appearance& appearance) {

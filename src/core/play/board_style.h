@@ -62,6 +62,11 @@ struct BoardStyle {
 /// would vanish.
 BoardStyle boardStyle(const Appearance& appearance);
 
+/// The colour of the solution's numbers, and that of the marker about the selected cell: the
+/// scheme's own where they are seen on a hexagon, else black or white.
+Colour solutionColour(const Appearance& appearance);
+Colour markerColour(const Appearance& appearance);
+
 /// Black on white paper, with borders of `PrintLineWidth`, as far as they leave room for a board,
 /// and givens that stand out from what is written by hand.
 BoardStyle paperStyle(const Appearance& appearance);

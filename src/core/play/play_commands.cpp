@@ -1,6 +1,7 @@
 #include "core/play/play_commands.h"
 
 #include "core/play/assists.h"
+#include "core/play/board_style.h"
 
 #include <string>
 
@@ -22,7 +23,7 @@ PlayCommands::PlayCommands(Game& game, const Appearance& appearance, Display& di
     , m_prompts(prompts) {}
 
 bool PlayCommands::confirmed(std::string_view question) {
-    return m_prompts.message(question, "vbyesno+vbquestion") == answer::Yes;
+    return m_prompts.message(question, "vbyesno+vbquestion+vbdefaultbutton2") == answer::Yes;
 }
 
 void PlayCommands::cmdundo() {
@@ -88,7 +89,7 @@ void PlayCommands::StatLab() {
 }
 
 void PlayCommands::cmdshowsolPressed() {
-    m_display.DrawSolution(m_appearance.SchemeColours[slot::Green]);
+    m_display.DrawSolution(solutionColour(m_appearance));
 }
 
 void PlayCommands::cmdshowsolReleased() {

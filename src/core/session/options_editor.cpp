@@ -12,7 +12,7 @@ namespace {
 
 constexpr const char* Critical = "vbok+vbcritical";
 constexpr const char* Information = "vbok+vbinformation";
-constexpr const char* YesNo = "vbYesNo+vbquestion";
+constexpr const char* YesOrRatherNo = "vbYesNo+vbquestion+vbdefaultbutton2";
 
 std::optional<std::size_t> indexOf(const std::vector<std::string>& names, const std::string& name) {
     const auto found = std::find(names.begin(), names.end(), name);
@@ -36,6 +36,14 @@ std::string done(const std::string& scheme, const std::string& what) {
 int printLineWidth(std::string_view text) {
     constexpr double Largest = std::numeric_limits<int>::max();
     return static_cast<int>(std::clamp(std::nearbyint(leadingNumber(text)), 1.0, Largest));
+}
+
+/// What the player writes takes the scheme's own colour, where it reads, so that it is told from
+/// the givens.
+Colour userNumberColourOn(Colour background, const SchemeColours& colours) {
+    constexpr double LeastContrast = 4.5; // of WCAG 2, for text
+    const Colour own = colours[slot::DarkRed];
+    return contrastRatio(own, background) >= LeastContrast ? own : readableOn(background);
 }
 
 /// A scheme's file name without what follows its first dot.
@@ -88,9 +96,8 @@ void OptionsEditor::ShowScheme() {
     m_caption = captionOf(selectedEntry());
     m_colour = background;
     m_samples.HexaFillColour = background;
-    for (Colour* colour :
-         {&m_samples.HexaBorderColour, &m_samples.FixedNumberColour, &m_samples.UserNumberColour})
-        *colour = readableOn(background);
+    m_samples.HexaBorderColour = m_samples.FixedNumberColour = readableOn(background);
+    m_samples.UserNumberColour = userNumberColourOn(background, m_samples.SchemeColours);
 }
 
 void OptionsEditor::List1_MouseUp(std::size_t index) {
@@ -218,7 +225,8 @@ std::string OptionsEditor::confirmedEntry(const std::string& ifNone, const std::
         tell(ifNone);
         return {};
     }
-    return m_prompts.message(question + entry, YesNo) == answer::Yes ? entry : std::string();
+    return m_prompts.message(question + entry, YesOrRatherNo) == answer::Yes ? entry
+                                                                             : std::string();
 }
 
 void OptionsEditor::report(const Outcome& outcome, const std::string& done) {

@@ -187,7 +187,8 @@ void PuzzleFileCommands::mnudelete() {
     const CurrentPuzzle puzzle = m_session.puzzle;
     if (puzzle.PuzNum == 0)
         return;
-    if (m_prompts.message("Delete current puzzle from file?", "vbyesno+vbquestion") != answer::Yes)
+    if (m_prompts.message("Delete current puzzle from file?",
+                          "vbyesno+vbquestion+vbdefaultbutton2") != answer::Yes)
         return;
     if (const Outcome deleted = remove(puzzle); !deleted.ok()) {
         tellCritical(deleted.problem);

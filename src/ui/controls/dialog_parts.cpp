@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QDialog>
 #include <QPainter>
+#include <QTextDocument>
 #include <QVBoxLayout>
 
 namespace tessaly {
@@ -25,6 +26,10 @@ QHBoxLayout* makeButtonRow(std::initializer_list<BoxControl*> buttons) {
         row->addWidget(button);
     }
     return row;
+}
+
+QString plainToolTip(const QString& text) {
+    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
 }
 
 QSize ElidedLabel::minimumSizeHint() const {

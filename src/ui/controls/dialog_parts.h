@@ -35,12 +35,18 @@ QVBoxLayout* addRows(QDialog& dialog);
 /// The last row of a dialog: its buttons, all of one size, at the right.
 QHBoxLayout* makeButtonRow(std::initializer_list<BoxControl*> buttons);
 
-/// A label that cuts its text in the middle where there is no room for all of it.
+/// A tooltip that shows a text from outside as it is, whatever markup it holds.
+QString plainToolTip(const QString& text);
+
+/// A label for plain text that cuts it in the middle where there is no room for all of it.
 class ElidedLabel : public QLabel {
     Q_OBJECT
 
 public:
-    using QLabel::QLabel;
+    explicit ElidedLabel(QWidget* parent = nullptr)
+        : QLabel(parent) {
+        setTextFormat(Qt::PlainText);
+    }
     QSize minimumSizeHint() const override;
 
 protected:

@@ -154,9 +154,9 @@ std::filesystem::path chooseOutputFile(const OutputFileQuestion& question, FNDia
     if (QFileInfo(chosen).suffix().isEmpty())
         chosen += question.extension;
     const std::filesystem::path path = pathOf(chosen);
-    const bool wanted =
-        !holdsSomething(path) || prompts.message("OverWrite file: " + path.native() + " ?",
-                                                 "vbyesno+vbquestion") == answer::Yes;
+    const bool wanted = !holdsSomething(path) ||
+                        prompts.message("OverWrite file: " + path.native() + " ?",
+                                        "vbyesno+vbquestion+vbdefaultbutton2") == answer::Yes;
     return wanted ? path : std::filesystem::path();
 }
 

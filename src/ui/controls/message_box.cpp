@@ -6,7 +6,7 @@
 #include "ui/drawing/qt_values.h"
 
 #include <QAccessible>
-#include <QGuiApplication>
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -14,6 +14,7 @@
 #include <QScrollBar>
 #include <QTextDocument>
 #include <QTextEdit>
+#include <QWindow>
 
 #include <algorithm>
 #include <array>
@@ -94,6 +95,8 @@ struct Style {
     int icon = -1;
     /// Left to right; never empty.
     QList<Choice> buttons;
+    /// Which button has the focus: the first, or with "vbdefaultbutton2" the second.
+    qsizetype focused = 0;
 };
 
 /// Reads words joined by "+", in any capitals and with blanks around them. Unknown words count for
@@ -102,6 +105,8 @@ Style styleOf(const QString& words) {
     Style style;
     for (const QString& spelt : words.split(u'+')) {
         const QString word = spelt.trimmed().toLower();
+        if (word == u"vbdefaultbutton2")
+            style.focused = 1;
         for (const IconWord& entry : IconWords)
             if (word == QLatin1String(entry.word))
                 style.icon = entry.number;
@@ -116,6 +121,17 @@ Style styleOf(const QString& words) {
     return style;
 }
 
+/// Puts a dialog that is about to be seen in the middle of the window that it belongs to, and
+/// before it for as long as it stands.
+void placeOver(QDialog& dialog, const QWidget* owner) {
+    if (owner == nullptr || owner == &dialog)
+        return;
+    dialog.layout()->activate(); // which gives it the size that it needs this time
+    dialog.adjustSize();
+    dialog.windowHandle()->setTransientParent(owner->windowHandle());
+    dialog.move(owner->frameGeometry().center() - dialog.rect().center());
+}
+
 /// Asks for one line of text, in the scheme that is in force.
 class TextPrompt : public QDialog {
 public:
@@ -123,6 +139,12 @@ public:
 
     /// Shows the question and waits; nothing when the user gives no text.
     QString ask(const QString& question);
+
+protected:
+    void showEvent(QShowEvent* event) override {
+        QDialog::showEvent(event);
+        placeOver(*this, QApplication::activeWindow());
+    }
 
 private:
     QLabel* m_question;
@@ -268,12 +290,16 @@ int MsgForm::show(const QString& text, const QString& style) {
     qDeleteAll(std::exchange(m_buttons, {}));
     for (const Choice& choice : wanted.buttons)
         addButton(QLatin1String(choice.caption), choice.result);
-    m_buttons.first()->setFocus();
+    m_buttons.value(wanted.focused, m_buttons.first())->setFocus();
     setAccessibleDescription(text);
     QAccessibleEvent alert(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
-    setAttribute(Qt::WA_Moved, false); // in the middle of its window, wherever it stood last
     return exec();
+}
+
+void MsgForm::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    placeOver(*this, QApplication::activeWindow());
 }
 
 int MsgForm::message(std::string_view text, std::string_view style) {

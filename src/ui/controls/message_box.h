@@ -29,6 +29,9 @@ public:
     int message(std::string_view text, std::string_view style) override;
     std::string ask(std::string_view question) override;
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
     QWidget* makeMessage();
     /// Shows the icon of a number and hides the others.

@@ -2,6 +2,7 @@
 
 #include "core/base/product.h"
 #include "core/play/board_geometry.h"
+#include "core/play/board_style.h"
 #include "ui/drawing/board_renderer.h"
 #include "ui/drawing/board_surface.h"
 #include "ui/drawing/hexagon_tag.h"
@@ -82,8 +83,7 @@ void drawLabels(QPainter& painter, const BoardPicture& picture, const Appearance
 }
 
 Colour solutionColour(const BoardPicture& picture) {
-    return picture.look == BoardPicture::Look::Copy ? CopyLine
-                                                    : picture.appearance.SchemeColours[slot::Green];
+    return picture.look == BoardPicture::Look::Copy ? CopyLine : solutionColour(picture.appearance);
 }
 
 } // namespace
@@ -92,6 +92,7 @@ Appearance appearanceOf(const BoardPicture& picture) {
     Appearance appearance = picture.appearance;
     if (picture.look == BoardPicture::Look::Game)
         return appearance;
+    appearance.SplitHexas = false; // borders of the background's colour would be white on white
     appearance.HexaBorderColour = CopyLine;
     appearance.FixedNumberColour = CopyLine;
     appearance.HexaFillColour = CopyBackground;

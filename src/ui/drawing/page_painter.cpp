@@ -3,6 +3,7 @@
 #include "core/base/product.h"
 
 #include <QFontMetricsF>
+#include <QGuiApplication>
 #include <QPaintEngine>
 #include <QPainter>
 #include <QPainterPath>
@@ -73,7 +74,7 @@ void drawText(QPainter& painter, QPointF point, const QString& text, const PageT
 
 PagePainter::PagePainter(QPainter& painter, const Appearance& appearance)
     : m_painter(painter)
-    , m_family(QString::fromStdString(appearance.NumberFont))
+    , m_family(QGuiApplication::font().family())
     , m_renderer(painter, m_board, paperStyle(appearance), appearance.NumberFont, Digits::AsText) {}
 
 void PagePainter::drawBoard(const Board& board, int number, bool solution, const Rect& area) {

@@ -171,7 +171,7 @@ QLayout* Form2x::makeSchemeButtons() {
 QGroupBox* Form2x::makeFontFrame() {
     m_fonts = named(u"List2"_s, new ChoiceList(this));
     m_fonts->setMinimumSize(ListWidth, ListHeight);
-    m_fonts->addItems(QFontDatabase::families());
+    m_fonts->addItems(QFontDatabase::families(QFontDatabase::Latin));
     connect(m_fonts, &ChoiceList::chosen, this, [this](int row) {
         react([&] { m_editor.List2_MouseUp(m_fonts->item(row)->text().toStdString()); });
     });
@@ -261,6 +261,7 @@ void Form2x::react(Action action, void (Form2x::*after)()) {
 void Form2x::showOptions() {
     m_editor.open();
     activate();
+    setAttribute(Qt::WA_Moved, false); // in the middle of its window, wherever it stood last
     show();
     m_schemes->setFocus();
 }

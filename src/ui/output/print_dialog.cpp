@@ -165,7 +165,7 @@ void Form5::chooseFile() {
     m_path = chosen;
     m_count = count;
     m_file->setText(pathText(chosen));
-    m_file->setToolTip(pathText(chosen));
+    m_file->setToolTip(plainToolTip(pathText(chosen)));
     m_to->setText(QString::number(count));
 }
 

@@ -1,6 +1,7 @@
 #include "ui/play/board_view.h"
 
 #include "core/play/board_geometry.h"
+#include "core/play/board_style.h"
 #include "ui/drawing/qt_values.h"
 #include "ui/play/board_accessible.h"
 #include "ui/play/board_keys.h"
@@ -139,7 +140,7 @@ void BoardView::DrawSolution(Colour colour) {
 
 void BoardView::applyAppearance() {
     m_surface.setAppearance(m_appearance);
-    m_marker.setColour(toQColor(m_appearance.SchemeColours[slot::Red]));
+    m_marker.setColour(toQColor(markerColour(m_appearance)));
     DrawBoard();
 }
 

@@ -111,7 +111,7 @@ void Form3::chooseFile() {
 void Form3::showFile(const std::filesystem::path& path) {
     m_path = path;
     m_file->setText(pathText(path));
-    m_file->setToolTip(pathText(path));
+    m_file->setToolTip(plainToolTip(pathText(path)));
 }
 
 int Form3::number() const {

@@ -44,7 +44,7 @@ StatusLine::StatusLine(QWidget* parent)
 
 void StatusLine::showFile(const std::filesystem::path& path) {
     m_fileName->setText(pathText(path.filename()));
-    m_fileName->setToolTip(pathText(path));
+    m_fileName->setToolTip(plainToolTip(pathText(path)));
 }
 
 void StatusLine::showFileText(const QString& text) {

@@ -46,5 +46,16 @@ TEST(BoardStyle, SpacedHexagonsAreBorderedByTheBackgroundAndPaperByItsOwnWidth) 
     EXPECT_LT(paperStyle(appearance).borderWidth, 20) << "room for the cells is kept";
 }
 
+TEST(BoardStyle, SolutionAndMarkerAreSeenOnEveryFill) {
+    Appearance appearance; // with green (0, 128, 0) and red (255, 0, 0)
+    for (const auto& [fill, solution, marker] : {std::tuple{White, RGB(0, 128, 0), RGB(255, 0, 0)},
+                                                 {RGB(0, 128, 0), White, White},
+                                                 {RGB(250, 150, 20), Black, Black}}) {
+        appearance.HexaFillColour = fill;
+        EXPECT_EQ(solutionColour(appearance), solution) << fill;
+        EXPECT_EQ(markerColour(appearance), marker) << fill;
+    }
+}
+
 } // namespace
 } // namespace tessaly

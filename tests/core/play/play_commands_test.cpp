@@ -75,7 +75,7 @@ TEST_F(PlayCommandsTest, WhatTakesEntriesAwayAsksFirst) {
         prompts.answers = {answer::Yes};
         (commands.*command)();
         EXPECT_NE(game.board, before);
-        EXPECT_EQ(prompts.shown.back(), (Message{question, "vbyesno+vbquestion"}));
+        EXPECT_EQ(prompts.shown.back(), (Message{question, "vbyesno+vbquestion+vbdefaultbutton2"}));
         EXPECT_EQ(display.message, said);
     }
     EXPECT_EQ(game.board, fresh);

@@ -72,7 +72,9 @@ TEST_F(OptionsEditorTest, StartsFromTheSettingsWithNoSchemeSelected) {
 }
 
 TEST_F(OptionsEditorTest, AChosenSchemeShowsWithNeutralSamplesAndChangesNoSetting) {
-    for (const auto& [index, neutral] : {std::pair{1U, Black}, {2U, White}}) {
+    // The user's numbers take the scheme's dark red where it reads.
+    for (const auto& [index, neutral, own] :
+         {std::tuple{1U, Black, RGB(128, 0, 0)}, {2U, White, White}}) {
         editor.List1_MouseUp(index);
         const std::string& name = editor.schemeNames()[index];
         const Colour background = stored(name + ".col")[slot::Background];
@@ -80,9 +82,9 @@ TEST_F(OptionsEditorTest, AChosenSchemeShowsWithNeutralSamplesAndChangesNoSettin
         EXPECT_EQ(editor.schemeCaption(), "Colour Scheme: " + name);
         EXPECT_EQ(editor.selectedColour(), background);
         EXPECT_EQ(editor.samples().HexaFillColour, background);
-        for (Colour colour : {editor.samples().HexaBorderColour, editor.samples().FixedNumberColour,
-                              editor.samples().UserNumberColour})
-            EXPECT_EQ(colour, neutral);
+        EXPECT_EQ(editor.samples().HexaBorderColour, neutral);
+        EXPECT_EQ(editor.samples().FixedNumberColour, neutral);
+        EXPECT_EQ(editor.samples().UserNumberColour, own);
     }
     EXPECT_EQ(settings, before);
     editor.open();
@@ -209,7 +211,7 @@ TEST_F(OptionsEditorTest, ReplacesAndDeletesTheSelectedSchemeAfterAQuestion) {
     editor.List1_MouseUp(2);
     EXPECT_EQ(told(&OptionsEditor::RepSch, {answer::No}), "Replace colour scheme: night");
     EXPECT_EQ(told(&OptionsEditor::DelSch, {answer::None}), "Delete colour scheme: night");
-    EXPECT_EQ(prompts.shown.back().style, "vbYesNo+vbquestion");
+    EXPECT_EQ(prompts.shown.back().style, "vbYesNo+vbquestion+vbdefaultbutton2");
     EXPECT_EQ(test::contentOf(m_file), untouched);
 
     editor.setSelectedColour(Orange);

@@ -212,8 +212,8 @@ TEST_F(PuzzleFileCommandsTest, DeleteAsksRemovesThePuzzleAndShowsTheFirst) {
     for (const int no : {answer::No, answer::None}) {
         prompts.answers = {no};
         files.mnudelete();
-        EXPECT_EQ(lastMessage(),
-                  (Message{"Delete current puzzle from file?", "vbyesno+vbquestion"}));
+        EXPECT_EQ(lastMessage(), (Message{"Delete current puzzle from file?",
+                                          "vbyesno+vbquestion+vbdefaultbutton2"}));
         EXPECT_EQ(test::contentOf(path), content);
     }
     prompts.answers = {answer::Yes};

@@ -11,6 +11,7 @@
 #include <QTest>
 #include <QTextEdit>
 #include <QTimer>
+#include <QWindow>
 
 namespace tessaly {
 namespace {
@@ -110,6 +111,21 @@ TEST_F(MessageBoxTest, ItsButtonsAnswerByMouseAndByKeys) {
              {[&] { QTest::keyClick(&m_form, Qt::Key_Return); }, answer::None},
          })
         EXPECT_EQ(show(u"Well?"_s, YesNoCancel, row.act), row.answer);
+}
+
+TEST_F(MessageBoxTest, StandsOverItsWindowWithTheFocusWhereTheStyleSays) {
+    QWidget window;
+    window.setGeometry(200, 100, 500, 400);
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    for (const QString& text : {u"Delete?"_s, u"A longer question?\n"_s.repeated(9)})
+        show(text, u"vbyesno+vbdefaultbutton2"_s, [&] {
+            EXPECT_TRUE(QTest::qWaitFor([&] { return button(1)->hasFocus(); })) << "not Yes";
+            EXPECT_EQ(m_form.windowHandle()->transientParent(), window.windowHandle());
+            const QPoint off = m_form.geometry().center() - window.frameGeometry().center();
+            EXPECT_LE(off.manhattanLength(), 4) << text.toStdString();
+        });
 }
 
 TEST_F(MessageBoxTest, AKeyGoingDownSinksTheButtonAndComingUpLetsItGo) {

@@ -39,7 +39,9 @@ TEST(BoardPicture, ACopyKeepsThePlayersColourWhereItIsSeenOnWhite) {
     const Board board;
     EXPECT_EQ(appearanceOf({board, appearance}).UserNumberColour, RGB(20, 60, 200));
     appearance.UserNumberColour = RGB(240, 255, 200);
+    appearance.SplitHexas = true;
     EXPECT_EQ(appearanceOf({board, appearance}).UserNumberColour, Black);
+    EXPECT_FALSE(appearanceOf({board, appearance}).SplitHexas) << "white borders on white";
 }
 
 TEST(BoardPicture, VectorPicturesShowTheSame) {

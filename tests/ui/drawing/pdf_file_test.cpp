@@ -121,7 +121,7 @@ TEST_F(PdfFile, DrawsEntriesAndMarksAsTheyStandInFontsThatItHolds) {
         EXPECT_EQ(std::count_if(words.begin(), words.end(),
                                 [](const auto& word) { return word.text == u"246"; }),
                   1);
-        EXPECT_EQ(pdf.fonts().size(), 2) << "a regular and a bold one";
+        EXPECT_GE(pdf.fonts().size(), 2) << "a regular and a bold one";
         for (const QString& line : pdf.fonts())
             EXPECT_TRUE(line.contains(u" yes "_s)) << line.toStdString();
     }

@@ -103,7 +103,8 @@ TEST_F(Printing, ARangeGoesToAPdfFileOnceTheUserAgreesToReplaceIt) {
     game.prompts.answers = {answer::No, answer::Yes};
     printMultipleToPdf(u"5"_s, u"10"_s);
     EXPECT_EQ(game.prompts.shown.back(),
-              (ScriptedPrompts::Message{"OverWrite file: " + pdf + " ?", "vbyesno+vbquestion"}));
+              (ScriptedPrompts::Message{"OverWrite file: " + pdf + " ?",
+                                        "vbyesno+vbquestion+vbdefaultbutton2"}));
     EXPECT_EQ(test::contentOf(pdf), "old");
     printMultipleToPdf(u"5"_s, u"10"_s);
     EXPECT_EQ(PdfDocument(pdf).pageCount(), 3);
