@@ -28,6 +28,8 @@ protected:
         const std::string command = "exec " TESSALY_CLI " " + line + " >>" + outPath + " 2>" +
                                     (folder / "err.txt").string();
         return test::startChild([&] {
+            for (const int each : {SIGINT, SIGTERM, SIGHUP}) // whatever the tests ignore
+                ::signal(each, SIG_DFL);
             const rlimit limit{sizeLimit, sizeLimit};
             return ::setrlimit(RLIMIT_FSIZE, &limit) == 0 &&
                    ::execl("/bin/sh", "sh", "-c", command.c_str(), nullptr) == 0;

@@ -10,7 +10,7 @@
 namespace tessaly {
 namespace {
 
-constexpr int BoardsOfEachKind = 1000;
+constexpr int BoardsOfEachKind = 700;
 
 struct RulePair {
     const char* name;

@@ -75,7 +75,7 @@ TEST(SolutionCounter, AgreesWithTryingEveryArrangement) {
     constexpr int Limit = 40;
     Chance chance(1);
     std::map<int, int> boardsWith;
-    for (std::uint32_t i = 0; i < 150; ++i) {
+    for (std::uint32_t i = 0; i < 75; ++i) {
         const Board board = withRandomGivens(chance, 58 + i % 35, i % 3 == 0 ? 1 : 0);
         const SolutionCount count = countSolutions(board, {Limit});
         EXPECT_TRUE(count.isCertain);
@@ -83,7 +83,7 @@ TEST(SolutionCounter, AgreesWithTryingEveryArrangement) {
         ++boardsWith[std::min(count.found, 2)];
     }
     for (int found = 0; found <= 2; ++found)
-        EXPECT_GT(boardsWith[found], 15) << found;
+        EXPECT_GT(boardsWith[found], 8) << found;
 }
 
 TEST(SolutionCounter, StopsWhereItIsTold) {
