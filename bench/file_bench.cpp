@@ -174,9 +174,8 @@ void deleteOneBesidePlainCopy(benchmark::State& state) {
         constexpr int Number = MillionRecords / 2;
         const PuzzleRead read = files.ReadPuzzle(path, Number, board);
         Outcome deleted;
-        deleting.push_back(secondsOf([&] {
-            deleted = files.DeletePuzzle(path, Number, read.record, hugeFile().folder().path());
-        }));
+        deleting.push_back(
+            secondsOf([&] { deleted = files.DeletePuzzle(path, Number, read.record); }));
         if (!copied || !deleted.ok())
             state.SkipWithError("a copy or a deletion failed");
         state.SetIterationTime(deleting.back());

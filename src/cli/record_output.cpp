@@ -33,7 +33,7 @@ Outcome RecordOutput::open() {
     bool hasLines = false;
     bool hasRecord = false;
     Board board;
-    const Outcome read = forEachRecord(m_path, [&](RecordLine line) {
+    Outcome read = forEachRecord(m_path, [&](RecordLine line) {
         m_known.insert(puzzleHash(line.text));
         hasLines = true;
         hasRecord = hasRecord || line.read(board).ok();

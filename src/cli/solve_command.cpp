@@ -47,8 +47,9 @@ std::string report(int number, int result, const Board& board) {
 int solve(const SolveOptions& options, const Console& console) {
     int status = exit_status::Done;
     int lastNumber = 0;
-    const auto& [path, number, rules] = options;
-    const auto solveBoard = rules == 0 ? solveWithAllRules : solveWithBasicRules;
+    const auto& path = options.file;
+    const int number = options.number;
+    const auto solveBoard = options.rules == 0 ? solveWithAllRules : solveWithBasicRules;
     const Outcome outcome = forEachRecord(path, [&](RecordLine line) {
         lastNumber = line.number;
         if (number != 0 && line.number != number)
