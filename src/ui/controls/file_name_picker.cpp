@@ -8,6 +8,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QHBoxLayout>
+#include <QMouseEvent>
 #include <QStandardPaths>
 
 #include <filesystem>
