@@ -18,7 +18,11 @@ TEST_F(Tools, WhatIsWrongIsOneLineAndTheOutputStaysAsItWas) {
         put(other, "old");
         std::filesystem::remove(file);
         expectRefused(line + other, exit_status::Failed, ": " + file + ": ");
-        put(file, record + "\r\n" + record.substr(1) + "\r\n" + record);
+        put(file, std::string(record)
+                      .append("\r\n")
+                      .append(record.substr(1))
+                      .append("\r\n")
+                      .append(record));
         expectRefused(line + other, exit_status::Failed, ": " + file + ": line 2: ");
         EXPECT_EQ(contentOf(other), "old");
         put(file, "");

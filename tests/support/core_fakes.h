@@ -96,7 +96,7 @@ struct SessionScene {
     SessionScene() { session.ProgramFolder = folder.path() / ""; }
 
     std::filesystem::path fileOf(const std::string& name, const std::string& content) const {
-        const std::filesystem::path path = session.ProgramFolder / name;
+        std::filesystem::path path = session.ProgramFolder / name;
         EXPECT_TRUE(replaceFile(path, content).ok());
         return path;
     }

@@ -48,7 +48,7 @@ TEST(PuzzleRecord, ProgressIsWrittenForSingleNumbersOfThePlayerAndReadBack) {
     std::string numbers(BoardCellCount, ' ');
     for (int number = 0; number <= 6; ++number) {
         board.CellNum[3 + number][2] = std::to_string(number);
-        numbers[static_cast<std::size_t>(6 * (2 + number) + 1)] = static_cast<char>('0' + number);
+        numbers[6 * (2 + static_cast<std::size_t>(number)) + 1] = static_cast<char>('0' + number);
     }
     EXPECT_EQ(PuzzleRecord(board), withProgress(numbers));
     board.CellNum[2][1].clear();

@@ -69,9 +69,11 @@ TEST(PuzzleAudit, FindsWhatIsWrong) {
              {givenWhere(easy, isOutside), "a cell of the blank hexagon is not given"},
              {givenWhere(hard, isNoHint), "the hint is not given"}}) {
         const Findings findings = auditRecord(record);
-        EXPECT_TRUE(std::any_of(findings.begin(), findings.end(), [&](const std::string& found) {
-            return found.find(finding) != std::string::npos;
-        })) << finding;
+        EXPECT_TRUE(std::any_of(findings.begin(), findings.end(),
+                                [&part = finding](const std::string& found) {
+                                    return found.find(part) != std::string::npos;
+                                }))
+            << finding;
     }
     EXPECT_EQ(auditRecord(swapped).size(), 2U) << "both cells have one across";
     EXPECT_EQ(auditRecord(givenWhere(hard, isAnywhere)).size(), 1U);
