@@ -18,9 +18,13 @@ struct BoardInputTest : testing::Test, PlayScene {
         game.board = puzzleWithoutGivens();
         pointAt(Cell);
     }
-    void pointAt(CellId cell) { input.Picture2_MouseMove(numberCentre(cell)); }
+    void movePointerTo(Point point) {
+        pointer = point;
+        input.Picture2_MouseMove(point);
+    }
+    void pointAt(CellId cell) { movePointerTo(numberCentre(cell)); }
     void click(PointerButton button = PointerButton::Left) {
-        input.Picture2_MouseDown(button, numberCentre(input.selection()));
+        input.Picture2_MouseDown(button, pointer);
         input.Picture2_MouseUp(button);
     }
     /// A key that is also a character arrives through both.
@@ -32,6 +36,8 @@ struct BoardInputTest : testing::Test, PlayScene {
         }
     }
     const std::string& entry(CellId cell = Cell) const { return game.board.CellNum[cell]; }
+
+    Point pointer;
 };
 
 TEST_F(BoardInputTest, SelectionFollowsThePointerOverCellsThatMayBeFilled) {
@@ -43,7 +49,7 @@ TEST_F(BoardInputTest, SelectionFollowsThePointerOverCellsThatMayBeFilled) {
     game.board.FixedCell[1][2] = true;
     for (const Point outside : {numberCentre({1, 2}), numberCentre({5, 3}), Point{-5, 3}}) {
         pointAt(Cell);
-        input.Picture2_MouseMove(outside);
+        movePointerTo(outside);
         EXPECT_EQ(input.SelHex(), -1);
         EXPECT_EQ(input.SelCell(), -1);
         EXPECT_FALSE(display.marker);
