@@ -22,9 +22,6 @@ public:
     FileCalls& operator=(const FileCalls&) = delete;
     ~FileCalls();
 
-    /// How many calls there were.
-    int count() const { return m_count; }
-
     /// What is asked before each call of this thread: what `Before` answers, or 0.
     static int errorOf(std::string_view name);
 

@@ -11,18 +11,18 @@
 
 namespace tessaly {
 
-/// The records of a puzzle file among the tests' own data, without their line ends.
-inline std::vector<std::string> sampleRecords(const std::string& name) {
-    std::ifstream file(TESSALY_TEST_DATA "/puzzles/" + name, std::ios::binary);
-    if (!file)
-        throw std::runtime_error("no sample puzzles: " + name);
+/// The records of a puzzle file, without their line ends.
+inline std::vector<std::string> recordsOf(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
     std::vector<std::string> records;
-    for (std::string line; std::getline(file, line);) {
-        if (!line.empty() && line.back() == '\r')
-            line.pop_back();
+    for (std::string line; std::getline(file, line, '\r'); file.get())
         records.push_back(line);
-    }
     return records;
+}
+
+/// The records of a puzzle file among the tests' own data.
+inline std::vector<std::string> sampleRecords(const std::string& name) {
+    return recordsOf(TESSALY_TEST_DATA "/puzzles/" + name);
 }
 
 inline Board boardOf(const std::string& record) {
@@ -45,14 +45,6 @@ std::string givenWhere(const std::string& record, const IsGiven& isGiven) {
 /// A puzzle that the rules leave open and sound: only the cells on the rim are given.
 inline std::string recordOfTheRim(const std::string& record) {
     return givenWhere(record, [](CellId cell) { return !SideLink[cell]; });
-}
-
-/// Hexagons 1 and 3 meet at side 4 of hexagon 1 and hold all six digits between them.
-inline Board contradictoryBoard() {
-    Board board;
-    board.CellNum[1] = {"", "1", "2", "3", "16", "", ""};
-    board.CellNum[3] = {"", "", "4", "5", "6", "", ""};
-    return board;
 }
 
 /// How a failing test shows a board.

@@ -1,9 +1,7 @@
 // What becomes of files when a system call fails, or another program acts between two of them.
 
 #include "core/board/arrangements.h"
-#include "core/board/puzzle_store.h"
 #include "core/files/file_access.h"
-#include "core/files/file_descriptor.h"
 #include "core/files/locked_file.h"
 #include "core/session/program_folder.h"
 
@@ -15,127 +13,20 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
-#include <cstdlib>
 #include <fcntl.h>
-#include <sstream>
-#include <vector>
 
 namespace tessaly {
 namespace {
 
 namespace fs = std::filesystem;
 using Names = std::set<std::string>;
-using faults::Operation;
 using faults::Scene;
 using test::contentOf;
 using test::failing;
 using test::FileCalls;
 using test::meanwhile;
 using test::put;
-using test::recordFile;
 using test::recordNumbered;
-using test::TemporaryFolder;
-
-std::ptrdiff_t openFiles() {
-    return std::distance(fs::directory_iterator("/proc/self/fd"), fs::directory_iterator());
-}
-
-/// Temporary folders lie in memory while this lives, where that can be: flushing a disk takes long.
-class MemoryFolders {
-public:
-    MemoryFolders()
-        : m_before(fs::temp_directory_path()) {
-        if (fs::is_directory("/dev/shm"))
-            ::setenv("TMPDIR", "/dev/shm", 1);
-    }
-    MemoryFolders(const MemoryFolders&) = delete;
-    MemoryFolders& operator=(const MemoryFolders&) = delete;
-    ~MemoryFolders() { ::setenv("TMPDIR", m_before.c_str(), 1); }
-
-private:
-    fs::path m_before;
-};
-
-/// Tries one operation again and again, each time with another call failing.
-class FaultLoop {
-public:
-    FaultLoop(const Operation& operation, int records)
-        : m_operation(operation)
-        , m_records(records) {
-        EXPECT_EQ(m_before.make(records).problem, "");
-        renew(m_after);
-        const auto work = operation.prepare(m_after);
-        const FileCalls calls([](std::string_view, int) { return 0; });
-        m_succeeds = work().ok();
-        m_calls = calls.count();
-    }
-
-    void run() const {
-        for (int number = 0; number < m_calls; ++number) {
-            attempt(number, number + 1, EIO);
-            attempt(number, m_calls + 1000, ENOSPC);
-            attempt(number, number + 1, EINTR);
-        }
-    }
-
-private:
-    void renew(const Scene& scene) const {
-        fs::remove_all(scene.folder());
-        fs::copy(m_before.folder(), scene.folder(), fs::copy_options::recursive);
-    }
-
-    /// The calls from `first` up to `last` fail.
-    void attempt(int first, int last, int error) const {
-        std::ostringstream where;
-        where << m_operation.name << " at " << m_records << " records, error " << error
-              << " at call " << first << (last > first + 1 ? " and later, " : ", ");
-        renew(m_work);
-        const auto work = m_operation.prepare(m_work);
-        Outcome outcome;
-        bool flushFailed = false;
-        {
-            const FileCalls calls([&](std::string_view name, int number) {
-                const bool fails = number >= first && number < last;
-                if (number == first)
-                    where << name;
-                flushFailed = flushFailed || (fails && error != EINTR && name == "fsync");
-                return fails ? error : 0;
-            });
-            outcome = work();
-        }
-        EXPECT_FALSE(outcome.ok() && flushFailed) << where.str();
-        if (error == EINTR && m_succeeds) {
-            EXPECT_EQ(outcome.problem, "") << where.str();
-        }
-        std::ostringstream left;
-        EXPECT_EQ(judge(m_operation, m_before, m_after, m_work, outcome.ok() ? "done\n" : "", left)
-                      .problem,
-                  "")
-            << where.str() << ", left: " << left.str();
-    }
-
-    const Operation& m_operation;
-    int m_records;
-    TemporaryFolder m_folder;
-    Scene m_before{m_folder / "before"};
-    Scene m_after{m_folder / "after"};
-    Scene m_work{m_folder / "work"};
-    bool m_succeeds = false;
-    int m_calls = 0;
-};
-
-TEST(FileFaults, NoFailingCallLosesOrTearsAnything) {
-    const MemoryFolders inMemory;
-    const std::ptrdiff_t before = openFiles();
-    for (const Operation& operation : faults::operations())
-        // A batch is several times what "append" is.
-        if (operation.name != "batch")
-            for (int records : {-1, 136})
-                FaultLoop(operation, records).run();
-    EXPECT_EQ(openFiles(), before);
-}
-
-// ---- between two calls
 
 /// What `work` says while another program acts, or a call fails, as `before` has it.
 std::string problemWhile(FileCalls::Before before, const std::function<Outcome()>& work) {
@@ -143,12 +34,62 @@ std::string problemWhile(FileCalls::Before before, const std::function<Outcome()
     return work().problem;
 }
 
+/// Tries an operation again and again, each time with other calls failing.
+void tryFaults(const faults::Operation& operation, int records) {
+    const test::TemporaryFolder folder;
+    const Scene before{folder / "before"}, after{folder / "after"}, work{folder / "work"};
+    const auto renew = [&](const Scene& scene) {
+        fs::remove_all(scene.folder);
+        fs::copy(before.folder, scene.folder, fs::copy_options::recursive);
+        return [&] { return operation.work(scene); };
+    };
+    ASSERT_EQ(before.make(records).problem, "");
+    int calls = 0;
+    const auto count = [&](std::string_view, int) {
+        ++calls;
+        return 0;
+    };
+    const bool succeeds = problemWhile(count, renew(after)).empty();
+    // The calls from `first` up to `last` fail.
+    const auto attempt = [&](int first, int last, int error) {
+        std::string_view call;
+        bool flushFailed = false;
+        const auto fail = [&](std::string_view name, int number) {
+            const bool fails = number >= first && number < last;
+            call = number == first ? name : call;
+            flushFailed = flushFailed || (fails && error != EINTR && name == "fsync");
+            return fails ? error : 0;
+        };
+        const std::string problem = problemWhile(fail, renew(work));
+        const bool isRight = problem.empty() ? !flushFailed : error != EINTR || !succeeds;
+        std::string left;
+        const Outcome judged = judge(operation, before, after, work, problem.empty(), left);
+        EXPECT_TRUE(isRight && judged.ok())
+            << operation.name << " at " << records << " records, error " << error << " from call "
+            << first << ", " << call << ", up to " << last << ", left: " << left << problem
+            << judged.problem;
+    };
+    for (int number = 0; number < calls; ++number) {
+        attempt(number, number + 1, EIO);
+        attempt(number, calls + 1000, ENOSPC);
+        attempt(number, number + 1, EINTR);
+    }
+}
+
+TEST(FileFaults, NoFailingCallLosesOrTearsAnything) {
+    const fs::path open = "/proc/self/fd";
+    const auto before = std::distance(fs::directory_iterator(open), {});
+    for (const faults::Operation& operation : faults::operations())
+        for (int records : {-1, 300})
+            tryFaults(operation, records);
+    EXPECT_EQ(std::distance(fs::directory_iterator(open), {}), before);
+}
+
 class FileFaultsTest : public testing::Test {
 protected:
-    Names names() const { return m_folder.names(); }
     /// The one hidden file beside those of the user.
     fs::path scratch() const {
-        for (const std::string& name : names())
+        for (const std::string& name : m_folder.names())
             if (name.starts_with(".tessaly-") && name.ends_with(".tmp") && name.size() > 20)
                 return m_folder / name;
         return {};
@@ -170,12 +111,12 @@ protected:
         return [this, content] { return replaceFile(file, content); };
     }
 
-    TemporaryFolder m_folder;
-    fs::path file = m_folder / "a.txt";
+    test::TemporaryFolder m_folder;
+    const fs::path file = m_folder / "a.txt";
+    const std::function<void()> removed = [this] { fs::remove(file); };
 };
 
 TEST_F(FileFaultsTest, AnAppendedLineStandsInTheFileThatTheNameMeans) {
-    const auto removed = [&] { fs::remove(file); };
     const struct {
         const char* call;
         std::function<void()> work;
@@ -194,23 +135,23 @@ TEST_F(FileFaultsTest, AnAppendedLineStandsInTheFileThatTheNameMeans) {
         EXPECT_EQ(problemWhile(meanwhile(row.call, row.work), appending(row.line)), "") << row.when;
         EXPECT_EQ(contentOf(file), row.left) << row.when;
     }
-    EXPECT_EQ(names(), Names{"a.txt"});
+    EXPECT_EQ(m_folder.names(), Names{"a.txt"});
 }
 
 TEST_F(FileFaultsTest, OnlyWhatIsOnesOwnIsTakenBack) {
     put(file, "old\n");
-    const auto foreign = [&] { std::ofstream(file, std::ios::app) << "foreign\n"; };
-    EXPECT_EQ(problemWhile(failing("fsync", EIO), appending("new\n")),
-              told("cannot be flushed to the disk: Input/output error"));
+    std::string foreign;
+    const auto fail = [&](std::string_view name, int) {
+        if (name == "fsync")
+            std::ofstream(file, std::ios::app) << foreign;
+        return name == "fsync" ? EIO : 0;
+    };
+    const std::string problem = told("cannot be flushed to the disk: Input/output error");
+    EXPECT_EQ(problemWhile(fail, appending("new\n")), problem);
     EXPECT_EQ(contentOf(file), "old\n");
-    const std::string left = problemWhile(
-        [&](std::string_view name, int) {
-            if (name == "fsync")
-                foreign();
-            return name == "fsync" ? EIO : 0;
-        },
-        appending("new\n"));
-    EXPECT_TRUE(left.ends_with("; a part of what was written may stand at its end")) << left;
+    foreign = "foreign\n";
+    EXPECT_EQ(problemWhile(fail, appending("new\n")),
+              problem + "; a part of what was written may stand at its end");
     EXPECT_EQ(contentOf(file), "old\nnew\nforeign\n");
 }
 
@@ -232,11 +173,10 @@ TEST_F(FileFaultsTest, OnlyLeftoversOfDeadProcessesAreCleared) {
     EXPECT_EQ(problemWhile(failing("flock", ENOLCK, 0, 1000), replacing("new")), "");
     EXPECT_TRUE(fs::exists(torn)) << "nobody knows whether its writer lives";
     for (const auto& work : {appending("x\n"), replacing("new")}) {
-        EXPECT_EQ(work().problem, "");
-        EXPECT_EQ(names(), own);
         put(torn, "torn");
+        EXPECT_EQ(work().problem, "");
+        EXPECT_EQ(m_folder.names(), own);
     }
-    fs::remove(torn);
 
     const auto taken = [&] { fs::remove(scratch()); };
     EXPECT_EQ(problemWhile(meanwhile("flock", taken, 1), replacing("newer")), "");
@@ -250,86 +190,88 @@ TEST_F(FileFaultsTest, OnlyLeftoversOfDeadProcessesAreCleared) {
         return sink.write("newest");
     };
     EXPECT_EQ(replaceFile(file, write).problem, "");
-    EXPECT_EQ(names(), own);
+    EXPECT_EQ(m_folder.names(), own);
 }
 
-TEST_F(FileFaultsTest, AFileThatAppearsOrGoesWhileItIsWrittenIsNotOverwritten) {
-    EXPECT_NE(problemWhile(meanwhile("fsync", replacedBy("foreign")), replacing("ours")), "");
-    EXPECT_EQ(contentOf(file), "foreign");
-    EXPECT_NE(problemWhile(meanwhile("fsync", [&] { fs::remove(file); }), replacing("ours")), "");
-    EXPECT_EQ(names(), Names{});
-}
-
-TEST_F(FileFaultsTest, WhereNothingCanBeLockedOrAFolderNotFlushedFilesAreStillSaved) {
-    for (int error : {ENOLCK, EOPNOTSUPP, ENOSYS})
-        EXPECT_EQ(problemWhile(failing("flock", error, 0, 1000), replacing("locked by nobody")),
-                  "");
-    EXPECT_EQ(problemWhile(failing("fsync", EINVAL, 1), replacing("flushed as a whole")), "");
-    EXPECT_EQ(contentOf(file), "flushed as a whole");
-    EXPECT_EQ(problemWhile(failing("open", EACCES), replacing("x")),
-              told("cannot be written: Permission denied"))
-        << "the system says which links may be followed";
-    // A folder that may not be listed can neither be locked nor flushed. The file itself and what
-    // is left in the folder are opened before it.
-    EXPECT_EQ(problemWhile(failing("open", EACCES, 1), replacing("in a folder without names")), "");
-    EXPECT_EQ(contentOf(file), "in a folder without names");
-    EXPECT_EQ(problemWhile(failing("fsync", EIO, 1), replacing("not yet on the disk")),
-              told("was saved, but its folder cannot be flushed to the disk: Input/output error"));
-    EXPECT_EQ(contentOf(file), "not yet on the disk");
-}
-
-TEST_F(FileFaultsTest, RightsThatCannotBeKeptAreNeverGivenToOthers) {
-    put(file, "old");
-    fs::permissions(file, fs::perms(0640));
-    EXPECT_EQ(problemWhile(failing("fchmod", EPERM), replacing("new")),
-              told("its permissions cannot be kept: Operation not permitted"));
-    EXPECT_EQ(contentOf(file), "old");
+TEST_F(FileFaultsTest, AReplacementIsDoneAsFarAsTheSystemAllows) {
+    const std::string changed = "was changed by another program at the same moment";
+    const struct {
+        std::string before;
+        FileCalls::Before calls;
+        std::string problem;
+        std::string left;
+    } rows[] = {
+        {"", meanwhile("fsync", replacedBy("foreign")), changed, "foreign"},
+        {"old", meanwhile("fsync", replacedBy("foreign")), changed, "foreign"},
+        {"old", meanwhile("fsync", removed), changed, ""},
+        {"", failing("flock", ENOLCK, 0, 1000), "", "ours"},
+        {"", failing("flock", EOPNOTSUPP, 0, 1000), "", "ours"},
+        {"old", failing("flock", ENOSYS, 0, 1000), "", "ours"},
+        // The system says which links may be followed.
+        {"old", failing("open", EACCES), "cannot be written: Permission denied", "old"},
+        // A folder that may not be listed can neither be locked nor flushed. The file itself and
+        // what is left in the folder are opened before it.
+        {"old", failing("open", EACCES, 1), "", "ours"},
+        {"old", failing("fsync", EINVAL, 1), "", "ours"},
+        {"old", failing("fsync", EIO, 1),
+         "was saved, but its folder cannot be flushed to the disk: Input/output error", "ours"},
+        {"old", failing("fchmod", EPERM), "its permissions cannot be kept: Operation not permitted",
+         "old"},
+    };
+    for (const auto& row : rows) {
+        removed();
+        if (!row.before.empty())
+            put(file, row.before);
+        EXPECT_EQ(problemWhile(row.calls, replacing("ours")),
+                  row.problem.empty() ? "" : told(row.problem));
+        EXPECT_EQ(contentOf(file), row.left) << row.problem;
+    }
     if (::geteuid() != 0)
         return;
-    constexpr gid_t Other = 65534;
-    ASSERT_EQ(::chown(file.c_str(), static_cast<uid_t>(-1), Other), 0);
+    // What a group may do that cannot be kept is given to nobody.
+    ASSERT_EQ(::chown(file.c_str(), static_cast<uid_t>(-1), 65534), 0);
     fs::permissions(file, fs::perms(0645));
     EXPECT_EQ(problemWhile(failing("fchown", EPERM, 0, 2), replacing("new")), "");
     EXPECT_EQ(fs::status(file).permissions(), fs::perms(0604));
 }
 
 TEST_F(FileFaultsTest, AFileThatCannotBeReadToItsEndIsNamedAndStays) {
-    const std::string before = recordFile(1000) + "\n"; // two blocks and a blank line
-    const auto write = [](const ContentSink& sink) { return sink.write("x"); };
+    const std::string before = test::recordFile(1000) + "\n"; // two blocks and a blank line
     Board board;
     ArrangementTable table;
     int number = 500;
     const std::string record = recordNumbered(number);
     std::string content = "kept";
-    struct Reading {
+    const struct {
         int reads;
         std::function<Outcome()> work;
-    };
-    const std::vector<Reading> readings{
+    } readings[] = {
         {2, [&] { return PuzzleStore().CountLines(file, number); }},
         {5, [&] { return Outcome{PuzzleStore().ReadPuzzle(file, 500, board).reason}; }},
         {7, [&] { return PuzzleStore().DeletePuzzle(file, 500, record); }},
-        {3, [&] { return PuzzleStore().appendPuzzle(file, recordNumbered(1), number); }},
-        {3, [&] { return PuzzleStore().appendPuzzles(file, write); }},
+        {3, appending(record + "\n")},
+        {3,
+         [&] {
+             return PuzzleStore().appendPuzzles(
+                 file, [](const ContentSink& sink) { return sink.write("x"); });
+         }},
         // To these a file that ends early is just a shorter file.
         {1, [&] { return readSmallFile(file, 1'000'000, content); }},
         {1, [&] { return forEachRecord(file, [](const RecordLine&) { return true; }); }},
         {1, [&] { return Set6Combos(file, table); }},
     };
-    const auto attempt = [&](std::size_t reading, int error, int first) {
-        put(file, before);
-        const FileCalls calls(failing("pread", error, first));
-        const std::string problem = readings[reading].work().problem;
-        EXPECT_TRUE(problem.starts_with(told(""))) << reading << " at " << first;
-        EXPECT_TRUE(error != EIO || problem.ends_with("Input/output error")) << problem;
-        EXPECT_TRUE(contentOf(file) == before) << reading << " at " << first;
-    };
-    for (std::size_t reading = 0; reading < readings.size(); ++reading)
-        for (int first = 0; first < readings[reading].reads; ++first) {
-            attempt(reading, EIO, first);
-            if (readings[reading].reads > 1)
-                attempt(reading, FileCalls::Skipped, first);
-        }
+    for (const auto& reading : readings)
+        for (int error : {EIO, FileCalls::Skipped})
+            for (int first = 0; first < reading.reads; ++first) {
+                if (reading.reads == 1 && error != EIO)
+                    continue;
+                put(file, before);
+                const std::string problem =
+                    problemWhile(failing("pread", error, first), reading.work);
+                EXPECT_TRUE(problem.starts_with(told(""))) << problem << " at " << first;
+                EXPECT_TRUE(error != EIO || problem.ends_with("Input/output error")) << problem;
+                EXPECT_TRUE(contentOf(file) == before) << problem << " at " << first;
+            }
     EXPECT_EQ(content, "kept");
 }
 
@@ -347,9 +289,9 @@ TEST_F(FileFaultsTest, NobodyIsWaitedForLongerThanTenSeconds) {
     };
     for (const auto& work : {appending("new\n"), replacing("new")})
         EXPECT_EQ(problemWhile(pausing, work), told("is being written by another program"));
-    EXPECT_EQ(
-        problemWhile(pausing, [&] { return installShippedFiles(TESSALY_DATA, m_folder / "game"); }),
-        (m_folder / "game").native() + ": another program is busy with it");
+    const fs::path game = m_folder / "game";
+    EXPECT_EQ(problemWhile(pausing, [&] { return installShippedFiles(TESSALY_DATA, game); }),
+              game.native() + ": another program is busy with it");
     EXPECT_NEAR(pauses, 3 * 2000, 100) << "of 5 ms, but for the first ones";
     EXPECT_EQ(contentOf(file), "old");
 }

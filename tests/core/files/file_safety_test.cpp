@@ -1,60 +1,52 @@
 // What needs more than one process: other users, and two instances side by side.
 
-#include "core/board/puzzle_record.h"
 #include "core/board/puzzle_store.h"
 #include "core/files/file_access.h"
 
 #include "support/child_process.h"
+#include "support/sample_puzzles.h"
 #include "support/sample_records.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cstdlib>
-#include <vector>
+#include <set>
 
 namespace tessaly {
 namespace {
 
 namespace fs = std::filesystem;
-using test::contentOf;
 using test::put;
-using test::recordFile;
 using test::recordNumbered;
 using test::startChild;
 using test::succeeded;
-using test::TemporaryFolder;
-
-/// Gives up the system administrator's rights, which no permission stops.
-bool becomeSomebody() {
-    constexpr uid_t Nobody = 65534;
-    return ::geteuid() != 0 || ::setresuid(Nobody, Nobody, Nobody) == 0;
-}
 
 TEST(FileSafety, MissingPermissionsAreReportedAndChangeNothing) {
-    const TemporaryFolder folder;
-    const fs::path locked = folder / "locked.txt";
-    const fs::path readOnly = folder / "read-only.txt";
+    const test::TemporaryFolder folder;
+    const fs::path locked = folder / "locked.txt", readOnly = folder / "read-only.txt";
     for (const fs::path& path : {locked, readOnly})
-        put(path, recordFile(2));
+        put(path, test::recordFile(2));
     fs::permissions(locked, fs::perms(0));
     fs::permissions(readOnly, fs::perms(0444));
     fs::permissions(folder.path(), fs::perms(0555));
     EXPECT_TRUE(succeeded(startChild([&] {
+        // No permission stops the system administrator.
+        constexpr uid_t Nobody = 65534;
         PuzzleStore store;
         Board board;
         const auto denied = [](const std::string& problem) {
             return problem.ends_with(": Permission denied");
         };
-        return becomeSomebody() && denied(store.ReadPuzzle(locked, 1, board).reason) &&
-               FileExists(locked) && store.ReadPuzzle(readOnly, 2, board).ok() &&
+        return (::geteuid() != 0 || ::setresuid(Nobody, Nobody, Nobody) == 0) &&
+               denied(store.ReadPuzzle(locked, 1, board).reason) && FileExists(locked) &&
+               store.ReadPuzzle(readOnly, 2, board).ok() &&
                denied(store.appendPuzzles(readOnly, "x\n").problem) &&
                denied(replaceFile(readOnly, "x\n").problem) &&
                denied(replaceFile(folder / "new.txt", "x\n").problem);
     })));
     fs::permissions(folder.path(), fs::perms(0755));
-    EXPECT_EQ(contentOf(readOnly), recordFile(2));
+    EXPECT_EQ(test::contentOf(readOnly), test::recordFile(2));
     EXPECT_EQ(folder.names().size(), 2u);
 }
 
@@ -76,34 +68,23 @@ bool appendAndDelete(const fs::path& path, int first, int rounds) {
     return true;
 }
 
-/// TESSALY_ROUNDS asks for a longer run.
-int rounds() {
-    const char* const asked = std::getenv("TESSALY_ROUNDS");
-    return asked ? std::atoi(asked) : 100;
-}
-
 TEST(FileSafety, TwoInstancesLoseAndTearNoRecord) {
-    const int lastRound = rounds();
-    const TemporaryFolder folder;
+    const char* const asked = std::getenv("TESSALY_ROUNDS"); // for a longer run
+    const int rounds = asked ? std::stoi(asked) : 100;
+    const test::TemporaryFolder folder;
     const fs::path path = folder / "puzzles.txt";
-    const pid_t one = startChild([&] { return appendAndDelete(path, 0, lastRound); });
-    const pid_t two = startChild([&] { return appendAndDelete(path, 100'000, lastRound); });
+    const pid_t one = startChild([&] { return appendAndDelete(path, 0, rounds); });
+    const pid_t two = startChild([&] { return appendAndDelete(path, 100'000, rounds); });
     EXPECT_TRUE(succeeded(one));
     EXPECT_TRUE(succeeded(two));
 
-    std::vector<std::string> expected;
-    for (int round = 0; round < lastRound; round += 2)
+    std::multiset<std::string> expected;
+    for (int round = 0; round < rounds; round += 2)
         for (int first : {0, 100'000})
-            expected.push_back(recordNumbered(first + round));
-    std::vector<std::string> found;
-    EXPECT_TRUE(forEachRecord(path, [&](const RecordLine& line) {
-                    found.emplace_back(line.text);
-                    return true;
-                }).ok());
-    std::sort(expected.begin(), expected.end());
-    std::sort(found.begin(), found.end());
-    EXPECT_EQ(found, expected);
-    EXPECT_EQ(contentOf(path).size(), expected.size() * (RecordLength + 2));
+            expected.insert(recordNumbered(first + round));
+    const std::vector<std::string> found = recordsOf(path);
+    EXPECT_EQ(std::multiset<std::string>(found.begin(), found.end()), expected);
+    EXPECT_EQ(fs::file_size(path), expected.size() * (RecordLength + 2));
     EXPECT_EQ(folder.names().size(), 1u);
 }
 

@@ -6,15 +6,11 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
+#include <map>
 #include <random>
-#include <vector>
 
 namespace tessaly {
 namespace {
-
-using test::put;
-using test::TemporaryFolder;
 
 const std::string Mark(ByteOrderMark);
 
@@ -33,43 +29,49 @@ std::vector<std::string> linesOf(std::string text) {
     return lines;
 }
 
-void expectIndexed(const LineIndex& index, const FileDescriptor& file, const std::string& text) {
-    const std::vector<std::string> lines = linesOf(text);
-    ASSERT_EQ(index.count(), static_cast<int>(lines.size()));
-    for (int number = 1; number <= index.count(); ++number) {
-        LineSpan span;
-        ASSERT_EQ(index.find(file, number, span).problem, "");
-        const auto begin = static_cast<std::size_t>(span.begin);
-        ASSERT_EQ(text.substr(begin, static_cast<std::size_t>(span.end) - begin),
-                  lines[static_cast<std::size_t>(number - 1)]);
+class LineIndexTest : public testing::Test {
+protected:
+    void put(const std::string& text) {
+        test::put(folder / "a.txt", text);
+        ASSERT_EQ(openForReading(folder / "a.txt", file).problem, "");
     }
-}
+    void expectIndexed(const LineIndex& index, const std::string& text) {
+        const std::vector<std::string> lines = linesOf(text);
+        ASSERT_EQ(index.count(), static_cast<int>(lines.size()));
+        for (int number = 1; number <= index.count(); ++number) {
+            LineSpan span;
+            ASSERT_EQ(index.find(file, number, span).problem, "");
+            ASSERT_EQ(text.substr(static_cast<std::size_t>(span.begin),
+                                  static_cast<std::size_t>(span.end - span.begin)),
+                      lines[static_cast<std::size_t>(number - 1)]);
+        }
+    }
 
-struct IndexCase {
-    std::string text;
-    int count;
-    bool blankTail;
+    test::TemporaryFolder folder;
+    FileDescriptor file;
 };
 
-TEST(LineIndex, CountsLinesAndLeavesOutBlankOnesAtTheEnd) {
-    const TemporaryFolder folder;
-    const std::vector<IndexCase> cases{
-        {"", 0, false},           {"a", 1, false},
-        {"a\r\n", 1, false},      {"a\nb", 2, false},
-        {"a\n\nb\n", 3, false},   {"a  \r\n", 1, false},
-        {"a\r\n\r\n", 1, true},   {"a\n \t", 1, true},
-        {"\r\n\r\n", 0, true},    {" ", 0, true},
-        {Mark, 0, false},         {Mark + "a\r\n", 1, false},
-        {Mark + "\r\n", 0, true}, {std::string("a\0\n", 3), 1, false}};
-    for (const IndexCase& each : cases) {
-        put(folder / "a.txt", each.text);
-        FileDescriptor file;
+TEST_F(LineIndexTest, CountsLinesAndLeavesOutBlankOnesAtTheEnd) {
+    for (const auto& [text, blankTail] :
+         std::map<std::string, bool>{{"", false},
+                                     {"a", false},
+                                     {"a\r\n", false},
+                                     {"a\nb", false},
+                                     {"a\n\nb\n", false},
+                                     {"a  \r\n", false},
+                                     {"a\r\n\r\n", true},
+                                     {"a\n \t", true},
+                                     {"\r\n\r\n", true},
+                                     {" ", true},
+                                     {Mark, false},
+                                     {Mark + "a\r\n", false},
+                                     {Mark + "\r\n", true},
+                                     {std::string("a\0\n", 3), false}}) {
+        put(text);
         LineIndex index;
-        ASSERT_TRUE(openForReading(folder / "a.txt", file).ok());
         ASSERT_EQ(index.update(file).problem, "");
-        EXPECT_EQ(index.count(), each.count) << each.text;
-        EXPECT_EQ(index.hasBlankTail(), each.blankTail) << each.text;
-        expectIndexed(index, file, each.text);
+        EXPECT_EQ(index.hasBlankTail(), blankTail) << text;
+        expectIndexed(index, text);
     }
 }
 
@@ -78,54 +80,44 @@ std::string randomText(std::mt19937& chance, std::size_t size) {
     std::string text;
     while (text.size() < size) {
         text.append(chance() % 40 == 0 ? chance() % 200'000 : chance() % 700, 'x');
-        text += std::vector<std::string>{"\n", "\r\n", "\n\n", " \r\n"}[chance() % 4];
+        text += std::array{"\n", "\r\n", "\n\n", " \r\n"}[chance() % 4];
     }
     text.resize(size);
     return text;
 }
 
-TEST(LineIndex, FindsEveryLineOfLargeFilesAlsoAfterTheyHaveGrown) {
+TEST_F(LineIndexTest, FindsEveryLineOfLargeFilesAlsoAfterTheyHaveGrown) {
     constexpr std::size_t Block = std::size_t{64} * 1024;
-    const TemporaryFolder folder;
     std::mt19937 chance(20260101);
     for (const std::size_t size : {Block - 1, Block, Block + 1, 7 * Block, 7 * Block + 12'345}) {
         std::string text = randomText(chance, size);
         LineIndex growing;
         for (int growth = 0; growth < 4; ++growth) {
-            put(folder / "a.txt", text);
-            FileDescriptor file;
+            put(text);
             LineIndex fresh;
-            ASSERT_TRUE(openForReading(folder / "a.txt", file).ok());
             ASSERT_EQ(fresh.update(file).problem, "");
             ASSERT_EQ(growing.updateAppended(file).problem, "");
-            expectIndexed(fresh, file, text);
-            expectIndexed(growing, file, text);
+            expectIndexed(fresh, text);
+            expectIndexed(growing, text);
             EXPECT_EQ(growing.hasBlankTail(), fresh.hasBlankTail());
             text += randomText(chance, chance() % (2 * Block));
         }
     }
 }
 
-TEST(LineIndex, ReadsNothingUntilTheFileChangesOrMayHaveChangedUnseen) {
+TEST_F(LineIndexTest, ReadsNothingUntilTheFileChangesOrMayHaveChangedUnseen) {
     int blocks = 0;
-    const auto update = [&](LineIndex& index, const std::filesystem::path& path) {
-        FileDescriptor file;
-        return openForReading(path, file).ok() && index.update(file, [&] { ++blocks; }).ok();
-    };
     LineIndex index;
-    const std::filesystem::path atRest = TESSALY_DATA "/hexabinx.txt";
-    ASSERT_TRUE(update(index, atRest) && update(index, atRest));
+    ASSERT_TRUE(openForReading(TESSALY_DATA "/hexabinx.txt", file).ok());
+    for (int time = 0; time < 2; ++time)
+        ASSERT_TRUE(index.update(file, [&] { ++blocks; }).ok());
     EXPECT_EQ(blocks, 1);
-
-    const TemporaryFolder folder;
     for (int round = 0; round < 200; ++round) {
         // As many bytes, other lines: only what is in the file tells them apart.
-        put(folder / "a.txt", round % 2 == 0 ? "aaa\nb\n" : "a\nb\nc\n");
-        ASSERT_TRUE(update(index, folder / "a.txt"));
+        put(round % 2 == 0 ? "aaa\nb\n" : "a\nb\nc\n");
+        ASSERT_TRUE(index.update(file).ok());
         ASSERT_EQ(index.count(), round % 2 == 0 ? 2 : 3);
     }
-    FileDescriptor file;
-    ASSERT_TRUE(openForReading(folder / "a.txt", file).ok());
     auto state = FileState::of(file).value();
     state.changed += 1'000'000'000; // as if the file were changed this very moment
     EXPECT_FALSE(state.wouldShowAChange());

@@ -3,7 +3,6 @@
 #include "core/board/tables.h"
 #include "core/solver/deduction.h"
 #include "support/sample_boards.h"
-#include "support/sample_puzzles.h"
 
 #include <gtest/gtest.h>
 
@@ -25,13 +24,17 @@ struct Recorder : SolverObserver {
 
 TEST(DebugSolve, AnnouncesItsStepsInOrderAndStopsAtAContradiction) {
     Chance chance(1);
+    // Hexagons 1 and 3 meet at side 4 of hexagon 1 and hold all six digits between them.
+    Board contradictory;
+    contradictory.CellNum[1] = {"", "1", "2", "3", "16", "", ""};
+    contradictory.CellNum[3] = {"", "", "4", "5", "6", "", ""};
     const Messages whole{"Fill Fixed Neibours",           "Fixed Neibours Done, get candidates",
                          "Candidates Done, fix singles",  "Fix Singles",
                          "Singles Fixed, fix neighbours", "Neighbours Fixed, chech xpairs",
                          "Xpairs done, loop back",        "All Done"};
     for (const auto& [start, steps, redraws] :
          {std::tuple(filledBoard(chance), whole, 6),
-          {contradictoryBoard(), {whole[0], whole[1], whole[2], whole[7]}, 3}}) {
+          {contradictory, {whole[0], whole[1], whole[2], whole[7]}, 3}}) {
         Board board = start;
         Recorder recorder;
         DebugSolve(board, true, recorder);
@@ -47,8 +50,7 @@ TEST(DebugSolve, DoesWhatTheQuietRulesDo) {
         Board start = sampleBoard(static_cast<Sample>(i % SampleKinds), chance);
         std::int32_t counter = 0;
         GetCandidates(start, counter);
-        Board verbose = start;
-        Board quiet = start;
+        Board verbose = start, quiet = start;
         std::int32_t quietCounter = counter;
         Recorder recorder;
         FixXcellPairsVerbose(verbose, counter, recorder);
@@ -59,7 +61,6 @@ TEST(DebugSolve, DoesWhatTheQuietRulesDo) {
         if (i % SampleKinds != static_cast<int>(Sample::Puzzle) || start.SkipHex != NoHexagon)
             continue;
         recorder = {};
-        verbose = quiet = start;
         DebugSolve(verbose, false, recorder);
         SolveByDeduction(quiet);
         EXPECT_EQ(verbose.CellNum, quiet.CellNum);
@@ -70,9 +71,8 @@ TEST(DebugSolve, DoesWhatTheQuietRulesDo) {
 
 TEST(DebugSolve, TheXcellRuleTellsWhereItPlaces) {
     Board board;
-    const std::array<const char*, 6> texts{"12", "12", "12", "13", "13", "12"};
-    for (std::size_t i = 0; i < texts.size(); ++i)
-        board.CellNum[XcellTable[8][i]] = texts[i];
+    for (std::size_t i = 0; i < 6; ++i)
+        board.CellNum[XcellTable[8][i]] = i == 3 || i == 4 ? "13" : "12";
     std::int32_t counter = 0;
     Recorder recorder;
     FixXcellPairsVerbose(board, counter, recorder);

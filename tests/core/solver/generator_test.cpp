@@ -1,9 +1,8 @@
 #include "core/solver/generator.h"
 
 #include "core/board/tables.h"
-#include "core/solver/blank_hexagon.h"
-#include "core/solver/deduction.h"
-#include "core/solver/solution_counter.h"
+#include "core/solver/puzzle_audit.h"
+#include "core/solver/puzzle_draft.h"
 #include "support/sample_boards.h"
 #include "support/sample_puzzles.h"
 
@@ -14,6 +13,9 @@
 namespace tessaly {
 namespace {
 
+constexpr auto Easy = Difficulty::Easy;
+constexpr auto Hard = Difficulty::Hard;
+
 Board createdPuzzle(Difficulty difficulty, std::uint64_t stream) {
     Board board;
     Chance chance(7, stream);
@@ -21,45 +23,20 @@ Board createdPuzzle(Difficulty difficulty, std::uint64_t stream) {
     return board;
 }
 
-/// Whether the rules lead to the solution without what stands in the blank hexagon.
-bool falls(Board board, bool useXcells) {
-    board.CellNum[board.BlankHex].fill({});
-    board.BlankHex = NoHexagon;
-    std::int32_t counter = 0;
-    SolveBasic(board, useXcells, counter);
-    return board.CellNum == board.SolNum;
-}
-
-/// What a blank hexagon promises, and its hint.
+/// That a board holds a sound puzzle of a difficulty, its givens and nothing else.
 void expectPuzzle(const Board& board, Difficulty difficulty) {
     EXPECT_EQ(board.difficulty, difficulty);
-    EXPECT_EQ(falls(board, false), difficulty == Difficulty::Easy);
-    EXPECT_TRUE(falls(board, true));
-    EXPECT_EQ(board.SkipHex, NoHexagon);
-    const CellId hint = hintedCell(board.BlankHex, board.HintCell);
-    if (difficulty == Difficulty::Hard) {
-        ASSERT_TRUE(hint);
-        EXPECT_EQ(SideLink[hint].hexagon, board.BlankHex);
-        EXPECT_TRUE(board.FixedCell[hint]);
-        EXPECT_EQ(board.SolNum[hint], std::to_string(board.HintNum));
-    } else {
-        EXPECT_EQ(board.HintCell + board.HintNum, 0);
-    }
-    for (CellId cell : AllCells) {
-        EXPECT_TRUE(board.FixedCell[cell] || cell.hexagon != board.BlankHex);
-        EXPECT_EQ(board.CellNum[cell], board.FixedCell[cell] ? board.SolNum[cell] : "");
-    }
+    EXPECT_EQ(board, boardOf(PuzzleRecord(board)));
+    EXPECT_EQ(auditRecord(PuzzleRecord(board)), std::vector<std::string>{});
 }
 
 TEST(Generator, PuzzlesKeepTheirPromises) {
-    for (Difficulty difficulty : {Difficulty::Easy, Difficulty::Hard}) {
+    for (Difficulty difficulty : {Easy, Hard}) {
         std::set<std::string> records;
         std::set<int> blanks;
         for (std::uint64_t stream = 0; stream < 150; ++stream) {
             const Board board = createdPuzzle(difficulty, stream);
-            SCOPED_TRACE(PuzzleRecord(board));
             expectPuzzle(board, difficulty);
-            EXPECT_EQ(countSolutions(board).found, 1);
             records.insert(PuzzleRecord(board));
             blanks.insert(board.BlankHex);
             int givens = 0;
@@ -68,7 +45,8 @@ TEST(Generator, PuzzlesKeepTheirPromises) {
                 EXPECT_TRUE(board.FixedCell[cell] || SideLink[cell]);
             }
             EXPECT_LE(givens, 45);
-            EXPECT_FALSE(board.FixedCell[1][5] || board.FixedCell[19][2]);
+            for (CellId cell : NeverGiven)
+                EXPECT_FALSE(board.FixedCell[cell]);
         }
         EXPECT_EQ(records.size(), 150U);
         EXPECT_EQ(blanks, (std::set<int>{5, 7, 8, 12, 13, 15}));
@@ -76,8 +54,8 @@ TEST(Generator, PuzzlesKeepTheirPromises) {
 }
 
 TEST(Generator, AWatchedPuzzleIsTheSameAndIsDrawnAsItGrows) {
-    for (Difficulty difficulty : {Difficulty::Easy, Difficulty::Hard}) {
-        Board board = createdPuzzle(Difficulty::Easy, 99);
+    for (Difficulty difficulty : {Easy, Hard}) {
+        Board board = createdPuzzle(Easy, 99);
         board.SkipHex = 4;
         Grid<std::string> drawn = board.CellNum;
         int yields = 0;
@@ -102,18 +80,17 @@ TEST(Generator, AWatchedPuzzleIsTheSameAndIsDrawnAsItGrows) {
 }
 
 TEST(Generator, ATableWithoutAFillingIsTriedAgainAndSaidSo) {
-    struct Enough {};
     std::vector<std::string> said;
     CreationObserver observer;
     observer.message = [&](const std::string& text) {
         said.push_back(text);
         if (said.size() == 2)
-            throw Enough();
+            throw said;
     };
     Board board;
     Chance chance(7);
     const SearchFill none(std::array<Arrangement, 1>{{{1, 2, 3, 4, 5, 6}}});
-    EXPECT_THROW(CreatePuzzle(board, Difficulty::Easy, chance, none, observer), Enough);
+    EXPECT_THROW(CreatePuzzle(board, Easy, chance, none, observer), std::vector<std::string>);
     EXPECT_EQ(said, std::vector<std::string>(2, "No solution in 50 iterations, solution aborted"));
 }
 
@@ -121,26 +98,22 @@ TEST(Generator, ABlankHexagonIsChosenOrTheGivensAreLeft) {
     Chance chance(8);
     int failures = 0;
     for (int i = 0; i < 100; ++i) {
-        const Board start = sampleBoard(Sample::Puzzle, chance);
+        Board start = sampleBoard(Sample::Puzzle, chance);
         Board board = start;
-        const auto difficulty = i % 2 == 0 ? Difficulty::Easy : Difficulty::Hard;
+        const auto difficulty = i % 2 == 0 ? Easy : Hard;
         if (ChooseBlankHexagon(board, difficulty, chance)) {
             expectPuzzle(board, difficulty);
             continue;
         }
         ++failures;
-        EXPECT_EQ(board.FixedCell, start.FixedCell);
-        EXPECT_EQ(board.CellNum, start.CellNum);
-        EXPECT_EQ(board.BlankHex, NoHexagon);
-        EXPECT_EQ(board.SkipHex, NoHexagon);
+        start.difficulty = board.difficulty;
+        start.BlankHex = start.SkipHex = NoHexagon;
+        EXPECT_EQ(board, start);
     }
-    EXPECT_GT(failures, 20);
-    EXPECT_LT(failures, 90);
+    EXPECT_NEAR(failures, 55, 34);
 }
 
 TEST(Generator, OneHalfOfTheDrawsIsEasy) {
-    constexpr auto Easy = Difficulty::Easy;
-    constexpr auto Hard = Difficulty::Hard;
     for (const auto& [number, drawn] :
          {std::pair(0U, Easy), {49U, Easy}, {50U, Hard}, {99U, Hard}}) {
         Chance chance = chanceOf(number);

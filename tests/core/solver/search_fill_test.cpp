@@ -13,37 +13,30 @@ namespace {
 Grid<std::string> filling(const SearchFill& fill, Chance& chance) {
     HexagonWords cells{};
     HexagonWords told{};
-    EXPECT_TRUE(fill.fill(cells, chance,
-                          [&told](int hexagon, HexagonWord now) {
-                              told[static_cast<std::size_t>(hexagon)] = now;
-                          })
-                    .filled);
+    const auto tell = [&](int hexagon, HexagonWord now) {
+        told.at(static_cast<std::size_t>(hexagon)) = now;
+    };
+    EXPECT_TRUE(fill.fill(cells, chance, tell).filled);
     EXPECT_EQ(told, cells);
     Grid<std::string> digits;
     unpackChanges({}, cells, digits);
     for (CellId cell : AllCells)
-        if (SideLink[cell]) {
-            EXPECT_EQ(digits[cell], digits[SideLink[cell]]);
-        }
+        EXPECT_EQ(digits[cell], digits[SideLink[cell] ? SideLink[cell] : cell]);
     for (int hexagon = 1; hexagon <= HexagonCount; ++hexagon)
-        EXPECT_EQ(std::set<std::string>(digits[hexagon].begin() + 1, digits[hexagon].end()),
-                  (std::set<std::string>{"1", "2", "3", "4", "5", "6"}));
+        EXPECT_TRUE(std::is_permutation(digits[hexagon].begin() + 1, digits[hexagon].end(),
+                                        std::array{"1", "2", "3", "4", "5", "6"}.begin()));
     return digits;
 }
 
 TEST(SearchFill, EveryFillingIsASolutionAndAnyDigitMayStandAnywhere) {
     Chance chance(1);
-    std::set<HexagonWords> seen;
-    Grid<std::set<std::string>> digits;
+    std::set<std::string> seen;
     for (int i = 0; i < 200; ++i) {
         const Grid<std::string> made = filling(completeFill(), chance);
-        seen.insert(packEntries(made));
         for (CellId cell : AllCells)
-            digits[cell].insert(made[cell]);
+            seen.insert(std::to_string(cell.hexagon) + std::to_string(cell.position) + made[cell]);
     }
-    EXPECT_EQ(seen.size(), 200U);
-    for (CellId cell : AllCells)
-        EXPECT_EQ(digits[cell].size(), 6U);
+    EXPECT_EQ(seen.size(), 6U * BoardCellCount);
 }
 
 TEST(SearchFill, DrawsFromTheTableThatItIsGivenAndGivesUpWhenThatHasNoFilling) {
