@@ -23,6 +23,8 @@ target_compile_options(
     $<$<CONFIG:Release>:-fstack-protector-strong;-fstack-clash-protection;-Wp,-U_FORTIFY_SOURCE,-D_FORTIFY_SOURCE=2>
     $<$<AND:$<CONFIG:Release>,$<BOOL:${TESSALY_HAS_CF_PROTECTION}>>:-fcf-protection>)
 target_link_options(tessaly_flags INTERFACE $<$<CONFIG:Release>:LINKER:-z,relro,-z,now>)
+# Wherever it is built, it is the same.
+target_compile_options(tessaly_flags INTERFACE $<$<CONFIG:Release>:-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.>)
 
 # What every target that sees Qt has besides: no silent conversion of bytes to text.
 add_library(tessaly_qt_flags INTERFACE)

@@ -1,4 +1,7 @@
-# The Debian package, made by cpack (script/package).
+# The Debian package and the package of the sources, made by cpack (script/package).
+execute_process(COMMAND date --utc --rfc-email --date=${TESSALY_RELEASE_DATE} OUTPUT_VARIABLE release_time
+                OUTPUT_STRIP_TRAILING_WHITESPACE)
+configure_file(debian/changelog.in debian/changelog @ONLY)
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME tessaly)
 set(CPACK_PACKAGE_CONTACT "The Tessaly developers <contact@tessaly.example>")
@@ -12,8 +15,8 @@ without guessing.
 .
 A thousand puzzles come with it, and it makes as many new ones as you like,
 in its window or with tessaly-cli on the command line.")
-set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
-set(CPACK_STRIP_FILES ON)
+# What the debugger needs goes into a package of its own.
+set(CPACK_DEBIAN_DEBUGINFO_PACKAGE ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION games)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
@@ -23,4 +26,7 @@ set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, fonts-liberation")
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS ${CMAKE_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS})
 configure_file("${CMAKE_CURRENT_LIST_DIR}/debian/places.cmake" "${CMAKE_CURRENT_BINARY_DIR}/debian/places.cmake" @ONLY)
 set(CPACK_PRE_BUILD_SCRIPTS "${CMAKE_CURRENT_BINARY_DIR}/debian/places.cmake")
+set(CPACK_SOURCE_GENERATOR TXZ)
+set(CPACK_SOURCE_PACKAGE_FILE_NAME "tessaly-${PROJECT_VERSION}")
+set(CPACK_SOURCE_IGNORE_FILES "${PROJECT_SOURCE_DIR}/build/;${PROJECT_SOURCE_DIR}/\\\\.git/")
 include(CPack)

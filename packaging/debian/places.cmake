@@ -1,6 +1,9 @@
 # What a Debian package has otherwise: a game lies in usr/games, completions in a folder of their own, the licence in the
-# copyright file; manual pages and the changelog are compressed, without
-# a time of their own; lintian is told why one of its rules does not hold.
+# copyright file; manual pages and the changelog are compressed, without a time of their own; lintian is told why one of
+# its rules does not hold. A package of the sources is left as it is.
+if(NOT CPACK_GENERATOR STREQUAL "DEB")
+  return()
+endif()
 set(staged "${CPACK_TEMPORARY_DIRECTORY}/usr")
 file(MAKE_DIRECTORY "${staged}/games")
 file(RENAME "${staged}/bin/tessaly" "${staged}/games/tessaly")

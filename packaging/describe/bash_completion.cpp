@@ -68,8 +68,11 @@ std::string bashCompletion(const CommandText& program) {
     }
     std::string text =
         "# Completion of " + program.name + " for bash.\n" + function + "()\n{\n" +
-        "    local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD-1]} "
-        "command='' i\n";
+        "    local word=${COMP_WORDS[COMP_CWORD]} at=$((COMP_CWORD - 1)) command='' i\n"
+        // "--name=value" comes as three words.
+        "    [ \"$word\" = = ] && word='' && at=$COMP_CWORD\n"
+        "    [ \"${COMP_WORDS[at]}\" = = ] && at=$((at - 1))\n"
+        "    local before=${COMP_WORDS[at]}\n";
     if (!names.empty())
         text += "    for ((i = 1; i < COMP_CWORD; i++)); do\n"
                 "        case ${COMP_WORDS[i]} in " +

@@ -1,5 +1,5 @@
 // Writes what an installation says about the two programs' command lines, made from the options
-// that --help tells: describe PROGRAM man|bash|zsh|fish [APPENDIX]
+// that --help tells: describe PROGRAM man|bash|zsh|fish DATE APPENDIX
 
 #include "cli/program.h"
 #include "command_text.h"
@@ -35,14 +35,14 @@ std::string contentOf(const char* path) {
 
 // What it throws at build time, the build tells.
 int main(int argc, char** argv) { // NOLINT(bugprone-exception-escape)
-    if (argc < 3)
+    if (argc != 5)
         return EXIT_FAILURE;
     const bool isGame = std::string_view(argv[1]) == "tessaly";
     const CommandText program = isGame ? gameText() : cliText();
     const std::string_view format = argv[2];
     if (format == "man")
-        std::cout << manualPage(program, isGame ? GamesSection : ProgramsSection,
-                                argc > 3 ? contentOf(argv[3]) : "");
+        std::cout << manualPage(program, isGame ? GamesSection : ProgramsSection, argv[3],
+                                contentOf(argv[4]));
     else if (format == "bash")
         std::cout << bashCompletion(program);
     else if (format == "zsh")

@@ -82,9 +82,10 @@ std::string inBrief(std::string text) {
 
 } // namespace
 
-std::string manualPage(const CommandText& program, int section, const std::string& appendix) {
+std::string manualPage(const CommandText& program, int section, const std::string& date,
+                       const std::string& appendix) {
     const std::string name = escaped(program.name);
-    std::string page = ".TH " + upperCase(name) + " " + std::to_string(section) + " \"\" \"" +
+    std::string page = ".TH " + upperCase(name) + " " + std::to_string(section) + " \"" + date + "\" \"" +
                        Product::Name + " " + Product::Version + "\"\n";
     page += ".SH NAME\n" + name + " \\- " + escaped(inBrief(program.description)) + "\n";
     page += ".SH SYNOPSIS\n";
