@@ -36,8 +36,8 @@ struct CommandText {
 /// The same with the options that need not be said.
 CommandText describe(const CommandSyntax& syntax, bool isProgram = true);
 
-/// The same as a manual page (man(7)) of a section. `date` is the release's, "2026-11-22"; `appendix`
-/// holds sections of its own, as they stand.
+/// The same as a manual page (man(7)) of a section. `date` is the release's, "2026-11-22";
+/// `appendix` holds sections of its own, as they stand.
 std::string manualPage(const CommandText& program, int section, const std::string& date,
                        const std::string& appendix);
 std::string bashCompletion(const CommandText& program);

@@ -85,8 +85,8 @@ std::string inBrief(std::string text) {
 std::string manualPage(const CommandText& program, int section, const std::string& date,
                        const std::string& appendix) {
     const std::string name = escaped(program.name);
-    std::string page = ".TH " + upperCase(name) + " " + std::to_string(section) + " \"" + date + "\" \"" +
-                       Product::Name + " " + Product::Version + "\"\n";
+    std::string page = ".TH " + upperCase(name) + " " + std::to_string(section) + " \"" + date +
+                       "\" \"" + Product::Name + " " + Product::Version + "\"\n";
     page += ".SH NAME\n" + name + " \\- " + escaped(inBrief(program.description)) + "\n";
     page += ".SH SYNOPSIS\n";
     if (program.subcommands.empty())
