@@ -1,67 +1,52 @@
 #include "ui/controls/message_box.h"
 
-#include "ui/controls/box_control.h"
-#include "ui/drawing/qt_values.h"
+#include "ui/game_window.h"
 
-#include <gtest/gtest.h>
-
-#include <QApplication>
-#include <QLineEdit>
 #include <QScreen>
-#include <QTest>
 #include <QTextEdit>
-#include <QTimer>
 #include <QWindow>
 
 namespace tessaly {
 namespace {
 
-using namespace Qt::StringLiterals;
-
 const QString YesNoCancel = u"vbYesNoCancel+vbquestion"_s;
 
 class MessageBoxTest : public testing::Test {
 protected:
-    MessageBoxTest() {
-        m_appearance.SchemeColours[slot::Background] = RGB(230, 226, 210);
-        m_appearance.SchemeColours[slot::Button] = RGB(40, 60, 90);
-    }
-
-    /// Shows the box and, while it stands, does `meanwhile`; a box that still stands then is
-    /// closed.
-    template <class Meanwhile>
-    int show(const QString& text, const QString& style, Meanwhile meanwhile) {
+    /// Shows the box and, while it stands, does `meanwhile`.
+    int show(const QString& text, const QString& style, const std::function<void()>& meanwhile) {
         bool wasShown = false;
-        QTimer::singleShot(0, &m_form, [&] {
-            wasShown = QTest::qWaitForWindowActive(&m_form);
+        inNextDialog([&](QDialog&) {
             meanwhile();
-            if (m_form.isVisible())
-                m_form.reject();
+            wasShown = true;
         });
         const int answer = m_form.show(text, style);
         EXPECT_TRUE(wasShown);
         return answer;
     }
+    /// Asks for a line and does `act` in the dialog, in which the line is written already.
+    std::string asked(const std::function<void(QDialog&)>& act) {
+        inNextDialog([&act](QDialog& prompt) {
+            auto* line = prompt.findChild<QLineEdit*>();
+            EXPECT_EQ(line->accessibleName() + line->text(), u"Name <b>?");
+            line->setText(u"Größe"_s);
+            act(prompt);
+        });
+        return m_form.ask("Name <b>?");
+    }
 
-    BoxControl* button(int index) const {
-        return m_form.findChild<BoxControl*>(u"cmd_%1"_s.arg(index));
-    }
-    QString buttons() const {
+    BoxControl& button(int index) const { return find<BoxControl>(m_form, u"cmd_%1"_s.arg(index)); }
+    QTextEdit& text() const { return *m_form.findChild<QTextEdit*>(); }
+    /// The captions and numbers of the buttons, and the names of the icons that are seen.
+    QString looks() const {
         QStringList all;
-        for (int index = 0; button(index) != nullptr; ++index)
-            all << button(index)->text() + u' ' + button(index)->property("Tag").toString();
-        return all.join(u", "_s);
-    }
-    /// The number of the icon shown; -1 for none.
-    int icon() const {
-        int shown = -1;
+        for (const auto* button : m_form.findChildren<BoxControl*>())
+            all << button->text() + button->property("Tag").toString();
         for (int number = 0; number <= 10; ++number)
             if (const auto* icon = m_form.findChild<QWidget*>(u"icons_%1"_s.arg(number));
-                icon != nullptr && icon->isVisible()) {
-                EXPECT_EQ(shown, -1) << "two icons";
-                shown = number;
-            }
-        return shown;
+                icon != nullptr && icon->isVisible())
+                all << icon->objectName();
+        return all.join(u' ');
     }
 
     Appearance m_appearance;
@@ -69,48 +54,53 @@ protected:
 };
 
 TEST_F(MessageBoxTest, ItsStyleNamesButtonsAndIcon) {
-    struct Row {
-        QString style;
-        QString buttons;
-        int icon;
-    };
-    for (const Row& row : {
-             Row{{}, u"Ok 1"_s, -1},
-             {u" vbYESno +\tVBquestion "_s, u"Yes 6, No 7"_s, 0},
-             {u"vbquestion+vbyesno"_s, u"Yes 6, No 7"_s, 0},
-             {u"vbok+vbcancel+vberror+vbhappy"_s, u"Ok 1, Cancel 2"_s, 5},
-             {u"vbcancel+vbok+nonsense"_s, u"Cancel 2, Ok 1"_s, -1},
-             {u"vbcancelok"_s, u"Ok 1, Cancel 2"_s, -1},
-             {u"vbabortretryignore+vbcustom"_s, u"Abort 3, Retry 4, Ignore 5"_s, 10},
-             {u"vbyesnocancel+vbcritical"_s, u"Yes 6, No 7, Cancel 2"_s, 4},
-             {u"vbcontinuecancel"_s, u"Continue 6, Cancel 2"_s, -1},
-             {u"vbnormal"_s, u"Ok 0"_s, -1},
+    for (const auto& [style, looks] : {
+             std::pair(QString(), u"Ok1"_s),
+             {u" vbYESno +\tVBquestion "_s, u"Yes6 No7 icons_0"_s},
+             {u"vbquestion+vbyesno"_s, u"Yes6 No7 icons_0"_s},
+             {u"vbok+vbcancel+vberror+vbhappy"_s, u"Ok1 Cancel2 icons_5"_s},
+             {u"vbcancel+vbok+nonsense"_s, u"Cancel2 Ok1"_s},
+             {u"vbcancelok"_s, u"Ok1 Cancel2"_s},
+             {u"vbabortretryignore+vbcustom"_s, u"Abort3 Retry4 Ignore5 icons_10"_s},
+             {u"vbyesnocancel+vbcritical"_s, u"Yes6 No7 Cancel2 icons_4"_s},
+             {u"vbcontinuecancel"_s, u"Continue6 Cancel2"_s},
+             {u"vbnormal"_s, u"Ok0"_s},
          })
-        show(u"Exit?"_s, row.style, [&] {
-            EXPECT_EQ(buttons(), row.buttons) << row.style.toStdString();
-            EXPECT_EQ(icon(), row.icon) << row.style.toStdString();
-        });
+        show(u"Exit?"_s, style, [&] { EXPECT_EQ(this->looks(), looks) << style.toStdString(); });
 }
 
 TEST_F(MessageBoxTest, ItsButtonsAnswerByMouseAndByKeys) {
     const auto key = [this](int index, Qt::Key pressed) {
-        QTest::keyClick(button(index), pressed);
+        QTest::keyClick(&button(index), pressed);
     };
-    struct Row {
-        std::function<void()> act;
-        int answer;
+    const std::pair<std::function<void()>, int> rows[] = {
+        {[&] { QTest::mouseClick(&button(1), Qt::LeftButton); }, answer::No},
+        {[&] { key(0, Qt::Key_Return); }, answer::Yes},
+        {[&] { key(0, Qt::Key_Tab), key(1, Qt::Key_Enter); }, answer::No},
+        {[&] { key(0, Qt::Key_Right), key(1, Qt::Key_Right), key(2, Qt::Key_Space); },
+         answer::Cancel},
+        {[&] { key(0, Qt::Key_Escape); }, answer::None},
+        {[&] { m_form.close(); }, answer::None},
+        {[&] { QTest::keyClick(&m_form, Qt::Key_Return); }, answer::None},
+        {[&] { // any key sinks the button
+             QTest::keyPress(&button(0), Qt::Key_X);
+             EXPECT_TRUE(button(0).isDown());
+             QTest::keyRelease(&button(0), Qt::Key_X);
+             EXPECT_FALSE(button(0).isDown());
+         },
+         answer::None},
+        {[&] { // a message meanwhile gets a box of its own
+             inNextDialog([this](QDialog& inner) {
+                 EXPECT_EQ(inner.parent(), &m_form);
+                 EXPECT_EQ(inner.findChild<QTextEdit*>()->toPlainText(), u"Größe\nfehlt");
+             });
+             EXPECT_EQ(m_form.message("Größe\r\nfehlt", {}), answer::None);
+             QTest::mouseClick(&button(1), Qt::LeftButton);
+         },
+         answer::No},
     };
-    for (const Row& row : {
-             Row{[&] { QTest::mouseClick(button(1), Qt::LeftButton); }, answer::No},
-             {[&] { key(0, Qt::Key_Return); }, answer::Yes},
-             {[&] { key(0, Qt::Key_Tab), key(1, Qt::Key_Enter); }, answer::No},
-             {[&] { key(0, Qt::Key_Right), key(1, Qt::Key_Right), key(2, Qt::Key_Space); },
-              answer::Cancel},
-             {[&] { key(0, Qt::Key_Escape); }, answer::None},
-             {[&] { m_form.close(); }, answer::None},
-             {[&] { QTest::keyClick(&m_form, Qt::Key_Return); }, answer::None},
-         })
-        EXPECT_EQ(show(u"Well?"_s, YesNoCancel, row.act), row.answer);
+    for (const auto& [act, expected] : rows)
+        EXPECT_EQ(show(u"Well?"_s, YesNoCancel, act), expected);
 }
 
 TEST_F(MessageBoxTest, StandsOverItsWindowWithTheFocusWhereTheStyleSays) {
@@ -121,93 +111,46 @@ TEST_F(MessageBoxTest, StandsOverItsWindowWithTheFocusWhereTheStyleSays) {
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     for (const QString& text : {u"Delete?"_s, u"A longer question?\n"_s.repeated(9)})
         show(text, u"vbyesno+vbdefaultbutton2"_s, [&] {
-            EXPECT_TRUE(QTest::qWaitFor([&] { return button(1)->hasFocus(); })) << "not Yes";
+            EXPECT_TRUE(QTest::qWaitFor([&] { return button(1).hasFocus(); })) << "not Yes";
             EXPECT_EQ(m_form.windowHandle()->transientParent(), window.windowHandle());
             const QPoint off = m_form.geometry().center() - window.frameGeometry().center();
             EXPECT_LE(off.manhattanLength(), 4) << text.toStdString();
         });
 }
 
-TEST_F(MessageBoxTest, AKeyGoingDownSinksTheButtonAndComingUpLetsItGo) {
-    show(u"Well?"_s, YesNoCancel, [this] {
-        QTest::keyPress(button(0), Qt::Key_X);
-        EXPECT_TRUE(button(0)->isDown());
-        QTest::keyRelease(button(0), Qt::Key_X);
-        EXPECT_FALSE(button(0)->isDown());
-        EXPECT_TRUE(m_form.isVisible());
-    });
-}
-
-TEST_F(MessageBoxTest, AMessageWhileAnotherStandsGetsABoxOfItsOwn) {
-    Prompts& prompts = m_form;
-    EXPECT_EQ(show(u"Well?"_s, YesNoCancel,
-                   [&] {
-                       QTimer::singleShot(0, &m_form, [this] {
-                           auto* inner = m_form.findChild<MsgForm*>();
-                           ASSERT_NE(inner, nullptr);
-                           EXPECT_EQ(inner->findChild<QTextEdit*>()->toPlainText(),
-                                     u"Größe\nfehlt");
-                           inner->reject();
-                       });
-                       EXPECT_EQ(prompts.message("Größe\r\nfehlt", {}), answer::None);
-                       QTest::mouseClick(button(1), Qt::LeftButton);
-                   }),
-              answer::No);
-}
-
-TEST_F(MessageBoxTest, WearsTheSchemeInForce) {
+TEST_F(MessageBoxTest, WearsTheSchemeInForceAndFitsTextsOfEveryLength) {
     for (const Colour background : {RGB(230, 226, 210), RGB(20, 20, 30)}) {
         m_appearance.SchemeColours[slot::Background] = background;
+        m_appearance.SchemeColours[slot::Button] = RGB(40, 60, 90);
         show(u"Well?"_s, YesNoCancel, [&] {
             EXPECT_EQ(toColour(m_form.grab().toImage().pixelColor(4, 4)), background);
-            EXPECT_EQ(toColour(button(1)->faceColour()), RGB(40, 60, 90));
-            EXPECT_EQ(toColour(m_form.findChild<QTextEdit*>()->palette().text().color()),
-                      readableOn(background));
+            EXPECT_EQ(toColour(button(1).faceColour()), RGB(40, 60, 90));
+            EXPECT_EQ(toColour(text().palette().text().color()), readableOn(background));
         });
     }
-}
-
-TEST_F(MessageBoxTest, TextsOfEveryLengthFit) {
     const QString path = u"/home/"_s + QString(300, u'x');
-    for (const QString& text : {QString(), u"No"_s, path, u"word "_s.repeated(2000)})
-        show(text, YesNoCancel, [&] {
-            const auto* shown = m_form.findChild<QTextEdit*>();
-            const QSizeF needed = shown->document()->size();
-            EXPECT_LE(needed.width(), shown->viewport()->width());
+    for (const QString& message : {QString(), u"No"_s, path, u"word "_s.repeated(2000)})
+        show(message, YesNoCancel, [&] {
+            const QSizeF needed = text().document()->size();
+            EXPECT_LE(needed.width(), text().viewport()->width());
             EXPECT_LE(m_form.height(), m_form.screen()->availableGeometry().height());
             EXPECT_LE(m_form.width(), 640);
-            const bool scrolls = shown->verticalScrollBarPolicy() == Qt::ScrollBarAlwaysOn;
-            EXPECT_EQ(scrolls, needed.height() > shown->height());
-            EXPECT_EQ(scrolls, text.size() > 1000);
-            for (int i = 0; i < 3; ++i)
-                EXPECT_TRUE(m_form.rect().contains(button(i)->geometry()));
+            const bool scrolls = text().verticalScrollBarPolicy() == Qt::ScrollBarAlwaysOn;
+            EXPECT_EQ(scrolls, needed.height() > text().height());
+            EXPECT_EQ(scrolls, message.size() > 1000);
+            EXPECT_TRUE(m_form.rect().contains(button(2).geometry()));
         });
 }
 
 TEST_F(MessageBoxTest, AsksForALineOfText) {
-    const auto answered = [this](auto act) {
-        QTimer::singleShot(0, &m_form, [act] {
-            auto* prompt = QApplication::activeModalWidget();
-            ASSERT_NE(prompt, nullptr);
-            auto* line = prompt->findChild<QLineEdit*>();
-            EXPECT_EQ(line->accessibleName(), u"Name <b>?");
-            EXPECT_TRUE(line->text().isEmpty());
-            line->setText(u"Größe"_s);
-            act(*prompt);
-        });
-        return m_form.ask("Name <b>?");
+    const auto click = [](const QString& name) {
+        return [name](QDialog& prompt) { QTest::mouseClick(&find(prompt, name), Qt::LeftButton); };
     };
-    EXPECT_EQ(answered([](QWidget& prompt) { QTest::keyClick(&prompt, Qt::Key_Escape); }), "");
-    EXPECT_EQ(answered([](QWidget& prompt) {
-                  QTest::mouseClick(prompt.findChild<BoxControl*>(u"cancel"_s), Qt::LeftButton);
-              }),
-              "");
-    EXPECT_EQ(answered([](QWidget& prompt) {
+    EXPECT_EQ(asked([](QDialog& prompt) { QTest::keyClick(&prompt, Qt::Key_Escape); }), "");
+    EXPECT_EQ(asked(click(u"cancel"_s)), "");
+    EXPECT_EQ(asked(click(u"ok"_s)), "Größe");
+    EXPECT_EQ(asked([](QDialog& prompt) {
                   QTest::keyClick(prompt.findChild<QLineEdit*>(), Qt::Key_Return);
-              }),
-              "Größe");
-    EXPECT_EQ(answered([](QWidget& prompt) {
-                  QTest::mouseClick(prompt.findChild<BoxControl*>(u"ok"_s), Qt::LeftButton);
               }),
               "Größe");
 }

@@ -9,27 +9,23 @@
 namespace tessaly {
 namespace {
 
+using namespace Qt::StringLiterals;
 using Arguments = std::vector<std::string>;
 
-class DrawingCommands : public testing::Test {
-protected:
+struct DrawingCommands : testing::Test {
     int run(const Arguments& arguments, const std::function<bool()>& interrupted = {}) {
         test::CommandResult result =
             test::runCommand(arguments, {.wasInterrupted = interrupted}, drawingCommands());
         said = std::move(result.err);
         return result.status;
     }
-    int render(const std::string& output, const Arguments& more = {}) {
-        Arguments all{"render", Easy, "--number", "2", "--output", folder / output};
+    /// Makes a file of the easy puzzles with that command; its path.
+    QString make(const std::string& command, const std::string& output, const Arguments& more) {
+        Arguments all{command, Easy, "--output", folder / output};
         all.insert(all.end(), more.begin(), more.end());
-        return run(all);
+        EXPECT_EQ(run(all), 0) << said;
+        return QString::fromStdString(folder / output);
     }
-    int print(const Arguments& more) {
-        Arguments all{"print", Easy, "--output", folder / "out.pdf"};
-        all.insert(all.end(), more.begin(), more.end());
-        return run(all);
-    }
-    QString file(const std::string& name) const { return QString::fromStdString(folder / name); }
 
     const std::string Easy = TESSALY_TEST_DATA "/puzzles/easy.txt";
     test::TemporaryFolder folder;
@@ -37,34 +33,32 @@ protected:
 };
 
 TEST_F(DrawingCommands, RenderDrawsEveryKindOfPicture) {
-    ASSERT_EQ(render("a.png"), 0) << said;
-    const QImage puzzle(file("a.png"));
+    const QImage puzzle(make("render", "a.png", {"--number", "2"}));
     EXPECT_EQ(puzzle.size(), QSize(506, 476));
-    ASSERT_EQ(render("b.PNG", {"--scale", "2.5", "--solution"}), 0) << said;
-    const QImage solution(file("b.PNG"));
-    EXPECT_EQ(solution.size(), QSize(1265, 1190));
-    ASSERT_EQ(render("c.svg", {"--scale", "2"}), 0) << said;
-    EXPECT_EQ(QSvgRenderer(file("c.svg")).viewBox().size(), QSize(1012, 952));
-    ASSERT_EQ(render("d.pdf"), 0) << said;
-    EXPECT_TRUE(PdfDocument(folder / "d.pdf")
-                    .info(QStringLiteral("Page size"))
-                    .startsWith(QStringLiteral("380 x 357")))
-        << PdfDocument(folder / "d.pdf").info(QStringLiteral("Page size")).toStdString();
-    ASSERT_EQ(render("e.png", {"--scheme", "night"}), 0) << said;
     EXPECT_EQ(puzzle.pixelColor(2, 470), QColor(Qt::white));
-    EXPECT_LT(QImage(file("e.png")).pixelColor(2, 470).lightness(), 100);
+    const Arguments larger{"--number", "2", "--scale", "2.5", "--solution"};
+    EXPECT_EQ(QImage(make("render", "b.PNG", larger)).size(), QSize(1265, 1190));
+    const QSvgRenderer svg(make("render", "c.svg", {"--number", "2", "--scale", "2"}));
+    EXPECT_EQ(svg.viewBox().size(), QSize(1012, 952));
+    const QImage night(make("render", "e.png", {"--number", "2", "--scheme", "night"}));
+    EXPECT_LT(night.pixelColor(2, 470).lightness(), 100);
+    make("render", "d.pdf", {"--number", "2"});
+    EXPECT_TRUE(PdfDocument(folder / "d.pdf").info(u"Page size"_s).startsWith(u"380 x 357"_s));
 }
 
 TEST_F(DrawingCommands, PrintMakesABooklet) {
-    ASSERT_EQ(print({}), 0) << said;
+    make("print", "out.pdf", {});
     EXPECT_EQ(PdfDocument(folder / "out.pdf").pageCount(), 10 + 4);
-    ASSERT_EQ(print({"--from", "3", "--to", "9", "--per-page", "6", "--no-solutions", "--paper",
-                     "letter"}),
-              0)
-        << said;
+    make("print", "out.pdf",
+         {"--from", "3", "--to", "9", "--per-page", "6", "--no-solutions", "--paper", "letter"});
     const PdfDocument pdf(folder / "out.pdf");
     EXPECT_EQ(pdf.pageCount(), 2);
-    EXPECT_TRUE(pdf.info(QStringLiteral("Page size")).startsWith(QStringLiteral("612 x 792")));
+    EXPECT_TRUE(pdf.info(u"Page size"_s).startsWith(u"612 x 792"_s));
+    std::filesystem::remove(folder / "out.pdf");
+    int asked = 0;
+    EXPECT_EQ(run({"print", Easy, "--output", folder / "out.pdf"}, [&] { return ++asked > 3; }),
+              exit_status::Interrupted);
+    EXPECT_TRUE(folder.names().empty());
 }
 
 TEST_F(DrawingCommands, WhatCannotBeDoneIsSaidOnOneLineAndLeavesNothing) {
@@ -108,22 +102,16 @@ TEST_F(DrawingCommands, WhatCannotBeDoneIsSaidOnOneLineAndLeavesNothing) {
 
 TEST_F(DrawingCommands, OnAFullDiskTheOldFileStaysAndTheNewOneIsNotSaidToBeThere) {
     for (const char* name : {"a.png", "a.svg", "a.pdf"}) {
-        ASSERT_EQ(render(name), 0) << said;
+        make("render", name, {"--number", "2"});
         const std::string whole = test::contentOf(folder / name);
         const test::FullDisk disk(whole.size() / 2);
-        EXPECT_EQ(render(name, {"--solution"}), 1) << name;
+        EXPECT_EQ(run({"render", Easy, "--number", "2", "--output", folder / name, "--solution"}),
+                  1);
         EXPECT_NE(said.find(name), std::string::npos) << said;
         EXPECT_NE(said.find("File too large"), std::string::npos) << said;
         EXPECT_EQ(test::contentOf(folder / name), whole);
     }
     EXPECT_EQ(folder.names(), (std::set<std::string>{"a.png", "a.svg", "a.pdf"}));
-}
-
-TEST_F(DrawingCommands, AnInterruptedPrintLeavesNothing) {
-    int asked = 0;
-    EXPECT_EQ(run({"print", Easy, "--output", folder / "out.pdf"}, [&] { return ++asked > 3; }),
-              exit_status::Interrupted);
-    EXPECT_TRUE(folder.names().empty());
 }
 
 } // namespace

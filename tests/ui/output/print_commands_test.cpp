@@ -1,67 +1,70 @@
+#include "core/play/selection_walk.h"
 #include "support/pdf_document.h"
 #include "support/sample_puzzles.h"
-#include "ui/controls/box_control.h"
+#include "ui/controls/file_name_picker.h"
 #include "ui/game_window.h"
 
-#include <QAction>
 #include <QComboBox>
-#include <QLineEdit>
 #include <QProgressBar>
-#include <QTimer>
 
 namespace tessaly {
 namespace {
 
-using namespace Qt::StringLiterals;
+using Message = ScriptedPrompts::Message;
 
-constexpr std::size_t CaptionsAndFooter = 8;
-
-class Printing : public testing::Test {
-protected:
-    Printing() { game.window->files().load(puzzles, 3); }
-
-    void choose(const QString& item) { game.find<QAction>(item).trigger(); }
-
-    /// Opens the dialog for many puzzles and prints the range to the printer.
-    void printMultiple(const QString& from, const QString& to, const QString& printer) {
-        auto& form = game.find(u"Form5"_s);
-        QTimer::singleShot(0, &form, [&] {
-            form.findChild<QLineEdit*>(u"Text1"_s)->setText(from);
-            form.findChild<QLineEdit*>(u"Text2"_s)->setText(to);
-            form.findChild<QComboBox*>(u"Combo1"_s)->setCurrentText(printer);
-            if (meanwhile)
-                meanwhile();
-            QTest::mouseClick(form.findChild<QWidget*>(u"Command1"_s), Qt::LeftButton);
+struct Printing : testing::Test {
+    Printing() {
+        game.printers.installed = {u"Laser"_s, u"Kitchen"_s};
+        game.printers.usual = u"Kitchen"_s;
+    }
+    static void press(const QDialog& form, const QString& button = u"Command1"_s) {
+        QTest::mouseClick(&find(form, button), Qt::LeftButton);
+    }
+    static void setRange(const QDialog& form, const QString& from, const QString& to) {
+        find<QLineEdit>(form, u"Text1"_s).setText(from);
+        find<QLineEdit>(form, u"Text2"_s).setText(to);
+    }
+    /// Does `what` in the dialog for many puzzles, and prints if that is not done yet.
+    void inDialog(const std::function<void(QDialog&)>& what) {
+        inNextDialog([&](QDialog& form) {
+            what(form);
+            if (form.isVisible())
+                press(form);
         });
-        choose(u"mnuprintx_4"_s);
+        game.choose(u"mnuprintx_4"_s);
     }
-    void printMultipleToPdf(const QString& from, const QString& to) {
-        game.fileDialogs.add(QString::fromStdString(pdf));
-        printMultiple(from, to, u"Print to PDF"_s);
+    void printRange(const QString& from, const QString& to, const QString& printer = u"Laser"_s) {
+        if (printer == u"Print to PDF"_s)
+            game.fileDialogs.add(QString::fromStdString(pdf));
+        inDialog([&](QDialog& form) {
+            setRange(form, from, to);
+            find<QComboBox>(form, u"Combo1"_s).setCurrentText(printer);
+        });
+    }
+    /// What a printer got last, as a file.
+    PdfDocument lastPrinted() {
+        test::put(pdf, game.printers.printed.back().pdf);
+        return PdfDocument(pdf);
     }
 
-    GameWindow game;
-    std::string puzzles = game.folder.puzzles("easy.txt");
+    GameWindow game{"easy.txt", 3};
+    std::string puzzles = game.session.puzzle.PuzPath;
     std::string pdf = game.folder.path() + "out.pdf";
-    std::function<void()> meanwhile;
 };
 
 TEST_F(Printing, PrintsTheShownPuzzleAsItStandsItsSolutionOrBoth) {
-    Board& board = game.session.game.board;
-    const CellId open = *std::find_if(AllCells.begin(), AllCells.end(), [&](CellId cell) {
-        return !board.isBlank(cell.hexagon) && !board.FixedCell[cell];
-    });
+    constexpr std::size_t CaptionsAndFooter = 8;
     game.printers.userSetsUp = [&](QPrinter& printer) {
         printer.setOutputFileName(QString::fromStdString(pdf));
         printer.setPageSize(QPageSize(QPageSize::Letter));
         return true;
     };
     const auto print = [&](const QString& item) {
-        choose(item);
+        game.choose(item);
         return PdfDocument(pdf);
     };
     const auto givens = print(u"mnuprintx_0"_s).words(1).size();
-    board.CellNum[open] = board.SolNum[open];
+    game.session.game.board.CellNum[firstSelectable(game.session.game)] = "4";
     const PdfDocument puzzle = print(u"mnuprintx_0"_s);
     EXPECT_EQ(puzzle.words(1).size(), givens + 1);
     EXPECT_EQ(puzzle.pageCount(), 1);
@@ -75,8 +78,8 @@ TEST_F(Printing, PrintsTheShownPuzzleAsItStandsItsSolutionOrBoth) {
 
 TEST_F(Printing, WhatCannotBePrintedIsSaid) {
     const auto shown = [&] {
-        choose(u"mnuprintx_0"_s);
-        return game.prompts.shown.empty() ? "" : game.prompts.shown.back().text;
+        game.choose(u"mnuprintx_0"_s);
+        return game.lastPrompt().text;
     };
     EXPECT_EQ(shown(), "") << "cancelled";
     game.printers.userSetsUp = [](QPrinter& printer) {
@@ -84,15 +87,22 @@ TEST_F(Printing, WhatCannotBePrintedIsSaid) {
         return true;
     };
     EXPECT_NE(shown().find("/nowhere/out.pdf"), std::string::npos);
-    EXPECT_EQ(game.prompts.shown.back().style, "vbok+vbcritical");
+    EXPECT_EQ(game.lastPrompt().style, "vbok+vbcritical");
     game.printers.userSetsUp = [](QPrinter&) { return true; };
     EXPECT_EQ(shown(), "There is no printer.");
     std::filesystem::create_directory(pdf);
     for (const std::string& path : {pdf, std::string("/nowhere/out.pdf")}) {
         pdf = path;
-        printMultipleToPdf(u"1"_s, u"4"_s);
-        EXPECT_NE(game.prompts.shown.back().text.find(path), std::string::npos);
+        printRange(u"1"_s, u"4"_s, u"Print to PDF"_s);
+        EXPECT_NE(game.lastPrompt().text.find(path), std::string::npos);
     }
+    test::put(puzzles, sampleRecords("easy.txt")[0]);
+    printRange(u"1"_s, u"2"_s);
+    EXPECT_NE(game.lastPrompt().text.find(": there is no puzzle 2 among its 1"), std::string::npos);
+    EXPECT_TRUE(game.printers.printed.empty());
+    game.printers.answer = Outcome::failed("Laser: on fire");
+    printRange(u"1"_s, u"1"_s);
+    EXPECT_EQ(game.lastPrompt(), (Message{"Laser: on fire", "vbok+vbcritical"}));
     EXPECT_FALSE(game.session.busy.isBusy());
     game.session.puzzle = {};
     EXPECT_EQ(shown(), "There is no puzzle to print");
@@ -101,96 +111,123 @@ TEST_F(Printing, WhatCannotBePrintedIsSaid) {
 TEST_F(Printing, ARangeGoesToAPdfFileOnceTheUserAgreesToReplaceIt) {
     test::put(pdf, "old");
     game.prompts.answers = {answer::No, answer::Yes};
-    printMultipleToPdf(u"5"_s, u"10"_s);
-    EXPECT_EQ(game.prompts.shown.back(),
-              (ScriptedPrompts::Message{"OverWrite file: " + pdf + " ?",
-                                        "vbyesno+vbquestion+vbdefaultbutton2"}));
+    printRange(u"5"_s, u"10"_s, u"Print to PDF"_s);
+    EXPECT_EQ(game.lastPrompt(),
+              (Message{"OverWrite file: " + pdf + " ?", "vbyesno+vbquestion+vbdefaultbutton2"}));
     EXPECT_EQ(test::contentOf(pdf), "old");
-    printMultipleToPdf(u"5"_s, u"10"_s);
+    printRange(u"5"_s, u"10"_s, u"Print to PDF"_s);
     EXPECT_EQ(PdfDocument(pdf).pageCount(), 3);
     EXPECT_EQ(game.message().toStdString(), "3 pages printed to " + pdf);
 }
 
-TEST_F(Printing, APrinterGetsAWholeDocumentOnItsPaper) {
-    game.printers.installed = {u"Laser"_s};
+TEST_F(Printing, TheDialogOffersPrintersFileAndTheWholeRangeAndRefusesAnother) {
+    game.session.appearance.SchemeColours[slot::Background] = RGB(20, 30, 40);
+    game.session.appearance.SchemeColours[slot::Button] = RGB(220, 230, 200);
     game.printers.paper = NamedPapers[1].size;
-    printMultiple(u"2"_s, u"14"_s, u"Laser"_s);
+    inDialog([&](QDialog& form) {
+        QStringList offered;
+        for (int i = 0; i < find<QComboBox>(form, u"Combo1"_s).count(); ++i)
+            offered << find<QComboBox>(form, u"Combo1"_s).itemText(i);
+        EXPECT_EQ(offered, (QStringList{u"Laser"_s, u"Kitchen"_s, u"Print to PDF"_s}));
+        EXPECT_EQ(find<QLineEdit>(form, u"FileNow"_s).text().toStdString(), puzzles);
+        EXPECT_EQ(groundOf(form), RGB(20, 30, 40));
+        EXPECT_EQ(toColour(find(form, u"Text1"_s).palette().base().color()), RGB(220, 230, 200));
+    });
     ASSERT_EQ(game.printers.printed.size(), 1U);
-    EXPECT_EQ(game.printers.printed[0].name, u"Laser");
-    EXPECT_EQ(game.printers.printed[0].title, u"easy.txt, 2 to 14");
-    test::put(pdf, game.printers.printed[0].pdf);
-    EXPECT_EQ(PdfDocument(pdf).pageCount(), 4 + 2);
-    EXPECT_TRUE(PdfDocument(pdf).info(u"Page size"_s).startsWith(u"612 x 792"_s));
-    game.printers.answer = Outcome::failed("Laser: on fire");
-    printMultiple(u"1"_s, u"1"_s, u"Laser"_s);
-    EXPECT_EQ(game.prompts.shown.back(),
-              (ScriptedPrompts::Message{"Laser: on fire", "vbok+vbcritical"}));
+    EXPECT_EQ(game.printers.printed[0].name, u"Kitchen");
+    EXPECT_EQ(game.printers.printed[0].title, u"easy.txt, 1 to 40");
+    EXPECT_EQ(lastPrinted().pageCount(), 10 + 4);
+    EXPECT_TRUE(lastPrinted().info(u"Page size"_s).startsWith(u"612 x 792"_s));
+
+    const char* const outside = "vbok+vbcritical";
+    const char* const backward = "vbcritical+vbok";
+    inDialog([&](QDialog& form) {
+        for (const auto& [from, to, style] : {std::tuple{u"0"_s, u"5"_s, outside},
+                                              {u"1"_s, u"41"_s, outside},
+                                              {u"0"_s, u"-3"_s, outside},
+                                              {u"five"_s, u"5"_s, outside},
+                                              {u"99999999999"_s, u"99999999999"_s, outside},
+                                              {u"0.9"_s, u"5"_s, outside},
+                                              {u"5"_s, u"3"_s, backward},
+                                              {u"1"_s, u""_s, backward}}) {
+            SCOPED_TRACE(from.toStdString() + " to " + to.toStdString());
+            setRange(form, from, to);
+            press(form);
+            EXPECT_TRUE(form.isVisible());
+            EXPECT_EQ(game.lastPrompt(), (Message{"Invalid from or to puzzle number", style}));
+            EXPECT_EQ(form.property("tag"), u"X"_s);
+        }
+        setRange(form, u" 38.9 "_s, u"40x"_s);
+        press(form);
+        EXPECT_EQ(form.property("tag"), u"Y"_s);
+    });
+    EXPECT_EQ(game.printers.printed.back().title, u"easy.txt, 38 to 40");
+    inDialog([&](QDialog& form) { press(form, u"Command2"_s); });
+    inDialog([&](QDialog& form) { QTest::keyClick(&form, Qt::Key_Escape); });
+    EXPECT_EQ(game.printers.printed.size(), 2U);
 }
 
-TEST_F(Printing, BadFilesAreNamedAndNothingIsPrinted) {
-    game.printers.installed = {u"Laser"_s};
-    const auto records = sampleRecords("easy.txt");
-    const std::string two = records[0] + "\n" + records[1] + "\n";
-    for (const auto& [content, problem] :
-         {std::pair<std::string, std::string>{two, ": there is no puzzle 3 among its 2"},
-          {two + "no record\n" + two, ": line 3: the record has"}}) {
-        meanwhile = [&, now = content] { test::put(puzzles, now); };
-        printMultiple(u"1"_s, u"3"_s, u"Laser"_s);
-        EXPECT_NE(game.prompts.shown.back().text.find(puzzles + problem), std::string::npos)
-            << game.prompts.shown.back().text;
-    }
-    EXPECT_TRUE(game.printers.printed.empty());
-    EXPECT_FALSE(game.session.busy.isBusy());
+TEST_F(Printing, TheDialogTakesAnotherFileAndRemembersThePrinter) {
+    const std::string other = game.folder.puzzles("hard.txt", "<b>other.txt");
+    test::put(other, sampleRecords("hard.txt")[0] + "\r\n" + sampleRecords("hard.txt")[1]);
+    game.fileDialogs.add({});
+    game.fileDialogs.add(u"/nowhere/none.txt"_s);
+    game.fileDialogs.add(QString::fromStdString(other));
+    inDialog([&](QDialog& form) {
+        auto& file = find<QLineEdit>(form, u"FileNow"_s);
+        auto* choose = find<FNDialog>(form, u"gf1"_s).findChild<BoxControl*>();
+        for (std::size_t failures : {0U, 1U}) {
+            choose->click();
+            EXPECT_EQ(file.text().toStdString(), puzzles);
+            EXPECT_EQ(game.prompts.shown.size(), failures);
+        }
+        choose->click();
+        EXPECT_EQ(file.text().toStdString(), other);
+        EXPECT_TRUE(file.toolTip().contains(u"&lt;b&gt;other.txt")) << "as it is";
+        find<QComboBox>(form, u"Combo1"_s).setCurrentText(u"Laser"_s);
+        find<QAbstractButton>(form, u"perPage_1"_s).click();
+        find<QAbstractButton>(form, u"withSolutions"_s).click();
+    });
+    EXPECT_EQ(game.fileDialogs.asked.front().title, u"Select a Puzzle file to print");
+    EXPECT_EQ(game.printers.printed.back().title, u"<b>other.txt, 1 to 2");
+    EXPECT_EQ(lastPrinted().pageCount(), 2);
+    inDialog([](QDialog&) {});
+    EXPECT_EQ(game.printers.printed.back().name, u"Laser");
+    game.printers.installed.clear();
+    game.fileDialogs.add({});
+    inDialog([](QDialog&) {});
+    EXPECT_EQ(game.fileDialogs.asked.back().title, u"Select a PDF file to print to");
 }
 
-/// Enough puzzles for the progress to come up.
-class LongPrinting : public Printing {
-protected:
-    LongPrinting() {
-        std::string content;
-        for (int copy = 0; copy < 100; ++copy)
-            for (const std::string& record : sampleRecords("easy.txt"))
-                content += record + "\n";
-        test::put(puzzles, content);
-        game.window->files().load(puzzles);
-        QObject::connect(&watch, &QTimer::timeout, [this] {
-            if (progress.isVisible() && !seen) {
-                seen = true;
-                during();
-            }
-        });
-        watch.start(10);
-    }
-
+TEST_F(Printing, ALongOneLetsTheWindowLiveAndLeavesNothingWhenItIsCancelledOrClosed) {
+    const std::string forty = test::contentOf(puzzles);
+    for (int copy = 1; copy < 100; ++copy)
+        std::ofstream(puzzles, std::ios::app) << forty;
+    game.window->files().load(puzzles);
     QWidget& progress = game.find(u"PrintProgress"_s);
+    std::function<void()> meanwhile;
     QTimer watch;
-    bool seen = false;
-    std::function<void()> during;
-};
-
-TEST_F(LongPrinting, CancelLeavesNoFileAndTheWindowLivesMeanwhile) {
-    during = [&] {
+    QObject::connect(&watch, &QTimer::timeout, [&] {
+        if (progress.isVisible() && meanwhile)
+            std::exchange(meanwhile, nullptr)();
+    });
+    watch.start(10);
+    meanwhile = [&] {
         EXPECT_EQ(progress.findChild<QProgressBar*>()->maximum(), 1000 + 334);
         EXPECT_TRUE(game.session.busy.isBusy());
-        QTest::mouseClick(&game.find(u"cmdarrow_1"_s), Qt::LeftButton);
+        game.click(u"cmdarrow_1"_s);
         EXPECT_EQ(game.session.puzzle.PuzNum, 1) << "one command at a time";
-        QTest::mouseClick(progress.findChild<QWidget*>(u"cancelPrint"_s), Qt::LeftButton);
+        QTest::mouseClick(&find(progress, u"cancelPrint"_s), Qt::LeftButton);
     };
-    printMultipleToPdf(u"1"_s, u"4000"_s);
-    EXPECT_TRUE(seen);
+    printRange(u"1"_s, u"4000"_s, u"Print to PDF"_s);
+    EXPECT_FALSE(meanwhile) << "the progress was never seen";
     EXPECT_FALSE(std::filesystem::exists(pdf));
     EXPECT_EQ(game.message(), u"Nothing was printed");
-    EXPECT_FALSE(progress.isVisible());
-    EXPECT_FALSE(game.session.busy.isBusy());
-}
-
-TEST_F(LongPrinting, ClosingTheWindowEndsIt) {
-    game.printers.installed = {u"Laser"_s};
-    during = [&] { game.window->close(); };
-    printMultiple(u"1"_s, u"4000"_s, u"Laser"_s);
-    EXPECT_TRUE(seen);
+    EXPECT_FALSE(progress.isVisible() || game.session.busy.isBusy());
+    meanwhile = [&] { game.window->close(); };
+    printRange(u"1"_s, u"4000"_s);
+    EXPECT_FALSE(meanwhile || progress.isVisible());
     EXPECT_TRUE(game.printers.printed.empty());
-    EXPECT_FALSE(progress.isVisible());
 }
 
 } // namespace

@@ -2,15 +2,12 @@
 
 #include "ui/game_window.h"
 
-#include <QDialog>
 #include <QDragEnterEvent>
 #include <QMimeData>
 #include <QUrl>
 
 namespace tessaly {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 struct FileDropTest : testing::Test {
     /// Drags what `encodedUrls` name onto the window and lets it go there, if it is welcome.
@@ -42,8 +39,7 @@ struct FileDropTest : testing::Test {
 };
 
 TEST_F(FileDropTest, APuzzleFileIsLoadedWhateverItsName) {
-    const std::string odd = game.folder.path() + "50% \"of\"\n#1? ü.dat";
-    std::filesystem::copy_file(easy, odd);
+    const std::string odd = game.folder.puzzles("easy.txt", "50% \"of\"\n#1? ü.dat");
     EXPECT_TRUE(dropped({urlOf(odd)}, Qt::CopyAction | Qt::MoveAction));
     EXPECT_EQ(game.session.puzzle.PuzPath, odd);
     game.session.puzzle = {};
@@ -52,30 +48,26 @@ TEST_F(FileDropTest, APuzzleFileIsLoadedWhateverItsName) {
     EXPECT_FALSE(game.find<QLineEdit>(u"PuzNumNow"_s).acceptDrops());
 }
 
-TEST_F(FileDropTest, WhatIsNotOneFileOfThisComputerIsNotWelcome) {
+TEST_F(FileDropTest, WhatIsNotOneFileOfThisComputerIsRefused) {
     const QByteArray good = urlOf(easy);
+    const QByteArray folder = QByteArray::fromStdString(game.folder.path());
     for (const QList<QByteArray>& urls : {QList<QByteArray>{},
                                           {good, good},
-                                          {urlOf(game.folder.path())},
-                                          {urlOf(game.folder.path() + "gone.txt")},
+                                          {"file://" + folder},
+                                          {"file://" + folder + "gone.txt"},
                                           {"file://elsewhere" + QByteArray::fromStdString(easy)},
                                           {"https://tessaly.example/easy.txt"}})
         EXPECT_FALSE(dropped(urls)) << urls.join(' ').toStdString();
     EXPECT_FALSE(dropped({good}, Qt::MoveAction));
+    for (const char* name : {"caf\xe9.txt", "caf%E9.txt"})
+        game.folder.puzzles("easy.txt", name);
+    EXPECT_TRUE(dropped({"file://" + folder + "caf%E9.txt"}));
+    EXPECT_NE(game.lastPrompt().text.find("not valid UTF-8"), std::string::npos);
+    EXPECT_EQ(game.session.puzzle.PuzNum, 0) << "nor is it taken for the other one";
     QDialog dialog(game.window.get());
     dialog.setModal(true);
     dialog.show();
     EXPECT_FALSE(dropped({good})) << "a dialog is open";
-}
-
-TEST_F(FileDropTest, ANameThatIsNotUtf8IsRefusedAndTakenForNoOther) {
-    const QByteArray folder = QByteArray::fromStdString(game.folder.path());
-    std::filesystem::copy_file(easy, game.folder.path() + "caf\xe9.txt");
-    std::filesystem::copy_file(easy, game.folder.path() + "caf%E9.txt");
-    EXPECT_TRUE(dropped({"file://" + folder + "caf%E9.txt"}));
-    ASSERT_EQ(game.prompts.shown.size(), 1U);
-    EXPECT_NE(game.lastPrompt().text.find("not valid UTF-8"), std::string::npos);
-    EXPECT_EQ(game.session.puzzle.PuzNum, 0);
 }
 
 } // namespace

@@ -1,66 +1,159 @@
 #include "ui/window/window_commands.h"
 
+#include "core/board/puzzle_record.h"
+#include "ui/controls/run_progress_bar.h"
 #include "ui/game_window.h"
+#include "ui/window/developer_row.h"
 #include "ui/window/file_drop.h"
-
-#include <QAction>
-#include <QLineEdit>
 
 namespace tessaly {
 namespace {
 
-using namespace Qt::StringLiterals;
+struct WindowCommandsTest : testing::Test {
+    WindowCommandsTest() { developer.show(); }
 
-/// Every way into a command, in a window that shows a puzzle.
-class CommandGate : public testing::Test {
-protected:
-    CommandGate() { game.window->files().load(game.folder.puzzles("easy.txt"), 3); }
-
-    void giveEveryCommand() {
-        for (const char* item :
-             {"mnuload", "mnusavex", "mnusaveto", "mnudelete", "mnuopts", "mnuclippuz",
-              "mnuclipsol", "mnucapwin", "mnuprintx_0", "mnuprintx_1", "mnuprintx_2", "mnuprintx_4",
-              "mnucreaten_0", "mnucreaten_1"})
-            game.find<QAction>(QLatin1String(item)).trigger();
-        for (const char* button :
-             {"cmdload",    "cmdarrow_0",   "cmdarrow_1",   "cmdcreate", "cmdundo",    "cmdreset",
-              "cmdshowsol", "cmdallpencil", "cmdsetpairs",  "cmdset1s",  "StatLab",    "digt_3",
-              "Command1",   "Command2",     "Command4",     "Command5",  "Command12x", "Command3",
-              "Command6",   "DebugSolve",   "FixXcellPairs"})
-            click(button);
-        for (const char* button : {"cmdallpencil", "Command5"})
-            click(button, Qt::RightButton);
-        QTest::keyClick(&game.find<QLineEdit>(u"PuzNumNow"_s), Qt::Key_Return);
+    /// Goes every way into a command but into those that touch no puzzle; how many there are.
+    std::size_t giveEveryCommand() {
+        const std::set<QString> harmless{u"cmdexit"_s, u"mnuhelp"_s, u"mnuabout"_s, u"DifLab"_s};
+        std::size_t ways = 2;
+        for (QAction* item : game.window->findChildren<QAction*>())
+            if (!item->shortcut().isEmpty() && !harmless.contains(item->objectName())) {
+                item->trigger();
+                ++ways;
+            }
+        for (auto* button : game.window->centralWidget()->findChildren<BoxControl*>())
+            if (button->isVisible() && !harmless.contains(button->objectName())) {
+                QTest::mouseClick(button, Qt::LeftButton);
+                ++ways;
+            }
+        QTest::keyClick(&game.find(u"PuzNumNow"_s), Qt::Key_Return);
         Q_EMIT game.window->findChild<FileDrop*>()->dropped(
             QString::fromStdString(game.session.puzzle.PuzPath));
+        return ways;
     }
-    void click(const char* name, Qt::MouseButton button = Qt::LeftButton) {
-        // Dialogs and pickers have controls of the same names.
-        for (auto* control : game.window->findChildren<BoxControl*>(QLatin1String(name)))
-            if (control->window() == game.window.get() &&
-                qobject_cast<FNDialog*>(control->parentWidget()) == nullptr)
-                QTest::mouseClick(control, button);
+    void press(const QString& developersButton, Qt::MouseButton with = Qt::LeftButton) {
+        QTest::mouseClick(&find(developer, developersButton), with);
+    }
+    std::string said() { return game.lastPrompt().text; }
+    QString textOf(const QString& item) { return game.find<QAction>(item).text(); }
+    void choose(const QString& item, const std::string& path) {
+        game.fileDialogs.add(QString::fromStdString(path));
+        game.choose(item);
     }
 
-    GameWindow game;
+    GameWindow game{"hard.txt", 3};
+    DeveloperRow& developer = *game.window->findChild<DeveloperRow*>();
+    const Board& board = game.session.game.board;
 };
 
-TEST_F(CommandGate, WhilePuzzlesAreCreatedEveryCommandIsRefusedWithAWord) {
-    const Board before = game.session.game.board;
-    const std::size_t entrances = 14 + 21 + 2 + 1 + 1;
+TEST_F(WindowCommandsTest, WhilePuzzlesAreCreatedEveryCommandIsRefusedWithAWord) {
+    const Board before = board;
     game.session.busy.creating = true;
-    giveEveryCommand();
-    EXPECT_EQ(game.prompts.shown.size(), entrances);
+    const std::size_t ways = giveEveryCommand();
+    EXPECT_GT(ways, 35U);
+    for (const QString& button : {u"cmdallpencil"_s, u"Command5"_s})
+        QTest::mouseClick(&find(*game.window->centralWidget(), button), Qt::RightButton);
+    EXPECT_EQ(game.prompts.shown.size(), ways + 2);
     for (const auto& [text, style] : game.prompts.shown)
         EXPECT_EQ(text + '/' + style, "Let AutoCreate finish first/vbcritical+vbok");
-    game.find<QAction>(u"oldfiles_0"_s).trigger();
-    EXPECT_EQ(game.prompts.shown.back().text, "Cancel Puzzle Creation first");
+    game.choose(u"oldfiles_0"_s);
+    EXPECT_EQ(said(), "Cancel Puzzle Creation first");
 
     game.session.busy = {.creating = false, .commandRunning = true};
     giveEveryCommand();
-    EXPECT_EQ(game.prompts.shown.size(), entrances + 1) << "a short command is waited for silently";
-    EXPECT_EQ(game.session.game.board, before);
+    EXPECT_EQ(game.prompts.shown.size(), ways + 3) << "a short command is waited for silently";
+    EXPECT_EQ(board, before);
     EXPECT_EQ(game.session.puzzle.PuzNum, 3);
+}
+
+TEST_F(WindowCommandsTest, PuzzlesAreSavedToAndDeletedFromFilesWhateverTheirName) {
+    const std::string saved = PuzzleRecord(board) + "\r\n";
+    for (const char* name : {"\"q\" & 'b'.dat", "line\nfeed.txt", "ü 50%.txt"}) {
+        const std::string path = game.folder.path() + name;
+        choose(u"mnusavex"_s, path);
+        EXPECT_EQ(said(), "Puzzle#1 added to file " + path);
+        game.choose(u"mnusaveto"_s);
+        EXPECT_EQ(test::contentOf(path), saved + saved);
+        EXPECT_EQ(game.text(u"PuzFileName"_s), QString::fromUtf8(name));
+        EXPECT_EQ(game.number(), u"2"_s);
+        game.prompts.answers = {answer::Yes};
+        game.choose(u"mnudelete"_s);
+        EXPECT_EQ(test::contentOf(path), saved);
+    }
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    choose(u"mnuload"_s, game.folder.puzzles("easy.txt"));
+    for (const FileQuestion& asked : game.fileDialogs.asked) {
+        EXPECT_EQ(asked.folder.toStdString(), game.folder.path());
+        EXPECT_EQ(asked.kind, u"Tessaly Files (*.txt;*.dat)"_s);
+        EXPECT_EQ(asked.title, asked.saving ? u"Select an output Puzzle file"_s
+                                            : u"Select a Puzzle file to open"_s);
+    }
+}
+
+TEST_F(WindowCommandsTest, SixFilesLeaveTheFiveLatestInTheMenu) {
+    const QString folder = QString::fromStdString(game.folder.path());
+    for (const char* name : {"1", "2", "3", "4", "5", "6"})
+        game.window->files().load(game.folder.puzzles("easy.txt", name + std::string(" & co.txt")));
+    for (int item = 0; item < 5; ++item) {
+        EXPECT_TRUE(game.find<QAction>(u"oldfiles_%1"_s.arg(item)).isVisible());
+        EXPECT_EQ(textOf(u"oldfiles_%1"_s.arg(item)), folder + u"%1 && co.txt"_s.arg(6 - item));
+    }
+    const auto& separator = game.find<QAction>(u"oldfiles_5"_s);
+    EXPECT_TRUE(separator.isSeparator() && separator.isVisible());
+    game.choose(u"oldfiles_3"_s);
+    EXPECT_EQ(game.text(u"PuzFileName"_s), u"3 & co.txt"_s);
+    EXPECT_EQ(textOf(u"mnusaveto"_s), folder + u"3 && co.txt"_s);
+}
+
+TEST_F(WindowCommandsTest, TheDevelopersButtonsReachTheirCommands) {
+    const Board before = board;
+    press(u"Command12x"_s);
+    EXPECT_EQ(said().find("Error in cell 0"), 0U) << said();
+    press(u"Command5"_s);
+    EXPECT_EQ(said().find("AutosolveHard, fixed, Cell="), 0U) << said();
+    EXPECT_EQ(board, before);
+    press(u"Command5"_s, Qt::RightButton);
+    EXPECT_NE(board, before);
+    press(u"Command6"_s);
+    EXPECT_EQ(board, before);
+    game.prompts.lines = {"015 46"};
+    press(u"Command3"_s);
+    EXPECT_EQ(board.CellNum[1][5], "46");
+    for (const auto& [name, file] : {std::pair(u"Command1"_s, "addnew.txt: "),
+                                     {u"Command2"_s, "addnewr.txt: "},
+                                     {u"Command4"_s, "puzzles20k.txt: "}}) {
+        press(name);
+        EXPECT_NE(said().find(file), std::string::npos) << "there is no such file: " << said();
+    }
+}
+
+TEST_F(WindowCommandsTest, ALongRunShowsABarTheWindowLivesAndClosingItEndsTheRun) {
+    std::string records;
+    for (int i = 0; i < 20000; ++i)
+        records += PuzzleRecord(board) + "\r\n";
+    test::put(game.folder.path() + "addnew.txt", records);
+    auto& bar = *game.window->findChild<RunProgressBar*>();
+    int furthest = 0;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, [&] {
+        EXPECT_TRUE(bar.isVisible());
+        EXPECT_EQ(bar.maximum(), 20000);
+        EXPECT_GE(bar.value(), furthest);
+        furthest = bar.value();
+    });
+    timer.start(0);
+    press(u"Command1"_s);
+    timer.stop();
+    EXPECT_GT(furthest, 0);
+    EXPECT_FALSE(bar.isVisible());
+    EXPECT_EQ(said(), "done");
+    EXPECT_EQ(game.text(u"puznumber"_s), u" of 40"_s) << "the puzzle's again";
+
+    std::filesystem::remove(game.folder.path() + "addnewr.txt");
+    QTimer::singleShot(0, game.window.get(), &QWidget::close);
+    press(u"Command1"_s);
+    EXPECT_EQ(game.prompts.shown.size(), 1U);
+    EXPECT_FALSE(std::filesystem::exists(game.folder.path() + "addnewr.txt"));
 }
 
 } // namespace
