@@ -107,6 +107,17 @@ struct SessionScene {
             content += records[i] + "\r\n";
         return fileOf(name, content);
     }
+    /// What is seen now, as in "2/3 a.txt: the message|a new box [its style]". Paths begin in the
+    /// program folder.
+    std::string seen() {
+        const auto& [path, number, count, record] = display.puzzle;
+        std::string text = std::to_string(number) + "/" + std::to_string(count) + " " +
+                           path.native() + ": " + display.message + prompts.told();
+        const std::string home = session.ProgramFolder;
+        for (std::size_t at = 0; (at = text.find(home)) != std::string::npos;)
+            text.erase(at, home.size());
+        return text;
+    }
     const ScriptedPrompts::Message& lastMessage() { return prompts.shown.back(); }
 
     const std::vector<std::string> records = sampleRecords("easy.txt");

@@ -7,6 +7,7 @@
 #include <deque>
 #include <initializer_list>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tessaly {
@@ -49,6 +50,14 @@ struct ScriptedPrompts : Prompts {
         std::string line = lines.front();
         lines.pop_front();
         return line;
+    }
+
+    /// What was shown since the last call: "|text [style]" for each box.
+    std::string told() {
+        std::string all;
+        for (const auto& [text, style] : std::exchange(shown, {}))
+            all += "|" + text + " [" + style + "]";
+        return all;
     }
 
     std::deque<int> answers;

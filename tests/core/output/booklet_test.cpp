@@ -1,22 +1,114 @@
 #include "core/output/booklet.h"
 
+#include "core/board/puzzle_store.h"
+#include "core/output/page_layout.h"
+#include "support/sample_board.h"
+#include "support/sample_puzzles.h"
+#include "support/temporary_folder.h"
+
 #include <gtest/gtest.h>
+
+#include <algorithm>
+#include <vector>
 
 namespace tessaly {
 namespace {
+
+using Pages = std::vector<BookletPage>;
+
+Pages pagesOf(const Booklet& booklet) {
+    Pages pages;
+    for (int page = 0; page < booklet.pageCount(); ++page)
+        pages.push_back(booklet.page(page));
+    return pages;
+}
 
 TEST(Booklet, EveryPuzzleHasItsPlaceAndTheSolutionsComeAfter) {
     const BookletPart puzzles{false, 4};
     const BookletPart solutions{true, SolutionsPerPage};
     const Booklet booklet(13, {puzzles, solutions});
-    const std::vector<BookletPage> expected{{puzzles, 0, 4},    {puzzles, 4, 4},
-                                            {puzzles, 8, 4},    {puzzles, 12, 1},
-                                            {solutions, 0, 12}, {solutions, 12, 1}};
-    ASSERT_EQ(booklet.pageCount(), static_cast<int>(expected.size()));
-    for (int page = 0; page < booklet.pageCount(); ++page)
-        EXPECT_EQ(booklet.page(page), expected[static_cast<std::size_t>(page)]) << page;
-    EXPECT_EQ(booklet.page(booklet.pageCount()).count, 0) << "behind the last page";
+    EXPECT_EQ(pagesOf(booklet), (Pages{{puzzles, 0, 4},
+                                       {puzzles, 4, 4},
+                                       {puzzles, 8, 4},
+                                       {puzzles, 12, 1},
+                                       {solutions, 0, 12},
+                                       {solutions, 12, 1}}));
+    EXPECT_EQ(booklet.page(6).count, 0) << "behind the last page";
     EXPECT_EQ(Booklet(12, {solutions}).pageCount(), 1);
+}
+
+TEST(Booklet, ARangeIsPrintedAsItWasMadeWithItsSolutionsBehind) {
+    const test::TemporaryFolder folder;
+    const std::vector<std::string> records = sampleRecords("easy.txt");
+    const std::string path = folder / "my puzzles.txt";
+    test::put(path, records[0] + "\n" + records[1] + ":" + std::string(114, '1') + "\n");
+    PuzzleStore files;
+    Board board;
+    ASSERT_TRUE(files.ReadPuzzle(path, 2, board).ok());
+    const Board made = boardOf(records[1]);
+    ASSERT_NE(board, made) << "somebody has played it";
+
+    PrintRange range{.path = path, .from = 2, .to = 4};
+    const PrintJob job = jobOf(range, files);
+    EXPECT_EQ(job.title, "my puzzles.txt, 2 to 4");
+    EXPECT_EQ(job.firstNumber, 2);
+    EXPECT_EQ(pagesOf(job.booklet), (Pages{{{false, 4}, 0, 3}, {{true, SolutionsPerPage}, 0, 3}}));
+    EXPECT_EQ(job.boardOf(2, board).problem, "");
+    EXPECT_EQ(board, made) << "without what the player entered";
+    EXPECT_EQ(job.boardOf(3, board).problem, path + ": there is no puzzle 3 among its 2");
+    range.solutions = false;
+    EXPECT_EQ(pagesOf(jobOf(range, files).booklet), (Pages{{{false, 4}, 0, 3}}));
+}
+
+TEST(Booklet, OneBoardIsPrintedAsItStandsEachPartOnItsPage) {
+    const BookletPage puzzle{{false, 1}, 0, 1}, solution{{true, 1}, 0, 1};
+    for (const auto& [isPuzzle, isSolution, title, pages] :
+         {std::tuple(true, true, "Puz# 7", Pages{puzzle, solution}),
+          {true, false, "Puz# 7", {puzzle}},
+          {false, true, "Sol# 7", {solution}}}) {
+        const PrintJob job = jobOf(sampleBoardInPlay(), 7, isPuzzle, isSolution);
+        EXPECT_EQ(job.title, title);
+        EXPECT_EQ(pagesOf(job.booklet), pages);
+        Board board;
+        EXPECT_TRUE(job.boardOf(7, board).ok());
+        EXPECT_EQ(board, sampleBoardInPlay());
+    }
+}
+
+bool contains(const Rect& outer, const Rect& inner) {
+    constexpr double Hair = 1e-6;
+    return inner.left >= outer.left - Hair && inner.right <= outer.right + Hair &&
+           inner.top >= outer.top - Hair && inner.bottom <= outer.bottom + Hair;
+}
+
+bool overlap(const Rect& a, const Rect& b) {
+    return a.left < b.right && b.left < a.right && a.top < b.bottom && b.top < a.bottom;
+}
+
+TEST(PageLayout, BoardsLieApartOnTheSheetAndKeepTheirShape) {
+    constexpr std::array Sheets{PaperSize{595.276, 841.89}, PaperSize{612, 792},
+                                PaperSize{841.89, 595.276}, PaperSize{100, 150}};
+    for (const PaperSize& paper : Sheets)
+        for (int boards : {1, 2, 4, 6, 12}) {
+            SCOPED_TRACE(testing::Message() << paper.width << " wide, " << boards << " boards");
+            const PageLayout layout(paper, boards);
+            const double margin = layout.footer().left;
+            EXPECT_GT(margin, 0.06 * std::min(paper.width, paper.height));
+            const Rect printed{margin, margin, paper.width - margin, layout.footer().top};
+            std::vector<Rect> areas;
+            double covered = 0;
+            for (int place = 0; place < boards; ++place) {
+                const Rect area = layout.boardArea(place);
+                EXPECT_TRUE(contains(printed, area)) << place;
+                EXPECT_NEAR(area.width() / area.height(),
+                            BoardExtent.width() / BoardExtent.height(), 1e-9);
+                for (const Rect& other : areas)
+                    EXPECT_FALSE(overlap(area, other)) << place;
+                areas.push_back(area);
+                covered += area.width() * area.height();
+            }
+            EXPECT_GT(covered, 0.45 * printed.width() * printed.height()) << "room is wasted";
+        }
 }
 
 } // namespace

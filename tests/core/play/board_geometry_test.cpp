@@ -18,26 +18,16 @@ TEST(BoardGeometry, HexagonsAndNumbersStandWhereTheirAnchorsPutThem) {
 }
 
 TEST(BoardGeometry, APointHitsTheCellWhoseRectangleHoldsIt) {
-    struct Row {
-        Point point;
-        CellId cell;
-    };
-    for (const auto& [point, cell] : {
-             Row{{253, 30}, {1, 2}},    // inside
-             Row{{239.5, 18}, {1, 1}},  // on the corner of cells 1 and 2: the lower position
-             Row{{253, 62}, {1, 2}},    // on the line between the upper and the lower cells
-             Row{{253, 62.1}, {1, 5}},  //
-             Row{{253, 106}, {1, 5}},   // on the side of hexagons 1 and 5: the lower hexagon
-             Row{{253, 106.1}, {5, 2}}, //
-             Row{{212.5, 90}, {1, 6}},  // on the side of hexagons 1 and 2
-             Row{{212.4, 90}, {2, 3}},  //
-             Row{{212.5, 30}, {1, 1}},  // the board's rim, bounds included
-             Row{{212.4, 30}, {}},      //
-             Row{{253, 458}, {19, 5}},  // the lowest line
-             Row{{253, 458.1}, {}},     //
-             Row{{253, 17.9}, {}},      //
-             Row{{1e9, -1e9}, {}},      //
-         })
+    const std::pair<Point, CellId> rows[] = {
+        {{253, 30}, {1, 2}},                           // inside
+        {{239.5, 18}, {1, 1}},                         // between two cells: the lower position
+        {{253, 62}, {1, 2}},   {{253, 62.1}, {1, 5}},  // the upper and the lower cells
+        {{253, 106}, {1, 5}},  {{253, 106.1}, {5, 2}}, // between hexagons: the lower one
+        {{212.5, 90}, {1, 6}}, {{212.4, 90}, {2, 3}},
+        {{212.5, 30}, {1, 1}}, {{212.4, 30}, {}}, // the rim, bounds included
+        {{253, 458}, {19, 5}}, {{253, 458.1}, {}},
+        {{253, 17.9}, {}},     {{1e9, -1e9}, {}}};
+    for (const auto& [point, cell] : rows)
         EXPECT_EQ(cellAt(point), cell) << point.x << ", " << point.y;
     for (CellId cell : AllCells) {
         EXPECT_EQ(cellAt(numberCentre(cell)), cell);

@@ -1,5 +1,6 @@
 #include "core/play/game.h"
 
+#include "core/play/assists.h"
 #include "support/sample_puzzles.h"
 
 #include <gtest/gtest.h>
@@ -8,6 +9,7 @@ namespace tessaly {
 namespace {
 
 constexpr CellId Cell{7, 3};
+using Entries = Grid<std::string>::Row;
 
 struct GameTest : testing::Test, Game {
     void type(CellId cell, const std::string& digits) {
@@ -17,11 +19,9 @@ struct GameTest : testing::Test, Game {
 };
 
 TEST_F(GameTest, TypedDigitsMakeMarksAndOneUndoRecord) {
-    type(Cell, "351");
+    type(Cell, "3513120645");
     ASSERT_EQ(undoList.size(), 1u);
     EXPECT_EQ(undoList.text(0), "0703");
-    EXPECT_TRUE(TouchedCell[Cell]);
-    type(Cell, "3120645");
     EXPECT_EQ(board.CellNum[Cell], "351206") << "no digit twice, six at most";
     place(Cell, "");
     undo();
@@ -30,12 +30,10 @@ TEST_F(GameTest, TypedDigitsMakeMarksAndOneUndoRecord) {
     EXPECT_EQ(board.CellNum[Cell], "");
     EXPECT_TRUE(TouchedCell[Cell]) << "a single record leaves the cell touched";
     EXPECT_TRUE(undo().none());
-}
 
-TEST_F(GameTest, PlacingAlwaysPushesTheEntryBefore) {
     for (const char* entry : {"3", "", ""})
         place(Cell, entry);
-    ASSERT_EQ(undoList.size(), 3u);
+    ASSERT_EQ(undoList.size(), 3u) << "placing always pushes the entry before";
     EXPECT_EQ(undoList.text(1), "07033");
     undo();
     undo();
@@ -75,25 +73,108 @@ TEST_F(GameTest, AGroupedRunIsUndoneDownToTheSingleRecordBelow) {
     EXPECT_TRUE(changed.test(1) && changed.test(2) && changed.test(3)) << "both form one run";
     EXPECT_EQ(board.CellNum[1][6], "");
     EXPECT_EQ(board.CellNum[Cell], "1");
-    ASSERT_EQ(undoList.size(), 1u);
+    EXPECT_EQ(undoList.size(), 1u);
 }
 
 TEST_F(GameTest, OnlyWhatThePlayerMayFillIsSelectableAndReset) {
     EXPECT_FALSE(isSelectable({1, 2})) << "no puzzle";
     const Board fresh = boardOf(sampleRecords("easy.txt").front());
     board = fresh;
-    int filled = 0;
     for (CellId cell : AllCells) {
         const bool isOpen = !fresh.FixedCell[cell] && cell.hexagon != fresh.BlankHex;
         EXPECT_EQ(isSelectable(cell), isOpen);
         if (isOpen)
-            type(cell, ++filled % 2 == 0 ? "12" : "3");
+            type(cell, cell.position % 2 == 0 ? "12" : "3");
     }
     EXPECT_FALSE(isSelectable(CellId{}));
     reset();
     EXPECT_EQ(board, fresh);
     EXPECT_TRUE(undoList.empty());
     EXPECT_EQ(TouchedCell, Grid<bool>{});
+}
+
+/// Hexagon 10 holds the givens 1, 2 and 3 in its cells 1, 2 and 3. Its cell 5 faces hexagon 15, its
+/// cell 2 faces hexagon 5.
+struct AssistsTest : GameTest {
+    AssistsTest() {
+        board.CellNum[10] = {"", "1", "2", "3", "", "", ""};
+        for (int position = 1; position <= 3; ++position)
+            board.FixedCell[CellId{10, position}] = true;
+    }
+    std::string candidates(CellId cell) const { return CandidateText(board, TouchedCell, cell); }
+};
+
+TEST_F(AssistsTest, CandidatesComeFromBothHexagonsOfTheSide) {
+    place({15, 1}, "6");
+    EXPECT_EQ(candidates({10, 5}), "45");
+    board.CellNum[10][5] = "45";
+    EXPECT_EQ(candidates({10, 5}), "456") << "its own hexagon's where the marks stand already";
+    board.CellNum[10][5] = "";
+    place({15, 2}, "5");
+    EXPECT_EQ(candidates({10, 5}), "5") << "the pair must match";
+    EXPECT_EQ(candidates({10, 1}), "1") << "a given is itself";
+    EXPECT_EQ(candidates({1, 1}), "123456") << "a rim cell";
+
+    board.CellNum[10][4] = "4";
+    EXPECT_EQ(candidates({10, 4}), "456") << "a number of a saved game counts only once touched";
+    TouchedCell[10][4] = true;
+    EXPECT_EQ(candidates({10, 4}), "4");
+    place({10, 5}, "5");
+    board.CellNum[10][6] = "12";
+    EXPECT_EQ(candidates({10, 6}), "12") << "the last cell of a hexagon is left alone";
+    board.SkipHex = 10;
+    EXPECT_EQ(candidates({10, 5}), "");
+}
+
+TEST_F(AssistsTest, MarksReplaceMarksAndUntouchedNumbersAndAreCleared) {
+    board.CellNum[10] = {"", "1", "2", "3", "6", "12", ""};
+    const Board before = board;
+    EXPECT_EQ(withCandidates(board, TouchedCell, 10).CellNum[10][5], "456");
+    EXPECT_EQ(board, before) << "a peek is a copy";
+    fillPencilMarks(board, TouchedCell);
+    EXPECT_EQ(board.CellNum[10], (Entries{"", "1", "2", "3", "456", "456", "456"}));
+    EXPECT_EQ(board.CellNum[5][5], "2") << "what the given across the side holds";
+    clearPencilMarks(board);
+    EXPECT_EQ(board.CellNum[10], (Entries{"", "1", "2", "3", "", "", ""}));
+    EXPECT_EQ(board.CellNum[5][5], "2");
+}
+
+TEST_F(GameTest, TheSingleCandidateIsTheFirstOpenCellOfAHexagonThatLacksOneNumber) {
+    const std::pair<Entries, int> rows[] = {
+        {{"", "1", "23", "3", "4", "5", "6"}, 2},
+        {{"", "1", "23", "3", "4", "3", "6"}, 0}, // two numbers are missing
+        {{"", "1", "1", "3", "4", "5", "6"}, 0},  // no open cell
+    };
+    for (const auto& [entries, position] : rows) {
+        board.CellNum[4] = entries;
+        const Single single = SingleCandidate(board, 4);
+        EXPECT_EQ(single.cell.position, position);
+        EXPECT_EQ(single.number, position == 0 ? "" : "2");
+    }
+    board.CellNum[4] = rows[0].first;
+    board.SkipHex = 4;
+    EXPECT_FALSE(SingleCandidate(board, 4).cell || SingleCandidate(board, 20).cell);
+}
+
+TEST_F(GameTest, TheCheckFindsTheLowestWrongHexagonAndWhetherAllIsSolved) {
+    board = boardOf(sampleRecords("easy.txt").front());
+    EXPECT_EQ(firstWrongHexagon(board), 0) << "missing numbers are no fault";
+    board.CellNum[12] = {"", "3", "", "3", "", "33", ""};
+    EXPECT_EQ(firstWrongHexagon(board), 12);
+    board.CellNum[3] = {"", "", "", "0", "", "", ""};
+    EXPECT_EQ(firstWrongHexagon(board), 3);
+
+    board.CellNum = board.SolNum;
+    EXPECT_TRUE(isSolved(board));
+    for (const std::string& wrong : {std::string("12"), std::string(), board.SolNum[19][5]}) {
+        board.CellNum[19][6] = wrong;
+        EXPECT_FALSE(isSolved(board)) << wrong;
+    }
+    for (CellId cell : AllCells)
+        board.SolNum[cell] = cell.hexagon % 2 == 0 ? "" : "0";
+    EXPECT_TRUE(isSolved(board)) << "where there is no solution any number will do";
+    board.CellNum[2][1] = "45";
+    EXPECT_FALSE(isSolved(board));
 }
 
 } // namespace

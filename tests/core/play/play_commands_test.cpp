@@ -8,75 +8,60 @@
 namespace tessaly {
 namespace {
 
-using Message = ScriptedPrompts::Message;
-
 struct PlayCommandsTest : testing::Test, PlayScene {
     PlayCommandsTest() { game.board = fresh; }
+    /// Gives a command; the message then, and the boxes.
+    std::string said(void (PlayCommands::*command)()) {
+        (commands.*command)();
+        return display.message + prompts.told();
+    }
     const Board fresh = boardOf(sampleRecords("easy.txt").front());
 };
 
 TEST_F(PlayCommandsTest, CheckNamesTheWrongHexagonOrPraisesAFinishedBoard) {
-    commands.StatLab();
-    EXPECT_EQ(display.message, "Not done yet ...");
+    EXPECT_EQ(said(&PlayCommands::StatLab), "Not done yet ...");
     game.board.CellNum[7] = {"", "3", "3", "", "", "", ""};
-    commands.StatLab();
-    EXPECT_EQ(display.message, "Cell 7 has incorrect numbers");
-    EXPECT_TRUE(prompts.shown.empty());
+    EXPECT_EQ(said(&PlayCommands::StatLab), "Cell 7 has incorrect numbers");
     game.board.CellNum = game.board.SolNum;
-    commands.StatLab();
-    EXPECT_EQ(prompts.shown, (std::vector<Message>{{"All Done!", "vbok+vbhappy"}}));
-    EXPECT_EQ(display.message, "Not done yet ...") << "the praise was in the box";
+    // The praise is in the box.
+    EXPECT_EQ(said(&PlayCommands::StatLab), "Not done yet ...|All Done! [vbok+vbhappy]");
 }
 
 TEST_F(PlayCommandsTest, AssistsCountWhatTheyDidAndUndoDrawsIt) {
-    game.board = puzzleWithoutGivens();
-    const Board empty = game.board;
+    const Board empty = game.board = puzzleWithoutGivens();
     commands.cmdundo();
-    commands.cmdset1s();
-    EXPECT_EQ(display.message, "None Set");
-    commands.cmdsetpairs();
-    EXPECT_EQ(display.message, "None Fixed");
-    EXPECT_EQ(display.boardsDrawn, 0);
-    EXPECT_TRUE(display.drawn.empty());
+    EXPECT_EQ(said(&PlayCommands::cmdset1s), "None Set");
+    EXPECT_EQ(said(&PlayCommands::cmdsetpairs), "None Fixed");
+    EXPECT_TRUE(display.boardsDrawn == 0 && display.drawn.empty());
     game.board.CellNum[1] = {"", "1", "2", "3", "4", "", "6"};
-    commands.cmdset1s();
-    EXPECT_EQ(display.message, " 1 Cells Set");
+    EXPECT_EQ(said(&PlayCommands::cmdset1s), " 1 Cells Set");
     game.board.CellNum[1] = {"", "", "", "", "", "5", ""};
-    commands.cmdsetpairs();
-    EXPECT_EQ(display.message, " 1 Cells Fixed");
+    EXPECT_EQ(said(&PlayCommands::cmdsetpairs), " 1 Cells Fixed");
     EXPECT_EQ(display.boardsDrawn, 2);
-    commands.cmdundo();
-    EXPECT_EQ(display.message, "");
+    EXPECT_EQ(said(&PlayCommands::cmdundo), "");
     EXPECT_EQ(display.drawn, (std::vector<int>{1, 5})) << "both made one run";
     EXPECT_EQ(game.board, empty);
 }
 
 TEST_F(PlayCommandsTest, WhatTakesEntriesAwayAsksFirst) {
-    struct Row {
-        void (PlayCommands::*command)();
-        const char* question;
-        const char* said;
-    };
-    for (const auto& [command, question, said] :
-         {Row{&PlayCommands::cmdallpencil, "Existing Pencilmarks will be overwitten, Proceed?",
-              "Pencilmarks updated"},
-          Row{&PlayCommands::cmdallpencilClear, "Existing Pencilmarks will be cleared, Proceed?",
-              "Pencilmarks cleared"},
-          Row{&PlayCommands::cmdreset, "Clear ALL user entries?", ""}}) {
+    for (const auto& [command, question, done] :
+         {std::tuple(&PlayCommands::cmdallpencil,
+                     "Existing Pencilmarks will be overwitten, Proceed?", "Pencilmarks updated"),
+          {&PlayCommands::cmdallpencilClear, "Existing Pencilmarks will be cleared, Proceed?",
+           "Pencilmarks cleared"},
+          {&PlayCommands::cmdreset, "Clear ALL user entries?", ""}}) {
         for (CellId cell : AllCells)
             if (game.isSelectable(cell))
                 game.place(cell, cell.position == 1 ? "3" : "12");
         const Board before = game.board;
-        for (const int no : {answer::No, answer::None}) {
-            prompts.answers = {no};
-            (commands.*command)();
-            EXPECT_EQ(game.board, before);
-        }
-        prompts.answers = {answer::Yes};
+        prompts.answers = {answer::No, answer::None, answer::Yes};
         (commands.*command)();
+        (commands.*command)();
+        EXPECT_EQ(game.board, before);
+        prompts.shown.clear();
+        EXPECT_EQ(said(command),
+                  std::string(done) + "|" + question + " [vbyesno+vbquestion+vbdefaultbutton2]");
         EXPECT_NE(game.board, before);
-        EXPECT_EQ(prompts.shown.back(), (Message{question, "vbyesno+vbquestion+vbdefaultbutton2"}));
-        EXPECT_EQ(display.message, said);
     }
     EXPECT_EQ(game.board, fresh);
     EXPECT_TRUE(game.undoList.empty());

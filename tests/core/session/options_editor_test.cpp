@@ -15,6 +15,8 @@ using Names = std::vector<std::string>;
 
 constexpr Colour Orange = RGB(250, 150, 20);
 constexpr Colour Dark = RGB(20, 30, 40);
+constexpr const char* SelectToReplace = "Select a colour scheme to replace [vbok+vbcritical]";
+constexpr const char* SelectToDelete = "Select a colour scheme to delete [vbok+vbcritical]";
 
 SchemeColours built(Colour base, int contrast = 100) {
     SchemeColours colours{};
@@ -28,28 +30,36 @@ protected:
         test::put(m_file, schemeRecord("xp.col", built(RGB(226, 234, 241), 30)) +
                               schemeRecord("Rose.col", built(RGB(236, 205, 211), 60)) +
                               schemeRecord("night.col", built(Dark, 20)));
-        EXPECT_TRUE(library().LoadScheme("xp.col", settings).ok());
+        EXPECT_TRUE(library.LoadScheme("xp.col", settings).ok());
         settings.HexaFillColour = Orange;
         settings.UserNumberColour = RGB(1, 2, 3);
         before = settings;
         editor.open();
     }
 
-    SchemeLibrary library() const { return SchemeLibrary(folder.path() / ""); }
     SchemeColours stored(const std::string& file) const {
         Appearance loaded;
-        EXPECT_EQ(library().LoadScheme(file, loaded).problem, "");
+        EXPECT_EQ(library.LoadScheme(file, loaded).problem, "");
         return loaded.SchemeColours;
     }
+    SchemeColours shown() const { return editor.samples().SchemeColours; }
     /// Does something that the user answers with these numbers, and returns what is told last.
     std::string told(void (OptionsEditor::*action)(), std::deque<int> answers = {}) {
         prompts.answers = std::move(answers);
         (editor.*action)();
-        return prompts.shown.empty() ? "" : prompts.shown.back().text;
+        const std::string all = prompts.told();
+        return all.substr(all.rfind('|') + 1);
     }
+    std::string added(const char* name) {
+        prompts.lines = {name};
+        return told(&OptionsEditor::AddSch);
+    }
+    std::string replaced(int answer) { return told(&OptionsEditor::RepSch, {answer}); }
+    std::string deleted(int answer) { return told(&OptionsEditor::DelSch, {answer}); }
 
     test::TemporaryFolder folder;
     std::filesystem::path m_file = folder / "all.col";
+    SchemeLibrary library{folder.path() / ""};
     Appearance settings;
     Appearance before;
     ScriptedPrompts prompts;
@@ -73,44 +83,41 @@ TEST_F(OptionsEditorTest, StartsFromTheSettingsWithNoSchemeSelected) {
 
 TEST_F(OptionsEditorTest, AChosenSchemeShowsWithNeutralSamplesAndChangesNoSetting) {
     // The user's numbers take the scheme's dark red where it reads.
-    for (const auto& [index, neutral, own] :
-         {std::tuple{1U, Black, RGB(128, 0, 0)}, {2U, White, White}}) {
+    for (const auto& [index, name, neutral, own] :
+         {std::tuple(1U, "Rose", Black, RGB(128, 0, 0)), {2U, "night", White, White}}) {
         editor.List1_MouseUp(index);
-        const std::string& name = editor.schemeNames()[index];
-        const Colour background = stored(name + ".col")[slot::Background];
-        EXPECT_EQ(editor.samples().SchemeColours, stored(name + ".col"));
-        EXPECT_EQ(editor.schemeCaption(), "Colour Scheme: " + name);
-        EXPECT_EQ(editor.selectedColour(), background);
-        EXPECT_EQ(editor.samples().HexaFillColour, background);
-        EXPECT_EQ(editor.samples().HexaBorderColour, neutral);
-        EXPECT_EQ(editor.samples().FixedNumberColour, neutral);
-        EXPECT_EQ(editor.samples().UserNumberColour, own);
+        Appearance expected = before;
+        expected.SchemeColours = stored(std::string(name) + ".col");
+        expected.HexaFillColour = expected.SchemeColours[slot::Background];
+        expected.HexaBorderColour = expected.FixedNumberColour = neutral;
+        expected.UserNumberColour = own;
+        EXPECT_EQ(editor.samples(), expected);
+        EXPECT_EQ(editor.schemeCaption(), std::string("Colour Scheme: ") + name);
+        EXPECT_EQ(editor.selectedColour(), expected.HexaFillColour);
     }
     EXPECT_EQ(settings, before);
     editor.open();
     EXPECT_EQ(editor.samples(), before) << "what was not applied is dropped";
 
-    std::filesystem::remove(m_file);
     test::put(m_file, schemeRecord("xp.col", built(White)));
     editor.List1_MouseUp(1);
-    EXPECT_EQ(prompts.shown, (std::vector<ScriptedPrompts::Message>{
-                                 {"Colour Scheme: Rose.col not found", "vbok+vbcritical"}}));
-    EXPECT_EQ(editor.samples().SchemeColours, before.SchemeColours);
+    EXPECT_EQ(prompts.told(), "|Colour Scheme: Rose.col not found [vbok+vbcritical]");
+    EXPECT_EQ(shown(), before.SchemeColours);
 }
 
 TEST_F(OptionsEditorTest, TheContrastMakesTheSchemeAnewFromTheSelectedColour) {
     editor.setSelectedColour(Orange);
     editor.ContrastV_Change(-100);
-    EXPECT_EQ(editor.samples().SchemeColours, built(Orange, -100));
+    EXPECT_EQ(shown(), built(Orange, -100));
     EXPECT_EQ(editor.samples().HexaFillColour, Orange);
     // Its way back to the usual contrast makes a scheme too, instead of the one that was loaded.
     editor.List1_MouseUp(1);
-    EXPECT_EQ(editor.samples().SchemeColours, built(stored("Rose.col")[slot::Background]));
+    EXPECT_EQ(shown(), built(stored("Rose.col")[slot::Background]));
     editor.List1_MouseUp(1);
-    EXPECT_EQ(editor.samples().SchemeColours, stored("Rose.col"));
+    EXPECT_EQ(shown(), stored("Rose.col"));
     editor.setSelectedColour(Dark);
     editor.ShowSch();
-    EXPECT_EQ(editor.samples().SchemeColours, built(Dark));
+    EXPECT_EQ(shown(), built(Dark));
 }
 
 TEST_F(OptionsEditorTest, TheBordersWidthsGoRoundAndItsColourIsNeverTheGrounds) {
@@ -145,14 +152,8 @@ TEST_F(OptionsEditorTest, ApplyTakesTheSamplesButLeavesTheSchemesColoursToTheirL
 
     editor.open();
     editor.ContrastV_Change(50);
-    editor.Apply("1");
-    EXPECT_EQ(settings.ActiveScheme, "Rose.col") << "no scheme was selected";
-    EXPECT_EQ(settings.SchemeColours, before.SchemeColours);
-}
-
-TEST_F(OptionsEditorTest, APrintLineIsTheLeadingNumberRoundedToEvenAndAtLeastOne) {
     constexpr int Most = std::numeric_limits<int>::max();
-    const std::vector<std::pair<const char*, int>> widths{
+    const std::pair<const char*, int> widths[] = {
         {"  7 px", 7}, {"2.5", 2}, {"3.5", 4},      {"1e1", 10},   {"+4", 4},
         {"", 1},       {"0", 1},   {"-3", 1},       {".", 1},      {"10^12", 10},
         {"inf", 1},    {"nan", 1}, {"1e999", Most}, {"-1e999", 1}, {"99999.4", 99999}};
@@ -160,6 +161,8 @@ TEST_F(OptionsEditorTest, APrintLineIsTheLeadingNumberRoundedToEvenAndAtLeastOne
         editor.Apply(text);
         EXPECT_EQ(settings.PrintLineWidth, width) << text;
     }
+    EXPECT_EQ(settings.ActiveScheme, "Rose.col") << "no scheme was selected";
+    EXPECT_EQ(settings.SchemeColours, before.SchemeColours);
 }
 
 TEST_F(OptionsEditorTest, DefaultIsInForceAtOnceAndLeavesTheSwitches) {
@@ -181,79 +184,75 @@ TEST_F(OptionsEditorTest, DefaultIsInForceAtOnceAndLeavesTheSwitches) {
 }
 
 TEST_F(OptionsEditorTest, AddsTheSchemeThatIsShown) {
-    prompts.lines = {"", "OCEAN", "Ocean", ".col"};
-    EXPECT_EQ(told(&OptionsEditor::AddSch), "");
+    EXPECT_EQ(added(""), "");
     EXPECT_EQ(prompts.asked.front(), "Enter new Colour Scheme name");
     editor.setSelectedColour(Orange);
     editor.ShowSch();
-    EXPECT_EQ(told(&OptionsEditor::AddSch), "Colour Scheme: OCEAN added");
-    EXPECT_EQ(prompts.shown.back().style, "vbok+vbinformation");
+    EXPECT_EQ(added("OCEAN"), "Colour Scheme: OCEAN added [vbok+vbinformation]");
     EXPECT_EQ(stored("ocean.col"), built(Orange));
     EXPECT_FALSE(editor.selectedScheme()) << "the list was made anew";
-    EXPECT_EQ(told(&OptionsEditor::AddSch), "Colour Scheme: Ocean already exists");
-    EXPECT_EQ(prompts.shown.back().style, "vbok+vbcritical");
+    EXPECT_EQ(added("Ocean"), "Colour Scheme: Ocean already exists [vbok+vbcritical]");
     editor.List1_MouseUp(3);
     editor.Apply("2");
-    EXPECT_EQ(settings.ActiveScheme, "ocean.col");
-
-    told(&OptionsEditor::AddSch);
+    added(".col");
     editor.List1_MouseUp(4);
-    EXPECT_EQ(told(&OptionsEditor::RepSch), "Select a colour scheme to replace");
-    EXPECT_EQ(told(&OptionsEditor::DelSch), "Select a colour scheme to delete");
+    EXPECT_EQ(told(&OptionsEditor::RepSch), SelectToReplace);
+    EXPECT_EQ(told(&OptionsEditor::DelSch), SelectToDelete);
     editor.Apply("2");
     EXPECT_EQ(settings.ActiveScheme, "ocean.col") << "one without a name is never chosen";
 }
 
 TEST_F(OptionsEditorTest, ReplacesAndDeletesTheSelectedSchemeAfterAQuestion) {
     const std::string untouched = test::contentOf(m_file);
-    EXPECT_EQ(told(&OptionsEditor::RepSch), "Select a colour scheme to replace");
-    EXPECT_EQ(told(&OptionsEditor::DelSch), "Select a colour scheme to delete");
+    EXPECT_EQ(told(&OptionsEditor::RepSch), SelectToReplace);
+    EXPECT_EQ(told(&OptionsEditor::DelSch), SelectToDelete);
     editor.List1_MouseUp(2);
-    EXPECT_EQ(told(&OptionsEditor::RepSch, {answer::No}), "Replace colour scheme: night");
-    EXPECT_EQ(told(&OptionsEditor::DelSch, {answer::None}), "Delete colour scheme: night");
-    EXPECT_EQ(prompts.shown.back().style, "vbYesNo+vbquestion+vbdefaultbutton2");
+    const std::string question = " colour scheme: night [vbYesNo+vbquestion+vbdefaultbutton2]";
+    EXPECT_EQ(replaced(answer::No), "Replace" + question);
+    EXPECT_EQ(deleted(answer::None), "Delete" + question);
     EXPECT_EQ(test::contentOf(m_file), untouched);
 
     editor.setSelectedColour(Orange);
     editor.ShowSch();
-    EXPECT_EQ(told(&OptionsEditor::RepSch, {answer::Yes}), "Colour Scheme: night.col replaced");
+    const std::string done = " [vbok+vbinformation]";
+    EXPECT_EQ(replaced(answer::Yes), "Colour Scheme: night.col replaced" + done);
     EXPECT_EQ(stored("night.col"), built(Orange));
     EXPECT_EQ(editor.selectedScheme(), 2U);
-    EXPECT_EQ(told(&OptionsEditor::DelSch, {answer::Yes}), "Colour Scheme: night.col deleted");
+    EXPECT_EQ(deleted(answer::Yes), "Colour Scheme: night.col deleted" + done);
     EXPECT_EQ(editor.schemeNames(), (Names{"xp", "Rose"}));
     EXPECT_FALSE(editor.selectedScheme());
 
     // The scheme in force is guarded by its bare name, and a header in capitals is not looked for.
-    editor.List1_MouseUp(0);
-    settings.ActiveScheme = "XP";
-    EXPECT_EQ(told(&OptionsEditor::DelSch, {answer::Yes}),
-              "Cannot delete currently active Colour Scheme");
-    settings.ActiveScheme = "xp.col";
-    EXPECT_EQ(told(&OptionsEditor::DelSch, {answer::Yes}), "Colour Scheme: xp.col deleted");
-    editor.List1_MouseUp(0);
-    EXPECT_EQ(told(&OptionsEditor::DelSch, {answer::Yes}), "Colour Scheme: rose.col deleted");
+    for (const auto& [inForce, told] :
+         {std::pair("XP", "Cannot delete currently active Colour Scheme [vbok+vbcritical]"),
+          {"xp.col", "Colour Scheme: xp.col deleted [vbok+vbinformation]"},
+          {"xp.col", "Colour Scheme: rose.col deleted [vbok+vbinformation]"}}) {
+        editor.List1_MouseUp(0);
+        settings.ActiveScheme = inForce;
+        EXPECT_EQ(deleted(answer::Yes), told);
+    }
     EXPECT_EQ(editor.schemeNames(), Names{"Rose"});
-}
 
-TEST_F(OptionsEditorTest, TheListOfAnotherInstanceDoesNotMisleadTheSelection) {
+    // Another instance may change the library.
+    test::put(m_file, untouched);
+    editor.open();
     editor.List1_MouseUp(2);
-    SchemeLibrary other = library();
-    ASSERT_TRUE(other.DeleteScheme("xp").ok());
-    told(&OptionsEditor::RepSch, {answer::Yes});
-    EXPECT_EQ(editor.schemeNames()[editor.selectedScheme().value()], "night");
-    ASSERT_TRUE(other.DeleteScheme("night").ok());
-    told(&OptionsEditor::RepSch, {answer::Yes});
-    EXPECT_FALSE(editor.selectedScheme());
+    for (const auto& [gone, selected] :
+         {std::pair("xp", std::optional<std::size_t>(1)), {"night", {}}}) {
+        EXPECT_TRUE(library.DeleteScheme(gone).ok());
+        replaced(answer::Yes);
+        EXPECT_EQ(editor.selectedScheme(), selected);
+    }
 }
 
 TEST_F(OptionsEditorTest, WithoutTheSchemesTheRestCanStillBeSet) {
     editor.List1_MouseUp(1);
     std::filesystem::remove(m_file);
-    prompts.lines = {"new"};
-    EXPECT_TRUE(told(&OptionsEditor::AddSch).starts_with("Error in adding Colour Scheme:\r\n"));
-    EXPECT_TRUE(told(&OptionsEditor::DelSch, {answer::Yes})
-                    .starts_with("Error in updating Colour Scheme:\r\n"));
-    EXPECT_EQ(prompts.shown.back().style, "vbok+vbcritical");
+    EXPECT_TRUE(added("new").starts_with("Error in adding Colour Scheme:\r\n"));
+    const std::string refused = deleted(answer::Yes);
+    EXPECT_TRUE(refused.starts_with("Error in updating Colour Scheme:\r\n") &&
+                refused.ends_with("[vbok+vbcritical]"))
+        << refused;
     EXPECT_EQ(editor.schemeNames().size(), 3U);
     EXPECT_EQ(settings, before);
     EXPECT_TRUE(told(&OptionsEditor::open).starts_with(m_file.native()));

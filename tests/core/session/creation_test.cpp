@@ -1,0 +1,159 @@
+#include "core/session/creation_commands.h"
+#include "core/session/multiple_creation.h"
+#include "support/core_fakes.h"
+#include "support/sample_boards.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+namespace tessaly {
+namespace {
+
+struct CreationTest : testing::Test, SessionScene, CreationOrderChoice {
+    CreationTest() {
+        EXPECT_TRUE(Set6Combos(TESSALY_DATA "/hexabinx.txt", session.arrangements).ok());
+        single.emplace(session, files, display, Chance(7));
+        prepare(Chance(11));
+    }
+    ~CreationTest() override { EXPECT_FALSE(session.busy.isBusy()); }
+
+    void prepare(Chance chance) {
+        creation.emplace(session, files, display, prompts, *this, chance);
+    }
+    std::optional<CreationOrder> choose() override { return order; }
+    void run(int count, DifficultyChoice difficulty = std::nullopt) {
+        order = {out, difficulty, count};
+        prompts.answers = {answer::Yes};
+        creation->run();
+    }
+    std::string created() { return single->cmdcreate(), seen(); }
+    /// The records that are on the disk, each with its line end.
+    std::vector<std::string> made() const {
+        std::vector<std::string> lines;
+        const std::string content = test::contentOf(out);
+        for (std::size_t at = 0; at < content.size(); at += RecordLength + 2) {
+            lines.push_back(content.substr(at, RecordLength));
+            EXPECT_EQ(content.substr(at + RecordLength, 2), "\r\n");
+        }
+        return lines;
+    }
+    std::size_t differentMade() const {
+        const std::vector<std::string> all = made();
+        return std::set(all.begin(), all.end()).size();
+    }
+
+    std::filesystem::path out = session.ProgramFolder / "out.txt";
+    std::optional<CreationOrder> order;
+    std::optional<CreationCommands> single;
+    std::optional<MultipleCreation> creation;
+};
+
+TEST_F(CreationTest, APuzzleGoesToTheFileInPlayAndIsShown) {
+    for (const char* shown : {"Easy", "Hard"}) {
+        single->DifLab();
+        EXPECT_EQ(nameOf(display.difficulty), shown);
+    }
+    files.load(fileOfPuzzles("mine.txt", 1));
+    session.difficulty = Difficulty::Hard;
+    display.onYield = [this] { EXPECT_EQ(display.message, "Creating Puzzle (Hard) ..."); };
+    display.message.clear();
+    EXPECT_EQ(created(), "2/2 mine.txt: New Puzzle Created (Hard)");
+    EXPECT_EQ(session.game.board.DifName(), "Hard");
+    EXPECT_EQ(PuzzleRecord(session.game.board), display.puzzle.record);
+    EXPECT_EQ(display.puzzle.record.size(), RecordLength);
+    single->DifLab();
+    EXPECT_EQ(nameOf(display.difficulty), "Random") << "and so round";
+}
+
+TEST_F(CreationTest, WithoutAFileItGoesToTheTemporaryOneAndTheLabelKeepsRandom) {
+    for (const std::string place : {"1/1", "2/2"}) {
+        EXPECT_TRUE(created().starts_with(place + " temporarypuzfile.txt: New Puzzle Created ("));
+        EXPECT_EQ(display.difficulty, std::nullopt);
+    }
+    session.puzzle = {"/no/such/folder/a.txt", 3, 5, "record"};
+    session.difficulty = Difficulty::Easy;
+    EXPECT_EQ(created(), "0/0 : New Puzzle Created (Easy)|The puzzle stands in no file:\r\n"
+                         "/no/such/folder/a.txt: cannot be written: No such file or directory "
+                         "[vbok+vbcritical]");
+    EXPECT_TRUE(session.game.hasPuzzle()) << "it is played all the same";
+}
+
+TEST_F(CreationTest, ManyAreAskedForThenAppendedAndAllDiffer) {
+    fileOf("out.txt", records[0] + "\r\n\r\n  "); // blank lines behind it
+    files.load(out);
+    session.game.place({1, 5}, "4");
+    const Board before = session.game.board;
+    display.onProgress = [this] {
+        EXPECT_EQ(std::ssize(made()), display.progress.made + 1) << "on the disk, then counted";
+        EXPECT_TRUE(session.busy.creating);
+    };
+    run(60);
+    EXPECT_EQ(differentMade(), 61u);
+    EXPECT_EQ(seen(), "1/61 out.txt: 60 Puzles Created|Create Multiple Puzzles:\r\n"
+                      "Output File: out.txt\r\nDifficulty Level: Random\r\n"
+                      "Number of Puzzles:60\r\n\r\nCreating Multiple Puzzle will take time...\r\n"
+                      "Proceed? [vbinformation+vbyesno]|60 Puzzles added to file:\r\nout.txt "
+                      "[vbinformation+vbok]");
+    EXPECT_EQ(display.progressPath, out);
+    EXPECT_TRUE(display.progressEnded);
+    EXPECT_EQ(session.game.board, before) << "what was entered is kept";
+    EXPECT_EQ(session.game.undoList.size(), 1u);
+}
+
+TEST_F(CreationTest, OneInAHundredMoreIsHardThanEasy) {
+    for (const auto& [number, letter] : {std::pair(0U, 'H'), {50U, 'H'}, {51U, 'E'}, {99U, 'E'}}) {
+        prepare(chanceOf(number));
+        run(1);
+        EXPECT_EQ(made().back().front(), letter) << number;
+    }
+}
+
+TEST_F(CreationTest, NoPuzzleIsMadeTwice) {
+    // The arrangements of one filling, which has three puzzles.
+    const Board board = boardOf(records[0]);
+    session.arrangements = {};
+    session.arrangements.wordCount = HexagonCount;
+    for (CellId cell : AllCells)
+        session.arrangements.words[static_cast<std::size_t>(cell.hexagon)] +=
+            static_cast<char>(board.SolNum[cell].front() - '1' + 'A');
+    prepare(Chance(11));
+    run(3, Difficulty::Easy);
+    EXPECT_EQ(differentMade(), 3u);
+    EXPECT_EQ(made().front().front(), 'E');
+}
+
+TEST_F(CreationTest, NothingIsMadeWithoutAnOrderOrAConfirmation) {
+    creation->run();
+    EXPECT_EQ(prompts.told(), "");
+    order = {out, Difficulty::Easy, 3};
+    prompts.answers = {answer::No};
+    creation->run();
+    EXPECT_FALSE(FileExists(out));
+}
+
+TEST_F(CreationTest, APuzzleThatAnotherProgramReplacedIsShownAsItIsNow) {
+    files.load(fileOfPuzzles("mine.txt", 1));
+    session.game.place({1, 5}, "4");
+    display.onProgress = [this] { fileOf("mine.txt", records[1] + "\r\n"); };
+    run(1);
+    EXPECT_EQ(session.game.board, boardOf(records[1]));
+    EXPECT_TRUE(session.game.undoList.empty());
+}
+
+TEST_F(CreationTest, AStopOrAFailureLeavesWholeRecords) {
+    display.onProgress = [this] { creation->stop(); };
+    run(1'000'000);
+    EXPECT_GE(made().size(), 1u);
+    EXPECT_EQ(prompts.shown.size(), 1u) << "there is no more to say";
+    prompts.shown.clear();
+    out = "/no/such/folder/out.txt";
+    run(5);
+    EXPECT_TRUE(seen().ends_with("|" + out.native() +
+                                 ": cannot be written: No such file or "
+                                 "directory [vbok+vbcritical]|0 Puzzles added to file:\r\n" +
+                                 out.native() + " [vbinformation+vbok]"));
+}
+
+} // namespace
+} // namespace tessaly
