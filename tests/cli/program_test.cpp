@@ -24,24 +24,22 @@ TEST_F(Program, EveryCommandHelpsWithAnExample) {
 }
 
 TEST_F(Program, WrongUsageIsOneLineAndStatusTwo) {
-    struct Case {
-        std::string line, named;
-    };
-    for (const auto& [line, named] : std::vector<Case>{
+    const std::string easy = "create --difficulty easy --count ";
+    for (const auto& [line, named] : std::vector<std::pair<std::string, std::string>>{
              {"", "subcommand"},
              {"crate", "no subcommand crate"},
              {"create --count 1", "--difficulty"},
              {"create --dificulty easy --count 1", "no option --dificulty"},
              {"create --difficulty nasty --count 1", "nasty"},
              {"create --difficulty easy", "--count"},
-             {"create --difficulty easy --count", "--count"},
-             {"create --difficulty easy --count 0", "--count"},
-             {"create --difficulty easy --count -3", "--count"},
-             {"create --difficulty easy --count 10000001", "--count"},
-             {"create --difficulty easy --count 99999999999999999999", "--count"},
-             {"create --difficulty easy --count 2.5", "--count"},
-             {"create --difficulty easy --count 1 --jobs 257", "--jobs"},
-             {"create --difficulty easy --count 1 --seed -1", "--seed"},
+             {easy, "--count"},
+             {easy + "0", "--count"},
+             {easy + "-3", "--count"},
+             {easy + "10000001", "--count"},
+             {easy + "99999999999999999999", "--count"},
+             {easy + "2.5", "--count"},
+             {easy + "1 --jobs 257", "--jobs"},
+             {easy + "1 --seed -1", "--seed"},
              {"shuffle a.txt --output b.txt --seed 18446744073709551616", "--seed"},
              {"shuffle a.txt", "--output"},
              {"solve", "FILE"},

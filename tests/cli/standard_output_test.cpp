@@ -1,17 +1,82 @@
-#include "cli/console.h"
+// The program's real standard output: a process of its own, full disks and signals.
 
+#include "cli/console.h"
+#include "core/board/puzzle_record.h"
 #include "core/files/file_descriptor.h"
+#include "support/child_process.h"
+#include "support/command_line.h"
 #include "support/file_calls.h"
 #include "support/full_disk.h"
-#include "support/temporary_folder.h"
 
-#include <gtest/gtest.h>
-
+#include <chrono>
+#include <csignal>
 #include <fcntl.h>
-#include <ostream>
+#include <thread>
 
 namespace tessaly {
 namespace {
+
+using test::contentOf;
+
+constexpr std::size_t LineLength = RecordLength + 2;
+
+class StandardOutputTest : public test::CommandLineTest {
+protected:
+    std::string err() const { return contentOf(folder / "err.txt"); }
+
+    /// Starts the program; standard output is appended to `outPath`, no file may grow beyond
+    /// `sizeLimit` bytes.
+    pid_t start(const std::string& line, const std::string& outPath,
+                rlim_t sizeLimit = RLIM_INFINITY) const {
+        const std::string command = "exec " TESSALY_CLI " " + line + " >>" + outPath + " 2>" +
+                                    (folder / "err.txt").string();
+        return test::startChild([&] {
+            for (const int each : {SIGINT, SIGTERM, SIGHUP}) // whatever the tests ignore
+                ::signal(each, SIG_DFL);
+            const rlimit limit{sizeLimit, sizeLimit};
+            return ::setrlimit(RLIMIT_FSIZE, &limit) == 0 &&
+                   ::execl("/bin/sh", "sh", "-c", command.c_str(), nullptr) == 0;
+        });
+    }
+    static int statusOf(pid_t child) {
+        int status = 0;
+        EXPECT_EQ(::waitpid(child, &status, 0), child);
+        return status;
+    }
+    const std::string Create = "create --difficulty easy --jobs 2 --seed 1 --count ";
+};
+
+TEST_F(StandardOutputTest, NoCommandPassesOverAFullOne) {
+    const std::string told = "tessaly-cli: standard output: cannot be written: ";
+    const std::string many = Create + "700";
+    // The output is written in pieces; 700 records are more than a few of them.
+    const int status = statusOf(start(many, file, 600 * LineLength + 50));
+    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == exit_status::Failed) << status;
+    EXPECT_EQ(err(), told + "File too large\n");
+    EXPECT_EQ(contentOf(file).size(), 600 * LineLength) << "whole records";
+    for (const std::string& line : {Create + "1", many, "solve " + file, "check " + file,
+                                    std::string("bench --seconds 0.001")}) {
+        EXPECT_EQ(statusOf(start(line, "/dev/full")), status) << line;
+        EXPECT_EQ(err(), told + "No space left on device\n");
+    }
+}
+
+TEST_F(StandardOutputTest, AnInterruptEndsTheProgramSoonWithWholeRecordsOnly) {
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+        std::filesystem::remove(file);
+        const pid_t child = start(Create + "10000000", file);
+        std::error_code none;
+        while (!std::filesystem::exists(file) || std::filesystem::file_size(file, none) == 0)
+            std::this_thread::sleep_for(std::chrono::milliseconds(5));
+        ::kill(child, signal);
+        const int status = statusOf(child);
+        EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == signal) << status;
+        const std::size_t records = test::linesOf(contentOf(file), "\r\n").size();
+        EXPECT_EQ(contentOf(file).size(), records * LineLength);
+        EXPECT_EQ(err(),
+                  "tessaly-cli: interrupted after " + std::to_string(records) + " puzzles\n");
+    }
+}
 
 /// Writes on a disk where no file can be larger than `room` bytes. Whether that went well.
 bool writeTo(const FileDescriptor& file, const std::string& text, rlim_t room) {
@@ -26,33 +91,26 @@ bool writeTo(const FileDescriptor& file, const std::string& text, rlim_t room) {
     return ok;
 }
 
-TEST(StandardOutput, APartOfALineIsTakenBackWhereTheFileEndsWithIt) {
-    const test::TemporaryFolder folder;
-    const std::string path = folder / "out.txt";
-    const std::string x(99, 'x'), y(200'000, 'y');
-    struct Case {
-        int more;
-        std::string before, text;
-        rlim_t room;
-        std::string left;
+TEST_F(StandardOutputTest, APartOfALineIsTakenBackWhereTheFileEndsWithIt) {
+    const auto left = [this](int more, const std::string& before, const std::string& text,
+                             rlim_t room) {
+        test::put(file, before);
+        const FileDescriptor opened(::open(file.c_str(), O_WRONLY | more));
+        EXPECT_EQ(writeTo(opened, text, room), room == RLIM_INFINITY);
+        return contentOf(file);
     };
-    const auto test = [&path](const Case& each) {
-        test::put(path, each.before);
-        const FileDescriptor file(::open(path.c_str(), O_WRONLY | each.more));
-        EXPECT_EQ(writeTo(file, each.text, each.room), each.room == RLIM_INFINITY);
-        EXPECT_TRUE(test::contentOf(path) == each.left) << each.room;
-    };
-    test({0, "", x + "\n" + y + "\nopen", RLIM_INFINITY, x + "\n" + y + "\nopenlater\n"});
-    test({O_APPEND, "", x + "\n" + x + "\n", 150, x + "\n"});
-    test({O_APPEND, x + "\n", x + "\n", 150, x + "\n"});
-    test({O_APPEND, "", x + "\n" + x + "\n", 100, x + "\n"});
-    test({O_APPEND, "", x + "\n", 0, ""});
-    test({O_APPEND, "", x + "\n" + y + "\n", 150'000, x + "\n"});
+    const std::string x(99, 'x'), line = x + "\n", y = std::string(200'000, 'y') + "\n";
     const std::string older(200, 'o');
-    test({0, older, x + "\n" + x, 150, x + "\n" + x.substr(0, 50) + older.substr(0, 50)});
+    EXPECT_TRUE(left(0, "", line + y + "open", RLIM_INFINITY) == line + y + "openlater\n");
+    EXPECT_EQ(left(O_APPEND, "", line + line, 150), line);
+    EXPECT_EQ(left(O_APPEND, line, line, 150), line);
+    EXPECT_EQ(left(O_APPEND, "", line + line, 100), line);
+    EXPECT_EQ(left(O_APPEND, "", line, 0), "");
+    EXPECT_EQ(left(O_APPEND, "", line + y, 150'000), line);
+    EXPECT_EQ(left(0, older, line + x, 150), line + x.substr(0, 50) + older.substr(0, 50));
     EXPECT_FALSE(writeTo(FileDescriptor(), "x\n", RLIM_INFINITY)) << "closed";
     const test::FileCalls calls(test::failing("fstat", EIO));
-    test({O_APPEND, "", "1234\n56", 6, "1234\n5"});
+    EXPECT_EQ(left(O_APPEND, "", "1234\n56", 6), "1234\n5");
 }
 
 } // namespace

@@ -1,0 +1,121 @@
+// The commands that work through a puzzle file: solve, check, variants and shuffle.
+
+#include "core/solver/deduction.h"
+#include "support/command_line.h"
+#include "support/sample_puzzles.h"
+
+#include <algorithm>
+
+namespace tessaly {
+namespace {
+
+using test::CommandResult;
+using test::contentOf;
+using test::linesOf;
+using test::put;
+using FileCommands = test::CommandLineTest;
+
+const std::string Easy = sampleRecords("easy.txt").front();
+const std::string Hard = sampleRecords("hard.txt").front();
+
+std::string answer(int number, int result, const Board& board) {
+    std::string line = std::to_string(number) + " " + std::to_string(result);
+    for (CellId cell : AllCells)
+        line += " " + (board.CellNum[cell].empty() ? "-" : board.CellNum[cell]);
+    return line + "\n";
+}
+
+TEST_F(FileCommands, SolveAnswersForEveryRecordOrForOne) {
+    const std::string open = "H1211" + std::string(BoardCellCount, '1');
+    put(file, Easy + "\r\n" + Hard + ":" + std::string(BoardCellCount, '3') + "\r\n" + open);
+    std::vector<std::string> answers;
+    for (const std::string& record : {Easy, Hard, open}) {
+        Board board = boardOf(record);
+        board.ResetToGivens();
+        const int solved = SolveByDeduction(board);
+        answers.push_back(answer(static_cast<int>(answers.size()) + 1, solved, board));
+    }
+    EXPECT_EQ(run("solve " + file).out, answers[0] + answers[1] + answers[2]);
+    EXPECT_EQ(run("solve " + file + " --rules ALL --number 02").out, answers[1]);
+
+    Board basic = boardOf(Easy);
+    basic.ResetToGivens();
+    basic.CellNum[basic.BlankHex].fill("");
+    basic.BlankHex = NoHexagon;
+    std::int32_t counter = 0;
+    SolveBasic(basic, false, counter);
+    EXPECT_EQ(run("solve " + file + " --rules basic --number 1").out, answer(1, 0, basic));
+    EXPECT_TRUE(run("solve " + file + " --rules basic --number 3").out.starts_with("3 84 "));
+    expectRefused("solve " + file + " --number 1000", exit_status::Failed,
+                  file + ": line 1000: there is no such record\n");
+}
+
+TEST_F(FileCommands, BrokenLinesAreNamedAndPassedOver) {
+    const std::string broken = Easy.substr(0, 50) + "7" + Easy.substr(51);
+    put(file, "\r\n" + Easy + "\r\n" + std::string(300'000, 'x') + "\r\n" + broken + "\r\n" + Easy +
+                  ":1\r\n\r\n");
+    const CommandResult solved = run("solve " + file);
+    EXPECT_EQ(solved.status, exit_status::Failed);
+    EXPECT_EQ(solved.out,
+              run("solve " + file + " --number 2").out + run("solve " + file + " --number 5").out);
+    const std::string start = file + ": line ", told = "tessaly-cli: " + start;
+    const std::string empty = "1: the record has 0 characters instead of 119\n";
+    const std::string isLong = "3: the line is longer than any record\n";
+    EXPECT_EQ(solved.err, told + empty + told + isLong + told + "4: character 51 is no cell\n");
+    const CommandResult checked = run("check " + file);
+    EXPECT_EQ(checked.status, exit_status::Failed);
+    EXPECT_EQ(checked.err, "");
+    EXPECT_EQ(checked.out, start + empty + start + isLong + start + "4: character 51 is no cell\n" +
+                               start + "5: the same puzzle as line 2\n" + file +
+                               ": 5 puzzles checked, 4 findings\n");
+    EXPECT_EQ(run("solve " + file + " --number 3").status, exit_status::Failed);
+    put(file, Easy + "\r\n" + Hard + "\r\n\r\n\r\n");
+    EXPECT_EQ(run("check " + file).status, exit_status::Done);
+    EXPECT_EQ(run("check " + file).out, file + ": 2 puzzles checked, 0 findings\n");
+}
+
+TEST_F(FileCommands, AFileThatCannotBeReadOrWrittenIsOneLineAndTheOutputStays) {
+    for (const std::string path : {"/nonexistent/puzzles.txt", "/", "/dev/zero"}) {
+        expectRefused("solve " + path, exit_status::Failed, ": " + path + ": ");
+        expectRefused("check " + path, exit_status::CannotCheck, ": " + path + ": ");
+    }
+    for (const std::string name : {"variants ", "shuffle "}) {
+        const std::string line = name + file + " --output ";
+        put(other, "old");
+        std::filesystem::remove(file);
+        expectRefused(line + other, exit_status::Failed, ": " + file + ": ");
+        put(file, Easy + "\r\n" + Easy.substr(1) + "\r\n" + Easy);
+        expectRefused(line + other, exit_status::Failed, ": " + file + ": line 2: ");
+        EXPECT_EQ(contentOf(other), "old");
+        put(file, "");
+        expectRefused(line + "/none/out.txt", exit_status::Failed, ": /none/out.txt: ");
+        EXPECT_EQ(run(line + other).status, exit_status::Done);
+        EXPECT_EQ(contentOf(other), "") << "what an empty file gives";
+        EXPECT_EQ(folder.names(), (std::set<std::string>{"other.txt", "puzzles.txt"}));
+    }
+}
+
+TEST_F(FileCommands, EveryVariantOfNewPuzzlesPassesTheCheckAndIsShuffledOnce) {
+    run("create --difficulty random --count 40 --seed 7 --output " + file);
+    const CommandResult variants = run("variants " + file + " --output " + other);
+    EXPECT_EQ(variants.err + variants.out, "");
+    EXPECT_EQ(run("check " + other).out, other + ": 320 puzzles checked, 0 findings\n");
+
+    put(file, contentOf(other) + contentOf(file));
+    const auto mixed = [&](const std::string& seed) {
+        const std::string path = folder / "mixed.txt";
+        EXPECT_EQ(run("shuffle " + file + " --output " + path + " --seed " + seed).status, 0);
+        return linesOf(contentOf(path), "\r\n");
+    };
+    std::vector<std::string> lines = mixed("3");
+    std::vector<std::string> expected = linesOf(contentOf(other), "\r\n");
+    EXPECT_EQ(mixed("3"), lines);
+    EXPECT_NE(mixed("4"), lines);
+    EXPECT_NE(expected, lines);
+    std::sort(lines.begin(), lines.end());
+    std::sort(expected.begin(), expected.end());
+    EXPECT_EQ(lines, expected);
+}
+
+} // namespace
+} // namespace tessaly
