@@ -11,29 +11,18 @@ using namespace tessaly;
 
 namespace {
 
-constexpr std::size_t LongestEntry = 6;
-
-bool isDigit(char c) {
-    return c >= '0' && c <= '6';
-}
-
-int hexagonOf(char byte) {
-    return byte >= 'a' && byte < 'a' + HexagonCount ? byte - 'a' + 1 : NoHexagon;
-}
-
 Board boardOf(std::string_view text) {
     Board board;
-    if (text.size() < 2)
-        return board;
-    board.BlankHex = hexagonOf(text[0]);
-    board.SkipHex = hexagonOf(text[1]);
-    std::size_t at = 2;
+    std::size_t at = 0;
+    const auto next = [&] { return at < text.size() ? text[at++] : ' '; };
+    for (int* hexagon : {&board.BlankHex, &board.SkipHex})
+        if (const int number = next() - 'a' + 1; isHexagon(number))
+            *hexagon = number;
     for (CellId cell : AllCells) {
         std::string& entry = board.CellNum[cell];
-        for (; at < text.size() && isDigit(text[at]); ++at)
-            if (entry.size() < LongestEntry)
-                entry += text[at];
-        ++at;
+        for (char c = next(); c >= '0' && c <= '6'; c = next())
+            if (entry.size() < CellCount)
+                entry += c;
         board.SolNum[cell] = "1";
         board.FixedCell[cell] = entry.size() == 1;
     }
@@ -44,14 +33,12 @@ Board boardOf(std::string_view text) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const Board puzzle = boardOf(fuzz::textOf(data, size));
-    Board board = puzzle;
-    Board plain = puzzle;
+    Board board = puzzle, plain = puzzle;
     fuzz::require(SolveByDeduction(board) == plain::SolveByDeduction(plain), "the results agree");
     fuzz::require(board == plain, "the boards agree");
 
     board = plain = puzzle;
-    std::int32_t counter = 0;
-    std::int32_t plainCounter = 0;
+    std::int32_t counter = 0, plainCounter = 0;
     SolveBasic(board, true, counter);
     plain::SolveBasic(plain, true, plainCounter);
     fuzz::require(board == plain && counter == plainCounter, "the basic rules agree");

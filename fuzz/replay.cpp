@@ -7,14 +7,13 @@
 #include <vector>
 
 int main(int argc, char** argv) {
-    int count = 0;
-    for (int i = 1; i < argc; ++i)
-        for (const auto& file : std::filesystem::directory_iterator(argv[i])) {
-            const std::string input = tessaly::test::contentOf(file.path());
-            const std::vector<std::uint8_t> bytes(input.begin(), input.end());
-            std::cout << file.path().filename().string() << std::endl;
-            LLVMFuzzerTestOneInput(bytes.data(), bytes.size());
-            ++count;
-        }
-    return count > 0 ? EXIT_SUCCESS : EXIT_FAILURE;
+    if (argc != 2)
+        return EXIT_FAILURE;
+    for (const auto& file : std::filesystem::directory_iterator(argv[1])) {
+        std::cout << file.path().filename().string() << std::endl;
+        const std::string input = tessaly::test::contentOf(file.path());
+        const std::vector<std::uint8_t> bytes(input.begin(), input.end());
+        LLVMFuzzerTestOneInput(bytes.data(), bytes.size());
+    }
+    return EXIT_SUCCESS;
 }

@@ -7,21 +7,16 @@
 namespace tessaly {
 namespace {
 
-void giveRandomCells(Board& board, Chance& chance) {
-    const std::uint32_t percent = 20 + chance.below(75);
-    for (CellId cell : AllCells)
-        board.FixedCell[cell] = chance.below(100) < percent;
-    board.ResetToGivens();
-}
-
 int randomHexagon(Chance& chance) {
     return static_cast<int>(1 + chance.below(HexagonCount));
 }
 
 void spoilGivens(Board& board, Chance& chance) {
-    for (std::uint32_t n = 1 + chance.below(4); n > 0; --n)
-        board.CellNum[AllCells[chance.below(BoardCellCount)]] =
-            std::string(1, static_cast<char>('1' + chance.below(6)));
+    for (std::uint32_t n = 1 + chance.below(4); n > 0; --n) {
+        const CellId cell = AllCells[chance.below(BoardCellCount)];
+        board.SolNum[cell] = board.CellNum[cell] = std::to_string(1 + chance.below(6));
+        board.FixedCell[cell] = true;
+    }
 }
 
 /// One half settled digits (now and then a 0), else ascending candidates, else any text.
@@ -29,10 +24,9 @@ std::string randomText(Chance& chance) {
     std::string text;
     const std::uint32_t form = chance.below(8);
     if (form < 3)
-        return std::string(
-            1, static_cast<char>('0' + (chance.below(9) == 0 ? 0 : 1 + chance.below(6))));
+        return std::to_string(chance.below(9) == 0 ? 0 : 1 + chance.below(6));
     for (std::uint32_t n = chance.below(form < 5 ? 4 : 7); n > 0; --n)
-        text += static_cast<char>('1' + chance.below(6));
+        text += std::to_string(1 + chance.below(6));
     if (form < 7) {
         std::sort(text.begin(), text.end());
         text.erase(std::unique(text.begin(), text.end()), text.end());
@@ -72,10 +66,14 @@ Board filledBoard(Chance& chance) {
 
 Board sampleBoard(Sample kind, Chance& chance) {
     Board board = filledBoard(chance);
-    if (kind == Sample::RandomGivens || kind == Sample::WrongGivens)
-        giveRandomCells(board, chance);
-    else
+    if (kind == Sample::RandomGivens || kind == Sample::WrongGivens) {
+        const std::uint32_t percent = 20 + chance.below(75);
+        for (CellId cell : AllCells)
+            board.FixedCell[cell] = chance.below(100) < percent;
+        board.ResetToGivens();
+    } else {
         PuzzleDraft(packEntries(board.SolNum)).writeTo(board);
+    }
     if (kind == Sample::HalfTexts)
         board.CellNum = board.SolNum;
     if (kind == Sample::WrongGivens)

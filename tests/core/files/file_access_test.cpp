@@ -2,7 +2,9 @@
 
 #include "core/board/puzzle_store.h"
 
+#include "support/child_process.h"
 #include "support/full_disk.h"
+#include "support/sample_records.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -54,6 +56,33 @@ TEST_F(FileAccess, ReplacingKeepsWhoMayDoWhatAndShowsNobodyMoreMeanwhile) {
     EXPECT_EQ(::getxattr(file.c_str(), "user.note", nullptr, 0) == 4, takesAttributes);
     EXPECT_EQ(replaceFile(folder / "made.txt", "").problem, "");
     EXPECT_EQ(folder.names(), (Names{"a.txt", "made.txt"}));
+}
+
+TEST_F(FileAccess, MissingPermissionsAreReportedAndChangeNothing) {
+    const fs::path locked = folder / "locked.txt", readOnly = folder / "read-only.txt";
+    for (const fs::path& path : {locked, readOnly})
+        put(path, test::recordFile(2));
+    fs::permissions(locked, fs::perms(0));
+    fs::permissions(readOnly, fs::perms(0444));
+    fs::permissions(folder.path(), fs::perms(0555));
+    EXPECT_TRUE(test::succeeded(test::startChild([&] {
+        // No permission stops the system administrator.
+        constexpr uid_t Nobody = 65534;
+        PuzzleStore store;
+        Board board;
+        const auto denied = [](const std::string& problem) {
+            return problem.ends_with(": Permission denied");
+        };
+        return (::geteuid() != 0 || ::setresuid(Nobody, Nobody, Nobody) == 0) &&
+               denied(store.ReadPuzzle(locked, 1, board).reason) && FileExists(locked) &&
+               store.ReadPuzzle(readOnly, 2, board).ok() &&
+               denied(store.appendPuzzles(readOnly, "x\n").problem) &&
+               denied(replaceFile(readOnly, "x\n").problem) &&
+               denied(replaceFile(folder / "new.txt", "x\n").problem);
+    })));
+    fs::permissions(folder.path(), fs::perms(0755));
+    EXPECT_EQ(test::contentOf(readOnly), test::recordFile(2));
+    EXPECT_EQ(folder.names().size(), 2u);
 }
 
 TEST_F(FileAccess, SymbolicLinksStayLinks) {
