@@ -4,7 +4,7 @@
 #include "core/options/scheme_library.h"
 #include "core/session/configuration.h"
 
-#include "support/sample_records.h"
+#include "support/sample_puzzles.h"
 #include "support/temporary_folder.h"
 
 #include <algorithm>
@@ -40,7 +40,7 @@ Outcome startAgain(const Scene& scene) {
     int count = 0;
     int number = 0;
     const auto left = contentOf(scene.puzzles);
-    const std::string record = test::recordNumbered(7);
+    const std::string record = recordNumbered(7);
     for (const std::function<Outcome()>& step : std::initializer_list<std::function<Outcome()>>{
              [&] { return left ? files.CountLines(scene.puzzles, count) : Outcome::done(); },
              [&] {

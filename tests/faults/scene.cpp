@@ -1,18 +1,17 @@
 #include "faults/scene.h"
 
-#include "core/files/file_access.h"
 #include "core/options/scheme_library.h"
 #include "core/session/configuration.h"
 #include "core/solver/library_tools.h"
 
 #include "support/sample_puzzles.h"
-#include "support/sample_records.h"
+#include "support/temporary_folder.h"
 
 namespace tessaly::faults {
 namespace {
 
 std::string newRecord() {
-    return test::recordNumbered(1'000'000);
+    return recordNumbered(1'000'000);
 }
 
 /// Deletes the puzzle in the middle of the file, after showing it.
@@ -38,14 +37,11 @@ Outcome Scene::make(int records) const {
     std::string schemeFile;
     for (const char* name : {"first", "middle", "last"})
         schemeFile += schemeRecord(schemeHeader(name), SchemeColours{});
-    Outcome made = saveConfiguration(*this, 1);
-    if (made.ok())
-        made = replaceFile(schemes, schemeFile);
-    if (made.ok())
-        made = replaceFile(temporary, test::recordFile(1));
-    if (made.ok() && records >= 0)
-        made = replaceFile(puzzles, test::recordFile(records));
-    return made;
+    test::put(schemes, schemeFile);
+    test::put(temporary, recordFile(1));
+    if (records >= 0)
+        test::put(puzzles, recordFile(records));
+    return saveConfiguration(*this, 1);
 }
 
 const std::vector<Operation>& operations() {

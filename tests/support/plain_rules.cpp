@@ -11,10 +11,6 @@
 namespace tessaly::plain {
 namespace {
 
-bool isSettled(const std::string& entry) {
-    return entry.length() == 1;
-}
-
 void settle(Board& board, CellId cell, char digit, std::int32_t& counter) {
     if (board.CellNum[cell].length() <= 1)
         return;
@@ -27,31 +23,25 @@ void settle(Board& board, CellId cell, char digit, std::int32_t& counter) {
 void FixNeighbours(Board& board, std::int32_t& counter) {
     for (CellId cell : AllCells) {
         const CellId across = SideLink[cell];
-        if (cell.hexagon == board.SkipHex || !across)
+        if (cell.hexagon == board.SkipHex || !across || isPlaced(board.CellNum[cell]) ||
+            !isPlaced(board.CellNum[across]))
             continue;
-        if (!isSettled(board.CellNum[cell]) && isSettled(board.CellNum[across])) {
-            board.CellNum[cell] = board.CellNum[across];
-            ++counter;
-        }
+        board.CellNum[cell] = board.CellNum[across];
+        ++counter;
     }
 }
 
 void GetCandidates(Board& board, std::int32_t& counter) {
     for (int hexagon = 1; hexagon <= HexagonCount; ++hexagon) {
-        if (hexagon == board.SkipHex)
-            continue;
         const std::string base = Without("123456", board.PlacedNumbers(hexagon));
         for (int position = 1; position <= CellCount; ++position) {
             std::string& entry = board.CellNum[{hexagon, position}];
             const CellId across = SideLink[{hexagon, position}];
-            if (isSettled(entry) || !across)
+            if (hexagon == board.SkipHex || isPlaced(entry) || !across)
                 continue;
-            if (isSettled(board.CellNum[across])) {
-                entry = board.CellNum[across];
-                ++counter;
-                continue;
-            }
-            const std::string fresh = Without(base, board.PlacedNumbers(across.hexagon));
+            const std::string fresh = isPlaced(board.CellNum[across])
+                                          ? board.CellNum[across]
+                                          : Without(base, board.PlacedNumbers(across.hexagon));
             if (fresh == entry)
                 continue;
             entry = fresh;
@@ -83,18 +73,16 @@ void FixSingles(Board& board, std::int32_t& counter) {
 void FixXcellPairs(Board& board, std::int32_t& counter) {
     for (std::size_t xcell = 1; xcell <= XcellCount; ++xcell) {
         const XcellCells& cells = XcellTable[xcell];
-        if (std::any_of(cells.begin(), cells.end(),
-                        [&board](CellId cell) { return cell.hexagon == board.BlankHex; }))
-            continue;
-        if (std::all_of(cells.begin(), cells.end(),
-                        [&board](CellId cell) { return isSettled(board.CellNum[cell]); }))
-            continue;
         std::map<char, std::vector<CellId>> places;
-        for (CellId cell : cells)
+        bool isSettled = true, isBlank = false;
+        for (CellId cell : cells) {
+            isSettled = isSettled && isPlaced(board.CellNum[cell]);
+            isBlank = isBlank || cell.hexagon == board.BlankHex;
             for (char c : board.CellNum[cell])
-                if (c >= '1' && c <= '6')
+                if (c != '0')
                     places[c].push_back(cell);
-        if (places.size() != 3)
+        }
+        if (isSettled || isBlank || places.size() != 3)
             continue;
         for (const auto& [digit, named] : places)
             for (CellId cell : named)
@@ -113,46 +101,36 @@ int SolveByDeduction(Board& board) {
         FixXcellPairs(board, counter);
         FixNeighbours(board, counter);
     }
-    return std::all_of(AllCells.begin(), AllCells.end(),
-                       [&board](CellId cell) { return isSettled(board.CellNum[cell]); })
+    return std::ranges::all_of(AllCells, [&](CellId cell) { return isPlaced(board.CellNum[cell]); })
                ? 0
                : 1;
 }
 
 void SolveBasic(Board& board, bool useXcells, std::int32_t& counter) {
-    counter = 0;
-    FixNeighbours(board, counter);
-    GetCandidates(board, counter);
-    while (counter != -1) {
+    do {
+        counter = 0;
+        FixNeighbours(board, counter);
+        GetCandidates(board, counter);
+        if (counter == -1)
+            return;
         FixSingles(board, counter);
         if (useXcells)
             FixXcellPairs(board, counter);
         FixNeighbours(board, counter);
-        if (counter == 0)
-            return;
-        counter = 0;
-        FixNeighbours(board, counter);
-        GetCandidates(board, counter);
-    }
+    } while (counter != 0);
 }
 
 int CheckHexagons(const Board& board, int leftOut) {
-    int settledCount = 0;
+    std::size_t settledCount = 0;
     for (int hexagon = 1; hexagon <= HexagonCount; ++hexagon) {
         if (hexagon == leftOut)
             continue;
-        std::string seen;
-        for (int position = 1; position <= CellCount; ++position) {
-            const std::string& entry = board.CellNum[{hexagon, position}];
-            if (entry.empty())
-                return -1;
-            if (!isSettled(entry))
-                continue;
-            if (seen.find(entry) != std::string::npos)
-                return -1;
-            seen += entry;
-            ++settledCount;
-        }
+        const auto& entries = board.CellNum[hexagon];
+        const std::string settled = board.PlacedNumbers(hexagon);
+        if (std::count(entries.begin() + 1, entries.end(), "") > 0 ||
+            std::set<char>(settled.begin(), settled.end()).size() < settled.size())
+            return -1;
+        settledCount += settled.size();
     }
     return settledCount == 108 ? 99 : 0;
 }

@@ -1,20 +1,15 @@
 #pragma once
 
-#include "core/board/puzzle_record.h"
+#include "support/sample_puzzles.h"
 
 #include <array>
-#include <stdexcept>
 
 namespace tessaly {
 
 /// A puzzle with hexagon 7 blank. It never changes, so that pictures of it can be kept.
 inline Board sampleBoard() {
-    constexpr auto Record = "E0700TRV531RV14535RV431VU342Q4S15624QUS26TURSVQ536142T2136U36215412V"
-                            "T35364125Q45263R653TQ1532T623VQU43261TU264QU3143VRU";
-    Board board;
-    if (const Outcome read = readRecord(Record, board); !read.ok())
-        throw std::logic_error(read.problem);
-    return board;
+    return boardOf("E0700TRV531RV14535RV431VU342Q4S15624QUS26TURSVQ536142T2136U36215412V"
+                   "T35364125Q45263R653TQ1532T623VQU43261TU264QU3143VRU");
 }
 
 /// The sample in the middle of a play: numbers, cells of one to six marks, empty cells.

@@ -11,22 +11,18 @@ int randomHexagon(Chance& chance) {
     return static_cast<int>(1 + chance.below(HexagonCount));
 }
 
-void spoilGivens(Board& board, Chance& chance) {
-    for (std::uint32_t n = 1 + chance.below(4); n > 0; --n) {
-        const CellId cell = AllCells[chance.below(BoardCellCount)];
-        board.SolNum[cell] = board.CellNum[cell] = std::to_string(1 + chance.below(6));
-        board.FixedCell[cell] = true;
-    }
+std::string randomNumber(Chance& chance) {
+    return std::to_string(1 + chance.below(CellCount));
 }
 
 /// One half settled digits (now and then a 0), else ascending candidates, else any text.
 std::string randomText(Chance& chance) {
-    std::string text;
     const std::uint32_t form = chance.below(8);
     if (form < 3)
-        return std::to_string(chance.below(9) == 0 ? 0 : 1 + chance.below(6));
+        return chance.below(9) == 0 ? "0" : randomNumber(chance);
+    std::string text;
     for (std::uint32_t n = chance.below(form < 5 ? 4 : 7); n > 0; --n)
-        text += std::to_string(1 + chance.below(6));
+        text += randomNumber(chance);
     if (form < 7) {
         std::sort(text.begin(), text.end());
         text.erase(std::unique(text.begin(), text.end()), text.end());
@@ -34,12 +30,6 @@ std::string randomText(Chance& chance) {
         text += '0';
     }
     return text;
-}
-
-void writeTexts(Board& board, Chance& chance, std::uint32_t percent) {
-    for (CellId cell : AllCells)
-        if (chance.below(100) < percent)
-            board.CellNum[cell] = randomText(chance);
 }
 
 } // namespace
@@ -55,33 +45,32 @@ Chance chanceOf(std::uint32_t number) {
             return Chance(seed);
 }
 
-Board filledBoard(Chance& chance) {
+Board sampleBoard(Sample kind, Chance& chance) {
     HexagonWords cells{};
     completeFill().fill(cells, chance);
     Board board;
-    unpackChanges({}, cells, board.SolNum);
-    board.CellNum = board.SolNum;
-    return board;
-}
-
-Board sampleBoard(Sample kind, Chance& chance) {
-    Board board = filledBoard(chance);
+    PuzzleDraft(cells).writeTo(board);
     if (kind == Sample::RandomGivens || kind == Sample::WrongGivens) {
         const std::uint32_t percent = 20 + chance.below(75);
         for (CellId cell : AllCells)
             board.FixedCell[cell] = chance.below(100) < percent;
         board.ResetToGivens();
-    } else {
-        PuzzleDraft(packEntries(board.SolNum)).writeTo(board);
     }
-    if (kind == Sample::HalfTexts)
-        board.CellNum = board.SolNum;
-    if (kind == Sample::WrongGivens)
-        spoilGivens(board, chance);
+    for (std::uint32_t n = kind == Sample::WrongGivens ? 1 + chance.below(4) : 0; n > 0; --n) {
+        const CellId cell = AllCells[chance.below(BoardCellCount)];
+        board.SolNum[cell] = board.CellNum[cell] = randomNumber(chance);
+        board.FixedCell[cell] = true;
+    }
     if (kind == Sample::EmptiedHexagon)
         board.CellNum[randomHexagon(chance)].fill({});
-    if (kind == Sample::RandomTexts || kind == Sample::HalfTexts)
-        writeTexts(board, chance, kind == Sample::RandomTexts ? 100 : 10 + chance.below(40));
+    if (kind == Sample::HalfTexts)
+        board.CellNum = board.SolNum;
+    if (kind == Sample::RandomTexts || kind == Sample::HalfTexts) {
+        const std::uint32_t percent = kind == Sample::RandomTexts ? 100 : 10 + chance.below(40);
+        for (CellId cell : AllCells)
+            if (chance.below(100) < percent)
+                board.CellNum[cell] = randomText(chance);
+    }
     board.BlankHex = chance.below(2) == 0 ? randomHexagon(chance) : NoHexagon;
     board.SkipHex = chance.below(4) == 0 ? randomHexagon(chance) : NoHexagon;
     return board;

@@ -12,9 +12,6 @@ const SearchFill& completeFill();
 /// A source that draws this number of 0 to 99 first.
 Chance chanceOf(std::uint32_t number);
 
-/// A random solved board: every cell holds its solution, none is a given.
-Board filledBoard(Chance& chance);
-
 /// What a sample board is like before anything has been solved on it.
 enum class Sample {
     Puzzle,         ///< the rim and the ten cells of the removal plan are given

@@ -4,7 +4,6 @@
 
 #include "support/child_process.h"
 #include "support/sample_puzzles.h"
-#include "support/sample_records.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -19,8 +18,6 @@ namespace fs = std::filesystem;
 using Status = PuzzleRead::Status;
 using test::contentOf;
 using test::put;
-using test::recordFile;
-using test::recordNumbered;
 
 const std::string Mark = "\xEF\xBB\xBF";
 
@@ -76,9 +73,8 @@ TEST_F(PuzzleStoreTest, ReadsARecordOrSaysWhatIsWrongWithItAndChangesNothing) {
         EXPECT_EQ(board, expected);
         std::string visited;
         const auto visit = [&](const RecordLine& line) {
-            if (line.number == row.number && line.read(board).ok())
-                visited = line.text;
-            return true;
+            visited = line.number == row.number && line.read(board).ok() ? line.text : "";
+            return line.number < row.number;
         };
         EXPECT_EQ(forEachRecord(path, visit).problem, "");
         EXPECT_EQ(visited, row.record);
@@ -142,79 +138,67 @@ TEST_F(PuzzleStoreTest, AnAppendedPuzzleGetsTheNextNumberWhateverStandsAtTheEnd)
         EXPECT_EQ(contentOf(path), row.kept + added);
     }
     for (int mode : {1, 2, 0}) {
-        fs::remove(path);
-        board = boardOf(recordNumbered(9));
-        EXPECT_EQ(store.WritePuzzle(path, 2, board).problem, "");
-        EXPECT_EQ(store.WritePuzzle(path, mode, board).problem, "");
+        put(path, added);
+        EXPECT_EQ(store.WritePuzzle(path, mode, boardOf(recordNumbered(9))).problem, "");
         EXPECT_EQ(contentOf(path), mode == 1 ? added : added + added);
     }
 }
 
 TEST_F(PuzzleStoreTest, DeletingTakesTheLineThatIsShownAndKeepsEveryOtherByte) {
-    const std::string lines[] = {recordNumbered(1) + "\n", recordNumbered(2) + "  \r\n",
-                                 recordNumbered(3)};
-    const std::string whole = lines[0] + lines[1] + lines[2];
-    for (int number = 1; number <= 3; ++number) {
-        put(path, Mark + whole);
+    int yields = 0;
+    store = PuzzleStore([&] { ++yields; });
+    put(path, recordFile(10'000));
+    EXPECT_EQ(read(1).count, 10'000);
+    EXPECT_GE(std::exchange(yields, 0), 18) << "one for every block";
+    EXPECT_TRUE(remove(1, recordNumbered(1)).ok());
+    EXPECT_GE(yields, 4);
+
+    const std::string a = recordNumbered(1) + "\n", b = recordNumbered(2) + "  \r\n";
+    const std::string c = recordNumbered(3);
+    for (const auto& [number, left] :
+         {std::pair(1, Mark + b + c), {2, Mark + a + c}, {3, Mark + a + b}}) {
+        put(path, Mark + a + b + c);
         EXPECT_EQ(remove(number, read(number).record).problem, "");
-        std::string left = whole;
-        const std::string& line = lines[number - 1];
-        left = Mark + left.replace(left.find(line), line.size(), "");
         EXPECT_EQ(contentOf(path), left);
         EXPECT_NE(remove(1, "other").problem.find("another program"), std::string::npos);
         for (int none : {0, 3})
-            EXPECT_FALSE(remove(none, lines[2]).ok());
+            EXPECT_FALSE(remove(none, c).ok());
         EXPECT_EQ(contentOf(path), left);
     }
-    put(path, lines[2]);
-    EXPECT_EQ(remove(1, lines[2]).problem, "");
+    put(path, c);
+    EXPECT_EQ(remove(1, c).problem, "");
     EXPECT_EQ(contentOf(path), "");
-}
-
-/// Appends records of its own and deletes some of them again, as another instance does the same.
-bool appendAndDelete(const fs::path& path, int first, int rounds) {
-    PuzzleStore store;
-    Board board;
-    int number = 0;
-    for (int round = 0; round < rounds; ++round) {
-        const std::string record = recordNumbered(first + round);
-        if (!store.appendPuzzle(path, record, number).ok())
-            return false;
-        // The other instance may move the record before it is deleted; then it is looked for again.
-        while (round % 2 == 1 && !store.DeletePuzzle(path, number, record).ok())
-            for (number = 1; store.ReadPuzzle(path, number, board).record != record; ++number)
-                if (number > 4 * rounds)
-                    return false;
-    }
-    return true;
 }
 
 TEST_F(PuzzleStoreTest, TwoInstancesLoseAndTearNoRecord) {
     const char* const asked = std::getenv("TESSALY_ROUNDS"); // for a longer run
     const int rounds = asked ? std::stoi(asked) : 100;
-    const pid_t one = test::startChild([&] { return appendAndDelete(path, 0, rounds); });
-    const pid_t two = test::startChild([&] { return appendAndDelete(path, 100'000, rounds); });
-    EXPECT_TRUE(test::succeeded(one));
-    EXPECT_TRUE(test::succeeded(two));
-
-    std::multiset<std::string> expected;
-    for (int round = 0; round < rounds; round += 2)
-        for (int first : {0, 100'000})
+    std::set<std::string> expected;
+    std::vector<pid_t> children;
+    for (int first : {0, 100'000}) {
+        for (int round = 0; round < rounds; round += 2)
             expected.insert(recordNumbered(first + round));
+        // Appends records and deletes every other one again.
+        children.push_back(test::startChild([&] {
+            for (int round = 0, number = 0; round < rounds; ++round) {
+                const std::string record = recordNumbered(first + round);
+                if (!store.appendPuzzle(path, record, number).ok())
+                    return false;
+                // The other instance may move the record before; then it is looked for again.
+                while (round % 2 == 1 && !remove(number, record).ok())
+                    for (number = 1; read(number).record != record; ++number)
+                        if (number > 4 * rounds)
+                            return false;
+            }
+            return true;
+        }));
+    }
+    for (pid_t child : children)
+        EXPECT_TRUE(test::succeeded(child));
     const std::vector<std::string> found = recordsOf(path);
-    EXPECT_EQ(std::multiset<std::string>(found.begin(), found.end()), expected);
+    EXPECT_EQ(std::set<std::string>(found.begin(), found.end()), expected);
     EXPECT_EQ(fs::file_size(path), expected.size() * (RecordLength + 2));
     EXPECT_EQ(folder.names().size(), 1u);
-}
-
-TEST_F(PuzzleStoreTest, YieldsForEveryBlock) {
-    int yields = 0;
-    store = PuzzleStore([&] { ++yields; });
-    put(path, recordFile(10'000));
-    EXPECT_EQ(read(1).count, 10'000);
-    EXPECT_GE(std::exchange(yields, 0), 18);
-    EXPECT_TRUE(remove(1, recordNumbered(1)).ok());
-    EXPECT_GE(yields, 4);
 }
 
 } // namespace

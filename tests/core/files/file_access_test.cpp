@@ -2,9 +2,7 @@
 
 #include "core/board/puzzle_store.h"
 
-#include "support/child_process.h"
 #include "support/full_disk.h"
-#include "support/sample_records.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -20,10 +18,6 @@ namespace fs = std::filesystem;
 using Names = std::set<std::string>;
 using test::contentOf;
 using test::put;
-
-fs::perms permissionsOf(const fs::path& path) {
-    return fs::status(path).permissions();
-}
 
 class FileAccess : public testing::Test {
 protected:
@@ -43,46 +37,20 @@ TEST_F(FileAccess, ReplacingKeepsWhoMayDoWhatAndShowsNobodyMoreMeanwhile) {
     fs::permissions(file, fs::perms(04651)); // the right to be another does not go along
     const auto write = [&](const ContentSink& sink) {
         for (const std::string& name : folder.names())
-            EXPECT_EQ(permissionsOf(folder / name), fs::perms(name == "a.txt" ? 04651 : 0600));
+            EXPECT_EQ(fs::status(folder / name).permissions(),
+                      fs::perms(name == "a.txt" ? 04651 : 0600));
         EXPECT_EQ(folder.names().size(), 2u) << "the old file and the new one";
         return sink.write("new");
     };
     EXPECT_EQ(replaceFile(file, write).problem, "");
     EXPECT_EQ(contentOf(file), "new");
-    EXPECT_EQ(permissionsOf(file), fs::perms(0651));
     struct stat status {};
     ASSERT_EQ(::stat(file.c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode, S_IFREG | 0651U);
     EXPECT_EQ(status.st_uid == Nobody, givesAway || ::geteuid() == Nobody);
     EXPECT_EQ(::getxattr(file.c_str(), "user.note", nullptr, 0) == 4, takesAttributes);
     EXPECT_EQ(replaceFile(folder / "made.txt", "").problem, "");
     EXPECT_EQ(folder.names(), (Names{"a.txt", "made.txt"}));
-}
-
-TEST_F(FileAccess, MissingPermissionsAreReportedAndChangeNothing) {
-    const fs::path locked = folder / "locked.txt", readOnly = folder / "read-only.txt";
-    for (const fs::path& path : {locked, readOnly})
-        put(path, test::recordFile(2));
-    fs::permissions(locked, fs::perms(0));
-    fs::permissions(readOnly, fs::perms(0444));
-    fs::permissions(folder.path(), fs::perms(0555));
-    EXPECT_TRUE(test::succeeded(test::startChild([&] {
-        // No permission stops the system administrator.
-        constexpr uid_t Nobody = 65534;
-        PuzzleStore store;
-        Board board;
-        const auto denied = [](const std::string& problem) {
-            return problem.ends_with(": Permission denied");
-        };
-        return (::geteuid() != 0 || ::setresuid(Nobody, Nobody, Nobody) == 0) &&
-               denied(store.ReadPuzzle(locked, 1, board).reason) && FileExists(locked) &&
-               store.ReadPuzzle(readOnly, 2, board).ok() &&
-               denied(store.appendPuzzles(readOnly, "x\n").problem) &&
-               denied(replaceFile(readOnly, "x\n").problem) &&
-               denied(replaceFile(folder / "new.txt", "x\n").problem);
-    })));
-    fs::permissions(folder.path(), fs::perms(0755));
-    EXPECT_EQ(test::contentOf(readOnly), test::recordFile(2));
-    EXPECT_EQ(folder.names().size(), 2u);
 }
 
 TEST_F(FileAccess, SymbolicLinksStayLinks) {

@@ -7,7 +7,7 @@
 
 #include "faults/scene.h"
 #include "support/file_calls.h"
-#include "support/sample_records.h"
+#include "support/sample_puzzles.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -26,7 +26,6 @@ using test::failing;
 using test::FileCalls;
 using test::meanwhile;
 using test::put;
-using test::recordNumbered;
 
 /// What `work` says while another program acts, or a call fails, as `before` has it.
 std::string problemWhile(FileCalls::Before before, const std::function<Outcome()>& work) {
@@ -236,7 +235,7 @@ TEST_F(FileFaultsTest, AReplacementIsDoneAsFarAsTheSystemAllows) {
 }
 
 TEST_F(FileFaultsTest, AFileThatCannotBeReadToItsEndIsNamedAndStays) {
-    const std::string before = test::recordFile(1000) + "\n"; // two blocks and a blank line
+    const std::string before = recordFile(1000) + "\n"; // two blocks and a blank line
     Board board;
     ArrangementTable table;
     int number = 500;

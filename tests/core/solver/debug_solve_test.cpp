@@ -24,6 +24,8 @@ struct Recorder : SolverObserver {
 
 TEST(DebugSolve, AnnouncesItsStepsInOrderAndStopsAtAContradiction) {
     Chance chance(1);
+    Board solved = sampleBoard(Sample::Puzzle, chance);
+    solved.CellNum = solved.SolNum;
     // Hexagons 1 and 3 meet at side 4 of hexagon 1 and hold all six digits between them.
     Board contradictory;
     contradictory.CellNum[1] = {"", "1", "2", "3", "16", "", ""};
@@ -32,12 +34,11 @@ TEST(DebugSolve, AnnouncesItsStepsInOrderAndStopsAtAContradiction) {
                          "Candidates Done, fix singles",  "Fix Singles",
                          "Singles Fixed, fix neighbours", "Neighbours Fixed, chech xpairs",
                          "Xpairs done, loop back",        "All Done"};
-    for (const auto& [start, steps, redraws] :
-         {std::tuple(filledBoard(chance), whole, 6),
-          {contradictory, {whole[0], whole[1], whole[2], whole[7]}, 3}}) {
-        Board board = start;
+    for (auto& [board, steps, redraws] :
+         {std::tuple(&solved, whole, 6),
+          {&contradictory, {whole[0], whole[1], whole[2], whole[7]}, 3}}) {
         Recorder recorder;
-        DebugSolve(board, true, recorder);
+        DebugSolve(*board, true, recorder);
         EXPECT_EQ(recorder.messages, steps);
         EXPECT_EQ(recorder.redraws, redraws);
         EXPECT_EQ(recorder.yields, 1);
