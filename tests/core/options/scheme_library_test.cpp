@@ -5,12 +5,12 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 
 namespace tessaly {
 namespace {
 
 using test::contentOf;
-using test::put;
 using Names = std::vector<std::string>;
 
 /// A scheme whose slots are all different; slot 2 is (`base`, 2, 3).
@@ -21,29 +21,25 @@ SchemeColours sampleColours(int base) {
     return colours;
 }
 
-/// `count` colour lines as they are written.
-std::string colourLines(int base, int count = 13) {
-    std::string lines;
+/// Such a scheme as it is written, or as many of its lines.
+std::string record(const std::string& header, int base, int count = 13) {
+    std::string lines = header + "\r\n";
     for (int slot = 0; slot < count; ++slot)
         lines += " " + std::to_string(base + slot - 2) + "; 2; 3\r\n";
     return lines;
 }
 
-std::string record(const std::string& header, int base) {
-    return header + "\r\n" + colourLines(base);
-}
-
 class SchemeLibraryTest : public testing::Test {
 protected:
     void setFile(const std::string& content) {
-        put(m_file, content);
-        ASSERT_EQ(library.RefreshSchemeList().problem, "");
+        test::put(m_file, content);
+        EXPECT_EQ(library.RefreshSchemeList().problem, "");
     }
     std::string file() const { return contentOf(m_file); }
-    std::string problemOfLoading(const std::string& scheme) {
+    std::string loaded(const std::string& scheme) {
         return library.LoadScheme(scheme, appearance).problem;
     }
-    std::string problemOfAdding(const std::string& name) {
+    std::string added(const std::string& name) {
         return library.AddScheme(name, sampleColours(100)).problem;
     }
 
@@ -51,7 +47,6 @@ protected:
     std::filesystem::path m_file = folder / "all.col";
     SchemeLibrary library{folder.path() / ""};
     Appearance appearance;
-    SchemeColours before = appearance.SchemeColours;
 };
 
 TEST_F(SchemeLibraryTest, ListsEveryLineWithTheExtensionUpToItsFirstOne) {
@@ -59,8 +54,7 @@ TEST_F(SchemeLibraryTest, ListsEveryLineWithTheExtensionUpToItsFirstOne) {
         {"", {}},
         {"\xEF\xBB\xBF" + record("xp.col", 10) + "last.col", {"xp", "last"}},
         {"Été.col\nx.colour.col\n.col\nno scheme\r\na;b.col", {"Été", "x", "", "a;b"}},
-        {record("Ocean.col", 50) + record("Ocean.col", 90), {"Ocean", "Ocean"}},
-    };
+        {record("Ocean.col", 50) + record("Ocean.col", 90), {"Ocean", "Ocean"}}};
     for (const auto& [content, names] : rows) {
         setFile(content);
         EXPECT_EQ(library.names(), names);
@@ -68,62 +62,56 @@ TEST_F(SchemeLibraryTest, ListsEveryLineWithTheExtensionUpToItsFirstOne) {
 }
 
 TEST_F(SchemeLibraryTest, LoadsTheFirstRecordWithExactlyThatHeader) {
-    setFile(record("ocean.col", 50) + "Ocean.col\r\n" + colourLines(100, 12) +
-            "0.5;\t1.5;254.5;9;x\r\n" + record("Ocean.col", 150));
-    appearance.SchemeColours[13] = 99;
-    ASSERT_EQ(problemOfLoading("Ocean.col"), "");
-    EXPECT_EQ(appearance.SchemeColours[slot::Background], RGB(100, 2, 3));
-    EXPECT_EQ(appearance.SchemeColours[12], RGB(0, 2, 254)) << "rounded, halves to even";
-    EXPECT_EQ(appearance.SchemeColours[13], 99U);
+    setFile(record("ocean.col", 50) + record("Ocean.col", 100, 12) + "0.5;\t1.5;254.5;9;x\r\n" +
+            record("Ocean.col", 150));
+    SchemeColours expected = sampleColours(100);
+    expected[12] = RGB(0, 2, 254); // rounded, halves to even
+    expected[13] = appearance.SchemeColours[13] = 99;
+    EXPECT_EQ(loaded("Ocean.col"), "");
+    EXPECT_EQ(appearance.SchemeColours, expected);
     EXPECT_EQ(appearance.ActiveScheme, "xp.col") << "loading alone does not choose a scheme";
-
-    const SchemeColours loaded = appearance.SchemeColours;
-    EXPECT_EQ(problemOfLoading("OCEAN.col"), "Colour Scheme: OCEAN.col not found");
+    EXPECT_EQ(loaded("OCEAN.col"), "Colour Scheme: OCEAN.col not found");
     EXPECT_EQ(appearance.ActiveScheme, "default.col");
-    EXPECT_EQ(appearance.SchemeColours, loaded);
-    ASSERT_EQ(problemOfLoading("DEFAULT.COL"), "");
-    SchemeColours builtIn = loaded;
-    builtIn[2] = builtIn[4] = DesignColours[slot::Background];
-    builtIn[3] = Black;
-    EXPECT_EQ(appearance.SchemeColours, builtIn);
+    EXPECT_EQ(appearance.SchemeColours, expected);
+    EXPECT_EQ(loaded("DEFAULT.COL"), "") << "which is built in";
+    expected[2] = expected[4] = DesignColours[slot::Background];
+    expected[3] = Black;
+    EXPECT_EQ(appearance.SchemeColours, expected);
 }
 
 TEST_F(SchemeLibraryTest, DamagedRecordsAreRefusedWithTheLineAndChangeNothing) {
+    std::vector<std::pair<std::string, std::string>> rows{
+        {record("a.col", 50, 12), "12 colours instead of 13"},
+        {"a.col", "0 colours instead of 13"},
+        {record("a.col", 50, 12) + record("next.col", 60), "line 14: this is no colour"}};
     for (const char* line : {"1;2", "", "a;b;c", "1;2;", "1;;3", "256;0;0", "0;-1;0", "0;255.6;0",
-                             "1;2;3x", "nan;0;0", "1e400;0;0", "next.col"}) {
-        put(m_file, "bad.col\r\n" + colourLines(100, 5) + line + "\r\n" + colourLines(105, 7));
-        EXPECT_NE(problemOfLoading("bad.col").find("all.col: line 7: this is no colour"),
-                  std::string::npos)
-            << line;
+                             "1;2;3x", "nan;0;0", "1e400;0;0", "next.col"})
+        rows.emplace_back(record("a.col", 100, 5) + line + "\r\n" + record("b.col", 105, 7),
+                          "all.col: line 7: this is no colour");
+    for (const auto& [content, problem] : rows) {
+        setFile(content);
+        EXPECT_NE(loaded("a.col").find(problem), std::string::npos) << content;
     }
-    const std::string shortOne = "a.col\r\n" + colourLines(50, 12);
-    for (const auto& [content, problem] :
-         {std::pair<std::string, std::string>{shortOne, "12 colours instead of 13"},
-          {"a.col", "0 colours instead of 13"},
-          {shortOne + record("next.col", 60), "line 14: this is no colour"}}) {
-        put(m_file, content);
-        EXPECT_NE(problemOfLoading("a.col").find(problem), std::string::npos) << problem;
-    }
-    EXPECT_EQ(appearance.SchemeColours, before);
+    EXPECT_EQ(appearance, Appearance());
 }
 
 TEST_F(SchemeLibraryTest, AddsTheNameInLowerCaseAndRefusesItInAnyCaseFromThenOn) {
     const std::string xp = record("xp.col", 50);
     setFile(xp.substr(0, xp.size() - 2)); // whose last line is ended first
     EXPECT_EQ(SchemeLibrary(folder.path() / "").AddScheme("Ocean", sampleColours(100)).problem, "");
-    EXPECT_EQ(problemOfAdding("OCEAN"), "Colour Scheme: OCEAN already exists");
+    EXPECT_EQ(added("OCEAN"), "Colour Scheme: OCEAN already exists");
     EXPECT_EQ(file(), xp + record("ocean.col", 100));
-    EXPECT_EQ(problemOfAdding("ÉTÉ×"), "");
-    EXPECT_EQ(problemOfAdding("été×"), "Colour Scheme: été× already exists");
+    EXPECT_EQ(added("ÉTÉ×"), "");
+    EXPECT_EQ(added("été×"), "Colour Scheme: été× already exists");
     EXPECT_EQ(library.names(), (Names{"xp", "ocean", "été×"}));
-    EXPECT_EQ(problemOfAdding("two\nlines"),
+    EXPECT_EQ(added("two\nlines"),
               "Error in adding Colour Scheme:\r\nA name cannot hold a line break");
     for (const std::string& name :
          {std::string("semi;colon"), std::string(300, 'n'), std::string(" "),
           std::string("no \xff text"), std::string("nul\0l", 5), std::string("my.colours")}) {
-        EXPECT_EQ(problemOfAdding(name), "");
+        EXPECT_EQ(added(name), "");
         EXPECT_EQ(library.names().back(), name.substr(0, name.find(".col")));
-        EXPECT_EQ(problemOfLoading(name + ".col"), "") << name;
+        EXPECT_EQ(loaded(name + ".col"), "") << name;
     }
 }
 
@@ -131,20 +119,16 @@ TEST_F(SchemeLibraryTest, ReplacesAndDeletesEveryRecordOfTheNameAndNothingElse) 
     const std::string next = record("next.col", 60);
     std::string odd = record("A.col", 60) + "stray line\n";
     std::erase(odd, '\r');
-    const std::string two = record("a.col", 50) + odd + record("a.col", 70) + odd;
-    const std::string ofTwelve = "a.col\r\n" + colourLines(50, 12);
-    const std::string ofFourteen = "a.col\r\n" + colourLines(50, 14);
+    const std::string ofTwelve = record("a.col", 50, 12), line = " 61; 2; 3\r\n";
     const std::string changed = record("a.col", 100);
-    const struct {
-        std::string content, replaced, deleted;
-    } rows[] = {
-        {two, changed + odd + changed + odd, odd + odd},
+    const std::tuple<std::string, std::string, std::string> rows[] = {
+        {record("a.col", 50) + odd + record("a.col", 70) + odd, changed + odd + changed + odd,
+         odd + odd},
         {next, next, next},
         {ofTwelve + next, changed + next, next}, // the neighbour does not go with it
         {"a.col\r\n" + next, changed + next, next},
         {next + ofTwelve, next + changed, next},
-        {ofFourteen + next, changed + " 61; 2; 3\r\n" + next, " 61; 2; 3\r\n" + next},
-    };
+        {record("a.col", 50, 14) + next, changed + line + next, line + next}};
     for (const auto& [content, replaced, deleted] : rows) {
         setFile(content);
         EXPECT_EQ(library.ReplaceScheme("A", sampleColours(100)).problem, "");
@@ -161,21 +145,104 @@ TEST_F(SchemeLibraryTest, ReplacesAndDeletesEveryRecordOfTheNameAndNothingElse) 
 TEST_F(SchemeLibraryTest, FailuresNameTheFileAndLeaveTheLibraryWhole) {
     setFile(record("xp.col", 50) + record("b.col", 60));
     std::filesystem::create_directory(folder / "newall.cox");
-    for (const Outcome& outcome :
-         {library.ReplaceScheme("b", sampleColours(1)), library.DeleteScheme("b")}) {
-        EXPECT_TRUE(outcome.problem.starts_with("Error in updating Colour Scheme:\r\n"));
-        EXPECT_NE(outcome.problem.find("newall.cox"), std::string::npos) << outcome.problem;
-    }
+    const auto outcomes = [this] {
+        return std::array{library.ReplaceScheme("b", sampleColours(1)), library.DeleteScheme("b")};
+    };
+    for (const Outcome& outcome : outcomes())
+        EXPECT_TRUE(outcome.problem.starts_with("Error in updating Colour Scheme:\r\n" +
+                                                (folder / "newall.cox").native()));
     EXPECT_EQ(file(), record("xp.col", 50) + record("b.col", 60));
     EXPECT_EQ(library.names(), (Names{"xp", "b"}));
 
     std::filesystem::remove(m_file);
-    for (const Outcome& outcome :
-         {library.AddScheme("c", sampleColours(1)), library.ReplaceScheme("b", sampleColours(1)),
-          library.DeleteScheme("b"), library.RefreshSchemeList(),
-          library.LoadScheme("xp.col", appearance)})
+    EXPECT_TRUE(added("c").starts_with("Error in adding Colour Scheme:\r\n" + m_file.native()));
+    for (const Outcome& outcome : outcomes())
         EXPECT_NE(outcome.problem.find(m_file.native()), std::string::npos) << outcome.problem;
+    EXPECT_TRUE(library.RefreshSchemeList().problem.starts_with(m_file.native()));
+    EXPECT_TRUE(loaded("xp.col").starts_with(m_file.native()));
     EXPECT_FALSE(std::filesystem::exists(m_file));
+}
+
+// ---- what is shipped
+
+/// The colours that the shipped file gives the scheme of that name.
+SchemeColours shipped(const std::string& name) {
+    Appearance appearance;
+    EXPECT_EQ(SchemeLibrary(TESSALY_DATA "/").LoadScheme(name + ".col", appearance).problem, "");
+    return appearance.SchemeColours;
+}
+
+using Matrix = std::array<std::array<double, 3>, 3>;
+
+/// How colours appear to eyes without red or without green receptors, on linear RGB (Machado,
+/// Oliveira, Fernandes: "A Physiologically-based Model for Simulation of Color Vision Deficiency",
+/// 2009, severity 1).
+constexpr Matrix Protanopia{{{0.152286, 1.052583, -0.204868},
+                             {0.114503, 0.786281, 0.099216},
+                             {-0.003882, -0.048116, 1.051998}}};
+constexpr Matrix Deuteranopia{{{0.367322, 0.860646, -0.227968},
+                               {0.280085, 0.672501, 0.047413},
+                               {-0.011820, 0.042940, 0.968881}}};
+
+/// How far apart two colours appear, in the units of a channel (0 to 255).
+double apparentDistance(const Matrix& eye, Colour one, Colour other) {
+    const auto seen = [](const std::array<double, 3>& row, Colour colour) {
+        const auto linear = [](int value) { return std::pow(value / 255.0, 2.2); };
+        const double light = row[0] * linear(RedOf(colour)) + row[1] * linear(GreenOf(colour)) +
+                             row[2] * linear(BlueOf(colour));
+        return 255 * std::pow(std::clamp(light, 0.0, 1.0), 1 / 2.2);
+    };
+    double sum = 0;
+    for (const auto& row : eye)
+        sum += std::pow(seen(row, one) - seen(row, other), 2);
+    return std::sqrt(sum);
+}
+
+/// The least distance between what must be told apart: givens, the user's numbers, the solution;
+/// and the two signal colours.
+double leastDistance(const SchemeColours& colours) {
+    double least = 1000;
+    for (const Matrix& eye : {Protanopia, Deuteranopia})
+        for (const auto& [one, other] : {std::pair{Black, colours[slot::DarkRed]},
+                                         {Black, colours[slot::Green]},
+                                         {colours[slot::DarkRed], colours[slot::Green]},
+                                         {colours[slot::Red], colours[slot::Green]}})
+            least = std::min(least, apparentDistance(eye, one, other));
+    return least;
+}
+
+TEST(ShippedSchemes, TheBoardReadsInEachOfThem) {
+    constexpr double Text = 4.5; // WCAG 2, sections 1.4.3 and 1.4.11
+    constexpr double LargeTextOrSign = 3;
+    SchemeLibrary library(TESSALY_DATA "/");
+    ASSERT_EQ(library.RefreshSchemeList().problem, "");
+    EXPECT_EQ(library.names().size(), 15U);
+    EXPECT_EQ(library.names().front(), "xp");
+    for (const std::string& name : library.names()) {
+        const SchemeColours colours = shipped(name);
+        const Colour ground = colours[slot::Background];
+        // The fills that the options start from.
+        for (const Colour fill : {ground, colours[slot::Button]}) {
+            EXPECT_GE(contrastRatio(readableOn(ground), fill), Text) << name;
+            EXPECT_GE(contrastRatio(colours[slot::DarkRed], fill), Text) << name;
+            EXPECT_GE(contrastRatio(colours[slot::Green], fill), LargeTextOrSign) << name;
+            EXPECT_GE(contrastRatio(colours[slot::Red], fill), LargeTextOrSign) << name;
+        }
+    }
+}
+
+TEST(ShippedSchemes, TheSpecialOnesAreWhatTheirNamesSay) {
+    const SchemeColours night = shipped("night");
+    for (std::size_t ground : {slot::Background, slot::Menu})
+        EXPECT_GE(contrastRatio(White, night[ground]), 12);
+    const SchemeColours high = shipped("high contrast");
+    for (std::size_t ground : {slot::Background, slot::Menu, slot::Button, slot::Accent})
+        EXPECT_GE(contrastRatio(readableOn(high[ground]), high[ground]), 7) << ground;
+    for (std::size_t text : {slot::DarkRed, slot::Red, slot::Green})
+        EXPECT_GE(contrastRatio(high[text], high[slot::Button]), 7) << text;
+    constexpr double Distinct = 120;
+    EXPECT_GE(leastDistance(shipped("red-green safe")), Distinct);
+    EXPECT_LT(leastDistance(shipped("meadow")), Distinct / 2) << "the measure must tell a bad one";
 }
 
 } // namespace

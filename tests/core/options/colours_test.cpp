@@ -1,22 +1,63 @@
+#include "core/options/appearance.h"
 #include "core/options/colour_surface.h"
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 namespace tessaly {
 namespace {
 
 using namespace colour_surface;
 
+constexpr Colour grey(int level) {
+    return RGB(level, level, level);
+}
+
+TEST(Appearance, ASchemeIsBuiltOfABaseColourShiftedWithinItsBounds) {
+    const auto greys = [](const std::array<int, 6>& levels) {
+        std::array<Colour, 6> colours{};
+        std::transform(levels.begin(), levels.end(), colours.begin(), grey);
+        return colours;
+    };
+    const Colour edge = RGB(1, 120, 244);
+    const std::tuple<int, Colour, std::array<Colour, 6>> rows[] = {
+        {100, grey(200), greys({72, 168, 136, 244, 232, 244})},
+        {50, grey(100), greys({36, 84, 68, 164, 116, 132})},
+        // 128 * 0.13 is 16.64, 32 * 0.13 is 4.16, 64 * 0.13 is 8.32.
+        {13, grey(100), greys({83, 96, 92, 117, 104, 108})},
+        {-100, grey(100), greys({228, 132, 164, 1, 68, 36})},
+        {300, grey(100), greys({1, 4, 1, 244, 196, 244})},
+        {0, RGB(0, 120, 255), {edge, edge, edge, edge, edge, edge}}};
+    for (const auto& [contrast, base, slots3To8] : rows) {
+        SchemeColours expected = DesignColours; // the other slots are the same in every scheme
+        expected[slot::Background] = base;
+        std::copy(slots3To8.begin(), slots3To8.end(), expected.begin() + 3);
+        SchemeColours built{};
+        BuildScheme(base, contrast, built);
+        EXPECT_EQ(built, expected) << contrast;
+    }
+}
+
+TEST(Appearance, ContrastIsThatOfWcag) {
+    const std::tuple<Colour, Colour, double, Colour> rows[] = {
+        {White, Black, 21, White},
+        {White, RGB(255, 0, 0), 3.998, Black},
+        {Black, RGB(0, 255, 0), 15.304, Black},
+        {White, RGB(0, 0, 255), 8.592, White},
+        {White, grey(128), 3.949, Black},
+        {Black, grey(9), 1.054, White}}; // on the straight piece near black
+    for (const auto& [one, other, ratio, readable] : rows) {
+        EXPECT_NEAR(contrastRatio(one, other), ratio, 0.001) << one << " on " << other;
+        EXPECT_EQ(contrastRatio(one, other), contrastRatio(other, one));
+        EXPECT_EQ(readableOn(other), readable) << other;
+    }
+}
+
 constexpr Colour Ramp = RGB(200, 101, 0);
 constexpr Colour Ground = RGB(1, 2, 3);
 
 TEST(ColourSurface, ShadesLeadFromBlackAndFromWhiteToTheColourHalvesToEven) {
-    for (Colour colour : {Black, White, Ramp}) {
-        EXPECT_EQ(clrBlackness(colour, 0), Black);
-        EXPECT_EQ(clrBlackness(colour, 256), colour);
-        EXPECT_EQ(clrWhiteness(colour, 0), White);
-        EXPECT_EQ(clrWhiteness(colour, 256), colour);
-    }
     EXPECT_EQ(clrBlackness(RGB(255, 3, 1), 128), RGB(128, 2, 0)) << "127.5, 1.5 and 0.5";
     EXPECT_EQ(clrWhiteness(RGB(0, 51, 254), 64), RGB(191, 204, 255));
 }
@@ -50,13 +91,10 @@ TEST(ColourSurface, ShowsTheClassicColoursTheRampsAndTheGround) {
 }
 
 TEST(ColourSurface, KeysReachEveryPlaceAndStayOnTheSurface) {
-    const struct {
-        Place from;
-        int columns, rows;
-        Place to;
-    } moves[] = {{{0, 0}, -1, -1, {0, 0}},  {{0, 3}, 1, 0, {0, 3}},    {{3, 2}, 0, 1, {4, 160}},
-                 {{4, 160}, 0, -1, {3, 2}}, {{4, 256}, 0, -1, {3, 3}}, {{4, 250}, 1, 0, {4, 256}},
-                 {{4, 8}, 1, 0, {4, 16}},   {{5, 8}, -1, 1, {5, 0}}};
+    const std::tuple<Place, int, int, Place> moves[] = {
+        {{0, 0}, -1, -1, {0, 0}},  {{0, 3}, 1, 0, {0, 3}},    {{3, 2}, 0, 1, {4, 160}},
+        {{4, 160}, 0, -1, {3, 2}}, {{4, 256}, 0, -1, {3, 3}}, {{4, 250}, 1, 0, {4, 256}},
+        {{4, 8}, 1, 0, {4, 16}},   {{5, 8}, -1, 1, {5, 0}}};
     for (const auto& [from, columns, rows, to] : moves)
         EXPECT_EQ(moved(from, columns, rows), to) << from.row << " " << from.column;
     EXPECT_EQ(boxOf({1, 1}).left, paletteBox(5).left);
