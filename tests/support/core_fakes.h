@@ -118,7 +118,6 @@ struct SessionScene {
             text.erase(at, home.size());
         return text;
     }
-    const ScriptedPrompts::Message& lastMessage() { return prompts.shown.back(); }
 
     const std::vector<std::string> records = sampleRecords("easy.txt");
     test::TemporaryFolder folder;

@@ -187,11 +187,12 @@ TEST_F(ConfigurationTest, ADataFileThatIsMissingOrGarbledStopsTheStart) {
 
 TEST_F(ConfigurationTest, ASchemeThatIsGoneOrDamagedIsSaidAndTheBuiltInOneServes) {
     put(folder / "all.col", "xp.col\r\n1;2\r\n");
-    for (const auto& [scheme, notice] : {std::pair("gone.col", "Colour Scheme: gone.col not found"),
-                                         std::pair("xp.col", "line 2")}) {
+    for (const auto& [scheme, notice] :
+         {std::pair("gone.col", "gone.col not found"), {"xp.col", "line 2"}}) {
         put(path, std::string("1\r\n") + scheme);
-        EXPECT_NE(loadSession(session).notice.find(notice), std::string::npos);
-        EXPECT_TRUE(loadSession(session).outcome.ok());
+        const LoadedSession loaded = loadSession(session);
+        EXPECT_NE(loaded.notice.find(notice), std::string::npos);
+        EXPECT_TRUE(loaded.outcome.ok());
         EXPECT_EQ(session.appearance.ActiveScheme, "default.col");
     }
 }
