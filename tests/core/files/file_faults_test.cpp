@@ -116,23 +116,16 @@ protected:
 };
 
 TEST_F(FileFaultsTest, AnAppendedLineStandsInTheFileThatTheNameMeans) {
-    const struct {
-        const char* call;
-        std::function<void()> work;
-        const char* line;
-        const char* left;
-        const char* when;
-    } rows[] = {
-        {"flock", replacedBy("1\n"), "2\n", "1\n2\n", "made while its folder was locked"},
-        {"flock", replacedBy("3\n"), "4\n", "3\n4\n", "replaced between opening and lock"},
-        {"flock", removed, "5\n", "5\n", "removed between opening and lock"},
-        {"write", replacedBy("6\n"), "7\n", "6\n7\n", "replaced before the line was written"},
-        {"fsync", replacedBy("8\n"), "9\n", "8\n9\n", "replaced before it was flushed"},
-        {"fsync", removed, "10\n", "10\n", "removed before it was flushed"},
-    };
-    for (const auto& row : rows) {
-        EXPECT_EQ(problemWhile(meanwhile(row.call, row.work), appending(row.line)), "") << row.when;
-        EXPECT_EQ(contentOf(file), row.left) << row.when;
+    const auto replaced = replacedBy("other\n");
+    for (const auto& [call, work, left] :
+         {std::tuple("flock", replaced, "other\nnew\n"), // made while its folder was locked
+          {"flock", replaced, "other\nnew\n"},           // replaced between opening and lock
+          {"flock", removed, "new\n"},
+          {"write", replaced, "other\nnew\n"},
+          {"fsync", replaced, "other\nnew\n"},
+          {"fsync", removed, "new\n"}}) {
+        EXPECT_EQ(problemWhile(meanwhile(call, work), appending("new\n")), "") << call;
+        EXPECT_EQ(contentOf(file), left) << call;
     }
     EXPECT_EQ(m_folder.names(), Names{"a.txt"});
 }
@@ -241,6 +234,7 @@ TEST_F(FileFaultsTest, AFileThatCannotBeReadToItsEndIsNamedAndStays) {
     int number = 500;
     const std::string record = recordNumbered(number);
     std::string content = "kept";
+    const ContentWriter write = [](const ContentSink& sink) { return sink.write("x"); };
     const struct {
         int reads;
         std::function<Outcome()> work;
@@ -249,28 +243,21 @@ TEST_F(FileFaultsTest, AFileThatCannotBeReadToItsEndIsNamedAndStays) {
         {5, [&] { return Outcome{PuzzleStore().ReadPuzzle(file, 500, board).reason}; }},
         {7, [&] { return PuzzleStore().DeletePuzzle(file, 500, record); }},
         {3, appending(record + "\n")},
-        {3,
-         [&] {
-             return PuzzleStore().appendPuzzles(
-                 file, [](const ContentSink& sink) { return sink.write("x"); });
-         }},
+        {3, [&] { return PuzzleStore().appendPuzzles(file, write); }},
         // To these a file that ends early is just a shorter file.
         {1, [&] { return readSmallFile(file, 1'000'000, content); }},
         {1, [&] { return forEachRecord(file, [](const RecordLine&) { return true; }); }},
         {1, [&] { return Set6Combos(file, table); }},
     };
-    for (const auto& reading : readings)
-        for (int error : {EIO, FileCalls::Skipped})
-            for (int first = 0; first < reading.reads; ++first) {
-                if (reading.reads == 1 && error != EIO)
-                    continue;
-                put(file, before);
-                const std::string problem =
-                    problemWhile(failing("pread", error, first), reading.work);
-                EXPECT_TRUE(problem.starts_with(told(""))) << problem << " at " << first;
-                EXPECT_TRUE(error != EIO || problem.ends_with("Input/output error")) << problem;
-                EXPECT_TRUE(contentOf(file) == before) << problem << " at " << first;
-            }
+    for (const auto& [reads, work] : readings)
+        for (int call = 0; call < (reads > 1 ? 2 * reads : 1); ++call) {
+            put(file, before);
+            const int error = call < reads ? EIO : FileCalls::Skipped;
+            const std::string problem = problemWhile(failing("pread", error, call % reads), work);
+            EXPECT_TRUE(problem.starts_with(told(""))) << problem << " at " << call;
+            EXPECT_TRUE(error != EIO || problem.ends_with("Input/output error")) << problem;
+            EXPECT_TRUE(contentOf(file) == before) << problem << " at " << call;
+        }
     EXPECT_EQ(content, "kept");
 }
 

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <map>
 
 namespace tessaly {
 namespace {
@@ -82,36 +83,25 @@ TEST_F(LibraryToolsTest, VerifyingKeepsWhatDeductionSolves) {
 TEST_F(LibraryToolsTest, ARunThatFailsOrIsStoppedIsSaidAndWritesNothing) {
     const std::string start = textOf({puzzles[0], puzzles[1]});
     const std::string thirdLine = files.input.string() + ": line 3: ";
-    const struct {
-        std::string input;
-        std::string problem;
-    } rows[] = {
-        {start + "nonsense\r\n" + puzzles[2], thirdLine + "the record has 8 characters"},
-        {start + "\r\n" + puzzles[2], thirdLine + "the record has 0 characters"},
-        {start + std::string(9000, '1'), thirdLine + "the line is longer"},
-        {textOf(puzzles), StoppedProblem},
-        {"", files.input.string() + ": "},
-    };
     const KeepGoing untilThree = [](int records) { return records < 3; };
-    for (const auto& [input, problem] : rows)
+    for (const auto& [input, problem] : std::map<std::string, std::string>{
+             {start + "nonsense\r\n" + puzzles[2], thirdLine + "the record has 8 characters"},
+             {start + "\r\n" + puzzles[2], thirdLine + "the record has 0 characters"},
+             {start + std::string(9000, '1'), thirdLine + "the line is longer"},
+             {textOf(puzzles), StoppedProblem}})
         for (const ToolRun& tool : allTools)
             for (const std::string before : {"old", ""}) {
-                std::filesystem::remove(files.input);
-                std::filesystem::remove(files.output);
-                if (!input.empty())
-                    put(files.input, input);
-                if (!before.empty())
-                    put(files.output, before);
-                const std::set<std::string> names = folder.names();
-                const Outcome outcome = tool(untilThree);
-                EXPECT_TRUE(outcome.problem.starts_with(problem)) << outcome.problem;
+                put(files.input, input);
+                put(files.output, before);
+                EXPECT_TRUE(tool(untilThree).problem.starts_with(problem)) << problem;
                 EXPECT_EQ(contentOf(files.output), before);
-                EXPECT_EQ(folder.names(), names) << "left behind";
+                EXPECT_EQ(folder.names(), (std::set<std::string>{"in.txt", "out.txt"}));
             }
-    put(files.input, start);
-    files.output = folder / "nowhere/out.txt";
-    for (const ToolRun& tool : allTools)
-        EXPECT_TRUE(tool({}).problem.starts_with(files.output.string()));
+    for (auto* missing : {&files.input, &files.output}) {
+        *missing += "/none.txt";
+        for (const ToolRun& tool : allTools)
+            EXPECT_TRUE(tool({}).problem.starts_with(missing->string()));
+    }
 }
 
 } // namespace
