@@ -1,3 +1,4 @@
+#include "core/base/command_line.h"
 #include "core/base/product.h"
 #include "core/files/file_access.h"
 #include "core/session/configuration.h"
@@ -16,7 +17,6 @@
 #include <QPixmap>
 #include <QTimer>
 
-#include <algorithm>
 #include <filesystem>
 #include <iostream>
 
@@ -32,8 +32,7 @@ public:
     int message(std::string_view text, std::string_view) override {
         std::string line(text);
         std::erase(line, '\r');
-        std::replace(line.begin(), line.end(), '\n', ' ');
-        std::cerr << "tessaly: " << line << '\n';
+        sayProblem(std::cerr, "tessaly", line);
         m_saidAnything = true;
         return 0;
     }

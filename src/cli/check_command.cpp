@@ -1,4 +1,5 @@
 #include "cli/commands.h"
+#include "core/base/text.h"
 #include "core/board/puzzle_record.h"
 #include "core/board/puzzle_store.h"
 #include "core/solver/puzzle_audit.h"
@@ -46,7 +47,7 @@ int check(const std::filesystem::path& path, const Console& console) {
         repeats.look(line, findings);
         for (const std::string& finding : findings) {
             ++tally.findings;
-            console.out << lineProblem(path, line.number, finding) << '\n';
+            console.out << printable(lineProblem(path, line.number, finding)) << '\n';
         }
         return !console.isInterrupted() && console.out.good();
     });
@@ -54,8 +55,8 @@ int check(const std::filesystem::path& path, const Console& console) {
         fail(console, outcome.problem);
         return exit_status::CannotCheck;
     }
-    console.out << path.native() << ": " << counted(tally.records, "puzzle") << " checked, "
-                << counted(tally.findings, "finding") << '\n';
+    console.out << printable(path.native()) << ": " << counted(tally.records, "puzzle")
+                << " checked, " << counted(tally.findings, "finding") << '\n';
     if (const Outcome written = flushed(console.out); !written.ok())
         return fail(console, written.problem);
     if (console.isInterrupted()) {

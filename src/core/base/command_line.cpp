@@ -1,6 +1,7 @@
 #include "core/base/command_line.h"
 
 #include "core/base/product.h"
+#include "core/base/text.h"
 
 // The only place that takes in CLI11, which is slow to compile.
 #include <CLI/CLI.hpp>
@@ -135,7 +136,7 @@ CommandLine parseCommandLine(const CommandSyntax& program, int argc, const char*
 void sayProblem(std::ostream& err, std::string_view program, std::string_view problem) {
     std::string line(problem);
     std::replace(line.begin(), line.end(), '\n', ' ');
-    err << program << ": " << line << '\n';
+    err << program << ": " << printable(line) << '\n';
 }
 
 std::vector<std::string> namesIn(const std::string& names) {

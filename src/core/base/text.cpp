@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <limits>
+#include <utility>
 
 namespace tessaly {
 
@@ -11,6 +12,22 @@ std::string_view trimmed(std::string_view text) {
         return {};
     const std::size_t first = text.find_first_not_of(BlankCharacters);
     return text.substr(first, text.find_last_not_of(BlankCharacters) - first + 1);
+}
+
+std::string printable(std::string_view text) {
+    constexpr std::string_view Hex = "0123456789abcdef";
+    std::string shown;
+    bool isC1 = false;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const auto byte = static_cast<unsigned char>(text[i]);
+        const auto next = static_cast<unsigned char>(i + 1 < text.size() ? text[i + 1] : 0);
+        const bool endsC1 = std::exchange(isC1, byte == 0xC2 && next >= 0x80 && next < 0xA0);
+        if (byte < 0x20 || byte == 0x7F || isC1 || endsC1)
+            shown.append("\\x").append(1, Hex[byte / 16]).append(1, Hex[byte % 16]);
+        else
+            shown += text[i];
+    }
+    return shown;
 }
 
 double leadingNumber(std::string_view text) {

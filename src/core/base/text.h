@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 namespace tessaly {
@@ -10,6 +11,10 @@ inline constexpr std::string_view BlankCharacters = " \t\r\n";
 inline bool isBlank(std::string_view text) {
     return text.find_first_not_of(BlankCharacters) == std::string_view::npos;
 }
+
+/// `text` with every control character in it written out ("\x1b"), so that whatever a file is
+/// called or holds, a terminal only shows it.
+std::string printable(std::string_view text);
 
 /// `text` without the blanks before and behind it.
 std::string_view trimmed(std::string_view text);
