@@ -83,7 +83,6 @@ BoardStyle paperStyle(const Appearance& appearance) {
         .borderWidth = std::min<double>(appearance.PrintLineWidth, WidestBorder),
         .lineWidth = 0.6,
         .onPaper = true,
-        .boldGivens = true,
     };
 }
 

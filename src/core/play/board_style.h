@@ -53,8 +53,6 @@ struct BoardStyle {
     /// On paper what lies under the cells is not painted, and the blank hexagon is hatched, for a
     /// solid one would take much ink.
     bool onPaper = false;
-    /// Whether the givens are bold.
-    bool boldGivens = false;
 };
 
 /// Spaced hexagons have a border in the background's colour, somewhat wider than the plain one.
@@ -67,8 +65,7 @@ BoardStyle boardStyle(const Appearance& appearance);
 Colour solutionColour(const Appearance& appearance);
 Colour markerColour(const Appearance& appearance);
 
-/// Black on white paper, with borders of `PrintLineWidth`, as far as they leave room for a board,
-/// and givens that stand out from what is written by hand.
+/// Black on white paper, with borders of `PrintLineWidth`, as far as they leave room for a board.
 BoardStyle paperStyle(const Appearance& appearance);
 
 } // namespace tessaly

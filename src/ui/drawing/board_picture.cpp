@@ -9,6 +9,7 @@
 #include "ui/drawing/page_painter.h"
 #include "ui/drawing/qt_values.h"
 
+#include <QGuiApplication>
 #include <QPainter>
 
 #include <cmath>
@@ -27,9 +28,8 @@ constexpr double DigitHeight = 0.72;
 
 class CopyLabels {
 public:
-    CopyLabels(QPainter& painter, const Appearance& appearance)
-        : m_painter(painter)
-        , m_style{QString::fromStdString(appearance.NumberFont), MarkSize, QFont::Normal} {}
+    explicit CopyLabels(QPainter& painter)
+        : m_painter(painter) {}
 
     /// The number in the middle of a hexagon, on a patch of white.
     void number(int hexagon) {
@@ -61,11 +61,12 @@ private:
     }
 
     QPainter& m_painter;
-    PageText m_style;
+    /// A face for text: the numbers' own may have nothing but digits.
+    PageText m_style{QGuiApplication::font().family(), MarkSize};
 };
 
-void drawCopyLabels(QPainter& painter, const Board& board, const Appearance& appearance) {
-    CopyLabels labels(painter, appearance);
+void drawCopyLabels(QPainter& painter, const Board& board) {
+    CopyLabels labels(painter);
     for (int hexagon = 1; hexagon <= HexagonCount; ++hexagon)
         if (!board.isBlank(hexagon))
             labels.number(hexagon);
@@ -77,7 +78,7 @@ void drawCopyLabels(QPainter& painter, const Board& board, const Appearance& app
 void drawLabels(QPainter& painter, const BoardPicture& picture, const Appearance& appearance) {
     painter.setRenderHint(QPainter::Antialiasing);
     if (picture.look == BoardPicture::Look::Copy)
-        drawCopyLabels(painter, picture.board, appearance);
+        drawCopyLabels(painter, picture.board);
     else
         drawTags(painter, picture.board, appearance);
 }

@@ -79,8 +79,7 @@ BoardRenderer::BoardRenderer(QPainter& painter, const Board& board, const BoardS
     , m_boldFace(font, true)
     , m_numerals(m_face, {}, Fit::Exact)
     , m_boldNumerals(m_boldFace, {}, Fit::Exact)
-    , m_givens(style.boldGivens ? m_boldFace : m_face,
-               (style.boldGivens ? m_boldNumerals : m_numerals).numberSize())
+    , m_givens(m_boldFace, m_boldNumerals.numberSize())
     , m_numbers(m_face, m_numerals.numberSize())
     , m_marks(m_face, m_numerals.markSize()) {}
 

@@ -57,9 +57,8 @@ private:
     void addEntryAsText(CellId cell);
     void drawTexts();
 
-    bool isBold(CellId cell) const { return m_style.boldGivens && m_board.FixedCell[cell]; }
     const Numerals& numeralsOf(CellId cell) const {
-        return isBold(cell) ? m_boldNumerals : m_numerals;
+        return m_board.FixedCell[cell] ? m_boldNumerals : m_numerals;
     }
     /// Calls `draw(outline)` for each digit of an entry, the outline where it stands on the board.
     template <class Draw>

@@ -143,10 +143,12 @@ void BoardSurface::makeSpans() {
 }
 
 void BoardSurface::makeSprites() {
-    const DigitFace face(m_appearance.NumberFont);
-    const Numerals numerals(face, scale(), Fit::ToPixels);
-    m_given.emplace(numerals, m_appearance.FixedNumberColour);
-    m_user.emplace(numerals, m_appearance.UserNumberColour);
+    const auto sprites = [this](bool bold, Colour colour) {
+        const DigitFace face(m_appearance.NumberFont, bold);
+        return DigitSprites(Numerals(face, scale(), Fit::ToPixels), colour);
+    };
+    m_given = sprites(true, m_appearance.FixedNumberColour);
+    m_user = sprites(false, m_appearance.UserNumberColour);
 }
 
 void BoardSurface::drawForm(const Board& board, int hexagon) {
