@@ -60,6 +60,8 @@ void drawContents(QPainter& painter, const QRectF& area, const BoxControl& butto
 /// How the face of a button looks at the moment.
 struct BoxFace {
     QColor colour;
+    /// What lies around the button.
+    QColor ground;
     bool sunk = false;
     /// Stays down until it is let up again, and says so by a line around it.
     bool latched = false;
@@ -107,13 +109,21 @@ QBrush borderBrush(const QRectF& area, const QColor& face, bool sunk) {
 }
 
 QColor faceShade(const BoxFace& face) {
+    const double shade = face.sunk ? 0.16 : face.hovered ? 0.08 : 0;
+    return face.enabled ? blended(face.colour, readableOn(face.colour), shade) : face.ground;
+}
+
+/// The line that says where the button is: seen on the ground and on the face, stronger while the
+/// pointer is over it, weaker while it cannot be used.
+QColor outlineColour(const BoxFace& face) {
+    constexpr double LeastContrast = 3; // of WCAG 2, for the outline of a control
     if (!face.enabled)
-        return face.colour;
-    if (face.sunk)
-        return blended(face.colour, readableOn(face.colour), 0.10);
-    if (face.hovered)
-        return blended(face.colour, Qt::white, isDark(face.colour) ? 0.12 : 0.35);
-    return face.colour;
+        return standingOut(face.ground, LeastContrast / 2);
+    if (face.sunk || face.hovered)
+        return readableOn(face.ground);
+    const QColor line = standingOut(face.ground, LeastContrast);
+    const bool seenOnFace = contrastRatio(toColour(line), toColour(face.colour)) >= LeastContrast;
+    return seenOnFace ? line : standingOut(face.colour, LeastContrast);
 }
 
 void drawRing(QPainter& painter, const QRectF& area, const QColor& colour, double inset) {
@@ -125,24 +135,28 @@ void drawRing(QPainter& painter, const QRectF& area, const QColor& colour, doubl
                             CornerRadius - inset / 2);
 }
 
-/// Draws the face with its border, one pixel thick and lit from the upper left, on whole pixels of
-/// the device.
+/// Draws the face in its outline, with a border that is lit from the upper left between the two;
+/// each is one pixel thick, on whole pixels of the device. What cannot be used is flat.
 void drawFace(QPainter& painter, const QRectF& area, const BoxFace& face) {
     const QRectF outer = onPixels(painter, area);
     const double border = borderWidth(painter);
     const QColor shade = faceShade(face);
+    const auto fill = [&](int inset, const QBrush& brush) {
+        const double by = inset * border;
+        painter.setBrush(brush);
+        painter.drawRoundedRect(outer.adjusted(by, by, -by, -by), CornerRadius - by,
+                                CornerRadius - by);
+    };
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(borderBrush(outer, face.colour, face.sunk));
-    painter.drawRoundedRect(outer, CornerRadius, CornerRadius);
-    painter.setBrush(shade);
-    painter.drawRoundedRect(outer.adjusted(border, border, -border, -border), CornerRadius - border,
-                            CornerRadius - border);
+    fill(0, outlineColour(face));
+    fill(1, face.enabled ? borderBrush(outer, face.colour, face.sunk) : QBrush(shade));
+    fill(2, shade);
     if (face.latched)
         drawRing(painter, outer, readableOn(shade), 0);
     if (face.focused)
-        drawRing(painter, outer, blended(shade, readableOn(shade), 0.5), 2 * border);
+        drawRing(painter, outer, readableOn(shade), 3 * border);
     painter.restore();
 }
 
@@ -223,9 +237,13 @@ void BoxControl::setFaceColour(const QColor& colour) {
     update();
 }
 
+QColor BoxControl::groundColour() const {
+    return palette().color(QPalette::Active, QPalette::Window);
+}
+
 QColor BoxControl::textColour() const {
     if (!isEnabled())
-        return fadedOn(faceColour());
+        return fadedOn(groundColour());
     return m_text.isValid() ? m_text : readableOn(faceColour());
 }
 
@@ -380,6 +398,7 @@ void BoxControl::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     drawFace(painter, rect(),
              {.colour = faceColour(),
+              .ground = groundColour(),
               .sunk = sunk,
               .latched = isLatched(),
               .hovered = underMouse(),

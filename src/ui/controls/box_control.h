@@ -76,6 +76,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    QColor groundColour() const;
     bool answersAlternateClicks() const;
     void nameAfterToolTip();
     void answerShortcut(const QShortcutEvent& event);

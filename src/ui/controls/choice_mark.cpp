@@ -12,6 +12,8 @@ namespace {
 constexpr int BoxSide = 16;
 constexpr int Inset = 3;
 constexpr int Gap = 8;
+/// What a pointer or a finger can meet.
+constexpr int LeastHeight = 24;
 
 double cornerRadius(ChoiceMark mark, const QRectF& place) {
     return mark == ChoiceMark::Dot ? place.width() / 2 : 3;
@@ -40,7 +42,7 @@ void drawChosen(QPainter& painter, ChoiceMark mark, const QRectF& place, const Q
 QSize choiceSize(const QAbstractButton& button) {
     const QSize caption = button.fontMetrics().size(Qt::TextShowMnemonic, button.text());
     return {BoxSide + Gap + caption.width() + 2 * Inset,
-            std::max(BoxSide, caption.height()) + 2 * Inset};
+            std::max(LeastHeight, caption.height() + 2 * Inset)};
 }
 
 void drawChoice(QAbstractButton& button, ChoiceMark mark) {
@@ -55,7 +57,7 @@ void drawChoice(QAbstractButton& button, ChoiceMark mark) {
     drawOutline(painter, mark, place.adjusted(0.5, 0.5, -0.5, -0.5));
     painter.setBrush(Qt::NoBrush);
     if (button.hasFocus()) {
-        painter.setPen(QPen(blended(ground, colour, 0.5), 2));
+        painter.setPen(QPen(colour, 2));
         drawOutline(painter, mark, place.adjusted(-2, -2, 2, 2));
     }
     if (button.isChecked())

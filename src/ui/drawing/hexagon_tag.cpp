@@ -20,7 +20,8 @@ struct TagColours {
 
 /// Quieter than the numbers of the game, and inverted while the tag is held down.
 TagColours tagColours(const QColor& fill, TagState state) {
-    const QColor text = blended(fill, readableOn(fill), 0.7);
+    constexpr double LeastContrast = 6; // a little more than WCAG 2 asks of text, for it is small
+    const QColor text = standingOut(fill, LeastContrast);
     switch (state) {
     case TagState::Hovered:
         return {blended(fill, text, 0.15), readableOn(fill)};

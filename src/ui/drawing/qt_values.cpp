@@ -7,12 +7,14 @@ QColor slotColour(const Appearance& appearance, std::size_t slot) {
     return toQColor(appearance.SchemeColours[slot]);
 }
 
+double contrast(const QColor& one, const QColor& other) {
+    return contrastRatio(toColour(one), toColour(other));
+}
+
 /// What is selected on `ground`: the menu's colour where it stands out there.
 QColor highlightOn(const QColor& ground, const QColor& menu) {
-    constexpr double LeastDifference = 1.5;
-    if (contrastRatio(toColour(menu), toColour(ground)) >= LeastDifference)
-        return menu;
-    return blended(ground, readableOn(ground), 0.25);
+    constexpr double LeastContrast = 3; // of WCAG 2, for the state of a control
+    return contrast(menu, ground) >= LeastContrast ? menu : standingOut(ground, LeastContrast);
 }
 
 /// The item under the pointer: away from the text's colour, so that the text stays as it is, or,
@@ -21,7 +23,7 @@ QColor selectedOn(const QColor& ground) {
     constexpr double LeastDifference = 1.2;
     const QColor text = readableOn(ground);
     const QColor away = blended(ground, readableOn(text), 0.3);
-    if (contrastRatio(toColour(away), toColour(ground)) >= LeastDifference)
+    if (contrast(away, ground) >= LeastDifference)
         return away;
     return blended(ground, text, 0.18);
 }
@@ -33,7 +35,7 @@ QColor linkOn(const QColor& ground) {
     const QColor blue = text == QColor(Qt::black) ? QColor(11, 80, 190) : QColor(140, 185, 255);
     for (int tenths = 0; tenths < 10; ++tenths) {
         const QColor link = blended(blue, text, tenths / 10.0);
-        if (contrastRatio(toColour(link), toColour(ground)) >= LeastContrast)
+        if (contrast(link, ground) >= LeastContrast)
             return link;
     }
     return text;
@@ -66,15 +68,23 @@ QColor readableOn(const QColor& background) {
     return toQColor(readableOn(toColour(background)));
 }
 
+QColor standingOut(const QColor& background, double least) {
+    constexpr int Steps = 32;
+    const QColor text = readableOn(background);
+    for (int step = 1; step < Steps; ++step) {
+        const QColor shade = blended(background, text, static_cast<double>(step) / Steps);
+        if (contrast(shade, background) >= least)
+            return shade;
+    }
+    return text;
+}
+
 QColor fadedOn(const QColor& background) {
     // What WCAG 2 asks of large text; a tone of middle grey leaves little room to fade.
     constexpr double LeastContrast = 3.0;
-    const QColor text = readableOn(background);
-    double fading = 0.5;
-    while (fading > 0 && contrastRatio(toColour(blended(text, background, fading)),
-                                       toColour(background)) < LeastContrast)
-        fading -= 0.05;
-    return blended(text, background, fading > 0 ? fading : 0);
+    const QColor half = blended(background, readableOn(background), 0.5);
+    return contrast(half, background) >= LeastContrast ? half
+                                                       : standingOut(background, LeastContrast);
 }
 
 QPalette schemePalette(const Appearance& appearance) {

@@ -37,6 +37,9 @@ QColor blended(const QColor& from, const QColor& to, double amount);
 
 /// Black or white, whichever reads better on `background`.
 QColor readableOn(const QColor& background);
+/// `background` moved as little towards black or white as makes it stand out that much against
+/// itself; black or white where even they do not.
+QColor standingOut(const QColor& background, double contrast);
 /// The same, faded as far as it still reads: text of what cannot be used now.
 QColor fadedOn(const QColor& background);
 

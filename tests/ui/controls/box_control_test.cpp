@@ -83,17 +83,22 @@ TEST_F(BoxControlTest, EveryStateLooksDifferent) {
     EXPECT_EQ(picture(), looks.front());
 }
 
-TEST_F(BoxControlTest, ItsBorderIsOneSharpLineAtEveryScale) {
-    m_button.setFaceColour(QColor(200, 200, 200));
+TEST_F(BoxControlTest, ItsOutlineAndBorderAreSharpLinesAtEveryScale) {
+    const QColor face(200, 200, 200);
+    m_button.setFaceColour(face);
     for (const double scale : {1.0, 1.25, 1.5, 2.0, 3.0}) {
         const QImage image = picture(scale);
         const int thickness = qFloor(scale);
         const int x = image.width() / 3;
         for (int y = 0; y < thickness; ++y) {
-            EXPECT_GT(image.pixelColor(x, y).red(), 230) << scale;
-            EXPECT_LT(image.pixelColor(2 * x, image.height() - 1 - y).red(), 130) << scale;
+            const Colour outline = toColour(image.pixelColor(x, y));
+            for (const QColor& beside : {face, m_window.palette().color(QPalette::Window)})
+                EXPECT_GE(contrastRatio(outline, toColour(beside)), 3) << scale;
+            EXPECT_GT(image.pixelColor(x, thickness + y).red(), 230) << scale;
+            const int bottom = image.height() - 1 - thickness - y;
+            EXPECT_LT(image.pixelColor(2 * x, bottom).red(), 130) << scale;
         }
-        EXPECT_EQ(image.pixelColor(x, thickness), QColor(200, 200, 200)) << scale;
+        EXPECT_EQ(image.pixelColor(x, 2 * thickness), face) << scale;
     }
 }
 
@@ -101,10 +106,11 @@ TEST_F(BoxControlTest, ItsTextReadsOnEveryFaceAndNamesIt) {
     for (int level = 0; level <= 255; level += 5) {
         const Colour face = RGB(level, level, (level * 3) % 256);
         m_button.setFaceColour(toQColor(face));
-        for (const bool enabled : {false, true}) {
-            m_button.setEnabled(enabled);
-            EXPECT_GE(contrastRatio(toColour(m_button.textColour()), face), enabled ? 4.5 : 3.0);
-        }
+        m_button.setEnabled(true);
+        EXPECT_GE(contrastRatio(toColour(m_button.textColour()), face), 4.5) << level;
+        m_button.setEnabled(false); // and flat
+        const QColor ground = m_button.palette().color(QPalette::Window);
+        EXPECT_GE(contrastRatio(toColour(m_button.textColour()), toColour(ground)), 3) << level;
     }
     m_button.setToolTip(u"Press it"_s);
     BoxControl pictured(Picture::Undo, u"Undo"_s, &m_window);

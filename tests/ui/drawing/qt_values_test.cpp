@@ -33,7 +33,7 @@ TEST(SchemePalette, TakesItsColoursFromTheSlotsAndReadsOnEveryScheme) {
                 EXPECT_GE(contrast(P::Disabled, text, ground), 3.0) << level;
                 EXPECT_NE(palette.color(P::Disabled, text), palette.color(P::Active, text));
             }
-            EXPECT_GE(contrast(P::Active, P::Highlight, P::Base), 1.4) << level;
+            EXPECT_GE(contrast(P::Active, P::Highlight, P::Base), 3) << level;
             EXPECT_GE(contrast(P::Active, P::Link, P::Base), 4.5) << level;
         }
     EXPECT_STREQ(schemeLikeDesktop(QPalette(QColor(0xee, 0xee, 0xee))), DefaultScheme);
