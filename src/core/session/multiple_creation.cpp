@@ -36,7 +36,7 @@ MultipleCreation::MultipleCreation(Session& session, PuzzleFileCommands& files, 
 void MultipleCreation::run() {
     const std::optional<CreationOrder> order = m_orders.choose();
     m_display.yield();
-    if (order && confirmed(*order))
+    if (order && m_files.accepts(order->path) && confirmed(*order))
         carryOut(*order);
 }
 

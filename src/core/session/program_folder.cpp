@@ -4,6 +4,8 @@
 #include "core/files/file_descriptor.h"
 #include "core/options/scheme_library.h"
 
+#include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
@@ -182,6 +184,17 @@ void renewShippedFiles(const fs::path& share, const fs::path& folder) {
         fs::create_directories(copy.parent_path(), ignored);
         static_cast<void>(replaceFile(copy, shipped));
     }
+}
+
+bool isOwnFile(const fs::path& programFolder, const fs::path& path) {
+    constexpr std::array OwnFiles{SchemeLibraryFile, ArrangementFile, HelpPageFile,
+                                  ConfigurationFile, WindowPlaceFile};
+    return std::any_of(OwnFiles.begin(), OwnFiles.end(), [&](const char* name) {
+        const fs::path own = programFolder / name;
+        std::error_code oneIsMissing;
+        return path.lexically_normal() == own.lexically_normal() ||
+               fs::equivalent(path, own, oneIsMissing);
+    });
 }
 
 Outcome restoreSchemes(const fs::path& share, const fs::path& folder) {

@@ -30,6 +30,10 @@ void renewShippedFiles(const std::filesystem::path& share, const std::filesystem
 /// Puts the shipped library of schemes in the place of the one in `folder`.
 Outcome restoreSchemes(const std::filesystem::path& share, const std::filesystem::path& folder);
 
+/// Whether a path, through links or not, means a file that the program keeps for itself: no puzzles
+/// are saved to it.
+bool isOwnFile(const std::filesystem::path& programFolder, const std::filesystem::path& path);
+
 /// What decides which folder the program runs from. Folders may be given with or without their
 /// last "/"; an empty one is unknown.
 struct ProgramFolderSources {

@@ -3,6 +3,7 @@
 #include "core/base/text.h"
 #include "core/board/puzzle_record.h"
 #include "core/files/file_access.h"
+#include "core/session/program_folder.h"
 
 #include <algorithm>
 
@@ -32,6 +33,18 @@ private:
     WhileSet m_running;
     Display& m_display;
 };
+
+/// Whether a file has text in it, but no puzzle among its first lines.
+bool holdsOtherText(const std::filesystem::path& path) {
+    int lines = 0;
+    bool found = false;
+    Board board;
+    const Outcome read = forEachRecord(path, [&](RecordLine line) {
+        found = line.read(board).ok();
+        return !found && ++lines < MostTried;
+    });
+    return read.ok() && lines > 0 && !found;
+}
 
 } // namespace
 
@@ -90,13 +103,22 @@ void PuzzleFileCommands::mnuload() {
         load(path);
 }
 
-void PuzzleFileCommands::load(const std::filesystem::path& path, int number) {
-    if (!showReadable(path, number).ok()) {
-        m_prompts.message("Error reading file:\r\n" + path.native(), FileProblem);
-        return;
+bool PuzzleFileCommands::open(const std::filesystem::path& path, int number) {
+    const PuzzleRead read = showReadable(path, number);
+    if (read.ok()) {
+        setSaveTarget(path);
+        return true;
     }
-    setSaveTarget(path);
-    if (path == temporaryFile())
+    const std::string named = path.native() + ": ";
+    std::string reason = read.reason;
+    if (reason.starts_with(named))
+        reason.erase(0, named.size());
+    m_prompts.message("Error reading file:\r\n" + path.native() + "\r\n" + reason, FileProblem);
+    return false;
+}
+
+void PuzzleFileCommands::load(const std::filesystem::path& path, int number) {
+    if (!open(path, number) || path == temporaryFile())
         return;
     m_session.recentFiles.AddRecentFile(path);
     m_display.showRecentFiles(m_session.recentFiles.paths());
@@ -170,10 +192,20 @@ void PuzzleFileCommands::mnusavex() {
     if (!m_session.game.hasPuzzle())
         return;
     const std::filesystem::path path = m_chooseFile(FileUse::Save, "Select an output Puzzle file");
-    if (path.empty())
-        return;
-    if (appendTo(path))
+    if (!path.empty() && accepts(path) && appendTo(path))
         setSaveTarget(path);
+}
+
+bool PuzzleFileCommands::accepts(const std::filesystem::path& target) {
+    if (isOwnFile(m_session.ProgramFolder, target)) {
+        tellCritical("Puzzles cannot be saved to this file, which the program needs:\r\n" +
+                     target.native());
+        return false;
+    }
+    const std::string question =
+        "There is no puzzle in this file:\r\n" + target.native() + "\r\nSave to it all the same?";
+    return !holdsOtherText(target) ||
+           m_prompts.message(question, "vbyesno+vbquestion+vbdefaultbutton2") == answer::Yes;
 }
 
 void PuzzleFileCommands::mnusaveto() {
@@ -213,10 +245,7 @@ void PuzzleFileCommands::oldfiles_Click(int item) {
         m_prompts.message("File not found:\r\n" + path.native(), FileProblem);
         return;
     }
-    if (showReadable(path, 1).ok())
-        setSaveTarget(path);
-    else
-        m_prompts.message("Error reading file:\r\n" + path.native(), FileProblem);
+    open(path, 1);
 }
 
 void PuzzleFileCommands::reopen(const std::filesystem::path& path, int number) {

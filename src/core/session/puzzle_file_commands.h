@@ -43,6 +43,9 @@ public:
     /// Reads a puzzle onto the board and shows it. When that fails the board stays as it was and
     /// the message line says so.
     PuzzleRead ReadPuzzle(const std::filesystem::path& path, int number);
+    /// Whether puzzles go to that file: never to one of the program's own, which is told, and to
+    /// one that holds other text only if the user says so.
+    bool accepts(const std::filesystem::path& target);
     /// Appends the puzzle on the board to a file; `number` gets its number there.
     Outcome append(const std::filesystem::path& path, int& number);
     /// The puzzle on the board stands in no file; the user is told why, if there is a problem.
@@ -56,6 +59,9 @@ private:
     /// Shows the puzzle `number` of a file or, in steps of `step` around the ends of the file, the
     /// first that can be read; the message line names the one that cannot.
     PuzzleRead showReadable(const std::filesystem::path& path, int number, int step = 1);
+    /// Shows the first puzzle of a file that can be read, from `number` on; tells when there is
+    /// none.
+    bool open(const std::filesystem::path& path, int number);
     /// Tells the user when the current file cannot be read.
     void tellUnreadable(const PuzzleRead& read);
     /// How many puzzles the current file holds now; as many as before when it cannot be read.

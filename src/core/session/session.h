@@ -64,6 +64,15 @@ struct Session {
 
     LastPuzzle last;
     CurrentPuzzle puzzle;
+
+    /// Where dialogs for puzzle files open: beside the one in use, or the one used last.
+    std::filesystem::path puzzleFolder() const {
+        for (const std::filesystem::path& path : {puzzle.PuzPath, last.path})
+            if (std::error_code error; std::filesystem::is_directory(path.parent_path(), error))
+                return path.parent_path();
+        return ProgramFolder;
+    }
+
     Game game;
     /// What the difficulty label shows, and so what the next puzzle will be.
     DifficultyChoice difficulty;

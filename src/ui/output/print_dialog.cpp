@@ -153,8 +153,9 @@ void Form5::load(const PrintSuggestion& suggestion) {
 }
 
 void Form5::chooseFile() {
-    const std::filesystem::path chosen = choosePuzzleFile(*m_picker, m_programFolder, FileUse::Open,
-                                                          "Select a Puzzle file to print");
+    const std::filesystem::path chosen =
+        choosePuzzleFile(*m_picker, m_path.empty() ? m_programFolder : m_path.parent_path(),
+                         FileUse::Open, "Select a Puzzle file to print");
     if (chosen.empty())
         return;
     int count = 0;

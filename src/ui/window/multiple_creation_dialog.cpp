@@ -91,7 +91,7 @@ QWidget* Form3::makeFileFrame(const FileDialog& fileDialog) {
 }
 
 QHBoxLayout* Form3::makeButtons() {
-    auto* ok = named(u"Command1"_s, new BoxControl(u"OK"_s, this));
+    auto* ok = named(u"Command1"_s, new BoxControl(u"Ok"_s, this));
     auto* cancel = named(u"Command2"_s, new BoxControl(u"Cancel"_s, this));
     connect(ok, &BoxControl::clicked, this, &Form3::acceptOrder);
     connect(cancel, &BoxControl::clicked, this, &QDialog::reject);
@@ -100,8 +100,8 @@ QHBoxLayout* Form3::makeButtons() {
 }
 
 void Form3::chooseFile() {
-    const std::filesystem::path chosen =
-        choosePuzzleFile(*m_picker, m_programFolder, FileUse::Save, "Select an output Puzzle file");
+    const std::filesystem::path chosen = choosePuzzleFile(
+        *m_picker, m_path.parent_path(), FileUse::Save, "Select an output Puzzle file");
     if (chosen.empty())
         return;
     m_default->setChecked(false);

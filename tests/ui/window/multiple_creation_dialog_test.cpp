@@ -9,7 +9,7 @@ namespace {
 
 /// The creation of many puzzles with its real dialog.
 struct AutoCreate : testing::Test {
-    /// By its caption, for the file picker's button has the name of "OK" too.
+    /// By its caption, for the file picker's button has the name of "Ok" too.
     static void click(const QDialog& dialog, const QString& caption) {
         for (auto* button : dialog.findChildren<BoxControl*>())
             if (button->text() == caption)
@@ -19,7 +19,7 @@ struct AutoCreate : testing::Test {
         auto& box = find<QLineEdit>(dialog, u"Text1"_s);
         box.selectAll();
         QTest::keyClicks(&box, number);
-        click(dialog, u"OK"_s);
+        click(dialog, u"Ok"_s);
     }
     /// Orders so many easy puzzles and calls `what` whenever the run lets the window live, until it
     /// answers false.
