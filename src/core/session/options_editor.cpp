@@ -230,6 +230,7 @@ std::string OptionsEditor::confirmedEntry(const std::string& ifNone, const std::
 }
 
 void OptionsEditor::report(const Outcome& outcome, const std::string& done) {
+    m_showList();
     if (outcome.ok())
         m_prompts.message(done, Information);
     else

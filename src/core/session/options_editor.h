@@ -5,9 +5,11 @@
 #include "core/options/scheme_library.h"
 
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace tessaly {
@@ -23,6 +25,9 @@ public:
 
     /// `settings` and `prompts` must outlive the editor.
     OptionsEditor(Appearance& settings, std::filesystem::path programFolder, Prompts& prompts);
+
+    /// Called when the list of schemes was made anew, before the user is told why.
+    void onNewList(std::function<void()> show) { m_showList = std::move(show); }
 
     /// Starts anew: the samples show the settings, the list of schemes is read, none is selected.
     void open();
@@ -74,7 +79,7 @@ private:
     /// The selected entry, if the user says yes to the question about it, which ends in its name;
     /// else "". `ifNone` is told when none is selected.
     std::string confirmedEntry(const std::string& ifNone, const std::string& question);
-    /// Tells how an operation on the library ended.
+    /// Shows the library as it is after an operation and tells how that ended.
     void report(const Outcome& outcome, const std::string& done);
     void tell(const std::string& problem);
     void forgetBorderInBackgroundColour();
@@ -82,6 +87,7 @@ private:
     Appearance& m_settings;
     SchemeLibrary m_library;
     Prompts& m_prompts;
+    std::function<void()> m_showList = [] {};
 
     Appearance m_samples;
     std::string m_caption;

@@ -5,10 +5,26 @@
 #include <QCoreApplication>
 #include <QDialog>
 #include <QPainter>
+#include <QScreen>
+#include <QStyledItemDelegate>
 #include <QTextDocument>
 #include <QVBoxLayout>
 
 namespace tessaly {
+namespace {
+
+/// Rows that a pointer or a finger can meet.
+class RoomyRows : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        constexpr int LeastHeight = 24;
+        return QStyledItemDelegate::sizeHint(option, index).expandedTo({0, LeastHeight});
+    }
+};
+
+} // namespace
 
 QVBoxLayout* addRows(QDialog& dialog) {
     auto* rows = new QVBoxLayout(&dialog);
@@ -28,6 +44,12 @@ QHBoxLayout* makeButtonRow(std::initializer_list<BoxControl*> buttons) {
     return row;
 }
 
+void resizeOnScreen(QWidget& window, QSize wanted) {
+    constexpr QSize RoomForFrame(16, 48); // which the desktop puts around it
+    const QWidget* owner = window.parentWidget() != nullptr ? window.parentWidget() : &window;
+    window.resize(wanted.boundedTo(owner->screen()->availableSize() - RoomForFrame));
+}
+
 QString plainToolTip(const QString& text) {
     return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
 }
@@ -43,11 +65,20 @@ void ElidedLabel::paintEvent(QPaintEvent*) {
     painter.drawText(rect(), static_cast<int>(alignment()), shown);
 }
 
+ScrolledRegion::ScrolledRegion(QWidget* contents, QWidget* parent)
+    : QScrollArea(parent) {
+    setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::NoFocus); // it follows the focus of what it holds
+    setWidgetResizable(true);
+    setWidget(contents);
+}
+
 ChoiceList::ChoiceList(QWidget* parent)
     : QListWidget(parent) {
+    setItemDelegate(new RoomyRows(this));
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setUniformItemSizes(true);
-    setSpacing(2);
+    setSpacing(1);
 }
 
 int ChoiceList::selectedRow() const {

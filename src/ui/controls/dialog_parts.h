@@ -2,6 +2,7 @@
 
 #include <QLabel>
 #include <QListWidget>
+#include <QScrollArea>
 #include <QSize>
 #include <QString>
 
@@ -35,6 +36,10 @@ QVBoxLayout* addRows(QDialog& dialog);
 /// The last row of a dialog: its buttons, all of one size, at the right.
 QHBoxLayout* makeButtonRow(std::initializer_list<BoxControl*> buttons);
 
+/// Gives a window that is about to open the size that it would like to have, as far as the screen
+/// has room for it.
+void resizeOnScreen(QWidget& window, QSize wanted);
+
 /// A tooltip that shows a text from outside as it is, whatever markup it holds.
 QString plainToolTip(const QString& text);
 
@@ -53,6 +58,16 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 };
 
+/// Lets what it holds scroll where there is no room for all of it.
+class ScrolledRegion : public QScrollArea {
+    Q_OBJECT
+
+public:
+    explicit ScrolledRegion(QWidget* contents, QWidget* parent = nullptr);
+
+    QSize sizeHint() const override { return widget()->sizeHint(); }
+};
+
 /// A list to choose one entry from, by the mouse or by the keys. Long entries are cut, not
 /// scrolled.
 class ChoiceList : public QListWidget {
@@ -68,7 +83,7 @@ public:
     /// Goes to an entry without selecting it.
     void showRow(int row);
 
-    QSize sizeHint() const override { return minimumSizeHint(); }
+    QSize sizeHint() const override { return {224, 150}; }
 
 Q_SIGNALS:
     /// The mouse came up over the list while an entry was selected, or a key selected another one.

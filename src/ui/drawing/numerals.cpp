@@ -41,6 +41,10 @@ QRawFont rawFont(const std::string& family, bool bold) {
 
 } // namespace
 
+bool hasDigits(const QString& family) {
+    return hasDigits(QRawFont::fromFont(QFont(family)));
+}
+
 DigitFace::DigitFace(const std::string& family, bool bold)
     : m_font(rawFont(family, bold)) {
     const auto indexes = m_font.glyphIndexesForString(allDigits());

@@ -16,6 +16,9 @@ namespace tessaly {
 
 inline constexpr int DigitCount = 10;
 
+/// Whether numbers can be written in that font alone.
+bool hasDigits(const QString& family);
+
 /// The outlines of the digits in one font, at text size 1: the pen stands at the left end of the
 /// baseline, y runs down. Outlines come out the same on a screen, on paper and in a file, whatever
 /// that device makes of fonts. A font without digits is replaced by the application's.

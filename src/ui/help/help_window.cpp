@@ -1,6 +1,7 @@
 #include "ui/help/help_window.h"
 
 #include "ui/controls/box_control.h"
+#include "ui/controls/dialog_parts.h"
 #include "ui/drawing/qt_values.h"
 
 #include <QFile>
@@ -98,7 +99,7 @@ Form4::Form4(const Appearance& appearance, QWidget* parent)
     });
     connect(m_exit, &BoxControl::clicked, this, &QDialog::hide);
     connect(m_browser, &HelpBrowser::historyChanged, this, &Form4::enableButtons);
-    resize(FirstSize);
+    resizeOnScreen(*this, FirstSize);
 }
 
 BoxControl* Form4::addButton(const QString& caption, const QString& name) {

@@ -19,12 +19,13 @@ namespace {
 using namespace Qt::StringLiterals;
 namespace surface = colour_surface;
 
-/// Four rows of boxes as high as these look well.
+/// Four rows of boxes as high as these look well; lower ones than the smallest are hard to hit.
 constexpr QSize UsualSize(surface::Width, surface::Height / 5);
+constexpr QSize SmallestSize(surface::Width, surface::Height / 8);
 constexpr int Spacing = 12;
 constexpr int PartWidth = 32;
 constexpr int PartHeight = 14;
-constexpr int SampleHeight = 40;
+constexpr int SampleHeight = 24;
 constexpr int LargestPart = 255;
 constexpr int LargeStep = 20;
 
@@ -62,13 +63,17 @@ void setSwatch(QLabel& label, Colour colour) {
 ColourSurfaceView::ColourSurfaceView(QWidget* parent)
     : QWidget(parent) {
     setFocusPolicy(Qt::StrongFocus);
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
     setAccessibleName(tr("Colours and shades"));
     setAccessibleDescription(tr("The arrow keys move, Space picks"));
 }
 
 QSize ColourSurfaceView::sizeHint() const {
     return UsualSize;
+}
+
+QSize ColourSurfaceView::minimumSizeHint() const {
+    return SmallestSize;
 }
 
 void ColourSurfaceView::setRampColour(Colour colour) {

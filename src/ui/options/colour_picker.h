@@ -33,7 +33,7 @@ public:
     QPointF toWidget(double x, double y) const;
 
     QSize sizeHint() const override;
-    QSize minimumSizeHint() const override { return sizeHint(); }
+    QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
     /// `onRamp` says whether the pick was one of a shade.

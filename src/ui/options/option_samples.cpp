@@ -85,8 +85,13 @@ void SampleBoard::showAppearance(const Appearance& appearance) {
 }
 
 QSize SampleBoard::sizeHint() const {
-    constexpr double SampleScale = 0.72;
-    return (QSizeF(PictureWidth, PictureHeight) * SampleScale).toSize();
+    constexpr double UsualScale = 0.6;
+    return (QSizeF(PictureWidth, PictureHeight) * UsualScale).toSize();
+}
+
+QSize SampleBoard::minimumSizeHint() const {
+    constexpr double SmallestScale = 0.36;
+    return (QSizeF(PictureWidth, PictureHeight) * SmallestScale).toSize();
 }
 
 void SampleBoard::paintEvent(QPaintEvent*) {

@@ -3,6 +3,7 @@
 #include "ui/controls/box_control.h"
 #include "ui/controls/choice_mark.h"
 #include "ui/controls/dialog_parts.h"
+#include "ui/drawing/numerals.h"
 #include "ui/drawing/qt_values.h"
 #include "ui/options/colour_picker.h"
 #include "ui/options/option_samples.h"
@@ -22,12 +23,14 @@ namespace {
 using namespace Qt::StringLiterals;
 using dialog::Spacing;
 
-constexpr int ListWidth = 224;
-constexpr int ListHeight = 150;
+/// The least that the lists need; they take more where there is room.
+constexpr QSize SmallestList(168, 80);
 constexpr int ButtonHeight = dialog::ButtonSize.height();
 constexpr int ButtonWidth = 104;
 constexpr int ColourButtonWidth = 132;
-constexpr int SampleWidth = 96;
+constexpr int SampleWidth = 60;
+/// Two buttons, each with its sample.
+constexpr int GridColumns = 4;
 constexpr int SamplePointSize = 18;
 constexpr int LeastContrast = -100;
 constexpr int MostContrast = 300;
@@ -54,13 +57,16 @@ Form2x::Form2x(Appearance& settings, const std::filesystem::path& programFolder,
     setObjectName(u"Form2x"_s);
     setWindowTitle(u"Tessaly Options"_s);
     setModal(true);
-    auto* columns = new QHBoxLayout;
+    auto* contents = new QWidget(this);
+    auto* columns = new QHBoxLayout(contents);
+    columns->setContentsMargins(0, 0, 0, 0);
     columns->setSpacing(Spacing);
     columns->addLayout(makeLeftColumn(), 1);
     columns->addLayout(makeRightColumn());
     QVBoxLayout* rows = addRows(*this);
-    rows->addLayout(columns, 1);
+    rows->addWidget(new ScrolledRegion(contents, this), 1);
     rows->addLayout(makeDialogButtons());
+    m_editor.onNewList([this] { showSchemes(); });
     showSchemeInForce();
 }
 
@@ -79,21 +85,18 @@ QLayout* Form2x::makeLeftColumn() {
 QLayout* Form2x::makeRightColumn() {
     m_selector = named(u"ColPik1"_s, new ColPik(this));
     auto* selectorRow = new QHBoxLayout;
-    selectorRow->addWidget(m_selector, 0, Qt::AlignCenter);
-    auto* details = new QHBoxLayout;
-    details->setSpacing(Spacing);
-    details->addLayout(makeSamples());
-    details->addLayout(makeSwitches(), 1);
+    selectorRow->addWidget(m_selector, 0, Qt::AlignHCenter);
     auto* column = new QVBoxLayout;
-    column->addWidget(makeFrame(u"Frame7"_s, u"Colour Selector"_s, selectorRow));
-    column->addLayout(details);
-    column->addStretch();
+    column->addWidget(makeFrame(u"Frame7"_s, u"Colour Selector"_s, selectorRow), 1);
+    column->addLayout(makeSamples());
+    column->addLayout(makeSwitches());
     return column;
 }
 
 QGroupBox* Form2x::makeFrame(const QString& name, const QString& caption, QLayout* contents) {
     auto* frame = named(name, new QGroupBox(caption, this));
     contents->setSpacing(Spacing / 2);
+    contents->setContentsMargins(Spacing, Spacing / 2, Spacing, Spacing / 2);
     frame->setLayout(contents);
     return frame;
 }
@@ -117,7 +120,7 @@ BoxControl* Form2x::makeButton(const QString& caption, const QString& name, int 
 
 QGroupBox* Form2x::makeSchemeFrame() {
     m_schemes = named(u"List1"_s, new ChoiceList(this));
-    m_schemes->setMinimumSize(ListWidth, ListHeight);
+    m_schemes->setMinimumSize(SmallestList);
     m_schemes->setAccessibleName(tr("Colour schemes"));
     connect(m_schemes, &ChoiceList::chosen, this, [this](int row) {
         react([&] { m_editor.List1_MouseUp(static_cast<std::size_t>(row)); }, &Form2x::showScheme);
@@ -151,7 +154,7 @@ QLayout* Form2x::makeSchemeButtons() {
     auto* row = new QHBoxLayout;
     row->setSpacing(Spacing / 2);
     const auto add = [&](const QString& name, Picture picture, const QString& toolTip,
-                         void (OptionsEditor::*action)(), void (Form2x::*after)()) {
+                         void (OptionsEditor::*action)(), void (Form2x::*after)() = nullptr) {
         auto* button = named(name, new BoxControl(picture, toolTip, this));
         connect(button, &BoxControl::clicked, this,
                 [this, action, after] { react([&] { (m_editor.*action)(); }, after); });
@@ -159,19 +162,16 @@ QLayout* Form2x::makeSchemeButtons() {
     };
     add(u"ShowSch"_s, Picture::View, u"View current color setting"_s, &OptionsEditor::ShowSch,
         &Form2x::showScheme);
-    add(u"AddSch"_s, Picture::Add, u"Add this color scheme"_s, &OptionsEditor::AddSch,
-        &Form2x::showSchemes);
+    add(u"AddSch"_s, Picture::Add, u"Add this color scheme"_s, &OptionsEditor::AddSch);
     add(u"RepSch"_s, Picture::Replace, u"Replace the current color scheme"_s,
-        &OptionsEditor::RepSch, &Form2x::showSchemes);
-    add(u"DelSch"_s, Picture::Delete, u"Delete the color scheme"_s, &OptionsEditor::DelSch,
-        &Form2x::showSchemes);
+        &OptionsEditor::RepSch);
+    add(u"DelSch"_s, Picture::Delete, u"Delete the color scheme"_s, &OptionsEditor::DelSch);
     return row;
 }
 
 QGroupBox* Form2x::makeFontFrame() {
     m_fonts = named(u"List2"_s, new ChoiceList(this));
-    m_fonts->setMinimumSize(ListWidth, ListHeight);
-    m_fonts->addItems(QFontDatabase::families(QFontDatabase::Latin));
+    m_fonts->setMinimumSize(SmallestList);
     connect(m_fonts, &ChoiceList::chosen, this, [this](int row) {
         react([&] { m_editor.List2_MouseUp(m_fonts->item(row)->text().toStdString()); });
     });
@@ -190,10 +190,11 @@ QLayout* Form2x::makeSamples() {
         button->setToolTip(toolTip);
         connect(button, &BoxControl::clicked, this,
                 [this, index] { react([&] { m_editor.cmdcol(index); }); });
-        sample->setFixedSize(SampleWidth, ButtonHeight + 4);
-        const int row = grid->count() / 2;
-        grid->addWidget(button, row, 0);
-        grid->addWidget(sample, row, 1);
+        sample->setFixedHeight(ButtonHeight);
+        sample->setMinimumWidth(SampleWidth);
+        const int place = grid->count();
+        grid->addWidget(button, place / GridColumns, place % GridColumns);
+        grid->addWidget(sample, place / GridColumns, place % GridColumns + 1);
         return button;
     };
     m_givenSample = named(u"Label1"_s, new QLabel(u"1 2 3"_s, this));
@@ -220,7 +221,7 @@ QLayout* Form2x::makeSwitches() {
             [this](bool on) { react([&] { m_editor.Check2_Click(on); }); });
     connect(m_numBorder, &QCheckBox::toggled, this,
             [this](bool on) { react([&] { m_editor.Check1_Click(on); }); });
-    auto* switches = new QVBoxLayout;
+    auto* switches = new QHBoxLayout;
     switches->addWidget(
         makeFrame(u"Frame3"_s, u"Split Hexas"_s, m_splitHexas, u"Display spaced hexagons"_s));
     switches->addWidget(makeFrame(u"Frame2"_s, u"Num Border"_s, m_numBorder,
@@ -262,6 +263,7 @@ void Form2x::showOptions() {
     m_editor.open();
     activate();
     setAttribute(Qt::WA_Moved, false); // in the middle of its window, wherever it stood last
+    resizeOnScreen(*this, sizeHint());
     show();
     m_schemes->setFocus();
 }
@@ -272,6 +274,10 @@ void Form2x::activate() {
     showScheme();
     showSchemes();
     m_printLine->setText(QString::number(samples.PrintLineWidth));
+    if (m_fonts->count() == 0)
+        for (const QString& family : QFontDatabase::families(QFontDatabase::Latin))
+            if (hasDigits(family))
+                m_fonts->addItem(family);
     selectFont(*m_fonts, QString::fromStdString(samples.NumberFont));
 }
 
@@ -320,7 +326,8 @@ void Form2x::showNumberSample(QLabel& label, Colour colour) {
 }
 
 void Form2x::showSchemeCaption() {
-    constexpr int Widest = ListWidth - dialog::Margin; // a wider one would widen the dialog
+    // A wider one would widen the dialog.
+    constexpr int Widest = SmallestList.width() - dialog::Margin;
     const QString caption = QString::fromStdString(m_editor.schemeCaption());
     QString shown = fontMetrics().elidedText(caption, Qt::ElideRight, Widest);
     m_schemeFrame->setTitle(shown.replace(u'&', u"&&"_s));

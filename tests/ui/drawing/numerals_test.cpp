@@ -51,6 +51,7 @@ TEST(Numerals, StandClearOfTheLinesInEveryFont) {
 }
 
 TEST(Numerals, MarksStandInColumns) {
+    EXPECT_TRUE(hasDigits(QStringLiteral("Liberation Sans")));
     const DigitFace face("Liberation Sans");
     const Numerals numerals(face, {2.37, 2.41}, Fit::ToPixels);
     const double column = numerals.markPen(1).x() - numerals.markPen(0).x();
