@@ -49,7 +49,7 @@ void playALittle(GameWindow& game) {
             play.board.CellNum[cell] = std::string("352146").substr(0, 1 + turn % 6);
         ++turn;
     }
-    game.board().DrawBoard();
+    game.window->DrawBoard();
 }
 
 CellId firstOpenCell(const GameWindow& game) {

@@ -9,8 +9,10 @@
 namespace tessaly {
 namespace {
 
-/// How much a step aside weighs against a step ahead: large enough to keep to a line of cells.
+/// How much a step aside weighs against a step ahead: large enough to keep to a line of cells, and
+/// so small that the next column of hexagons, half a hexagon up or down, is not jumped over.
 constexpr double AsideWeight = 2.0;
+constexpr double AsideWeightOfHexagons = 1.5;
 
 /// Cells whose centres differ by less than this in height stand in one line, in board units.
 constexpr double SameLine = 4.0;
@@ -32,17 +34,15 @@ CellId bestSelectable(const Game& game, Better better) {
     return best;
 }
 
-/// The cost of going from one cell to another in a direction; infinite when it lies the other way.
-double stepCost(CellId from, CellId to, int columns, int rows) {
-    const Point start = numberCentre(from);
-    const Point end = numberCentre(to);
+/// The cost of going from one point to another in a direction; infinite when it lies the other way.
+double stepCost(Point start, Point end, int columns, int rows, double asideWeight = AsideWeight) {
     const double dx = end.x - start.x;
     const double dy = end.y - start.y;
     const double ahead = dx * columns + dy * rows;
     const double aside = std::abs(dx * rows) + std::abs(dy * columns);
     if (ahead < SameLine)
         return std::numeric_limits<double>::infinity();
-    return ahead + AsideWeight * aside;
+    return ahead + asideWeight * aside;
 }
 
 } // namespace
@@ -58,10 +58,26 @@ CellId lastSelectable(const Game& game) {
 CellId cellBeside(const Game& game, CellId from, int columns, int rows) {
     if (!game.isSelectable(from))
         return columns + rows > 0 ? firstSelectable(game) : lastSelectable(game);
-    const CellId nearest = bestSelectable(game, [&](CellId a, CellId b) {
-        return stepCost(from, a, columns, rows) < stepCost(from, b, columns, rows);
-    });
-    return std::isinf(stepCost(from, nearest, columns, rows)) ? from : nearest;
+    const auto cost = [&](CellId to) {
+        return stepCost(numberCentre(from), numberCentre(to), columns, rows);
+    };
+    const CellId nearest =
+        bestSelectable(game, [&](CellId a, CellId b) { return cost(a) < cost(b); });
+    return std::isinf(cost(nearest)) ? from : nearest;
+}
+
+int hexagonBeside(const Board& board, int from, int columns, int rows) {
+    int nearest = from;
+    double least = std::numeric_limits<double>::infinity();
+    for (int hexagon = 1; hexagon <= HexagonCount; ++hexagon) {
+        const double cost = stepCost(hexagonCentre(from), hexagonCentre(hexagon), columns, rows,
+                                     AsideWeightOfHexagons);
+        if (cost < least && !board.isBlank(hexagon)) {
+            nearest = hexagon;
+            least = cost;
+        }
+    }
+    return nearest;
 }
 
 } // namespace tessaly

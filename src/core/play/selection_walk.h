@@ -15,4 +15,7 @@ CellId lastSelectable(const Game& game);
 /// itself where there is none. From no cell the walk begins at the first or the last one.
 CellId cellBeside(const Game& game, CellId from, int columns, int rows);
 
+/// The same for hexagons, but for the blank one.
+int hexagonBeside(const Board& board, int from, int columns, int rows);
+
 } // namespace tessaly

@@ -173,7 +173,8 @@ void Configuration::applyTo(Appearance& appearance) const {
     appearance.NumberFont = NumberFont;
     appearance.UserNumberColour =
         UserNumberColour.value_or(appearance.SchemeColours[slot::DarkRed]);
-    appearance.HexaBorderColour = HexaBorderColour.value_or(Black);
+    appearance.HexaBorderColour =
+        HexaBorderColour.value_or(readableOn(appearance.SchemeColours[slot::Background]));
     appearance.HexaFillColour = HexaFillColour.value_or(appearance.SchemeColours[slot::Button]);
     appearance.FixedNumberColour =
         FixedNumberColour.value_or(readableOn(appearance.HexaFillColour));

@@ -81,6 +81,7 @@ FNDialog::FNDialog(FileDialog dialog, Prompts& prompts, QWidget* parent)
     , m_prompts(prompts)
     , m_button(new BoxControl(u"..."_s, this)) {
     m_button->setObjectName(u"Command1"_s);
+    m_button->setAccessibleName(tr("Choose another file")); // as long as there is no title
     m_button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
     auto* layout = new QHBoxLayout(this);

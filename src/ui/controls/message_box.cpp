@@ -10,6 +10,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMainWindow>
 #include <QScreen>
 #include <QScrollBar>
 #include <QTextDocument>
@@ -121,9 +122,20 @@ Style styleOf(const QString& words) {
     return style;
 }
 
+/// The window that a question is about: the one in use or, while another program is, the main one.
+const QWidget* askingWindow() {
+    if (const QWidget* active = QApplication::activeWindow())
+        return active;
+    for (const QWidget* window : QApplication::topLevelWidgets())
+        if (window->isVisible() && qobject_cast<const QMainWindow*>(window) != nullptr)
+            return window;
+    return nullptr;
+}
+
 /// Puts a dialog that is about to be seen in the middle of the window that it belongs to, and
 /// before it for as long as it stands.
-void placeOver(QDialog& dialog, const QWidget* owner) {
+void placeOverItsWindow(QDialog& dialog) {
+    const QWidget* owner = askingWindow();
     if (owner == nullptr || owner == &dialog)
         return;
     dialog.layout()->activate(); // which gives it the size that it needs this time
@@ -143,7 +155,7 @@ public:
 protected:
     void showEvent(QShowEvent* event) override {
         QDialog::showEvent(event);
-        placeOver(*this, QApplication::activeWindow());
+        placeOverItsWindow(*this);
     }
 
 private:
@@ -299,7 +311,7 @@ int MsgForm::show(const QString& text, const QString& style) {
 
 void MsgForm::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
-    placeOver(*this, QApplication::activeWindow());
+    placeOverItsWindow(*this);
 }
 
 int MsgForm::message(std::string_view text, std::string_view style) {

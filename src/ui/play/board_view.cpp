@@ -2,6 +2,7 @@
 
 #include "core/play/board_geometry.h"
 #include "core/play/board_style.h"
+#include "core/play/selection_walk.h"
 #include "ui/drawing/qt_values.h"
 #include "ui/play/board_accessible.h"
 #include "ui/play/board_keys.h"
@@ -23,6 +24,7 @@ using namespace Qt::StringLiterals;
 constexpr double SmallestScale = 0.6;
 /// How far the frame of the focus reaches into the view.
 constexpr int FocusInset = 3;
+constexpr double FocusThickness = 2;
 /// Between the board and the palette.
 constexpr int Spacing = 12;
 
@@ -82,6 +84,7 @@ BoardView::BoardView(const Board& board, const Appearance& appearance, QWidget* 
                    static_cast<int>(std::ceil(SmallestScale * PictureHeight)));
     for (int hexagon = 1; hexagon <= HexagonCount; ++hexagon)
         m_tags[static_cast<std::size_t>(hexagon)] = new HexagonTagWidget(hexagon, appearance, this);
+    stopAtTag(m_tagStop);
     applyAppearance();
 }
 
@@ -93,6 +96,10 @@ void BoardView::setInput(BoardInput& input) {
         connect(tag, &HexagonTagWidget::pressed, this,
                 [this](int hexagon) { m_input->Celltags_MouseDown(hexagon); });
         connect(tag, &HexagonTagWidget::released, this, [this] { m_input->Celltags_MouseUp(); });
+        connect(tag, &HexagonTagWidget::walked, this, [this](int from, int columns, int rows) {
+            stopAtTag(hexagonBeside(m_board, from, columns, rows));
+            m_tags[static_cast<std::size_t>(m_tagStop)]->setFocus(Qt::TabFocusReason);
+        });
     }
     connect(&m_popup, &NumberPopup::clicked, this,
             [this](int button) { m_input->Num16_Click(button); });
@@ -129,6 +136,8 @@ void BoardView::DrawBoard() {
     m_surface.DrawBoard(m_board);
     for (int hexagon = 1; hexagon <= HexagonCount; ++hexagon)
         showTag(hexagon);
+    if (m_board.isBlank(m_tagStop))
+        stopAtTag(m_tagStop % HexagonCount + 1);
     update();
 }
 
@@ -146,6 +155,12 @@ void BoardView::applyAppearance() {
 
 void BoardView::showTag(int hexagon) {
     m_tags[static_cast<std::size_t>(hexagon)]->setVisible(!m_board.isBlank(hexagon));
+}
+
+void BoardView::stopAtTag(int hexagon) {
+    m_tags[static_cast<std::size_t>(m_tagStop)]->setFocusPolicy(Qt::NoFocus);
+    m_tagStop = hexagon;
+    m_tags[static_cast<std::size_t>(m_tagStop)]->setFocusPolicy(Qt::TabFocus);
 }
 
 void BoardView::showSelection() {
@@ -217,17 +232,18 @@ void BoardView::paintEvent(QPaintEvent* event) {
     const QRectF source(target.x() * ratio, target.y() * ratio, target.width() * ratio,
                         target.height() * ratio);
     painter.drawImage(QRectF(target), m_surface.image(), source);
-    if (hasFocus() && !m_input->selection() && !underMouse())
+    if (hasFocus() && m_usedByKeys && !m_input->selection())
         drawFocus(painter);
 }
 
 /// The marker shows where the focus is as long as a cell is selected; otherwise the board wears a
-/// frame, but not under the pointer, where it would come and go between the cells.
+/// frame, but not for a pointer, for which it would come and go between the cells.
 void BoardView::drawFocus(QPainter& painter) const {
     const QColor ground = toQColor(m_appearance.SchemeColours[slot::Background]);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(blended(ground, readableOn(ground), 0.5), 1));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
+    painter.setPen(QPen(readableOn(ground), FocusThickness));
+    constexpr double Inset = FocusThickness / 2;
+    painter.drawRoundedRect(QRectF(rect()).adjusted(Inset, Inset, -Inset, -Inset), 4, 4);
 }
 
 void BoardView::resizeEvent(QResizeEvent* event) {
@@ -246,7 +262,25 @@ bool BoardView::event(QEvent* event) {
     return QWidget::event(event);
 }
 
+void BoardView::focusInEvent(QFocusEvent* event) {
+    switch (event->reason()) {
+    case Qt::TabFocusReason:
+    case Qt::BacktabFocusReason:
+    case Qt::ShortcutFocusReason:
+        m_usedByKeys = true;
+        break;
+    case Qt::ActiveWindowFocusReason:
+    case Qt::PopupFocusReason:
+    case Qt::MenuBarFocusReason:
+        break; // it comes back to whoever had it
+    default:
+        m_usedByKeys = false;
+    }
+    QWidget::focusInEvent(event);
+}
+
 void BoardView::mouseMoveEvent(QMouseEvent* event) {
+    m_usedByKeys = false;
     m_input->Picture2_MouseMove(onBoard(event->position()));
 }
 
@@ -264,6 +298,7 @@ void BoardView::leaveEvent(QEvent* event) {
 }
 
 void BoardView::keyPressEvent(QKeyEvent* event) {
+    m_usedByKeys = true;
     m_popup.restartTimer();
     if (m_popup.isVisible() && event->key() == Qt::Key_Escape) {
         m_input->Num16_Click(BoardInput::PopupClose);

@@ -71,6 +71,7 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void leaveEvent(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     bool event(QEvent* event) override;
 
@@ -80,6 +81,8 @@ private:
     void placeMarker();
     void draw(const Board& board, int hexagon);
     void showTag(int hexagon);
+    /// Lets Tab stop at the tag of a hexagon, and at no other.
+    void stopAtTag(int hexagon);
     void drawFocus(QPainter& painter) const;
 
     QRect onWidget(const Rect& rectangle) const;
@@ -90,10 +93,12 @@ private:
     BoardInput* m_input = nullptr;
     BoardSurface m_surface;
     std::array<HexagonTagWidget*, HexagonCount + 1> m_tags{}; // Celltags
-    SelectionMarker m_marker;                                 // Shape1
-    NumberPopup m_popup;                                      // Picture1
+    int m_tagStop = 1;
+    SelectionMarker m_marker; // Shape1
+    NumberPopup m_popup;      // Picture1
     /// The colour of the solution while it is shown.
     std::optional<Colour> m_solutionColour;
+    bool m_usedByKeys = false;
 };
 
 /// The middle of the main window: the board and, close at its right whatever the window's shape,

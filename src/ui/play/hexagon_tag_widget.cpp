@@ -17,10 +17,10 @@ HexagonTagWidget::HexagonTagWidget(int hexagon, const Appearance& appearance, QW
     , m_hexagon(hexagon)
     , m_appearance(appearance) {
     setObjectName(u"Celltags_%1"_s.arg(hexagon));
-    setFocusPolicy(Qt::TabFocus);
     setCursor(Qt::PointingHandCursor);
     setAccessibleName(tr("Hexagon %1").arg(hexagon));
-    setAccessibleDescription(tr("Hold to see the candidates of its cells"));
+    setAccessibleDescription(
+        tr("Hold to see the candidates of its cells; the arrow keys lead to other hexagons"));
 }
 
 void HexagonTagWidget::press() {
@@ -73,12 +73,26 @@ void HexagonTagWidget::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void HexagonTagWidget::keyPressEvent(QKeyEvent* event) {
-    if (event->key() != Qt::Key_Space) {
-        QWidget::keyPressEvent(event);
+    switch (event->key()) {
+    case Qt::Key_Space:
+        if (!event->isAutoRepeat())
+            press();
         return;
+    case Qt::Key_Left:
+        Q_EMIT walked(m_hexagon, -1, 0);
+        return;
+    case Qt::Key_Right:
+        Q_EMIT walked(m_hexagon, 1, 0);
+        return;
+    case Qt::Key_Up:
+        Q_EMIT walked(m_hexagon, 0, -1);
+        return;
+    case Qt::Key_Down:
+        Q_EMIT walked(m_hexagon, 0, 1);
+        return;
+    default:
+        QWidget::keyPressEvent(event);
     }
-    if (!event->isAutoRepeat())
-        press();
 }
 
 void HexagonTagWidget::keyReleaseEvent(QKeyEvent* event) {

@@ -19,6 +19,8 @@ public:
 Q_SIGNALS:
     void pressed(int hexagon);
     void released();
+    /// An arrow key leads to the tag in that direction.
+    void walked(int hexagon, int columns, int rows);
 
 protected:
     bool event(QEvent* event) override;

@@ -73,7 +73,6 @@ NumberPopup::NumberPopup(QWidget* parent)
 void NumberPopup::addButton(int index, BoxControl* button, int row, int column) {
     button->setObjectName(u"Num16_%1"_s.arg(index));
     button->setFixedSize(ButtonSize, ButtonSize);
-    button->installEventFilter(this);
     connect(button, &BoxControl::clicked, this, [this, index] { Q_EMIT clicked(index); });
     static_cast<QGridLayout*>(layout())->addWidget(button, row, column);
     m_buttons[static_cast<std::size_t>(index)] = button;
@@ -88,10 +87,12 @@ void NumberPopup::open(QPoint corner, bool upwards) {
                 size.height());
     raise();
     show();
+    QCoreApplication::instance()->installEventFilter(this);
     restartTimer();
 }
 
 void NumberPopup::close() {
+    QCoreApplication::instance()->removeEventFilter(this);
     m_timer->stop();
     hide();
 }
@@ -112,10 +113,24 @@ void NumberPopup::leaveEvent(QEvent* event) {
     restartTimer();
 }
 
-bool NumberPopup::eventFilter(QObject*, QEvent* event) {
-    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
+bool NumberPopup::eventFilter(QObject* watched, QEvent* event) {
+    const auto* widget = qobject_cast<QWidget*>(watched);
+    if (widget == nullptr)
+        return false;
+    if (isAncestorOf(widget))
+        return takes(*event);
+    // What a press on the board means is for the board to say.
+    if (event->type() == QEvent::MouseButtonPress && widget != this && widget != parentWidget() &&
+        widget->window() == window())
+        Q_EMIT clicked(BoardInput::PopupClose);
+    return false;
+}
+
+/// What happens to one of the buttons, before it hears of it.
+bool NumberPopup::takes(const QEvent& event) {
+    if (event.type() == QEvent::FocusIn || event.type() == QEvent::FocusOut)
         restartTimer();
-    return event->type() == QEvent::KeyPress && takesKey(static_cast<QKeyEvent*>(event)->key());
+    return event.type() == QEvent::KeyPress && takesKey(static_cast<const QKeyEvent&>(event).key());
 }
 
 bool NumberPopup::takesKey(int key) {

@@ -36,10 +36,12 @@ Q_SIGNALS:
 protected:
     void enterEvent(QEnterEvent* event) override;
     void leaveEvent(QEvent* event) override;
-    /// The arrow keys walk the panel as it lies, where a button would take them for the next one.
-    bool eventFilter(QObject* button, QEvent* event) override;
+    /// Of the whole program, while the panel is open: a press elsewhere in the window closes it,
+    /// and the arrow keys walk it as it lies, where a button would take them for the next one.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    bool takes(const QEvent& event);
     bool takesKey(int key);
     void addButton(int index, BoxControl* button, int row, int column);
     void moveFocus(int columns, int rows);

@@ -115,4 +115,11 @@ void MainMenu::showCurrentFile(const std::filesystem::path& path) {
     mnusaveto->setVisible(!path.empty());
 }
 
+void MainMenu::offer(bool puzzle, bool inFile) {
+    for (QAction* item :
+         {mnuclippuz, mnuclipsol, mnusavex, mnusaveto, printPuzzle, printSolution, printBoth})
+        item->setEnabled(puzzle);
+    mnudelete->setEnabled(inFile);
+}
+
 } // namespace tessaly

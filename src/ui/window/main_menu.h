@@ -24,6 +24,10 @@ public:
     /// Offers saving to the current file; an empty path takes the offer away.
     void showCurrentFile(const std::filesystem::path& path);
 
+    /// Offers what makes sense now: with a puzzle on the board or none, one that stands in a file
+    /// or not.
+    void offer(bool puzzle, bool inFile);
+
     QAction* mnuload;
     QMenu* mnucopyclip;
     QAction* mnuclippuz;

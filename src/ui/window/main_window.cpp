@@ -6,6 +6,7 @@
 #include "core/session/program_folder.h"
 #include "core/session/session.h"
 #include "ui/controls/box_control.h"
+#include "ui/controls/dialog_parts.h"
 #include "ui/controls/file_name_picker.h"
 #include "ui/controls/run_progress_bar.h"
 #include "ui/drawing/qt_values.h"
@@ -22,6 +23,7 @@
 
 #include <QApplication>
 #include <QLineEdit>
+#include <QToolTip>
 #include <QVBoxLayout>
 
 namespace tessaly {
@@ -71,7 +73,7 @@ Form1::Form1(Session& session, Prompts& prompts, const FileDialog& fileDialog, P
     , m_options(new Form2x(session.appearance, session.ProgramFolder, prompts, this))
     , m_help(new Form4(session.appearance, this))
     , m_about(new AboutForm(session.appearance, this))
-    , m_commands(session, {this, *this, prompts, fileDialog, *m_picker, printers}) {
+    , m_commands(session, {this, m_worn, *this, prompts, fileDialog, *m_picker, printers}) {
     setObjectName(u"Form1"_s);
     setWindowTitle(u"Tessaly"_s);
     setContextMenuPolicy(Qt::NoContextMenu);
@@ -84,8 +86,9 @@ Form1::Form1(Session& session, Prompts& prompts, const FileDialog& fileDialog, P
     connectFileDrop();
     giveShortcuts(*this);
     connectHelp();
+    Form1::showPuzzle(session.puzzle);
     applyAppearance();
-    resize(FirstSize);
+    resizeOnScreen(*this, FirstSize);
     restoreWindowPlace(*this, session.ProgramFolder);
 }
 
@@ -104,7 +107,10 @@ QWidget* Form1::arrangeRegions() {
 
 void Form1::applyAppearance() {
     m_worn = m_session.appearance;
-    setPalette(schemePalette(m_worn));
+    const QPalette palette = schemePalette(m_worn);
+    setPalette(palette);
+    QApplication::setPalette(palette); // of the toolkit's own dialogs as well
+    QToolTip::setPalette(palette);
     SetMenuColour();
     m_palette->applyAppearance();
     m_board->applyAppearance();
@@ -114,12 +120,28 @@ void Form1::SetMenuColour() {
     menuBar()->setStyleSheet(menuStyleSheet(m_worn));
 }
 
+void Form1::offerCommands() {
+    const Game& game = m_session.game;
+    const bool inFile = m_session.puzzle.PuzNum > 0;
+    const QWidget* focused = QApplication::focusWidget();
+    m_menu.offer(game.hasPuzzle(), inFile);
+    m_tools->offerOthers(inFile);
+    m_tools->cmdundo->setEnabled(!game.undoList.empty());
+    for (QWidget* control : {m_tools->cmdreset, m_tools->cmdshowsol, m_palette->cmdallpencil,
+                             m_palette->cmdsetpairs, m_palette->cmdset1s, m_status->StatLab})
+        control->setEnabled(game.hasPuzzle());
+    if (focused != nullptr && focused->window() == this && !focused->isEnabled())
+        m_board->setFocus(Qt::TabFocusReason);
+}
+
 void Form1::DrawHexagon(int hexagon) {
     m_board->DrawHexagon(hexagon);
+    offerCommands();
 }
 
 void Form1::DrawBoard() {
     m_board->DrawBoard();
+    offerCommands();
 }
 
 void Form1::DrawSolution(Colour colour) {
@@ -161,7 +183,7 @@ void Form1::showPuzzle(const CurrentPuzzle& puzzle) {
         m_status->showFile(puzzle.PuzPath);
     else
         m_status->showFileText(u"Create a New Puzzle"_s);
-    m_board->DrawBoard();
+    DrawBoard();
 }
 
 void Form1::showDifficulty(DifficultyChoice difficulty) {

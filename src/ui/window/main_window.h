@@ -53,6 +53,8 @@ private:
     void connectOptions();
     void connectFileDrop();
     void connectHelp();
+    /// What makes no sense now shows so and cannot be chosen.
+    void offerCommands();
     void ApplyScheme();
     void SetMenuColour();
     void cmdexit();

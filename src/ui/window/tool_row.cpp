@@ -105,6 +105,11 @@ void ToolRow::showPuzzleNumber(int number, int count) {
                                           m_puzNumber->sizeHint().width()));
 }
 
+void ToolRow::offerOthers(bool inFile) {
+    for (QWidget* control : std::initializer_list<QWidget*>{cmdarrow[0], m_puzNumNow, cmdarrow[1]})
+        control->setEnabled(inFile);
+}
+
 void ToolRow::showDifficulty(DifficultyChoice difficulty) {
     const QKeySequence keys = DifLab->shortcut(); // which a button loses with its text
     DifLab->setText(QString::fromUtf8(nameOf(difficulty)));

@@ -26,6 +26,8 @@ public:
     /// Shows which puzzle of how many is on the board; 0 of 0 clears both.
     void showPuzzleNumber(int number, int count);
     void showDifficulty(DifficultyChoice difficulty);
+    /// Lets the player go to other puzzles of a file, or not where there is none.
+    void offerOthers(bool inFile);
 
     BoxControl* cmdload;
     std::array<BoxControl*, 2> cmdarrow;

@@ -25,11 +25,11 @@ auto guarded(WindowCommands& commands, Command command,
 } // namespace
 
 WindowCommands::WindowCommands(Session& session, const CommandWindow& window)
-    : play(session.game, session.appearance, window.display, window.prompts)
+    : play(session.game, window.worn, window.display, window.prompts)
     , input(session.game, session.busy, play, window.display)
     , files(session, input, window.display, window.prompts,
             [&session, &picker = window.picker](FileUse use, std::string_view title) {
-                return choosePuzzleFile(picker, session.ProgramFolder, use, title);
+                return choosePuzzleFile(picker, session.puzzleFolder(), use, title);
             })
     , m_session(session)
     , m_display(window.display)

@@ -34,6 +34,8 @@ struct WindowRegions {
 struct CommandWindow {
     /// The parent of the commands' dialogs.
     QWidget* widget;
+    /// The settings as the window shows them.
+    const Appearance& worn;
     Display& display;
     Prompts& prompts;
     const FileDialog& fileDialog;

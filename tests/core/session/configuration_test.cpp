@@ -129,6 +129,7 @@ TEST_F(ConfigurationTest, TheFirstStartOpensTheBundledPuzzlesInTheSchemeOfTheDes
     EXPECT_EQ(session.appearance.ActiveScheme, DarkScheme);
     const Appearance& worn = session.appearance;
     EXPECT_GE(contrastRatio(worn.FixedNumberColour, worn.HexaFillColour), 4.5);
+    EXPECT_GE(contrastRatio(worn.HexaBorderColour, worn.HexaFillColour), 4.5);
     EXPECT_EQ(worn.HexaFillColour, worn.SchemeColours[slot::Button]);
     EXPECT_EQ(worn.UserNumberColour, worn.SchemeColours[slot::DarkRed]);
     EXPECT_EQ(session.arrangements.wordCount, ArrangementCount);

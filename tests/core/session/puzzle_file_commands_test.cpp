@@ -65,9 +65,14 @@ TEST_F(PuzzleFileCommandsTest, AFileThatHoldsNoPuzzleIsRefusedAndNothingChanges)
     fileOf("empty.txt", "");
     fileOf("short.txt", records[0].substr(0, 118) + "\r\n");
     fileOf("header.txt", "EXX00" + records[0].substr(5));
-    for (const std::string name : {"empty.txt", "short.txt", "header.txt", "", "gone.txt"}) {
+    for (const auto& [name, why] :
+         {std::pair<std::string, std::string>{"empty.txt", "?"},
+          {"short.txt", "line 1: the record has 118 characters instead of 119"},
+          {"header.txt", "?"},
+          {"", "?"},
+          {"gone.txt", "cannot be read: No such file or directory"}}) {
         EXPECT_EQ(load(pathOf(name)), "1/3 a.txt: Error reading p# 1|Error reading file:\r\n" +
-                                          name + " [vbcritical+vbok]");
+                                          name + "\r\n" + why + " [vbcritical+vbok]");
         EXPECT_EQ(session.game.board, before);
         EXPECT_EQ(session.game.undoList.size(), 1u);
         EXPECT_EQ(display.recent.size(), 1u);

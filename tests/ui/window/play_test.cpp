@@ -124,7 +124,7 @@ TEST_F(Play, SolutionAndCandidatesShowOnlyWhileButtonOrKeyIsHeld) {
         [&] { QTest::keyRelease(&game.board(), Qt::Key_F2); });
 }
 
-TEST_F(Play, ThePopupClosesByItselfAndByEscape) {
+TEST_F(Play, ThePopupClosesByItselfByEscapeAndByAClickElsewhere) {
     QWidget& popup = game.find(u"Picture1"_s);
     auto& timer = game.find<QTimer>(u"Timer1"_s);
     const auto open = [&] {
@@ -147,6 +147,11 @@ TEST_F(Play, ThePopupClosesByItselfAndByEscape) {
     game.press(Qt::Key_Escape);
     EXPECT_FALSE(popup.isVisible());
     EXPECT_TRUE(play.undoList.empty()) << "the pop-up was meant, not the cell";
+    for (const QString& elsewhere : {u"MsgLab"_s, u"cmdshowsol"_s, u"Celltags_19"_s}) {
+        open();
+        game.click(elsewhere);
+        EXPECT_FALSE(popup.isVisible()) << elsewhere.toStdString();
+    }
 }
 
 TEST_F(Play, AKeyRepaintsOneHexagonOnly) {

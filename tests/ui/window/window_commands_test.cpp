@@ -22,7 +22,7 @@ struct WindowCommandsTest : testing::Test {
                 ++ways;
             }
         for (auto* button : game.window->centralWidget()->findChildren<BoxControl*>())
-            if (button->isVisible() && !harmless.contains(button->objectName())) {
+            if (button->isVisible() && button->isEnabled() && !harmless.contains(button->objectName())) {
                 QTest::mouseClick(button, Qt::LeftButton);
                 ++ways;
             }
@@ -64,6 +64,33 @@ TEST_F(WindowCommandsTest, WhilePuzzlesAreCreatedEveryCommandIsRefusedWithAWord)
     EXPECT_EQ(game.prompts.shown.size(), ways + 3) << "a short command is waited for silently";
     EXPECT_EQ(board, before);
     EXPECT_EQ(game.session.puzzle.PuzNum, 3);
+}
+
+TEST(OfferedCommands, AreThoseThatMakeSenseNow) {
+    GameWindow game;
+    const auto offered = [&game](const QStringList& controls) {
+        QStringList names;
+        for (const QString& name : controls) {
+            const auto* item = game.window->findChild<QAction*>(name);
+            if (item != nullptr ? item->isEnabled() : game.find(name).isEnabled())
+                names << name;
+        }
+        return names;
+    };
+    const QStringList ofPuzzles{u"cmdreset"_s,     u"cmdallpencil"_s, u"StatLab"_s,
+                                u"mnuclipsol"_s,   u"mnusavex"_s,     u"mnuprintx_2"_s,
+                                u"cmdarrow_1"_s,   u"PuzNumNow"_s,    u"mnudelete"_s};
+    EXPECT_EQ(offered(ofPuzzles), QStringList());
+    game.load("easy.txt");
+    EXPECT_EQ(offered(ofPuzzles), ofPuzzles);
+    auto& undo = game.find(u"cmdundo"_s);
+    EXPECT_FALSE(undo.isEnabled());
+    game.press(Qt::Key_Home);
+    game.press(Qt::Key_4);
+    undo.setFocus();
+    game.press(Qt::Key_Space);
+    EXPECT_FALSE(undo.isEnabled());
+    EXPECT_TRUE(game.board().hasFocus()) << "the focus is not lost with the button";
 }
 
 TEST_F(WindowCommandsTest, PuzzlesAreSavedToAndDeletedFromFilesWhateverTheirName) {
