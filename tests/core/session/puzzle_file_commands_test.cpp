@@ -59,6 +59,21 @@ TEST_F(PuzzleFileCommandsTest, LoadShowsTheFirstPuzzleAndRemembersTheFile) {
     EXPECT_EQ(session.recentFiles.paths(), display.recent);
 }
 
+TEST_F(PuzzleFileCommandsTest, NothingIsSavedToAnOwnFileNorUnaskedToOneWithoutAPuzzle) {
+    fs::create_symlink(fileOf("all.col", "xp.col\r\n"), pathOf("link.txt"));
+    fileOf("notes.txt", "eggs\r\n");
+    for (const auto& [name, answered, accepted] : {std::tuple("link.txt", answer::Yes, false),
+                                                   {"x/../tessaly.cfg", answer::Yes, false},
+                                                   {"notes.txt", answer::No, false},
+                                                   {"notes.txt", answer::Yes, true}}) {
+        prompts.answers = {answered};
+        chosen = pathOf(name);
+        EXPECT_EQ(savex().starts_with("1/3 a.txt: |"), !accepted) << name;
+        prompts.answers.clear();
+    }
+    EXPECT_EQ(contentOf("all.col"), "xp.col\r\n");
+}
+
 TEST_F(PuzzleFileCommandsTest, AFileThatHoldsNoPuzzleIsRefusedAndNothingChanges) {
     session.game.place({1, 1}, "3");
     const Board before = session.game.board;
@@ -66,10 +81,10 @@ TEST_F(PuzzleFileCommandsTest, AFileThatHoldsNoPuzzleIsRefusedAndNothingChanges)
     fileOf("short.txt", records[0].substr(0, 118) + "\r\n");
     fileOf("header.txt", "EXX00" + records[0].substr(5));
     for (const auto& [name, why] :
-         {std::pair<std::string, std::string>{"empty.txt", "?"},
+         {std::pair<std::string, std::string>{"empty.txt", "there is no puzzle 1 among its 0"},
           {"short.txt", "line 1: the record has 118 characters instead of 119"},
-          {"header.txt", "?"},
-          {"", "?"},
+          {"header.txt", "line 1: character 2 of the header is no digit"},
+          {"", "is a folder"},
           {"gone.txt", "cannot be read: No such file or directory"}}) {
         EXPECT_EQ(load(pathOf(name)), "1/3 a.txt: Error reading p# 1|Error reading file:\r\n" +
                                           name + "\r\n" + why + " [vbcritical+vbok]");

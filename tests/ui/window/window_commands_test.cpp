@@ -22,7 +22,8 @@ struct WindowCommandsTest : testing::Test {
                 ++ways;
             }
         for (auto* button : game.window->centralWidget()->findChildren<BoxControl*>())
-            if (button->isVisible() && button->isEnabled() && !harmless.contains(button->objectName())) {
+            if (button->isVisible() && button->isEnabled() &&
+                !harmless.contains(button->objectName())) {
                 QTest::mouseClick(button, Qt::LeftButton);
                 ++ways;
             }
@@ -77,9 +78,9 @@ TEST(OfferedCommands, AreThoseThatMakeSenseNow) {
         }
         return names;
     };
-    const QStringList ofPuzzles{u"cmdreset"_s,     u"cmdallpencil"_s, u"StatLab"_s,
-                                u"mnuclipsol"_s,   u"mnusavex"_s,     u"mnuprintx_2"_s,
-                                u"cmdarrow_1"_s,   u"PuzNumNow"_s,    u"mnudelete"_s};
+    const QStringList ofPuzzles{u"cmdreset"_s,   u"cmdallpencil"_s, u"StatLab"_s,
+                                u"mnuclipsol"_s, u"mnusavex"_s,     u"mnuprintx_2"_s,
+                                u"cmdarrow_1"_s, u"PuzNumNow"_s,    u"mnudelete"_s};
     EXPECT_EQ(offered(ofPuzzles), QStringList());
     game.load("easy.txt");
     EXPECT_EQ(offered(ofPuzzles), ofPuzzles);
