@@ -19,8 +19,7 @@ QByteArray readByAnother(const QString& kind) {
     reader.start(u"xclip"_s, {u"-selection"_s, u"clipboard"_s, u"-out"_s, u"-target"_s, kind});
     loop.exec();
     EXPECT_TRUE(reader.state() == QProcess::NotRunning && reader.exitCode() == 0)
-        << kind.toStdString() << ": " << reader.readAllStandardError().toStdString()
-        << reader.errorString().toStdString();
+        << kind.toStdString() << ": " << reader.readAllStandardError().toStdString();
     return reader.readAllStandardOutput();
 }
 
@@ -28,14 +27,13 @@ TEST(Clipboard, AnotherProgramReadsPictureAndRecord) {
     GameWindow game("hard.txt", 2);
     const Board& board = game.session.game.board;
     for (const auto& [item, solution] :
-         {std::pair(u"mnuclippuz"_s, false), {u"mnuclippuz"_s, false}, {u"mnuclipsol"_s, true}}) {
+         {std::pair(u"mnuclippuz"_s, false), {u"mnuclipsol"_s, true}}) {
         game.choose(item);
-        const QImage expected = drawImage({board, game.session.appearance, solution}, 2)
-                                    .convertToFormat(QImage::Format_RGB32);
-        for (const QString& format : {u"bmp"_s, u"png"_s}) {
-            const QByteArray read = readByAnother(u"image/"_s + format);
-            EXPECT_EQ(QImage::fromData(read).convertToFormat(QImage::Format_RGB32), expected);
-        }
+        const QImage expected = drawImage({board, game.session.appearance, solution}, 2);
+        for (const QString& format : {u"bmp"_s, u"png"_s})
+            EXPECT_EQ(QImage::fromData(readByAnother(u"image/"_s + format))
+                          .convertToFormat(expected.format()),
+                      expected);
         for (const QString& kind : {u"UTF8_STRING"_s, u"text/plain"_s, u"STRING"_s})
             EXPECT_EQ(readByAnother(kind).toStdString(), PuzzleRecord(board));
     }

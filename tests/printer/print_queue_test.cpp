@@ -48,20 +48,17 @@ struct PrintQueue : testing::Test {
     QDir printed{qEnvironmentVariable("TESSALY_PRINTED")};
 };
 
-/// The letters and digits of a page in the order of the alphabet: on their way to the printer they
-/// are put together to other words, in another order.
-std::string textOf(const PdfDocument& document, int page) {
-    std::string text;
-    for (const auto& word : document.words(page))
-        text += word.text.toStdString();
-    std::sort(text.begin(), text.end());
-    return text;
-}
-
-bool says(const PdfDocument& document, int page, const QString& text) {
-    const auto words = document.words(page);
-    return std::any_of(words.begin(), words.end(),
-                       [&](const auto& word) { return word.text == text; });
+/// The letters and digits of all pages in the order of the alphabet: on their way to the printer
+/// they are put together to other words, in another order.
+std::vector<std::string> textOf(const PdfDocument& document) {
+    std::vector<std::string> pages;
+    for (int page = 1; page <= document.pageCount(); ++page) {
+        std::string& text = pages.emplace_back();
+        for (const auto& word : document.words(page))
+            text += word.text.toStdString();
+        std::sort(text.begin(), text.end());
+    }
+    return pages;
 }
 
 TEST_F(PrintQueue, ABookletArrivesAtAPrinterOfTheSystemWithEveryNumberOnItsPage) {
@@ -75,20 +72,19 @@ TEST_F(PrintQueue, ABookletArrivesAtAPrinterOfTheSystemWithEveryNumberOnItsPage)
     const std::string file = game.folder.path() + "file.pdf";
     game.fileDialogs.add(QString::fromStdString(file));
     printRange(u"Print to PDF"_s);
-    ASSERT_EQ(sheets.pageCount(), 3);
+    EXPECT_EQ(sheets.pageCount(), 3);
     EXPECT_TRUE(sheets.info(u"Page size"_s).endsWith(u"(A5)"_s));
-    for (int page = 1; page <= 3; ++page)
-        EXPECT_EQ(textOf(sheets, page), textOf(PdfDocument(file), page)) << "page " << page;
-    EXPECT_TRUE(says(sheets, 1, u"Puz#"_s));
+    EXPECT_EQ(textOf(sheets), textOf(PdfDocument(file)));
     EXPECT_TRUE(game.prompts.shown.empty());
 }
 
-TEST_F(PrintQueue, OnePuzzleArrivesFromThePlatformsDialog) {
+TEST_F(PrintQueue, PuzzleAndSolutionArriveFromThePlatformsDialog) {
     game.choose(u"mnuprintx_2"_s);
     EXPECT_EQ(game.message(), u"Printed"_s);
-    const PdfDocument sheets = take();
-    ASSERT_EQ(sheets.pageCount(), 2);
-    EXPECT_TRUE(says(sheets, 1, u"Puz#"_s) && says(sheets, 2, u"Sol#"_s));
+    const auto pages = textOf(take());
+    ASSERT_EQ(pages.size(), 2U);
+    EXPECT_GT(pages[0].size(), 40U);
+    EXPECT_GT(pages[1].size(), pages[0].size());
 }
 
 TEST_F(PrintQueue, WhatAPrinterDoesNotTakeIsSaid) {

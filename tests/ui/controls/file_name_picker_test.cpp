@@ -27,10 +27,11 @@ TEST_F(FileNamePickerTest, TheQuestionIsMadeOfTheModeAndTheProperties) {
     }
     EXPECT_EQ(dialogs.asked.last().folder,
               QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + u'/');
-    picker.setProperty("Title", u"Load a Puzzle File"_s);
-    picker.setProperty("DefaultDir", u"/puzzles"_s);
-    picker.setProperty("FileTypes", u"*.txt; *.dat;"_s);
-    picker.setProperty("FileTypesName", u"Tessaly Files"_s);
+    for (const auto& [property, value] : {std::pair("Title", u"Load a Puzzle File"_s),
+                                          {"DefaultDir", u"/puzzles"_s},
+                                          {"FileTypes", u"*.txt; *.dat;"_s},
+                                          {"FileTypesName", u"Tessaly Files"_s}})
+        picker.setProperty(property, value);
     EXPECT_EQ(choose({}), QString());
     const FileQuestion& asked = dialogs.asked.last();
     EXPECT_EQ(asked.title + asked.folder, u"Load a Puzzle File/puzzles/"_s);

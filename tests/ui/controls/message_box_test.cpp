@@ -2,6 +2,7 @@
 
 #include "ui/game_window.h"
 
+#include <QRegularExpression>
 #include <QScreen>
 #include <QTextEdit>
 #include <QWindow>
@@ -11,8 +12,7 @@ namespace {
 
 const QString YesNoCancel = u"vbYesNoCancel+vbquestion"_s;
 
-class MessageBoxTest : public testing::Test {
-protected:
+struct MessageBoxTest : testing::Test {
     /// Shows the box and, while it stands, does `meanwhile`.
     int show(const QString& text, const QString& style, const std::function<void()>& meanwhile) {
         bool wasShown = false;
@@ -20,37 +20,15 @@ protected:
             meanwhile();
             wasShown = true;
         });
-        const int answer = m_form.show(text, style);
+        const int answer = form.show(text, style);
         EXPECT_TRUE(wasShown);
         return answer;
     }
-    /// Asks for a line and does `act` in the dialog, in which the line is written already.
-    std::string asked(const std::function<void(QDialog&)>& act) {
-        inNextDialog([&act](QDialog& prompt) {
-            auto* line = prompt.findChild<QLineEdit*>();
-            EXPECT_EQ(line->accessibleName() + line->text(), u"Name <b>?");
-            line->setText(u"Größe"_s);
-            act(prompt);
-        });
-        return m_form.ask("Name <b>?");
-    }
+    BoxControl& button(int index) const { return find<BoxControl>(form, u"cmd_%1"_s.arg(index)); }
+    QTextEdit& text() const { return *form.findChild<QTextEdit*>(); }
 
-    BoxControl& button(int index) const { return find<BoxControl>(m_form, u"cmd_%1"_s.arg(index)); }
-    QTextEdit& text() const { return *m_form.findChild<QTextEdit*>(); }
-    /// The captions and numbers of the buttons, and the names of the icons that are seen.
-    QString looks() const {
-        QStringList all;
-        for (const auto* button : m_form.findChildren<BoxControl*>())
-            all << button->text() + button->property("Tag").toString();
-        for (int number = 0; number <= 10; ++number)
-            if (const auto* icon = m_form.findChild<QWidget*>(u"icons_%1"_s.arg(number));
-                icon != nullptr && icon->isVisible())
-                all << icon->objectName();
-        return all.join(u' ');
-    }
-
-    Appearance m_appearance;
-    MsgForm m_form{m_appearance};
+    Appearance appearance;
+    MsgForm form{appearance};
 };
 
 TEST_F(MessageBoxTest, ItsStyleNamesButtonsAndIcon) {
@@ -66,7 +44,15 @@ TEST_F(MessageBoxTest, ItsStyleNamesButtonsAndIcon) {
              {u"vbcontinuecancel"_s, u"Continue6 Cancel2"_s},
              {u"vbnormal"_s, u"Ok0"_s},
          })
-        show(u"Exit?"_s, style, [&] { EXPECT_EQ(this->looks(), looks) << style.toStdString(); });
+        show(u"Exit?"_s, style, [&] {
+            QStringList shown;
+            for (const auto* button : form.findChildren<BoxControl*>())
+                shown << button->text() + button->property("Tag").toString();
+            for (const auto* icon : form.findChildren<QWidget*>(QRegularExpression(u"^icons"_s)))
+                if (icon->isVisible())
+                    shown << icon->objectName();
+            EXPECT_EQ(shown.join(u' '), looks) << style.toStdString();
+        });
 }
 
 TEST_F(MessageBoxTest, ItsButtonsAnswerByMouseAndByKeys) {
@@ -80,8 +66,8 @@ TEST_F(MessageBoxTest, ItsButtonsAnswerByMouseAndByKeys) {
         {[&] { key(0, Qt::Key_Right), key(1, Qt::Key_Right), key(2, Qt::Key_Space); },
          answer::Cancel},
         {[&] { key(0, Qt::Key_Escape); }, answer::None},
-        {[&] { m_form.close(); }, answer::None},
-        {[&] { QTest::keyClick(&m_form, Qt::Key_Return); }, answer::None},
+        {[&] { form.close(); }, answer::None},
+        {[&] { QTest::keyClick(&form, Qt::Key_Return); }, answer::None},
         {[&] { // any key sinks the button
              QTest::keyPress(&button(0), Qt::Key_X);
              EXPECT_TRUE(button(0).isDown());
@@ -91,10 +77,10 @@ TEST_F(MessageBoxTest, ItsButtonsAnswerByMouseAndByKeys) {
          answer::None},
         {[&] { // a message meanwhile gets a box of its own
              inNextDialog([this](QDialog& inner) {
-                 EXPECT_EQ(inner.parent(), &m_form);
+                 EXPECT_EQ(inner.parent(), &form);
                  EXPECT_EQ(inner.findChild<QTextEdit*>()->toPlainText(), u"Größe\nfehlt");
              });
-             EXPECT_EQ(m_form.message("Größe\r\nfehlt", {}), answer::None);
+             EXPECT_EQ(form.message("Größe\r\nfehlt", {}), answer::None);
              QTest::mouseClick(&button(1), Qt::LeftButton);
          },
          answer::No},
@@ -112,18 +98,18 @@ TEST_F(MessageBoxTest, StandsOverItsWindowWithTheFocusWhereTheStyleSays) {
     for (const QString& text : {u"Delete?"_s, u"A longer question?\n"_s.repeated(9)})
         show(text, u"vbyesno+vbdefaultbutton2"_s, [&] {
             EXPECT_TRUE(QTest::qWaitFor([&] { return button(1).hasFocus(); })) << "not Yes";
-            EXPECT_EQ(m_form.windowHandle()->transientParent(), window.windowHandle());
-            const QPoint off = m_form.geometry().center() - window.frameGeometry().center();
+            EXPECT_EQ(form.windowHandle()->transientParent(), window.windowHandle());
+            const QPoint off = form.geometry().center() - window.frameGeometry().center();
             EXPECT_LE(off.manhattanLength(), 4) << text.toStdString();
         });
 }
 
 TEST_F(MessageBoxTest, WearsTheSchemeInForceAndFitsTextsOfEveryLength) {
     for (const Colour background : {RGB(230, 226, 210), RGB(20, 20, 30)}) {
-        m_appearance.SchemeColours[slot::Background] = background;
-        m_appearance.SchemeColours[slot::Button] = RGB(40, 60, 90);
+        appearance.SchemeColours[slot::Background] = background;
+        appearance.SchemeColours[slot::Button] = RGB(40, 60, 90);
         show(u"Well?"_s, YesNoCancel, [&] {
-            EXPECT_EQ(toColour(m_form.grab().toImage().pixelColor(4, 4)), background);
+            EXPECT_EQ(toColour(form.grab().toImage().pixelColor(4, 4)), background);
             EXPECT_EQ(toColour(button(1).faceColour()), RGB(40, 60, 90));
             EXPECT_EQ(toColour(text().palette().text().color()), readableOn(background));
         });
@@ -133,26 +119,35 @@ TEST_F(MessageBoxTest, WearsTheSchemeInForceAndFitsTextsOfEveryLength) {
         show(message, YesNoCancel, [&] {
             const QSizeF needed = text().document()->size();
             EXPECT_LE(needed.width(), text().viewport()->width());
-            EXPECT_LE(m_form.height(), m_form.screen()->availableGeometry().height());
-            EXPECT_LE(m_form.width(), 640);
+            EXPECT_LE(form.height(), form.screen()->availableGeometry().height());
+            EXPECT_LE(form.width(), 640);
             const bool scrolls = text().verticalScrollBarPolicy() == Qt::ScrollBarAlwaysOn;
             EXPECT_EQ(scrolls, needed.height() > text().height());
             EXPECT_EQ(scrolls, message.size() > 1000);
-            EXPECT_TRUE(m_form.rect().contains(button(2).geometry()));
+            EXPECT_TRUE(form.rect().contains(button(2).geometry()));
         });
 }
 
 TEST_F(MessageBoxTest, AsksForALineOfText) {
-    const auto click = [](const QString& name) {
-        return [name](QDialog& prompt) { QTest::mouseClick(&find(prompt, name), Qt::LeftButton); };
+    const auto click = [](const char16_t* name) {
+        return [name](QDialog& prompt) {
+            QTest::mouseClick(&find(prompt, QString::fromUtf16(name)), Qt::LeftButton);
+        };
     };
-    EXPECT_EQ(asked([](QDialog& prompt) { QTest::keyClick(&prompt, Qt::Key_Escape); }), "");
-    EXPECT_EQ(asked(click(u"cancel"_s)), "");
-    EXPECT_EQ(asked(click(u"ok"_s)), "Größe");
-    EXPECT_EQ(asked([](QDialog& prompt) {
-                  QTest::keyClick(prompt.findChild<QLineEdit*>(), Qt::Key_Return);
-              }),
-              "Größe");
+    const std::pair<std::function<void(QDialog&)>, const char*> ways[] = {
+        {[](QDialog& prompt) { QTest::keyClick(&prompt, Qt::Key_Escape); }, ""},
+        {click(u"cancel"), ""},
+        {click(u"ok"), "Größe"},
+        {[](QDialog& prompt) { QTest::keyClick(prompt.focusWidget(), Qt::Key_Return); }, "Größe"}};
+    for (const auto& [act, answered] : ways) {
+        inNextDialog([&act](QDialog& prompt) {
+            auto* line = prompt.findChild<QLineEdit*>();
+            EXPECT_EQ(line->accessibleName() + line->text(), u"Name <b>?");
+            line->setText(u"Größe"_s);
+            act(prompt);
+        });
+        EXPECT_EQ(form.ask("Name <b>?"), answered);
+    }
 }
 
 } // namespace

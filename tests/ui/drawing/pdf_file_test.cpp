@@ -19,9 +19,8 @@ Outcome sample(int number, Board& board) {
 }
 
 struct PdfFile : testing::Test {
-    PrintResult print(
-        const PrintJob& job, PaperSize paper = A4, const GoOn& goOn = [](int) { return true; }) {
-        return writePdf(path, paper, job, appearance, goOn);
+    bool print(const PrintJob& job, PaperSize paper) {
+        return writePdf(path, paper, job, appearance, [](int) { return true; }).isComplete();
     }
     /// Reads the words of a page from then on.
     void turnTo(int page) {
@@ -61,7 +60,7 @@ TEST_F(PdfFile, HoldsEveryNumberCaptionAndFooterOnEitherPaper) {
         SCOPED_TRACE(testing::Message() << paper << ", " << perPage << " a page");
         const PaperSize size = NamedPapers.at(static_cast<std::size_t>(paper)).size;
         const Booklet booklet(Count, {{false, perPage}, {true, SolutionsPerPage}});
-        ASSERT_TRUE(print({booklet, First, sample, "Sample"}, size).isComplete());
+        ASSERT_TRUE(print({booklet, First, sample, "Sample"}, size));
         const PdfDocument pdf(path);
         ASSERT_EQ(pdf.pageCount(), (Count + perPage - 1) / perPage + 1);
         EXPECT_TRUE(
@@ -105,7 +104,7 @@ TEST_F(PdfFile, DrawsEntriesAndMarksAsTheyStandInFontsThatItHolds) {
     };
     for (const char* font : {"Liberation Sans", "no such font"}) {
         appearance.NumberFont = font;
-        ASSERT_TRUE(print({Booklet(1, {{false, 1}}), 1, played, {}}).isComplete());
+        ASSERT_TRUE(print({Booklet(1, {{false, 1}}), 1, played, {}}, A4));
         turnTo(1);
         EXPECT_EQ(textAt(PageLayout(A4, 1).boardArea(0), {10, 1}), "4");
         EXPECT_EQ(std::count_if(words.begin(), words.end(),
@@ -116,18 +115,6 @@ TEST_F(PdfFile, DrawsEntriesAndMarksAsTheyStandInFontsThatItHolds) {
         for (const QString& line : fonts)
             EXPECT_TRUE(line.contains(u" yes "_s)) << line.toStdString();
     }
-}
-
-TEST_F(PdfFile, LeavesWhatWasThereWhenItFailsOrIsStopped) {
-    const Booklet booklet(20, {{false, 1}});
-    test::put(path, "old");
-    EXPECT_TRUE(print({booklet, 1, sample, {}}, A4, [](int page) { return page < 5; }).stopped);
-    const auto broken = [](int number, Board& board) {
-        return number == 7 ? Outcome::failed("puzzle 7 is gone") : sample(number, board);
-    };
-    EXPECT_EQ(print({booklet, 1, broken, {}}).outcome.problem, "puzzle 7 is gone");
-    EXPECT_EQ(test::contentOf(path), "old");
-    EXPECT_EQ(folder.names(), std::set<std::string>{"out.pdf"});
 }
 
 } // namespace

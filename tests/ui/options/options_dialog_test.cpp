@@ -8,6 +8,7 @@
 #include <QGroupBox>
 #include <QListWidget>
 #include <QMenuBar>
+#include <QSignalSpy>
 #include <QSlider>
 
 namespace tessaly {
@@ -36,11 +37,23 @@ struct OptionsDialog : testing::Test {
         choose(schemes, schemes.row(schemes.findItems(name, Qt::MatchExactly).value(0)));
         EXPECT_EQ(caption(), u"Colour Scheme: "_s + name);
     }
+    void clickAt(double x, double y, Qt::MouseButton button = Qt::LeftButton) {
+        QTest::mouseClick(&surface, button, {}, surface.toWidget(x, y).toPoint());
+    }
     void pickColour(int index) {
-        auto& surface = find<ColourSurfaceView>(u"surface"_s);
         const auto box = colour_surface::paletteBox(index);
-        QTest::mouseClick(&surface, Qt::LeftButton, {},
-                          surface.toWidget(box.left + 20, box.top + 100).toPoint());
+        clickAt(box.left + 20, box.top + 100);
+    }
+    void expectPicked(Colour colour, Colour ramp) {
+        EXPECT_EQ(picker.SelColor(), colour);
+        EXPECT_EQ(surface.rampColour(), ramp);
+        EXPECT_EQ(groundOf(tessaly::find(picker, u"Label1"_s)), colour);
+        int shown[3];
+        for (int part = 0; const QString& name : {u"Red"_s, u"Green"_s, u"Blue"_s}) {
+            shown[part] = find<QSlider>(u"hsr"_s + name).value();
+            EXPECT_EQ(find<QLabel>(u"lbl%1Degree"_s.arg(name)).text().toInt(), shown[part++]);
+        }
+        EXPECT_EQ(RGB(shown[0], shown[1], shown[2]), colour);
     }
     QString caption() { return find<QGroupBox>(u"Frame1"_s).title(); }
     QImage sample() { return find(u"sampleBoard"_s).grab().toImage(); }
@@ -48,6 +61,8 @@ struct OptionsDialog : testing::Test {
     GameWindow game;
     Form2x& dialog = game.find<Form2x>(u"Form2x"_s);
     QListWidget& schemes = find<QListWidget>(u"List1"_s);
+    ColPik& picker = find<ColPik>(u"ColPik1"_s);
+    ColourSurfaceView& surface = find<ColourSurfaceView>(u"surface"_s);
     Appearance& settings = game.session.appearance;
 };
 
@@ -56,7 +71,7 @@ TEST_F(OptionsDialog, ASchemeIsSeenInTheDialogFirstAndAfterApplyEverywhere) {
     const QImage board = game.picture();
     const QImage firstSample = sample();
     EXPECT_EQ(find<QLineEdit>(u"Text3"_s).text(), u"2"_s);
-    EXPECT_EQ(find<ColPik>(u"ColPik1"_s).SelColor(), settings.SchemeColours[slot::Background]);
+    EXPECT_EQ(picker.SelColor(), settings.SchemeColours[slot::Background]);
     const std::function<void()> ways[] = {[&] { click(u"Command2"_s); },
                                           [&] { QTest::keyClick(&dialog, Qt::Key_Escape); }};
     for (const auto& leave : ways) {
@@ -79,9 +94,18 @@ TEST_F(OptionsDialog, ASchemeIsSeenInTheDialogFirstAndAfterApplyEverywhere) {
     EXPECT_FALSE(dialog.isVisible());
     EXPECT_EQ(settings.ActiveScheme, "daylight.col");
     EXPECT_EQ(groundOf(*game.window), settings.SchemeColours[slot::Background]);
-    EXPECT_NE(game.picture(), board);
+    const QImage daylight = game.picture();
+    EXPECT_NE(daylight, board);
     EXPECT_TRUE(game.window->menuBar()->styleSheet().contains(
         toQColor(settings.SchemeColours[slot::Menu]).name()));
+    open();
+    click(u"cmddef"_s);
+    EXPECT_EQ(caption(), u"Colour Scheme: xp"_s);
+    EXPECT_EQ(settings.ActiveScheme, "xp.col") << "in force at once";
+    click(u"Command2"_s);
+    game.resize(game.window->size() + QSize(2, 2));
+    game.resize(game.window->size() - QSize(2, 2));
+    EXPECT_EQ(game.picture(), daylight) << "but seen only when it is applied";
 }
 
 TEST_F(OptionsDialog, EachControlShowsOnTheSampleAndAppliedSurvivesARestart) {
@@ -157,21 +181,43 @@ TEST_F(OptionsDialog, ContrastAndSelectorMakeASchemeThatIsStoredAppliedAndDelete
     EXPECT_TRUE(game.lastPrompt().text.ends_with(" not found")) << "the one in force";
 }
 
-TEST_F(OptionsDialog, DefaultIsInForceAtOnceButSeenAfterApply) {
-    chooseScheme(u"night"_s);
-    click(u"Command1"_s);
-    const QImage night = game.picture();
-    open();
-    click(u"cmddef"_s);
-    EXPECT_EQ(caption(), u"Colour Scheme: xp"_s);
-    EXPECT_EQ(settings.ActiveScheme, "xp.col");
-    click(u"Command2"_s);
-    game.resize(game.window->size() + QSize(2, 2));
-    game.resize(game.window->size() - QSize(2, 2));
-    EXPECT_EQ(game.picture(), night);
-    open();
-    click(u"Command1"_s);
-    EXPECT_NE(game.picture(), night);
+TEST_F(OptionsDialog, ColoursArePickedByMouseByBarsAndByKeys) {
+    const QSignalSpy picked(&picker, &ColPik::picked);
+    const Colour first = RGB(200, 100, 0);
+    picker.setSelColor(first);
+    clickAt(10 + 128, 1050);
+    expectPicked(clrBlackness(first, 128), first); // a shade does not turn the ramps
+    clickAt(105, 330);
+    clickAt(40, 100, Qt::RightButton);
+    expectPicked(ClassicPalette[5], ClassicPalette[5]);
+    picker.setSchemeColor(RGB(7, 8, 9));
+    clickAt(3, 500);
+    expectPicked(RGB(7, 8, 9), RGB(7, 8, 9)); // the ground is no shade
+    EXPECT_EQ(picked.back().front().value<Colour>(), RGB(7, 8, 9));
+    QTest::keyClick(&find(u"hsrGreen"_s), Qt::Key_PageUp);
+    expectPicked(RGB(7, 28, 9), RGB(7, 28, 9));
+    EXPECT_EQ(picked.count(), 3);
+    for (Qt::Key key : {Qt::Key_Down, Qt::Key_Right, Qt::Key_Right, Qt::Key_Space})
+        QTest::keyClick(&surface, key);
+    expectPicked(ClassicPalette[6], ClassicPalette[6]);
+    picker.setSelColor(0x8000000F);
+    expectPicked(Black, Black); // what is no plain colour
+}
+
+TEST(ColourSurfaceView, ShowsWhatItPicksAtEverySize) {
+    const Colour ramp = RGB(250, 120, 60);
+    ColourSurfaceView surface;
+    surface.setRampColour(ramp);
+    for (const QSize size : {surface.sizeHint(), surface.sizeHint() * 3}) {
+        surface.setFixedSize(size);
+        const QImage image = surface.grab().toImage();
+        for (double y = 40; y < 1370; y += 45)
+            for (double x = 14.4; x < 266; x += 5) {
+                const Colour shown = toColour(image.pixelColor(surface.toWidget(x, y).toPoint()));
+                const Colour picked = colour_surface::colourAt(x, y, ramp, White);
+                EXPECT_TRUE(shown == picked || picked == White) << x << " " << y;
+            }
+    }
 }
 
 } // namespace

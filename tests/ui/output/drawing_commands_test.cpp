@@ -62,18 +62,14 @@ TEST_F(DrawingCommands, PrintMakesABooklet) {
 }
 
 TEST_F(DrawingCommands, WhatCannotBeDoneIsSaidOnOneLineAndLeavesNothing) {
-    struct Case {
-        Arguments arguments;
-        int status;
-        std::string named;
-    };
     const std::string out = folder / "out.pdf";
     const std::string broken = folder / "broken.txt";
     test::put(broken, test::contentOf(Easy) + "no record\r\n");
     const std::string link = folder / "link.pdf";
     std::filesystem::create_symlink(broken, link);
     const auto before = folder.names();
-    for (const Case& c : std::vector<Case>{
+    for (const auto& [arguments, status, named] :
+         std::vector<std::tuple<Arguments, int, std::string>>{
              {{"print", Easy, "--to", "41", "--output", out}, 1, "no puzzle 41 among its 40"},
              {{"print", Easy, "--from", "9", "--to", "8", "--output", out}, 1, "9 comes after"},
              {{"print", broken, "--output", out}, 1, broken + ": line 41: "},
@@ -92,9 +88,9 @@ TEST_F(DrawingCommands, WhatCannotBeDoneIsSaidOnOneLineAndLeavesNothing) {
              {{"render", Easy, "--number", "1", "--output", out, "--scale", "0"}, 2, "--scale"},
              {{"render", Easy, "--number", "1", "--output", out, "--scheme", "no"}, 1, "no.col"},
              {{"render", Easy, "--output", out}, 2, "--number"}}) {
-        EXPECT_EQ(run(c.arguments), c.status) << said;
+        EXPECT_EQ(run(arguments), status) << said;
         EXPECT_TRUE(said.starts_with("tessaly-cli: ")) << said;
-        EXPECT_NE(said.find(c.named), std::string::npos) << said;
+        EXPECT_NE(said.find(named), std::string::npos) << said;
         EXPECT_EQ(said.find('\n'), said.size() - 1) << said;
         EXPECT_EQ(folder.names(), before);
     }

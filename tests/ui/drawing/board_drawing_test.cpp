@@ -1,13 +1,18 @@
-#include "ui/drawing/board_surface.h"
+// The board in every form that it is drawn in.
 
 #include "support/sample_appearances.h"
 #include "support/sample_board.h"
+#include "ui/drawing/board_picture.h"
+#include "ui/drawing/board_surface.h"
 #include "ui/drawing/hexagon_tag.h"
 #include "ui/drawing/qt_values.h"
 #include "ui/golden_picture.h"
 
+#include <QBuffer>
 #include <QFontDatabase>
 #include <QPainter>
+#include <QSvgGenerator>
+#include <QSvgRenderer>
 
 #include <cmath>
 #include <random>
@@ -51,6 +56,7 @@ TEST(BoardSurface, LooksAsInTheKeptPictures) {
     for (const auto& [name, board, appearance, size] : rows) {
         const QString font = QString::fromStdString(appearance.NumberFont);
         ASSERT_TRUE(QFontDatabase::families().contains(font)) << "script/bootstrap installs it";
+        EXPECT_TRUE(hasDigits(font));
         const BoardSurface surface = surfaceOf(board, appearance, size);
         QImage picture = surface.image();
         QPainter painter(&picture);
@@ -61,11 +67,11 @@ TEST(BoardSurface, LooksAsInTheKeptPictures) {
                         hexagon == 5   ? TagState::Hovered
                         : hexagon == 8 ? TagState::Pressed
                                        : TagState::Plain);
-        expectPicture(picture, u"board_pictures"_s, name);
+        expectPicture(picture, name);
     }
     BoardSurface surface = surfaceOf(played, light());
     surface.DrawSolution(played, RGB(0, 128, 0));
-    expectPicture(surface.image(), u"board_pictures"_s, u"solution"_s);
+    expectPicture(surface.image(), u"solution"_s);
 }
 
 TEST(BoardSurface, HexagonsDrawnInAnyOrderAndNumberGiveThePictureDrawnAtOnce) {
@@ -98,7 +104,7 @@ TEST(BoardSurface, OnlyTheReturnedRectangleChanges) {
     board.CellNum[10][3] = "123";
     const QRect changed = surface.DrawHexagon(board, 10);
     EXPECT_EQ(changed, QRect(199, 194, 108, 88));
-    EXPECT_GT(compare(before, surface.image()).pixels, 10) << "marks are seen by expectPicture";
+    EXPECT_GT(differingPixels(before, surface.image()), 10) << "marks are seen by expectPicture";
     QImage mended = surface.image();
     QPainter(&mended).drawImage(changed.topLeft(), before, changed);
     EXPECT_EQ(mended, before);
@@ -118,6 +124,54 @@ TEST(BoardSurface, HexagonsLieOnWholePixelsInThePicture) {
                     ASSERT_TRUE(QRectF(0, 0, width, height).contains(p)) << width << "x" << height;
                 }
             ASSERT_NEAR(toDevice.m11() / toDevice.m22(), 1, 0.1);
+        }
+}
+
+struct BoardPictureTest : testing::Test {
+    BoardPictureTest() {
+        appearance.UserNumberColour = RGB(20, 60, 200); // can be read on white too
+        noBlank.BlankHex = NoHexagon;
+    }
+    Appearance appearance = dark();
+    Board played = sampleBoardInPlay();
+    Board noBlank = sampleBoard();
+};
+
+TEST_F(BoardPictureTest, ACopyIsBlackOnWhiteAndNamesEveryHexagon) {
+    for (const auto& [name, board, solution] : {std::tuple(u"copy-puzzle"_s, &played, false),
+                                                {u"copy-solution"_s, &played, true},
+                                                {u"copy-no-blank"_s, &noBlank, false}})
+        expectPicture(drawImage({*board, appearance, solution}, 1), name);
+    EXPECT_EQ(appearanceOf({played, appearance}).UserNumberColour, RGB(20, 60, 200));
+    appearance.UserNumberColour = RGB(240, 255, 200);
+    appearance.SplitHexas = true;
+    EXPECT_EQ(appearanceOf({played, appearance}).UserNumberColour, Black) << "unseen on white";
+    EXPECT_FALSE(appearanceOf({played, appearance}).SplitHexas) << "white borders on white";
+}
+
+TEST_F(BoardPictureTest, VectorPicturesShowTheSame) {
+    for (const bool solution : {false, true})
+        for (const auto look : {BoardPicture::Look::Copy, BoardPicture::Look::Game}) {
+            const BoardPicture picture{played, appearance, solution, look};
+            QBuffer svg;
+            QSvgGenerator generator;
+            generator.setOutputDevice(&svg);
+            generator.setSize({506, 476});
+            generator.setViewBox(QRect(0, 0, 506, 476));
+            QPainter painter(&generator);
+            paintPicture(painter, picture);
+            painter.end();
+            const QImage expected = drawImage(picture, 2);
+            QImage drawn(expected.size(), QImage::Format_RGB32);
+            drawn.fill(Qt::white);
+            painter.begin(&drawn);
+            QSvgRenderer(svg.data()).render(&painter);
+            painter.end();
+            // The smoothing differs along every line, so both are looked at from afar.
+            const auto blurred = [](const QImage& image) {
+                return image.scaled(253, 238, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+            };
+            EXPECT_LT(differingPixels(blurred(expected), blurred(drawn)), 60);
         }
 }
 
