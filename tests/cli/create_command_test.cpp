@@ -60,14 +60,11 @@ TEST_F(CreateCommand, AppendsToAFileWithoutRepeatingWhatItHolds) {
     const std::string records = create("30 --seed 1").out;
     const std::string first = records.substr(0, RecordLength);
     const std::string played = first + ":" + std::string(BoardCellCount, '3') + "\r\n";
-    struct Case {
-        std::string before, kept;
-    };
-    for (const auto& [before, kept] :
-         {Case{records, records}, Case{records.substr(0, records.size() - 2), records},
-          Case{records + "\r\n\r\n", records},
-          Case{played + records.substr(RecordLength + 2),
-               played + records.substr(RecordLength + 2)}}) {
+    const std::string progress = played + records.substr(RecordLength + 2);
+    for (const auto& [before, kept] : {std::pair(records, records),
+                                       {records.substr(0, records.size() - 2), records},
+                                       {records + "\r\n\r\n", records},
+                                       {progress, progress}}) {
         put(file, before);
         const CommandResult again = create("20 --seed 1 --output " + file);
         EXPECT_EQ(again.status, exit_status::Done);

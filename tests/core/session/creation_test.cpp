@@ -3,8 +3,6 @@
 #include "support/core_fakes.h"
 #include "support/sample_boards.h"
 
-#include <gtest/gtest.h>
-
 #include <set>
 
 namespace tessaly {

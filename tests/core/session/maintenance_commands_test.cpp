@@ -4,8 +4,6 @@
 #include "core/solver/deduction.h"
 #include "support/core_fakes.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 
 namespace tessaly {

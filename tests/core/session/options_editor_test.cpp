@@ -4,8 +4,6 @@
 #include "support/scripted_prompts.h"
 #include "support/temporary_folder.h"
 
-#include <gtest/gtest.h>
-
 #include <limits>
 
 namespace tessaly {
