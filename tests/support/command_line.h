@@ -42,16 +42,6 @@ inline CommandResult runCommand(const std::vector<std::string>& arguments,
     return {status, out.str(), err.str()};
 }
 
-/// The lines of a text without their ends, "\n" or "\r\n"; nothing may follow the last of them.
-inline std::vector<std::string> linesOf(const std::string& text, const std::string& end = "\n") {
-    std::vector<std::string> lines;
-    std::size_t start = 0, at = 0;
-    for (; (at = text.find(end, start)) != std::string::npos; start = at + end.size())
-        lines.push_back(text.substr(start, at - start));
-    EXPECT_EQ(start, text.size()) << "a line that is not ended";
-    return lines;
-}
-
 /// Command lines beside files of their own.
 class CommandLineTest : public testing::Test {
 protected:

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -8,6 +10,7 @@
 #include <string>
 #include <string_view>
 #include <system_error>
+#include <vector>
 
 namespace tessaly::test {
 
@@ -49,6 +52,16 @@ inline std::string contentOf(const std::filesystem::path& path) {
     std::ostringstream content;
     content << std::ifstream(path, std::ios::binary).rdbuf();
     return content.str();
+}
+
+/// The lines of a text without their ends, "\n" or "\r\n"; nothing may follow the last of them.
+inline std::vector<std::string> linesOf(const std::string& text, const std::string& end = "\n") {
+    std::vector<std::string> lines;
+    std::size_t start = 0, at = 0;
+    for (; (at = text.find(end, start)) != std::string::npos; start = at + end.size())
+        lines.push_back(text.substr(start, at - start));
+    EXPECT_EQ(start, text.size()) << "a line that is not ended";
+    return lines;
 }
 
 } // namespace tessaly::test

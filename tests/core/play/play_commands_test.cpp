@@ -77,10 +77,17 @@ TEST_F(BoardInputTest, ThePalettePlacesAndErases) {
     constexpr int Eraser = BoardInput::PaletteEraser;
     // What is clicked, and with which button; the entry then, the item pressed, the undo records.
     const std::tuple<int, PointerButton, std::string, int, std::size_t> rows[] = {
-        {OnBoard, Left, "", NoItem, 0},   {3, Left, "", 3, 0},         {OnBoard, Right, "", 3, 0},
-        {OnBoard, Left, "4", 3, 1},     {OnBoard, Left, "4", 3, 2},    {Eraser, Left, "4", Eraser, 2},
-        {OnBoard, Left, "", Eraser, 3}, {Eraser, Left, "", NoItem, 3}, {2, Left, "", 2, 3},
-        {4, Other, "", 2, 3},         {0, Right, "", NoItem, 3}};
+        {OnBoard, Left, "", NoItem, 0},
+        {3, Left, "", 3, 0},
+        {OnBoard, Right, "", 3, 0},
+        {OnBoard, Left, "4", 3, 1},
+        {OnBoard, Left, "4", 3, 2},
+        {Eraser, Left, "4", Eraser, 2},
+        {OnBoard, Left, "", Eraser, 3},
+        {Eraser, Left, "", NoItem, 3},
+        {2, Left, "", 2, 3},
+        {4, Other, "", 2, 3},
+        {0, Right, "", NoItem, 3}};
     for (const auto& [item, button, expected, pressed, records] : rows) {
         item == OnBoard ? click(button) : input.digt_MouseUp(item, button);
         EXPECT_EQ(entry(), expected) << item;

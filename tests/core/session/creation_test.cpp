@@ -20,22 +20,14 @@ struct CreationTest : testing::Test, SessionScene, CreationOrderChoice {
         creation.emplace(session, files, display, prompts, *this, chance);
     }
     std::optional<CreationOrder> choose() override { return order; }
-    void run(int count, DifficultyChoice difficulty = std::nullopt) {
+    void run(int count, DifficultyChoice difficulty = std::nullopt, int answer = answer::Yes) {
         order = {out, difficulty, count};
-        prompts.answers = {answer::Yes};
+        prompts.answers = {answer};
         creation->run();
     }
     std::string created() { return single->cmdcreate(), seen(); }
-    /// The records that are on the disk, each with its line end.
-    std::vector<std::string> made() const {
-        std::vector<std::string> lines;
-        const std::string content = test::contentOf(out);
-        for (std::size_t at = 0; at < content.size(); at += RecordLength + 2) {
-            lines.push_back(content.substr(at, RecordLength));
-            EXPECT_EQ(content.substr(at + RecordLength, 2), "\r\n");
-        }
-        return lines;
-    }
+    /// The records that are on the disk.
+    std::vector<std::string> made() const { return test::linesOf(test::contentOf(out), "\r\n"); }
     std::size_t differentMade() const {
         const std::vector<std::string> all = made();
         return std::set(all.begin(), all.end()).size();
@@ -121,16 +113,11 @@ TEST_F(CreationTest, NoPuzzleIsMadeTwice) {
     EXPECT_EQ(made().front().front(), 'E');
 }
 
-TEST_F(CreationTest, NothingIsMadeWithoutAnOrderOrAConfirmation) {
+TEST_F(CreationTest, NothingIsMadeUnaskedAndWhatAnotherProgramReplacedIsShown) {
     creation->run();
-    EXPECT_EQ(prompts.told(), "");
-    order = {out, Difficulty::Easy, 3};
-    prompts.answers = {answer::No};
-    creation->run();
+    EXPECT_EQ(prompts.told(), "") << "there is no order";
+    run(1, std::nullopt, answer::No);
     EXPECT_FALSE(FileExists(out));
-}
-
-TEST_F(CreationTest, APuzzleThatAnotherProgramReplacedIsShownAsItIsNow) {
     files.load(fileOfPuzzles("mine.txt", 1));
     session.game.place({1, 5}, "4");
     display.onProgress = [this] { fileOf("mine.txt", records[1] + "\r\n"); };

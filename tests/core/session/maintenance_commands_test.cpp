@@ -4,17 +4,14 @@
 #include "core/solver/deduction.h"
 #include "support/core_fakes.h"
 
-#include <algorithm>
-
 namespace tessaly {
 namespace {
 
 struct DevelopersTest : testing::Test, SessionScene {
     ~DevelopersTest() override { EXPECT_FALSE(session.busy.isBusy() || display.busyDepth > 0); }
 
-    std::ptrdiff_t lineCount(std::string_view name) const {
-        const std::string content = test::contentOf(folder / name);
-        return std::count(content.begin(), content.end(), '\n');
+    std::size_t lineCount(std::string_view name) const {
+        return test::linesOf(test::contentOf(folder / name)).size();
     }
 
     Board& board = session.game.board;
@@ -25,7 +22,7 @@ struct DevelopersTest : testing::Test, SessionScene {
 TEST_F(DevelopersTest, FilesGrowAreProvedAndMixed) {
     fileOfPuzzles("addnew.txt", 40);
     session.puzzle.PuzNum = 2;
-    for (const int runs : {1, 2}) {
+    for (const std::size_t runs : {1U, 2U}) {
         maintenance.FlipandAdd();
         EXPECT_EQ(prompts.told(), "|done [vbok]");
         EXPECT_EQ(lineCount("addnewr.txt"), runs * 8 * 40) << "appended";

@@ -7,15 +7,15 @@
 
 #include <chrono>
 #include <future>
+#include <map>
 #include <sstream>
 
 namespace tessaly {
 namespace {
 
 namespace fs = std::filesystem;
-using test::contentOf;
 using test::put;
-using Names = std::set<std::string>;
+using Files = std::map<std::string, std::string>;
 
 TEST(GameOptions, AreReadInAnyOrderOrRefusedInOneLine) {
     const std::pair<std::vector<const char*>, std::string> rows[] = {
@@ -55,15 +55,14 @@ protected:
         const std::string start = root / "";
         return answer.starts_with(start) ? answer.substr(start.size()) : answer;
     }
-    /// All files in the user's data home.
-    Names inHome() const {
-        Names names;
+    /// All files in the user's data home, and what they hold.
+    Files inHome() const {
+        Files files;
         for (const auto& entry : fs::recursive_directory_iterator(data))
             if (!entry.is_directory())
-                names.insert(entry.path().lexically_relative(data));
-        return names;
+                files[entry.path().lexically_relative(data)] = test::contentOf(entry.path());
+        return files;
     }
-    std::string user(const char* name) const { return contentOf(userFolder / name); }
 
     test::TemporaryFolder root;
     fs::path share = root / "usr/share/tessaly-data";
@@ -73,6 +72,9 @@ protected:
     ProgramFolderSources sources{
         .given = {}, .executableFolder = bin, .shareFolder = share, .dataHome = data, .home = {}};
     const std::string Found = "home/data/tessaly/";
+    const Files AllShipped{{"tessaly/all.col", "shipped all.col"},
+                           {"tessaly/hexabinx.txt", "shipped hexabinx.txt"},
+                           {"tessaly/puzzles/easy.txt", "shipped puzzles/easy.txt"}};
 };
 
 TEST_F(ProgramFolderTest, IsTheGivenOneElseTheExecutablesElseTheUsers) {
@@ -86,16 +88,16 @@ TEST_F(ProgramFolderTest, IsTheGivenOneElseTheExecutablesElseTheUsers) {
     }
     sources.given.clear();
     EXPECT_EQ(found(), "usr/bin/");
-    EXPECT_EQ(inHome(), Names());
+    EXPECT_EQ(inHome(), Files());
     fs::remove(bin / "all.col");
     EXPECT_EQ(found(), Found);
+    sources.home = root / "me";
     for (const char* notCounting : {"", "relative/data"}) {
         sources.dataHome = notCounting;
-        sources.home = root / "me";
         EXPECT_EQ(found(), "me/.local/share/tessaly/");
-        sources.home.clear();
-        EXPECT_NE(found().find("neither HOME nor"), std::string::npos);
     }
+    sources.home.clear();
+    EXPECT_NE(found().find("neither HOME nor"), std::string::npos);
     const auto here = ProgramFolderSources::ofThisProcess();
     EXPECT_TRUE(fs::exists(here.executableFolder / "tessaly_core_tests"));
     EXPECT_EQ(here.shareFolder, here.executableFolder.parent_path() / "share/tessaly-data");
@@ -107,9 +109,7 @@ TEST_F(ProgramFolderTest, TheFirstStartCopiesWhatIsShippedAndLaterOnesRenewThePr
     put(data / ".tessaly.new/puzzles/half-written", "");
     fs::create_directory(userFolder);
     EXPECT_EQ(found(), Found);
-    EXPECT_EQ(inHome(),
-              (Names{"tessaly/all.col", "tessaly/hexabinx.txt", "tessaly/puzzles/easy.txt"}));
-    EXPECT_EQ(user("all.col"), "shipped all.col");
+    EXPECT_EQ(inHome(), AllShipped);
 
     put(userFolder / "puzzles/easy.txt", "my progress");
     fs::remove(userFolder / "all.col");
@@ -122,11 +122,10 @@ TEST_F(ProgramFolderTest, TheFirstStartCopiesWhatIsShippedAndLaterOnesRenewThePr
     fs::create_directory(share / "manual");
     put(share / "manual/side.png", "new drawing");
     EXPECT_EQ(found(), Found);
-    EXPECT_EQ(inHome(), (Names{"tessaly/hexabinx.txt", "tessaly/manual/side.png",
-                               "tessaly/puzzles/easy.txt", "tessaly/tessaly.htm"}));
-    EXPECT_EQ(user("manual/side.png") + user("tessaly.htm"), "new drawingnew page");
-    EXPECT_EQ(user("hexabinx.txt"), "second release");
-    EXPECT_EQ(user("puzzles/easy.txt"), "my progress");
+    EXPECT_EQ(inHome(), (Files{{"tessaly/hexabinx.txt", "second release"},
+                               {"tessaly/manual/side.png", "new drawing"},
+                               {"tessaly/puzzles/easy.txt", "my progress"},
+                               {"tessaly/tessaly.htm", "new page"}}));
     fs::remove_all(share);
     EXPECT_EQ(found(), Found) << "an installed folder is enough";
 }
@@ -180,10 +179,7 @@ TEST_F(ProgramFolderTest, AFirstStartThatFailsSaysWhyAndLeavesNothingBehind) {
 TEST_F(ProgramFolderTest, TwoFirstStartsAtOnceBothFindAWholeFolder) {
     for (int round = 0; round < 30; ++round) {
         fs::remove_all(data);
-        const auto start = [this] {
-            const bool isFound = found() == Found;
-            return isFound && user("puzzles/easy.txt") == "shipped puzzles/easy.txt";
-        };
+        const auto start = [this] { return found() == Found && inHome() == AllShipped; };
         auto other = std::async(std::launch::async, start);
         EXPECT_TRUE(start());
         EXPECT_TRUE(other.get());
