@@ -101,7 +101,10 @@ TEST_F(FileAccess, AFullDiskLeavesTheOldContentAndSaysSo) {
 }
 
 TEST_F(FileAccess, ASmallFileIsReadUpToItsLimitAndChangedInOneGo) {
-    const auto change = [](std::string& content) {
+    std::string meanwhile;
+    const auto change = [&](std::string& content) {
+        if (!meanwhile.empty())
+            put(file, meanwhile);
         content += "line\n";
         return Outcome::done();
     };
@@ -110,11 +113,8 @@ TEST_F(FileAccess, ASmallFileIsReadUpToItsLimitAndChangedInOneGo) {
         EXPECT_EQ(contentOf(file), expected);
     }
     EXPECT_FALSE(rewriteSmallFile(file, 5, change).ok());
-    const Outcome changed = rewriteSmallFile(file, 100, [&](std::string& content) {
-        put(file, "foreign");
-        content = "ours";
-        return Outcome::done();
-    });
+    meanwhile = "foreign";
+    const Outcome changed = rewriteSmallFile(file, 100, change);
     EXPECT_NE(changed.problem.find("another program"), std::string::npos);
     EXPECT_EQ(contentOf(file), "foreign");
 }

@@ -1,6 +1,5 @@
 // The board in every form that it is drawn in.
 
-#include "support/sample_appearances.h"
 #include "support/sample_board.h"
 #include "ui/drawing/board_picture.h"
 #include "ui/drawing/board_surface.h"
