@@ -159,7 +159,7 @@ TEST_F(PuzzleStoreTest, DeletingTakesTheLineThatIsShownAndKeepsEveryOtherByte) {
         put(path, Mark + a + b + c);
         EXPECT_TRUE(remove(number, read(number).record));
         EXPECT_EQ(contentOf(path), left);
-        EXPECT_NE(store.DeletePuzzle(path, 1, "x").problem.find("another program"),
+        EXPECT_NE(store.DeletePuzzle(path, 1, recordNumbered(5)).problem.find("another program"),
                   std::string::npos);
         for (int none : {0, 3})
             EXPECT_FALSE(remove(none, c));
