@@ -2,8 +2,8 @@
 
 #include "core/board/puzzle_record.h"
 #include "core/board/tables.h"
+#include "support/temporary_folder.h"
 
-#include <fstream>
 #include <ostream>
 #include <stdexcept>
 #include <string>
@@ -13,11 +13,7 @@ namespace tessaly {
 
 /// The records of a puzzle file, without their line ends.
 inline std::vector<std::string> recordsOf(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    std::vector<std::string> records;
-    for (std::string line; std::getline(file, line, '\r'); file.get())
-        records.push_back(line);
-    return records;
+    return test::linesOf(test::contentOf(path), "\r\n");
 }
 
 /// The records of a puzzle file among the tests' own data.
