@@ -3,6 +3,7 @@
 #include "support/pdf_document.h"
 #include "support/sample_puzzles.h"
 #include "support/temporary_folder.h"
+#include "ui/drawing/qt_values.h"
 
 namespace tessaly {
 namespace {
@@ -29,10 +30,10 @@ struct PdfFile : testing::Test {
                   [](const auto& a, const auto& b) { return a.box.left() < b.box.left(); });
     }
     /// What the page says in an area, on one line.
-    QString textIn(double left, double top, double right, double bottom) const {
+    QString textIn(const QRectF& area) const {
         QStringList text;
         for (const auto& word : words)
-            if (QRectF(left, top, right - left, bottom - top).contains(word.box.center()))
+            if (area.contains(word.box.center()))
                 text << word.text;
         return text.join(u' ');
     }
@@ -69,9 +70,8 @@ TEST_F(PdfFile, HoldsEveryNumberCaptionAndFooterOnEitherPaper) {
         for (int number = 1; number <= pdf.pageCount(); ++number) {
             const BookletPage page = booklet.page(number - 1);
             const PageLayout layout(size, page.part.boardsPerPage);
-            const Rect footer = layout.footer();
             turnTo(number);
-            EXPECT_EQ(textIn(footer.left, footer.top, footer.right, footer.bottom),
+            EXPECT_EQ(textIn(toQt(layout.footer())),
                       u"Tessaly %1 / %2 tessaly.example"_s.arg(number).arg(pdf.pageCount()));
             for (int place = 0; place < page.count; ++place) {
                 Board board;
@@ -84,12 +84,11 @@ TEST_F(PdfFile, HoldsEveryNumberCaptionAndFooterOnEitherPaper) {
                     EXPECT_EQ(textAt(area, cell), shown ? board.SolNum[cell] : std::string());
                 }
                 // In the corners that the board leaves empty.
-                const double width = 0.33 * area.width();
-                const double bottom = area.top + 0.09 * area.height();
-                EXPECT_EQ(textIn(area.left, area.top, area.left + width, bottom),
+                QRectF corner(area.left, area.top, 0.33 * area.width(), 0.09 * area.height());
+                EXPECT_EQ(textIn(corner),
                           (page.part.solutions ? u"Sol# %1"_s : u"Puz# %1"_s).arg(puzzle));
-                EXPECT_EQ(textIn(area.right - width, area.top, area.right, bottom),
-                          QString::fromUtf8(board.DifName()));
+                corner.moveRight(area.right);
+                EXPECT_EQ(textIn(corner), QString::fromUtf8(board.DifName()));
             }
         }
     }
