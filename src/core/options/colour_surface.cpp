@@ -54,6 +54,30 @@ Colour colourAt(double x, double y, Colour rampColour, Colour background) {
     return background;
 }
 
+int indexOf(Place place) {
+    constexpr int FirstShade = PaletteRows * PaletteColumns;
+    return isRamp(place.row)
+               ? FirstShade + (place.row - PaletteRows) * (ShadeSteps + 1) + place.column
+               : place.row * PaletteColumns + place.column;
+}
+
+Place placeAt(int index) {
+    const int shade = index - PaletteRows * PaletteColumns;
+    return shade < 0 ? Place{index / PaletteColumns, index % PaletteColumns}
+                     : Place{PaletteRows + shade / (ShadeSteps + 1), shade % (ShadeSteps + 1)};
+}
+
+std::string nameOf(Place place, Colour rampColour) {
+    if (!isRamp(place.row))
+        return ClassicNames[static_cast<std::size_t>(indexOf(place))];
+    const bool fromBlack = place.row == PaletteRows;
+    const Colour colour =
+        fromBlack ? clrBlackness(rampColour, place.column) : clrWhiteness(rampColour, place.column);
+    return std::string(fromBlack ? "darker" : "lighter") + ": red " +
+           std::to_string(RedOf(colour)) + ", green " + std::to_string(GreenOf(colour)) +
+           ", blue " + std::to_string(BlueOf(colour));
+}
+
 Box boxOf(Place place) {
     if (!isRamp(place.row))
         return paletteBox(place.row * PaletteColumns + place.column);

@@ -3,6 +3,7 @@
 #include "core/options/colour.h"
 
 #include <array>
+#include <string>
 
 namespace tessaly {
 
@@ -12,6 +13,12 @@ inline constexpr std::array<Colour, 16> ClassicPalette{
     RGB(128, 0, 0),     RGB(128, 0, 128), RGB(128, 128, 0), RGB(192, 192, 192),
     RGB(128, 128, 128), RGB(0, 0, 255),   RGB(0, 255, 0),   RGB(0, 255, 255),
     RGB(255, 0, 0),     RGB(255, 0, 255), RGB(255, 255, 0), RGB(255, 255, 255),
+};
+
+/// What they are called.
+inline constexpr std::array<const char*, 16> ClassicNames{
+    "black", "navy", "green", "teal", "maroon", "purple",  "olive",  "silver",
+    "grey",  "blue", "lime",  "aqua", "red",    "fuchsia", "yellow", "white",
 };
 
 /// How many steps lead from black, or from white, to a colour.
@@ -80,6 +87,13 @@ struct Place {
 
     friend bool operator==(const Place&, const Place&) = default;
 };
+
+/// The places one after the other, row by row.
+inline constexpr int PlaceCount = PaletteRows * PaletteColumns + 2 * (ShadeSteps + 1);
+int indexOf(Place place);
+Place placeAt(int index);
+/// What stands there, in words; the ramps are those of `rampColour`.
+std::string nameOf(Place place, Colour rampColour);
 
 Box boxOf(Place place);
 /// The place `columns` to the right and `rows` down, as far as there is one. In a ramp a column is

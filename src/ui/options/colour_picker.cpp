@@ -1,5 +1,6 @@
 #include "ui/options/colour_picker.h"
 
+#include "ui/controls/painted_list.h"
 #include "ui/drawing/qt_values.h"
 
 #include <QHBoxLayout>
@@ -58,10 +59,56 @@ void setSwatch(QLabel& label, Colour colour) {
     setColours(label, background, blended(background, readableOn(background), EdgeStrength));
 }
 
+/// A colour or a shade of the surface as a screen reader meets it.
+class ShadeAccessible : public PaintedItem {
+public:
+    ShadeAccessible(ColourSurfaceView& view, int index)
+        : PaintedItem(view, index)
+        , m_view(view) {}
+
+    QString text(QAccessible::Text kind) const override {
+        return kind == QAccessible::Name ? QString::fromStdString(surface::nameOf(
+                                               surface::placeAt(index()), m_view.rampColour()))
+                                         : QString();
+    }
+    QAccessible::State state() const override {
+        QAccessible::State state;
+        state.focusable = true;
+        state.focused = m_view.hasFocus() && surface::indexOf(m_view.place()) == index();
+        return state;
+    }
+
+protected:
+    QRect place() const override { return m_view.rectangleOf(surface::placeAt(index())); }
+
+private:
+    ColourSurfaceView& m_view;
+};
+
+class SurfaceAccessible : public PaintedList {
+public:
+    explicit SurfaceAccessible(ColourSurfaceView& view)
+        : PaintedList(view, surface::PlaceCount)
+        , m_view(view) {}
+
+protected:
+    PaintedItem* makeItem(int index) const override { return new ShadeAccessible(m_view, index); }
+    int currentItem() const override { return surface::indexOf(m_view.place()); }
+
+private:
+    ColourSurfaceView& m_view;
+};
+
+QAccessibleInterface* makeInterface(const QString&, QObject* object) {
+    auto* view = qobject_cast<ColourSurfaceView*>(object);
+    return view != nullptr ? new SurfaceAccessible(*view) : nullptr;
+}
+
 } // namespace
 
 ColourSurfaceView::ColourSurfaceView(QWidget* parent)
     : QWidget(parent) {
+    QAccessible::installFactory(makeInterface);
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
     setAccessibleName(tr("Colours and shades"));
@@ -87,6 +134,10 @@ void ColourSurfaceView::setBackground(Colour colour) {
 
 QPointF ColourSurfaceView::toWidget(double x, double y) const {
     return {x * width() / surface::Width, y * height() / surface::Height};
+}
+
+QRect ColourSurfaceView::rectangleOf(surface::Place place) const {
+    return onPixels(surface::boxOf(place)).toAlignedRect();
 }
 
 QRectF ColourSurfaceView::onPixels(surface::Box box) const {
@@ -154,7 +205,17 @@ void ColourSurfaceView::keyPressEvent(QKeyEvent* event) {
         QWidget::keyPressEvent(event);
         return;
     }
+    tellPlace();
     update();
+}
+
+void ColourSurfaceView::focusInEvent(QFocusEvent* event) {
+    QWidget::focusInEvent(event);
+    tellPlace();
+}
+
+void ColourSurfaceView::tellPlace() {
+    PaintedList::tellFocus(*this, surface::indexOf(m_place));
 }
 
 ColPik::ColPik(QWidget* parent)

@@ -25,6 +25,9 @@ public:
     explicit ColourSurfaceView(QWidget* parent = nullptr);
 
     Colour rampColour() const { return m_rampColour; }
+    /// Where the keys are, and where a place lies on this widget.
+    colour_surface::Place place() const { return m_place; }
+    QRect rectangleOf(colour_surface::Place place) const;
     void setRampColour(Colour colour);
     /// The colour of the ground behind the surface, which it does not paint itself.
     void setBackground(Colour colour);
@@ -43,8 +46,10 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
 
 private:
+    void tellPlace();
     void pick(double x, double y);
     QRectF onPixels(colour_surface::Box box) const;
     void drawFocus(QPainter& painter) const;

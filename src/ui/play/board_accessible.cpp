@@ -4,32 +4,16 @@
 #include "ui/play/board_view.h"
 
 #include <QAccessibleInterface>
-#include <QWindow>
 
 namespace tessaly {
 namespace {
 
-/// One cell of the board as a screen reader meets it: an item of a list, with its place, what it
-/// holds and what lies across its side. It is no widget; the board's view stands behind it.
-class CellAccessible : public QAccessibleInterface, public QAccessibleActionInterface {
+/// One cell of the board: its place, what it holds and what lies across its side.
+class CellAccessible : public PaintedItem, public QAccessibleActionInterface {
 public:
     CellAccessible(BoardView& view, CellId cell);
 
-    CellId cell() const { return m_cell; }
-
-    bool isValid() const override;
-    QObject* object() const override { return nullptr; }
-    QWindow* window() const override;
-    QAccessibleInterface* parent() const override;
-    QAccessibleInterface* child(int) const override { return nullptr; }
-    QAccessibleInterface* childAt(int, int) const override { return nullptr; }
-    int childCount() const override { return 0; }
-    int indexOfChild(const QAccessibleInterface*) const override { return -1; }
-
-    QRect rect() const override;
     QString text(QAccessible::Text kind) const override;
-    void setText(QAccessible::Text, const QString&) override {}
-    QAccessible::Role role() const override { return QAccessible::ListItem; }
     QAccessible::State state() const override;
 
     void* interface_cast(QAccessible::InterfaceType type) override;
@@ -37,6 +21,9 @@ public:
     /// The focus selects the cell, as the pointer over it would.
     void doAction(const QString& name) override;
     QStringList keyBindingsForAction(const QString&) const override { return {}; }
+
+protected:
+    QRect place() const override { return m_view.rectangleOf(m_cell); }
 
 private:
     BoardView& m_view;
@@ -51,25 +38,9 @@ QString sentence(const std::string& ascii) {
 }
 
 CellAccessible::CellAccessible(BoardView& view, CellId cell)
-    : m_view(view)
+    : PaintedItem(view, BoardAccessible::indexOf(cell))
+    , m_view(view)
     , m_cell(cell) {}
-
-bool CellAccessible::isValid() const {
-    return m_view.isVisible();
-}
-
-QWindow* CellAccessible::window() const {
-    return m_view.window()->windowHandle();
-}
-
-QAccessibleInterface* CellAccessible::parent() const {
-    return QAccessible::queryAccessibleInterface(&m_view);
-}
-
-QRect CellAccessible::rect() const {
-    const QRect onView = m_view.rectangleOf(m_cell);
-    return {m_view.mapToGlobal(onView.topLeft()), onView.size()};
-}
 
 QString CellAccessible::text(QAccessible::Text kind) const {
     const Board& board = m_view.board();
@@ -123,26 +94,15 @@ QAccessibleInterface* makeInterface(const QString&, QObject* object) {
 } // namespace
 
 BoardAccessible::BoardAccessible(BoardView& view)
-    : QAccessibleWidget(&view, QAccessible::List)
+    : PaintedList(view, BoardCellCount)
     , m_view(view) {}
-
-BoardAccessible::~BoardAccessible() {
-    for (const QAccessible::Id id : m_cells)
-        if (id != 0)
-            QAccessible::deleteAccessibleInterface(id);
-}
 
 void BoardAccessible::install() {
     QAccessible::installFactory(makeInterface);
 }
 
 void BoardAccessible::tellFocus(BoardView& view) {
-    if (!view.hasFocus())
-        return;
-    QAccessibleEvent focused(&view, QAccessible::Focus);
-    if (view.input().selection())
-        focused.setChild(indexOf(view.input().selection()));
-    QAccessible::updateAccessibility(&focused);
+    PaintedList::tellFocus(view, indexOf(view.input().selection()));
 }
 
 void BoardAccessible::tellEntry(BoardView& view) {
@@ -152,26 +112,15 @@ void BoardAccessible::tellEntry(BoardView& view) {
 }
 
 int BoardAccessible::indexOf(CellId cell) {
-    return (cell.hexagon - 1) * CellCount + cell.position - 1;
+    return cell ? (cell.hexagon - 1) * CellCount + cell.position - 1 : -1;
 }
 
-int BoardAccessible::childCount() const {
-    return BoardCellCount + QAccessibleWidget::childCount();
+PaintedItem* BoardAccessible::makeItem(int index) const {
+    return new CellAccessible(m_view, AllCells[static_cast<std::size_t>(index)]);
 }
 
-QAccessibleInterface* BoardAccessible::child(int index) const {
-    return index < BoardCellCount ? cellAtIndex(index)
-                                  : QAccessibleWidget::child(index - BoardCellCount);
-}
-
-QAccessibleInterface* BoardAccessible::cellAtIndex(int index) const {
-    if (index < 0)
-        return nullptr;
-    const auto place = static_cast<std::size_t>(index);
-    if (m_cells[place] == 0)
-        m_cells[place] =
-            QAccessible::registerAccessibleInterface(new CellAccessible(m_view, AllCells[place]));
-    return QAccessible::accessibleInterface(m_cells[place]);
+int BoardAccessible::currentItem() const {
+    return indexOf(m_view.input().selection());
 }
 
 QAccessibleInterface* BoardAccessible::childAt(int x, int y) const {
@@ -182,20 +131,7 @@ QAccessibleInterface* BoardAccessible::childAt(int x, int y) const {
     if (above != nullptr && !above->testAttribute(Qt::WA_TransparentForMouseEvents))
         return QAccessible::queryAccessibleInterface(above);
     const CellId cell = m_view.rect().contains(point) ? m_view.cellUnder(point) : CellId{};
-    return cell ? cellAtIndex(indexOf(cell)) : nullptr;
-}
-
-int BoardAccessible::indexOfChild(const QAccessibleInterface* child) const {
-    if (const auto* cell = dynamic_cast<const CellAccessible*>(child))
-        return indexOf(cell->cell());
-    const int index = QAccessibleWidget::indexOfChild(child);
-    return index < 0 ? index : BoardCellCount + index;
-}
-
-QAccessibleInterface* BoardAccessible::focusChild() const {
-    if (m_view.hasFocus() && m_view.input().selection())
-        return cellAtIndex(indexOf(m_view.input().selection()));
-    return QAccessibleWidget::focusChild();
+    return child(indexOf(cell));
 }
 
 } // namespace tessaly
