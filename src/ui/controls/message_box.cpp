@@ -92,8 +92,8 @@ constexpr std::array ButtonWords{
 
 /// What the words of a style ask for.
 struct Style {
-    /// The icon's number; none for -1.
-    int icon = -1;
+    /// The icons' numbers.
+    QList<int> icons;
     /// Left to right; never empty.
     QList<Choice> buttons;
     /// Which button has the focus: the first, or with "vbdefaultbutton2" the second.
@@ -101,7 +101,7 @@ struct Style {
 };
 
 /// Reads words joined by "+", in any capitals and with blanks around them. Unknown words count for
-/// nothing, of several icons the last one counts, and without any button there is an "Ok".
+/// nothing, and without any button there is an "Ok".
 Style styleOf(const QString& words) {
     Style style;
     for (const QString& spelt : words.split(u'+')) {
@@ -110,7 +110,7 @@ Style styleOf(const QString& words) {
             style.focused = 1;
         for (const IconWord& entry : IconWords)
             if (word == QLatin1String(entry.word))
-                style.icon = entry.number;
+                style.icons << entry.number;
         for (const ButtonWord& entry : ButtonWords)
             if (word == QLatin1String(entry.word))
                 std::copy_if(entry.buttons.begin(), entry.buttons.end(),
@@ -122,10 +122,12 @@ Style styleOf(const QString& words) {
     return style;
 }
 
-/// The window that a question is about: the one in use or, while another program is, the main one.
+/// The window that a question is about: the dialog that stands open, else the window in use or,
+/// while another program is, the main one.
 const QWidget* askingWindow() {
-    if (const QWidget* active = QApplication::activeWindow())
-        return active;
+    for (const QWidget* window : {QApplication::activeModalWidget(), QApplication::activeWindow()})
+        if (window != nullptr)
+            return window;
     for (const QWidget* window : QApplication::topLevelWidgets())
         if (window->isVisible() && qobject_cast<const QMainWindow*>(window) != nullptr)
             return window;
@@ -273,9 +275,9 @@ QWidget* MsgForm::makeMessage() {
     return message;
 }
 
-void MsgForm::setIcon(int number) {
+void MsgForm::setIcons(const QList<int>& numbers) {
     for (std::size_t i = 0; i < IconWords.size(); ++i)
-        m_icons[static_cast<qsizetype>(i)]->setVisible(IconWords[i].number == number);
+        m_icons[static_cast<qsizetype>(i)]->setVisible(numbers.contains(IconWords[i].number));
 }
 
 void MsgForm::addButton(const QString& caption, int result) {
@@ -296,7 +298,7 @@ int MsgForm::show(const QString& text, const QString& style) {
         return MsgForm(m_appearance, this).show(text, style);
     const Style wanted = styleOf(style);
     setPalette(schemePalette(m_appearance));
-    setIcon(wanted.icon);
+    setIcons(wanted.icons);
     m_text->showText(text);
     m_text->setVisible(!text.isEmpty());
     qDeleteAll(std::exchange(m_buttons, {}));

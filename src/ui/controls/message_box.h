@@ -34,8 +34,8 @@ protected:
 
 private:
     QWidget* makeMessage();
-    /// Shows the icon of a number and hides the others.
-    void setIcon(int number);
+    /// Shows the icons of these numbers and hides the others.
+    void setIcons(const QList<int>& numbers);
     void addButton(const QString& caption, int result);
 
     const Appearance& m_appearance;

@@ -36,7 +36,7 @@ TEST_F(MessageBoxTest, ItsStyleNamesButtonsAndIcon) {
              std::pair(QString(), u"Ok1"_s),
              {u" vbYESno +\tVBquestion "_s, u"Yes6 No7 icons_0"_s},
              {u"vbquestion+vbyesno"_s, u"Yes6 No7 icons_0"_s},
-             {u"vbok+vbcancel+vberror+vbhappy"_s, u"Ok1 Cancel2 icons_5"_s},
+             {u"vbok+vbcancel+vberror+vbhappy"_s, u"Ok1 Cancel2 icons_3 icons_5"_s},
              {u"vbcancel+vbok+nonsense"_s, u"Cancel2 Ok1"_s},
              {u"vbcancelok"_s, u"Ok1 Cancel2"_s},
              {u"vbabortretryignore+vbcustom"_s, u"Abort3 Retry4 Ignore5 icons_10"_s},
