@@ -1,6 +1,7 @@
 #include "ui/output/export_commands.h"
 
 #include "core/board/puzzle_record.h"
+#include "core/session/program_folder.h"
 #include "core/session/session.h"
 #include "ui/controls/file_name_picker.h"
 #include "ui/drawing/board_picture.h"
@@ -46,7 +47,9 @@ void ExportCommands::mnucapwin() {
                                                         m_window.picker, m_window.prompts);
     if (path.empty())
         return;
-    const Outcome written = writePicture(path, picture, pictureFormatOf(path));
+    const Outcome written = isOwnFile(m_session.ProgramFolder, path)
+                                ? Outcome::failed(path.native() + ": the program needs this file")
+                                : writePicture(path, picture, pictureFormatOf(path));
     if (written.ok())
         m_window.prompts.message(path.native(), "vbok");
     else

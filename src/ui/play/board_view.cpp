@@ -221,7 +221,7 @@ void BoardView::updateSurface() {
 void BoardView::placeChildren() {
     for (HexagonTagWidget* tag : m_tags)
         if (tag != nullptr)
-            tag->setGeometry(onWidget(tagRectangle(tag->hexagon())));
+            tag->place(onWidget(tagRectangle(tag->hexagon())));
     placeMarker();
 }
 

@@ -8,6 +8,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <algorithm>
+
 namespace tessaly {
 
 using namespace Qt::StringLiterals;
@@ -21,6 +23,14 @@ HexagonTagWidget::HexagonTagWidget(int hexagon, const Appearance& appearance, QW
     setAccessibleName(tr("Hexagon %1").arg(hexagon));
     setAccessibleDescription(
         tr("Hold to see the candidates of its cells; the arrow keys lead to other hexagons"));
+}
+
+void HexagonTagWidget::place(const QRect& tag) {
+    constexpr int LeastSize = 24;
+    const int beside = std::max(0, (LeastSize - tag.width() + 1) / 2);
+    const int above = std::max(0, (LeastSize - tag.height() + 1) / 2);
+    m_around = {beside, above, beside, above};
+    setGeometry(tag.marginsAdded(m_around));
 }
 
 void HexagonTagWidget::press() {
@@ -49,7 +59,7 @@ void HexagonTagWidget::paintEvent(QPaintEvent*) {
     const TagState state = m_down    ? TagState::Pressed
                            : noticed ? TagState::Hovered
                                      : TagState::Plain;
-    drawTag(painter, rect(), m_hexagon, m_appearance, state);
+    drawTag(painter, tag(), m_hexagon, m_appearance, state);
     if (hasFocus())
         drawFocus(painter);
 }
@@ -57,7 +67,7 @@ void HexagonTagWidget::paintEvent(QPaintEvent*) {
 void HexagonTagWidget::drawFocus(QPainter& painter) const {
     constexpr double Thickness = 2;
     const QRectF frame =
-        QRectF(rect()).adjusted(Thickness / 2, Thickness / 2, -Thickness / 2, -Thickness / 2);
+        QRectF(tag()).adjusted(Thickness / 2, Thickness / 2, -Thickness / 2, -Thickness / 2);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(readableOn(toQColor(m_appearance.HexaFillColour)), Thickness));
     painter.drawRoundedRect(frame, frame.height() / 2, frame.height() / 2);

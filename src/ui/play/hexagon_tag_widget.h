@@ -15,6 +15,8 @@ public:
     HexagonTagWidget(int hexagon, const Appearance& appearance, QWidget* parent);
 
     int hexagon() const { return m_hexagon; }
+    /// Where the tag is seen; around it the widget is as large as a pointer or a finger needs.
+    void place(const QRect& tag);
 
 Q_SIGNALS:
     void pressed(int hexagon);
@@ -34,12 +36,14 @@ protected:
     void leaveEvent(QEvent* event) override;
 
 private:
+    QRect tag() const { return rect().marginsRemoved(m_around); }
     void drawFocus(QPainter& painter) const;
     void press();
     void release();
 
     int m_hexagon;
     const Appearance& m_appearance;
+    QMargins m_around;
     bool m_down = false;
 };
 
