@@ -6,8 +6,8 @@
 
 namespace tessaly {
 
-/// One of the items that a widget paints itself, as a screen reader meets it: no widget, but an item
-/// of the list that the widget is.
+/// One of the items that a widget paints itself, as a screen reader meets it: no widget, but an
+/// item of the list that the widget is.
 class PaintedItem : public QAccessibleInterface {
 public:
     PaintedItem(QWidget& view, int index)

@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace tessaly {
 namespace {
@@ -280,7 +281,8 @@ void BoardView::focusInEvent(QFocusEvent* event) {
 }
 
 void BoardView::mouseMoveEvent(QMouseEvent* event) {
-    m_usedByKeys = false;
+    if (std::exchange(m_usedByKeys, false))
+        update(); // without the frame
     m_input->Picture2_MouseMove(onBoard(event->position()));
 }
 

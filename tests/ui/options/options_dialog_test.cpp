@@ -4,6 +4,7 @@
 #include "ui/options/colour_picker.h"
 #include "ui/options/option_samples.h"
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QListWidget>
@@ -196,8 +197,18 @@ TEST_F(OptionsDialog, ColoursArePickedByMouseByBarsAndByKeys) {
     QTest::keyClick(&find(u"hsrGreen"_s), Qt::Key_PageUp);
     expectPicked(RGB(7, 28, 9), RGB(7, 28, 9));
     EXPECT_EQ(picked.count(), 3);
-    for (Qt::Key key : {Qt::Key_Down, Qt::Key_Right, Qt::Key_Right, Qt::Key_Space})
+    surface.setFocus();
+    const QAccessibleInterface& spoken = *QAccessible::queryAccessibleInterface(&surface);
+    QString heard;
+    for (Qt::Key key : {Qt::Key_Down, Qt::Key_Right, Qt::Key_Right, Qt::Key_Space, Qt::Key_Down,
+                        Qt::Key_Down, Qt::Key_Down}) {
         QTest::keyClick(&surface, key);
+        heard += spoken.focusChild()->text(QAccessible::Name) + u"; "_s;
+        EXPECT_EQ(surface.place(),
+                  colour_surface::placeAt(spoken.indexOfChild(spoken.focusChild())));
+    }
+    EXPECT_EQ(heard,
+              u"maroon; purple; olive; olive; lime; yellow; darker: red 80, green 80, blue 0; "_s);
     expectPicked(ClassicPalette[6], ClassicPalette[6]);
     picker.setSelColor(0x8000000F);
     expectPicked(Black, Black); // what is no plain colour
