@@ -29,7 +29,8 @@ OptionText describe(const Option& option) {
                     .kind = kindOf(option.value),
                     .choices = {},
                     .description = option.description,
-                    .isRequired = option.isRequired};
+                    .isRequired = option.isRequired,
+                    .mayRepeat = option.mayRepeat};
     if (text.kind == ValueKind::Choice)
         text.choices = choicesOf(text.value);
     return text;

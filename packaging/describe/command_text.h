@@ -21,6 +21,7 @@ struct OptionText {
     std::vector<std::string> choices;
     std::string description;
     bool isRequired = false;
+    bool mayRepeat = false;
 };
 
 /// A program or a subcommand in plain words: all that manual pages and completions are made from.

@@ -54,8 +54,9 @@ std::string synopsis(const CommandText& command, const std::string& before) {
     if (!command.options.empty())
         line += " [\\fIOPTION\\fR]...";
     for (const OptionText& positional : command.positionals)
-        line += positional.isRequired ? " \\fI" + positional.value + "\\fR"
-                                      : " [\\fI" + positional.value + "\\fR]";
+        line += (positional.isRequired ? " \\fI" + positional.value + "\\fR"
+                                       : " [\\fI" + positional.value + "\\fR]") +
+                (positional.mayRepeat ? "..." : "");
     return line + "\n";
 }
 

@@ -48,7 +48,7 @@ std::string arguments(const CommandText& command, const std::string& indent) {
                 .append(action(option))
                 .append("'");
     for (const OptionText& positional : command.positionals)
-        text += next + "'1" + action(positional) + "'";
+        text += next + (positional.mayRepeat ? "'*" : "'1") + action(positional) + "'";
     return text;
 }
 

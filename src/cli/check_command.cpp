@@ -4,10 +4,12 @@
 #include "core/board/puzzle_store.h"
 #include "core/solver/puzzle_audit.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <memory>
 #include <ostream>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace tessaly {
@@ -24,27 +26,29 @@ std::vector<std::string> findingsOf(const RecordLine& line) {
                            : auditRecord(line.text);
 }
 
-/// Remembers puzzles; tells of one that comes again at which line it stood first.
+/// Remembers puzzles; tells of one that comes again where it stood first.
 class Repeats {
 public:
-    void look(const RecordLine& line, std::vector<std::string>& findings) {
+    void look(const std::filesystem::path& path, const RecordLine& line,
+              std::vector<std::string>& findings) {
         const std::string puzzle(line.text.substr(0, RecordLength));
-        const auto [first, isNew] = m_lines.emplace(puzzle, line.number);
+        const auto [place, isNew] = m_places.try_emplace(puzzle, &path, line.number);
+        const auto& [firstPath, firstNumber] = place->second;
         if (!isNew && !puzzle.empty())
-            findings.push_back("the same puzzle as line " + std::to_string(first->second));
+            findings.push_back("the same puzzle as line " + std::to_string(firstNumber) +
+                               (*firstPath == path ? "" : " of " + firstPath->native()));
     }
 
 private:
-    std::unordered_map<std::string, int> m_lines;
+    std::unordered_map<std::string, std::pair<const std::filesystem::path*, int>> m_places;
 };
 
-int check(const std::filesystem::path& path, const Console& console) {
+int checkFile(const std::filesystem::path& path, Repeats& repeats, const Console& console) {
     Tally tally;
-    Repeats repeats;
     const Outcome outcome = forEachRecord(path, [&](RecordLine line) {
         ++tally.records;
         std::vector<std::string> findings = findingsOf(line);
-        repeats.look(line, findings);
+        repeats.look(path, line, findings);
         for (const std::string& finding : findings) {
             ++tally.findings;
             console.out << printable(lineProblem(path, line.number, finding)) << '\n';
@@ -66,13 +70,25 @@ int check(const std::filesystem::path& path, const Console& console) {
     return tally.findings == 0 ? exit_status::Done : exit_status::Failed;
 }
 
+/// As far as it goes: a file that cannot be read does not keep the next from being checked.
+int check(const std::vector<std::filesystem::path>& paths, const Console& console) {
+    Repeats repeats;
+    int status = exit_status::Done;
+    for (const auto& path : paths) {
+        status = std::max(status, checkFile(path, repeats, console));
+        if (status == exit_status::Interrupted)
+            break;
+    }
+    return status;
+}
+
 } // namespace
 
 Subcommand checkCommand() {
-    const auto path = std::make_shared<std::filesystem::path>();
+    const auto paths = std::make_shared<std::vector<std::filesystem::path>>();
     return {{.name = "check",
              .description =
-                 "Check the puzzles of a file: a line for everything that is wrong, and a summary",
+                 "Check the puzzles of files: a line for everything that is wrong, and a summary",
              .footer =
                  "Example: tessaly-cli check easy.txt\n\n"
                  "Every record must be well formed, its solution right and the only one with the "
@@ -81,8 +97,8 @@ Subcommand checkCommand() {
                  "twice.\n\nThe status is 0 when all is well, 1 when something was found, 2 when "
                  "the file "
                  "cannot be read.",
-             .options = {required(positional("FILE", "The puzzle file", *path))}},
-            [path](const Console& console) { return check(*path, console); }};
+             .options = {puzzleFiles(*paths)}},
+            [paths](const Console& console) { return check(*paths, console); }};
 }
 
 } // namespace tessaly

@@ -3,6 +3,7 @@
 #include "cli/console.h"
 #include "core/base/command_line.h"
 
+#include <filesystem>
 #include <functional>
 #include <vector>
 
@@ -13,6 +14,13 @@ struct Subcommand {
     CommandSyntax syntax;
     std::function<int(const Console&)> run;
 };
+
+/// The positional "FILE", where "-" stands for standard input.
+Option puzzleFile(std::filesystem::path& target);
+/// The same for one or more of them.
+Option puzzleFiles(std::vector<std::filesystem::path>& targets);
+/// The option "--output", where "-" stands for standard output as its absence does: an empty path.
+Option outputFile(std::string description, std::filesystem::path& target);
 
 /// Makes puzzles, to standard output or appended to a file.
 Subcommand createCommand();

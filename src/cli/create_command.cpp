@@ -66,25 +66,24 @@ int create(const CreateOptions& options, const Console& console) {
 
 Subcommand createCommand() {
     const auto options = std::make_shared<CreateOptions>();
-    return {
-        {.name = "create",
-         .description = "Make new puzzles, no two alike",
-         .footer = "Example: tessaly-cli create --difficulty easy --count 500 --seed 1 "
-                   "--output easy.txt",
-         .options =
-             {required(choice("--difficulty", "easy|hard|random", "How hard the puzzles are to be",
-                              options->difficulty)),
-              required(number("--count,-n", "N",
-                              "How many puzzles to make, at most " + std::to_string(MaxCount),
-                              options->count, std::int64_t{1}, MaxCount)),
-              number("--seed,-s", "S",
-                     "A whole number; makes the same puzzles whenever it is given", options->seed,
-                     std::uint64_t{0}),
-              number("--jobs,-j", "J", "How many threads to work with (by default all processors)",
-                     options->jobs, 1, MaxJobs),
-              text("--output,-o", "FILE", "A puzzle file to append to, instead of standard output",
-                   options->output)}},
-        [options](const Console& console) { return create(*options, console); }};
+    return {{.name = "create",
+             .description = "Make new puzzles, no two alike",
+             .footer = "Example: tessaly-cli create --difficulty easy --count 500 --seed 1 "
+                       "--output easy.txt",
+             .options = {required(choice("--difficulty", "easy|hard|random",
+                                         "How hard the puzzles are to be", options->difficulty)),
+                         required(
+                             number("--count,-n", "N",
+                                    "How many puzzles to make, at most " + std::to_string(MaxCount),
+                                    options->count, std::int64_t{1}, MaxCount)),
+                         number("--seed,-s", "S",
+                                "A whole number; makes the same puzzles whenever it is given",
+                                options->seed, std::uint64_t{0}),
+                         number("--jobs,-j", "J",
+                                "How many threads to work with (by default all processors)",
+                                options->jobs, 1, MaxJobs),
+                         outputFile("A puzzle file to append to", options->output)}},
+            [options](const Console& console) { return create(*options, console); }};
 }
 
 } // namespace tessaly

@@ -17,11 +17,17 @@ void interrupt(int signal) {
     caught = signal;
 }
 
-/// What was ignored from the start, as behind nohup, stays so.
+/// What was ignored from the start, as behind nohup, stays so. A call that waits for input is not
+/// taken up again, and whoever asks a second time is not made to wait.
 void catchInterrupts() {
-    for (const int signal : {SIGINT, SIGTERM, SIGHUP})
-        if (std::signal(signal, interrupt) == SIG_IGN)
-            std::signal(signal, SIG_IGN);
+    struct sigaction action {};
+    action.sa_handler = interrupt;
+    action.sa_flags = SA_RESETHAND;
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+        struct sigaction before {};
+        if (::sigaction(signal, nullptr, &before) == 0 && before.sa_handler != SIG_IGN)
+            ::sigaction(signal, &action, nullptr);
+    }
 }
 
 /// Ends as whoever started the program expects of one that was interrupted.
@@ -57,7 +63,7 @@ int main(int argc, char** argv) {
     const tessaly::Console console{out, std::cerr, ::isatty(STDERR_FILENO) == 1,
                                    [] { return caught != 0; }, terminalColumns()};
     const int status = run(argc, argv, console);
-    if (status == tessaly::exit_status::Interrupted)
+    if (caught != 0 && status != tessaly::exit_status::Done)
         dieOfSignal();
     return status;
 }

@@ -43,8 +43,8 @@ int render(const RenderOptions& options, const Console& console) {
     if (isSameFile(file, output))
         return refuseUsage(console, "--output: " + output.native() + " is the puzzle file");
     Board board;
-    if (const PuzzleRead read = PuzzleStore().ReadPuzzle(file, number, board); !read.ok())
-        return fail(console, read.reason);
+    if (const Outcome read = readRecordAt(file, number, board); !read.ok())
+        return fail(console, read.problem);
     Appearance appearance;
     if (!scheme.empty())
         if (const Outcome worn = wear(scheme, appearance); !worn.ok())
@@ -65,7 +65,7 @@ Subcommand renderCommand() {
     return {{.name = "render",
              .description = "Draw a puzzle into a picture file",
              .footer = "Example: tessaly-cli render easy.txt --number 3 --output three.svg",
-             .options = {required(positional("FILE", "The puzzle file", options->file)),
+             .options = {puzzleFile(options->file),
                          required(number("--number,-n", "N", "The puzzle", options->number, 1)),
                          required(text("--output,-o", "OUT.png|svg|pdf",
                                        "The picture; its ending says which kind", options->output)),

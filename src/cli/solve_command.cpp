@@ -3,15 +3,18 @@
 #include "core/board/puzzle_store.h"
 #include "core/solver/deduction.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <memory>
 #include <ostream>
+#include <string>
+#include <vector>
 
 namespace tessaly {
 namespace {
 
 struct SolveOptions {
-    std::filesystem::path file;
+    std::vector<std::filesystem::path> files;
     /// The only record to solve; 0 is all of them.
     int number = 0;
     /// 0 is all rules, 1 the basic ones.
@@ -44,10 +47,11 @@ std::string report(int number, int result, const Board& board) {
     return line + "\n";
 }
 
-int solve(const SolveOptions& options, const Console& console) {
+/// `label` goes before each line.
+int solveFile(const std::filesystem::path& path, const SolveOptions& options,
+              const std::string& label, const Console& console) {
     int status = exit_status::Done;
     int lastNumber = 0;
-    const auto& path = options.file;
     const int number = options.number;
     const auto solveBoard = options.rules == 0 ? solveWithAllRules : solveWithBasicRules;
     const Outcome outcome = forEachRecord(path, [&](RecordLine line) {
@@ -59,7 +63,7 @@ int solve(const SolveOptions& options, const Console& console) {
             status = fail(console, lineProblem(path, line.number, read.problem));
         } else {
             const int result = solveBoard(board);
-            console.out << report(line.number, result, board);
+            console.out << label << report(line.number, result, board);
         }
         return line.number != number && !console.isInterrupted() && console.out.good();
     });
@@ -72,18 +76,31 @@ int solve(const SolveOptions& options, const Console& console) {
     return console.isInterrupted() ? exit_status::Interrupted : status;
 }
 
+/// As far as it goes: a file that cannot be read does not keep the next from being solved.
+int solve(const SolveOptions& options, const Console& console) {
+    int status = exit_status::Done;
+    for (const auto& path : options.files) {
+        const std::string label = options.files.size() > 1 ? path.native() + ": " : "";
+        status = std::max(status, solveFile(path, options, label, console));
+        if (status == exit_status::Interrupted)
+            break;
+    }
+    return status;
+}
+
 } // namespace
 
 Subcommand solveCommand() {
     const auto options = std::make_shared<SolveOptions>();
     return {
         {.name = "solve",
-         .description = "Solve the puzzles of a file: a line for each with its number, the result, "
-                        "and the cells in order, \"-\" for an empty one",
+         .description = "Solve the puzzles of files: a line for each with its number, the result, "
+                        "and the cells in order, \"-\" for an empty one; the file before it when "
+                        "there are several",
          .footer = "Example: tessaly-cli solve easy.txt --number 3 --rules basic\n\n"
                    "The result is, with all rules, 0 when every cell was settled and 1 when not; "
                    "with the basic ones, the number of cells with several candidates.",
-         .options = {required(positional("FILE", "The puzzle file", options->file)),
+         .options = {puzzleFiles(options->files),
                      number("--number,-n", "N", "Solve only this puzzle, counted from 1",
                             options->number, 1),
                      choice("--rules", "all|basic",

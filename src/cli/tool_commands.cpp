@@ -2,6 +2,7 @@
 
 #include "cli/commands.h"
 #include "core/board/puzzle_store.h"
+#include "core/files/file_access.h"
 #include "core/solver/library_tools.h"
 
 #include <memory>
@@ -16,22 +17,36 @@ struct ShuffleOptions {
 };
 
 std::vector<Option> fileOptions(ToolFiles& files) {
-    return {required(positional("FILE", "The puzzle file", files.input)),
-            required(text("--output,-o", "OUT", "The puzzle file to write; replaced if it exists",
-                          files.output))};
+    return {puzzleFile(files.input),
+            outputFile("The puzzle file to write, replaced if it exists", files.output)};
 }
 
-/// Runs a tool with a progress bar; the exit status.
-int run(const Console& console, const ToolFiles& files,
-        const std::function<Outcome(const KeepGoing&)>& tool) {
-    int count = 0;
-    if (const Outcome counted = PuzzleStore().CountLines(files.input, count); !counted.ok())
-        return fail(console, counted.problem);
-    ProgressBar bar(console, count);
-    const Outcome outcome = tool([&](int records) {
-        bar.show(records);
-        return !console.isInterrupted();
+/// What makes one content out of the puzzles of a file.
+using Tool = std::function<Outcome(const ContentSink&, const KeepGoing&)>;
+
+Outcome writeOutput(const Console& console, const std::filesystem::path& path,
+                    const ContentWriter& writer) {
+    if (!path.empty())
+        return replaceFile(path, writer);
+    const ContentSink sink([&console](std::string_view piece) {
+        console.out << piece;
+        return flushed(console.out);
     });
+    return writer(sink);
+}
+
+/// Runs a tool, with a progress bar where it can be known how much there is; the exit status.
+int run(const Console& console, const ToolFiles& files, const Tool& tool) {
+    int count = 0;
+    const bool isCounted = PuzzleStore().CountLines(files.input, count).ok();
+    ProgressBar bar(console, count);
+    const KeepGoing keepGoing = [&](int records) {
+        if (isCounted)
+            bar.show(records);
+        return !console.isInterrupted();
+    };
+    const Outcome outcome = writeOutput(
+        console, files.output, [&](const ContentSink& sink) { return tool(sink, keepGoing); });
     bar.clear();
     if (outcome.ok())
         return exit_status::Done;
@@ -42,17 +57,18 @@ int run(const Console& console, const ToolFiles& files,
 int shuffle(const ShuffleOptions& options, const Console& console) {
     const std::uint64_t seed = options.seed.value_or(Chance::freshSeed());
     Chance chance(seed);
-    const int status = run(console, options.files, [&](const KeepGoing& keepGoing) {
-        return shufflePuzzles(options.files, chance, keepGoing);
-    });
+    const int status =
+        run(console, options.files, [&](const ContentSink& sink, const KeepGoing& keepGoing) {
+            return writeShuffled(options.files.input, chance, sink, keepGoing);
+        });
     if (status == exit_status::Done)
         tellSeed(console, options.seed, seed);
     return status;
 }
 
 int makeVariants(const ToolFiles& files, const Console& console) {
-    return run(console, files, [&files](const KeepGoing& keepGoing) {
-        return expandPuzzles(files, OutputMode::Replace, TopBottomHeader::Follows, keepGoing);
+    return run(console, files, [&files](const ContentSink& sink, const KeepGoing& keepGoing) {
+        return writeVariants(files.input, TopBottomHeader::Follows, sink, keepGoing);
     });
 }
 

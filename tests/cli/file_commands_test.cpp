@@ -5,6 +5,8 @@
 #include "support/sample_puzzles.h"
 
 #include <algorithm>
+#include <array>
+#include <unistd.h>
 
 namespace tessaly {
 namespace {
@@ -37,6 +39,8 @@ TEST_F(FileCommands, SolveAnswersForEveryRecordOrForOne) {
     }
     EXPECT_EQ(run("solve " + file).out, answers[0] + answers[1] + answers[2]);
     EXPECT_EQ(run("solve " + file + " --rules ALL --number 02").out, answers[1]);
+    EXPECT_EQ(run("solve " + file + " /none " + file + " -n 1").out,
+              (file + ": ").append(answers[0]).append(file + ": ").append(answers[0]));
 
     Board basic = boardOf(Easy);
     basic.ResetToGivens();
@@ -74,6 +78,24 @@ TEST_F(FileCommands, BrokenLinesAreNamedAndPassedOver) {
     put(file, Easy + "\r\n" + Hard + "\r\n\r\n\r\n");
     EXPECT_EQ(run("check " + file).status, exit_status::Done);
     EXPECT_EQ(run("check " + file).out, file + ": 2 puzzles checked, 0 findings\n");
+}
+
+TEST_F(FileCommands, PipesAreReadAndStandardOutputIsWritten) {
+    put(file, Easy + "\r\n" + Hard + "\r\n");
+    for (const std::string command : {"check", "solve", "variants", "shuffle --seed 1"}) {
+        std::array<int, 2> ends{};
+        ASSERT_EQ(::pipe(ends.data()), 0);
+        ASSERT_GT(::write(ends[1], contentOf(file).data(), contentOf(file).size()), 0);
+        ::close(ends[1]);
+        const std::string pipe = "/dev/fd/" + std::to_string(ends[0]);
+        std::string expected = run(command + " " + file).out;
+        if (const std::size_t name = expected.find(file); name != std::string::npos)
+            expected.replace(name, file.size(), pipe);
+        EXPECT_EQ(run(command + " " + pipe).out, expected);
+        EXPECT_NE(expected, "");
+        ::close(ends[0]);
+    }
+    EXPECT_EQ(linesOf(run("variants " + file + " -o -").out, "\r\n").size(), 16u);
 }
 
 TEST_F(FileCommands, AFileThatCannotBeReadOrWrittenIsOneLineAndTheOutputStays) {

@@ -38,7 +38,7 @@ TEST_F(Program, WrongUsageIsOneLineAndStatusTwo) {
              {easy + "1 --seed -1", "--seed"},
              {"shuffle a.txt --output b.txt --seed 18446744073709551616", "--seed"},
              {"solve", "FILE"},
-             {"solve a.txt b.txt", "b.txt"},
+             {"variants a.txt b.txt", "b.txt"},
              {"solve a.txt --number 0", "--number"},
              {"solve a.txt --rules some", "some"},
              {"bench --seconds 0", "--seconds"},

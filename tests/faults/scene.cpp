@@ -58,8 +58,7 @@ const std::vector<Operation>& operations() {
         // The variants go to the very file that they are made of.
         {"expand", &Scene::puzzles,
          [](S scene) {
-             return expandPuzzles({scene.puzzles, scene.puzzles}, OutputMode::Append,
-                                  TopBottomHeader::Follows);
+             return expandPuzzles({scene.puzzles, scene.puzzles}, TopBottomHeader::Follows);
          }},
         {"shuffle", &Scene::puzzles,
          [](S scene) {

@@ -66,9 +66,16 @@ void add(CLI::App& command, const Option& option) {
             throw CLI::ValidationError(option.isPositional() ? names : option.names.front(),
                                        problem);
     };
+    const auto takeEach = [take](const std::vector<std::string>& given) {
+        std::for_each(given.begin(), given.end(), take);
+    };
     if (option.value.empty())
         command.add_flag_callback(
             names, [take] { take({}); }, option.description);
+    else if (option.mayRepeat)
+        command.add_option_function<std::vector<std::string>>(names, takeEach, option.description)
+            ->required(option.isRequired)
+            ->type_name("");
     else
         command.add_option_function<std::string>(names, take, option.description)
             ->required(option.isRequired)

@@ -30,6 +30,8 @@ struct Option {
     /// Takes the value; says what is wrong with it, or nothing.
     std::function<std::string(const std::string&)> take = {};
     bool isRequired = false;
+    /// Whether a positional may come several times; each is taken by itself.
+    bool mayRepeat = false;
 
     bool isPositional() const { return names.empty(); }
 };

@@ -89,6 +89,19 @@ Outcome forEachRecord(const fs::path& path, const std::function<bool(RecordLine)
     }
 }
 
+Outcome readRecordAt(const fs::path& path, int number, Board& board) {
+    Outcome outcome = Outcome::failed(lineProblem(path, number, "there is no such record"));
+    const Outcome opened = forEachRecord(path, [&](RecordLine line) {
+        if (line.number != number)
+            return true;
+        outcome = line.read(board);
+        if (!outcome.ok())
+            outcome.problem = lineProblem(path, number, outcome.problem);
+        return false;
+    });
+    return opened.ok() ? outcome : opened;
+}
+
 Outcome PuzzleStore::updateIndex(const fs::path& path, const FileDescriptor& file) {
     if (Outcome updated = m_index.update(file, m_yield); !updated.ok())
         return cannotBeRead(path, updated);

@@ -43,6 +43,10 @@ struct RecordLine {
 Outcome forEachRecord(const std::filesystem::path& path,
                       const std::function<bool(RecordLine)>& visit);
 
+/// Puts the record with that number, counting from 1, onto the board. Reads what can be read only
+/// once, too.
+Outcome readRecordAt(const std::filesystem::path& path, int number, Board& board);
+
 /// How reading a puzzle ended.
 struct PuzzleRead {
     enum class Status { Done, NoRecord, CannotRead };

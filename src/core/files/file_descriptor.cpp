@@ -27,6 +27,26 @@ using namespace std::chrono_literals;
 // the other instance is stopped.
 constexpr auto Patience = 10s;
 
+Outcome openWith(int flags, const std::filesystem::path& path, FileDescriptor& file) {
+    if (Outcome named = checkName(path); !named.ok())
+        return named;
+    file = FileDescriptor(
+        retried([&] { return ::open(path.c_str(), flags | O_RDONLY | O_CLOEXEC | O_NOCTTY); }));
+    return file.isOpen() ? Outcome::done() : fileProblem(path, "cannot be read");
+}
+
+Outcome writeAll(const FileDescriptor& file, const std::filesystem::path& path,
+                 std::string_view piece) {
+    while (!piece.empty()) {
+        const auto written =
+            retried([&] { return ::write(file.get(), piece.data(), piece.size()); });
+        if (written < 0)
+            return fileProblem(path, "cannot be written");
+        piece.remove_prefix(static_cast<std::size_t>(written));
+    }
+    return Outcome::done();
+}
+
 bool lacksLocks(int error) {
     return error == ENOLCK || error == EOPNOTSUPP || error == ENOSYS || error == EBADF;
 }
@@ -95,13 +115,18 @@ Outcome checkRegular(const FileDescriptor& file, const std::filesystem::path& pa
 }
 
 Outcome openForReading(const std::filesystem::path& path, FileDescriptor& file) {
-    if (Outcome named = checkName(path); !named.ok())
-        return named;
-    constexpr int Flags = O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
-    file = FileDescriptor(retried([&] { return ::open(path.c_str(), Flags); }));
-    if (!file.isOpen())
-        return fileProblem(path, "cannot be read");
-    return checkRegular(file, path);
+    Outcome opened = openWith(O_NONBLOCK, path, file);
+    return opened.ok() ? checkRegular(file, path) : opened;
+}
+
+Outcome openForReadingOnce(const std::filesystem::path& path, FileDescriptor& file) {
+    if (Outcome opened = openWith(0, path, file); !opened.ok())
+        return opened;
+    struct stat status {};
+    const bool comesOnce =
+        ::fstat(file.get(), &status) == 0 &&
+        (S_ISFIFO(status.st_mode) || S_ISSOCK(status.st_mode) || ::isatty(file.get()) == 1);
+    return comesOnce ? Outcome::done() : checkRegular(file, path);
 }
 
 std::int64_t readAt(const FileDescriptor& file, char* bytes, std::size_t size,
@@ -120,16 +145,8 @@ std::int64_t readAt(const FileDescriptor& file, char* bytes, std::size_t size,
     return static_cast<std::int64_t>(done);
 }
 
-Outcome ContentSink::write(std::string_view piece) const {
-    while (!piece.empty()) {
-        const auto written =
-            retried([&] { return ::write(m_file.get(), piece.data(), piece.size()); });
-        if (written < 0)
-            return fileProblem(m_path, "cannot be written");
-        piece.remove_prefix(static_cast<std::size_t>(written));
-    }
-    return Outcome::done();
-}
+ContentSink::ContentSink(const FileDescriptor& file, const std::filesystem::path& path)
+    : ContentSink([&](std::string_view piece) { return writeAll(file, path, piece); }) {}
 
 LockAnswer takeLock(const FileDescriptor& file) {
     if (retried([&] { return ::flock(file.get(), LOCK_EX | LOCK_NB); }) == 0)

@@ -77,26 +77,31 @@ Outcome checkRegular(const FileDescriptor& file, const std::filesystem::path& pa
 /// folder is refused at once.
 Outcome openForReading(const std::filesystem::path& path, FileDescriptor& file);
 
+/// The same for what may be read only once: pipes and terminals too, which are waited for.
+Outcome openForReadingOnce(const std::filesystem::path& path, FileDescriptor& file);
+
 /// Reads up to `size` bytes from `offset`; fewer only at the end of the file. The number of bytes,
 /// or -1 with `errno` set.
 std::int64_t readAt(const FileDescriptor& file, char* bytes, std::size_t size, std::int64_t offset);
 
-/// Takes the content of a file that is being written, piece by piece.
+/// Takes the content of what is being written, piece by piece.
 class ContentSink {
 public:
-    ContentSink(const FileDescriptor& file, const std::filesystem::path& path)
-        : m_file(file)
-        , m_path(path) {}
+    using Write = std::function<Outcome(std::string_view piece)>;
 
-    /// Writes all of `piece` or fails. Give large pieces: each is a system call.
-    Outcome write(std::string_view piece) const;
+    explicit ContentSink(Write write)
+        : m_write(std::move(write)) {}
+    /// Into an open file, which must outlive the sink.
+    ContentSink(const FileDescriptor& file, const std::filesystem::path& path);
+
+    /// Writes all of `piece` or fails. Give large pieces: each may be a system call.
+    Outcome write(std::string_view piece) const { return m_write(piece); }
 
 private:
-    const FileDescriptor& m_file;
-    const std::filesystem::path& m_path;
+    Write m_write;
 };
 
-/// Writes the whole content of a file into the sink it is given.
+/// Writes a whole content into the sink it is given.
 using ContentWriter = std::function<Outcome(const ContentSink&)>;
 
 /// `Unknown` where the file system knows no locks: who works without one hopes for the best.

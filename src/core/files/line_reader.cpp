@@ -1,5 +1,8 @@
 #include "core/files/line_reader.h"
 
+#include <algorithm>
+#include <unistd.h>
+
 namespace tessaly {
 namespace {
 
@@ -32,11 +35,13 @@ LineReader::LineReader(std::size_t longest)
 
 Outcome LineReader::open(const std::filesystem::path& path) {
     m_path = path;
-    m_offset = 0;
     m_rest = {};
+    m_offset = 0;
     m_number = 0;
     m_problem = {};
-    return openForReading(path, m_file);
+    Outcome opened = openForReadingOnce(path, m_file);
+    m_mayWait = opened.ok() && !checkRegular(m_file, path).ok();
+    return opened;
 }
 
 LineReader::Result LineReader::next() {
@@ -55,15 +60,14 @@ LineReader::Result LineReader::next() {
 
 /// Whether there is more of the file.
 bool LineReader::fill() {
-    const auto got = readAt(m_file, m_buffer.data(), m_buffer.size(), m_offset);
+    // What has to wait is not tried again after a signal: whoever sits at the terminal may want to
+    // stop.
+    const auto got = m_mayWait ? ::read(m_file.get(), m_buffer.data(), m_buffer.size())
+                               : readAt(m_file, m_buffer.data(), m_buffer.size(), m_offset);
     if (got < 0)
         m_problem = fileProblem(m_path, "cannot be read");
-    if (got <= 0)
-        return false;
-    m_rest = {m_buffer.data(), static_cast<std::size_t>(got)};
-    if (m_offset == 0)
-        m_rest = withoutMark(m_rest);
-    m_offset += got;
+    m_rest = {m_buffer.data(), static_cast<std::size_t>(std::max<std::int64_t>(got, 0))};
+    m_offset += std::ssize(m_rest);
     return !m_rest.empty();
 }
 
@@ -77,6 +81,8 @@ void LineReader::keep(std::string_view piece) {
 LineReader::Result LineReader::finish() {
     ++m_number;
     m_line.resize(withoutLineEnd(m_line).size());
+    if (m_number == 1)
+        m_line.erase(0, m_line.size() - withoutMark(m_line).size());
     m_overLong = m_overLong || m_line.size() > m_longest;
     if (m_overLong)
         m_line.clear();

@@ -23,7 +23,8 @@ std::string_view withoutLineEnd(std::string_view line);
 /// A text without the byte order mark at its start.
 std::string_view withoutMark(std::string_view text);
 
-/// Reads a file line by line, without its line ends, in bounded memory however long its lines are.
+/// Reads a file, a pipe or a terminal line by line, without its line ends, in bounded memory
+/// however long its lines are.
 class LineReader {
 public:
     enum class Result { Line, OverLong, End, Failed };
@@ -52,6 +53,8 @@ private:
     std::size_t m_longest;
     std::filesystem::path m_path;
     FileDescriptor m_file;
+    /// A pipe or a terminal: it has no offsets, and what it holds may come later.
+    bool m_mayWait = false;
     std::int64_t m_offset = 0;
     std::vector<char> m_buffer;
     std::string_view m_rest;

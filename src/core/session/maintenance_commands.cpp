@@ -24,7 +24,7 @@ MaintenanceCommands::MaintenanceCommands(Session& session, Display& display, Pro
 
 void MaintenanceCommands::FlipandAdd() {
     const auto expand = [](const ToolFiles& files, const KeepGoing& keepGoing) {
-        return expandPuzzles(files, OutputMode::Append, TopBottomHeader::Subtracts, keepGoing);
+        return expandPuzzles(files, TopBottomHeader::Subtracts, keepGoing);
     };
     if (run(NewPuzzlesFile, VariantsFile, expand))
         tell("done");

@@ -54,12 +54,6 @@ Outcome forEachPuzzle(const std::filesystem::path& path, const KeepGoing& keepGo
     return read.ok() ? outcome : read;
 }
 
-Outcome writePuzzles(const std::filesystem::path& path, OutputMode mode,
-                     const ContentWriter& writer) {
-    return mode == OutputMode::Replace ? replaceFile(path, writer)
-                                       : PuzzleStore().appendPuzzles(path, writer);
-}
-
 } // namespace
 
 void plantHint(Board& board) {
@@ -71,24 +65,47 @@ void plantHint(Board& board) {
     board.SkipHex = NoHexagon;
 }
 
-Outcome expandPuzzles(const ToolFiles& files, OutputMode mode, TopBottomHeader header,
+Outcome writeVariants(const std::filesystem::path& input, TopBottomHeader header,
+                      const ContentSink& sink, const KeepGoing& keepGoing) {
+    LineWriter writer(sink);
+    const auto expand = [&](std::string_view, const Board& board) {
+        for (const std::string& variant : variantsOf(PuzzleRecord(board), header))
+            if (Outcome added = writer.add(variant); !added.ok())
+                return added;
+        return Outcome::done();
+    };
+    const Outcome expanded = forEachPuzzle(input, keepGoing, expand);
+    return expanded.ok() ? writer.flush() : expanded;
+}
+
+Outcome writeShuffled(const std::filesystem::path& input, Chance& chance, const ContentSink& sink,
                       const KeepGoing& keepGoing) {
-    return writePuzzles(files.output, mode, [&](const ContentSink& sink) {
-        LineWriter writer(sink);
-        const auto expand = [&](std::string_view, const Board& board) {
-            for (const std::string& variant : variantsOf(PuzzleRecord(board), header))
-                if (Outcome added = writer.add(variant); !added.ok())
-                    return added;
-            return Outcome::done();
-        };
-        const Outcome expanded = forEachPuzzle(files.input, keepGoing, expand);
-        return expanded.ok() ? writer.flush() : expanded;
+    std::unordered_set<std::string> known;
+    std::vector<const std::string*> lines;
+    const auto keep = [&](std::string_view line, const Board&) {
+        if (const auto [place, isNew] = known.emplace(line); isNew)
+            lines.push_back(&*place);
+        return Outcome::done();
+    };
+    if (Outcome read = forEachPuzzle(input, keepGoing, keep); !read.ok())
+        return read;
+    chance.shuffle(lines);
+    LineWriter writer(sink);
+    for (const std::string* line : lines)
+        if (Outcome added = writer.add(*line); !added.ok())
+            return added;
+    return writer.flush();
+}
+
+Outcome expandPuzzles(const ToolFiles& files, TopBottomHeader header, const KeepGoing& keepGoing) {
+    return PuzzleStore().appendPuzzles(files.output, [&](const ContentSink& sink) {
+        return writeVariants(files.input, header, sink, keepGoing);
     });
 }
 
 Outcome verifyPuzzles(const ToolFiles& files, VerifyCount& count, const KeepGoing& keepGoing) {
     count = {};
-    return writePuzzles(files.output, OutputMode::Append, [&](const ContentSink& sink) {
+    return PuzzleStore().appendPuzzles(files.output, [&](const ContentSink& sink) {
         LineWriter writer(sink);
         const auto verify = [&](std::string_view, Board& board) {
             const std::string record = PuzzleRecord(board);
@@ -108,21 +125,7 @@ Outcome verifyPuzzles(const ToolFiles& files, VerifyCount& count, const KeepGoin
 Outcome shufflePuzzles(const ToolFiles& files, Chance& chance, const KeepGoing& keepGoing) {
     // Read while the output is locked, for it may be the same file.
     return replaceFile(files.output, [&](const ContentSink& sink) {
-        std::unordered_set<std::string> known;
-        std::vector<const std::string*> lines;
-        const auto keep = [&](std::string_view line, const Board&) {
-            if (const auto [place, isNew] = known.emplace(line); isNew)
-                lines.push_back(&*place);
-            return Outcome::done();
-        };
-        if (Outcome read = forEachPuzzle(files.input, keepGoing, keep); !read.ok())
-            return read;
-        chance.shuffle(lines);
-        LineWriter writer(sink);
-        for (const std::string* line : lines)
-            if (Outcome added = writer.add(*line); !added.ok())
-                return added;
-        return writer.flush();
+        return writeShuffled(files.input, chance, sink, keepGoing);
     });
 }
 

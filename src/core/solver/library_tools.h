@@ -2,6 +2,7 @@
 
 #include "core/base/outcome.h"
 #include "core/board/board.h"
+#include "core/files/file_descriptor.h"
 #include "core/solver/chance.h"
 #include "core/solver/puzzle_variants.h"
 
@@ -30,10 +31,16 @@ struct ToolFiles {
     std::filesystem::path output;
 };
 
-enum class OutputMode { Replace, Append };
-
 /// Writes the eight variants of every puzzle.
-Outcome expandPuzzles(const ToolFiles& files, OutputMode mode, TopBottomHeader header,
+Outcome writeVariants(const std::filesystem::path& input, TopBottomHeader header,
+                      const ContentSink& sink, const KeepGoing& keepGoing = {});
+
+/// Writes the lines in random order, each only once.
+Outcome writeShuffled(const std::filesystem::path& input, Chance& chance, const ContentSink& sink,
+                      const KeepGoing& keepGoing = {});
+
+/// Appends the eight variants of every puzzle.
+Outcome expandPuzzles(const ToolFiles& files, TopBottomHeader header,
                       const KeepGoing& keepGoing = {});
 
 /// How many puzzles were tried, and how many of them the rules solve.
@@ -45,7 +52,7 @@ struct VerifyCount {
 /// Appends those puzzles that the deduction rules solve, the hint of hard ones in place.
 Outcome verifyPuzzles(const ToolFiles& files, VerifyCount& count, const KeepGoing& keepGoing = {});
 
-/// Writes the lines in random order, each only once. The files may be the same.
+/// Gives the output the lines in random order, each only once. The files may be the same.
 Outcome shufflePuzzles(const ToolFiles& files, Chance& chance, const KeepGoing& keepGoing = {});
 
 } // namespace tessaly

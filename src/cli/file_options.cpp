@@ -1,0 +1,48 @@
+#include "cli/commands.h"
+
+#include <utility>
+
+namespace tessaly {
+namespace {
+
+constexpr std::string_view StandardStream = "-";
+
+std::filesystem::path inputOf(const std::string& given) {
+    return given == StandardStream ? "/dev/stdin" : given;
+}
+
+Option puzzleFileThat(std::function<void(std::filesystem::path)> isTaken) {
+    return required({.names = {},
+                     .value = "FILE",
+                     .description = "The puzzle file; - for standard input",
+                     .take = [isTaken = std::move(isTaken)](const std::string& given) {
+                         isTaken(inputOf(given));
+                         return std::string();
+                     }});
+}
+
+} // namespace
+
+Option puzzleFile(std::filesystem::path& target) {
+    return puzzleFileThat([&target](std::filesystem::path path) { target = std::move(path); });
+}
+
+Option puzzleFiles(std::vector<std::filesystem::path>& targets) {
+    Option option = puzzleFileThat(
+        [&targets](std::filesystem::path path) { targets.push_back(std::move(path)); });
+    option.description = "The puzzle files; - for standard input";
+    option.mayRepeat = true;
+    return option;
+}
+
+Option outputFile(std::string description, std::filesystem::path& target) {
+    Option option = text("--output,-o", "FILE",
+                         std::move(description) + ", instead of standard output (-)", target);
+    option.take = [&target](const std::string& given) {
+        target = given == StandardStream ? "" : given;
+        return std::string();
+    };
+    return option;
+}
+
+} // namespace tessaly
