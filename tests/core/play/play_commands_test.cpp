@@ -114,7 +114,7 @@ TEST_F(BoardInputTest, ThePopupActsOnTheCellThatItWasOpenedFor) {
         EXPECT_EQ(display.message, "");
         pointAt({8, 1});
         input.Num16_Click(button);
-        EXPECT_EQ(entry(), expected) << button;
+        ASSERT_EQ(entry(), expected) << button;
         EXPECT_TRUE(game.undoList.text(0).ends_with(record)) << game.undoList.text(0);
         EXPECT_FALSE(display.popupShown);
     }

@@ -104,7 +104,7 @@ TEST_F(ConfigurationTest, EachValueFallsBackAlone) {
     };
     for (std::size_t i = 0; i < good.size(); ++i)
         for (const std::string& value : wrong[i])
-            EXPECT_EQ(rewritten(lineOf(good, i, " " + value + " ") + rest),
+            EXPECT_EQ(rewritten(lineOf(good, i, std::string(" ").append(value)) + rest),
                       lineOf(good, i, defaults[i]) + rest)
                 << i << ": " << value;
     for (const std::string& none : {std::string(), std::string("\xEF\xBB\xBF\r\n\r\n  \n\n \t\n\n"),

@@ -83,8 +83,9 @@ TEST_F(PuzzleFileCommandsTest, AFileThatHoldsNoPuzzleIsRefusedAndNothingChanges)
         {"", "is a folder"},
         {"gone.txt", "cannot be read: No such file or directory"}};
     for (const auto& [name, why] : rows) {
-        EXPECT_EQ(load(pathOf(name)), "1/3 a.txt: Error reading p# 1|Error reading file:\r\n" +
-                                          name + "\r\n" + why + " [vbcritical+vbok]");
+        std::string told = "1/3 a.txt: Error reading p# 1|Error reading file:\r\n";
+        told.append(name).append("\r\n").append(why).append(" [vbcritical+vbok]");
+        EXPECT_EQ(load(pathOf(name)), told);
         EXPECT_EQ(session.game.board, before);
         EXPECT_EQ(session.game.undoList.size(), 1u);
         EXPECT_EQ(display.recent.size(), 1u);
