@@ -5,6 +5,7 @@
 #include <QPainterPath>
 #include <QPointF>
 #include <QRawFont>
+#include <QString>
 
 #include <array>
 #include <string>

@@ -8,6 +8,7 @@
 #include <QLineEdit>
 
 #include <algorithm>
+#include <initializer_list>
 
 namespace tessaly {
 namespace {

@@ -94,7 +94,15 @@ TEST_F(OptionsDialog, ASchemeIsSeenInTheDialogFirstAndAfterApplyEverywhere) {
     EXPECT_FALSE(dialog.isVisible());
     EXPECT_EQ(settings.ActiveScheme, "daylight.col");
     EXPECT_EQ(groundOf(*game.window), settings.SchemeColours[slot::Background]);
+    const auto solution = [this] {
+        QTest::mousePress(&game.find(u"cmdshowsol"_s), Qt::LeftButton);
+        QImage shown = game.picture();
+        QTest::mouseRelease(&game.find(u"cmdshowsol"_s), Qt::LeftButton);
+        return shown;
+    };
+    game.load("easy.txt");
     const QImage daylight = game.picture();
+    const QImage solutionInDaylight = solution();
     EXPECT_NE(daylight, board);
     EXPECT_TRUE(game.window->menuBar()->styleSheet().contains(
         toQColor(settings.SchemeColours[slot::Menu]).name()));
@@ -106,6 +114,7 @@ TEST_F(OptionsDialog, ASchemeIsSeenInTheDialogFirstAndAfterApplyEverywhere) {
     game.resize(game.window->size() + QSize(2, 2));
     game.resize(game.window->size() - QSize(2, 2));
     EXPECT_EQ(game.picture(), daylight) << "but seen only when it is applied";
+    EXPECT_EQ(solution(), solutionInDaylight);
 }
 
 TEST_F(OptionsDialog, EachControlShowsOnTheSampleAndAppliedSurvivesARestart) {

@@ -83,6 +83,18 @@ TEST_F(Play, TheAssistsAnswerToTheirButtons) {
     EXPECT_EQ(play.board, fresh);
 }
 
+TEST_F(Play, TheBoardIsFramedForTheKeyboardOnly) {
+    game.find(u"cmdload"_s).setFocus();
+    const QImage before = game.picture();
+    game.pointAt(lastSelectable(play));
+    QTest::mouseMove(&game.find(u"MsgLab"_s));
+    EXPECT_TRUE(game.board().hasFocus());
+    EXPECT_EQ(game.picture(), before);
+    game.board().clearFocus();
+    game.board().setFocus(Qt::TabFocusReason);
+    EXPECT_NE(game.picture(), before);
+}
+
 TEST_F(Play, SolutionAndCandidatesShowOnlyWhileButtonOrKeyIsHeld) {
     const QImage before = game.picture();
     const QSize size = game.window->size();
