@@ -52,7 +52,8 @@ std::string CandidateText(const Board& board, const Grid<bool>& touched, CellId 
     if (candidates.size() == 1)
         return entry;
     const CellId partner = SideLink[cell];
-    if (!partner)
+    // A partner that is withheld counts as open, and so do all numbers beside it.
+    if (!partner || board.isBlank(partner.hexagon))
         return candidates;
     if (isPlaced(board.CellNum[partner]))
         return board.CellNum[partner];

@@ -12,7 +12,7 @@ namespace tessaly {
 std::string CountedNumbers(const Board& board, const Grid<bool>& touched, int hexagon);
 
 /// The numbers still possible for a cell by its own hexagon, its side partner and the partner's
-/// hexagon; the entry itself where the rules have nothing to say.
+/// hexagon, if that is not the blank one; the entry itself where the rules have nothing to say.
 std::string CandidateText(const Board& board, const Grid<bool>& touched, CellId cell);
 
 /// A cell and the number that belongs there; no cell when there is none.

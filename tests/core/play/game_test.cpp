@@ -117,6 +117,11 @@ TEST_F(AssistsTest, CandidatesComeFromBothHexagonsOfTheSide) {
     place({10, 5}, "5");
     board.CellNum[10][6] = "12";
     EXPECT_EQ(candidates({10, 6}), "12") << "the last cell of a hexagon is left alone";
+    board.BlankHex = 15;
+    EXPECT_EQ(candidates({10, 5}), "5") << "a number that is there stays";
+    board.CellNum[10][4] = "";
+    board.CellNum[10][5] = "";
+    EXPECT_EQ(candidates({10, 5}), "456") << "nothing of what is withheld is given away";
     board.SkipHex = 10;
     EXPECT_EQ(candidates({10, 5}), "");
 }
