@@ -38,6 +38,7 @@ struct RecordingDisplay : Display {
         recent = paths;
     }
     void showMessage(std::string_view text) override { message = text; }
+    void announce(std::string_view text) override { announced = text; }
 
     void showBusy(bool busy) override { busyDepth += busy ? 1 : -1; }
     void beginProgress(const std::filesystem::path& path) override { progressPath = path; }
@@ -69,6 +70,7 @@ struct RecordingDisplay : Display {
     std::filesystem::path saveTarget;
     std::vector<std::filesystem::path> recent;
     std::string message;
+    std::string announced;
 
     int busyDepth = 0;
     std::filesystem::path progressPath;

@@ -71,8 +71,9 @@ class GameWindow {
 public:
     /// Opens it with a copy of one of the sample puzzle files, if one is named.
     explicit GameWindow(const std::string& puzzles = {}, int number = 1,
-                        Printers* otherPrinters = nullptr)
+                        Printers* otherPrinters = nullptr, bool developer = false)
         : m_printers(otherPrinters != nullptr ? *otherPrinters : printers) {
+        session.developer = developer;
         open();
         window->files().reopen({}, 1);
         if (!puzzles.empty())

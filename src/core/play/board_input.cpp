@@ -1,10 +1,12 @@
 #include "core/play/board_input.h"
 
 #include "core/play/assists.h"
+#include "core/play/cell_description.h"
 #include "core/play/selection_walk.h"
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <utility>
 
 namespace tessaly {
@@ -20,6 +22,13 @@ constexpr int LastDigit = '6';
 
 /// The cells so near the bottom edge of the board that the pop-up opens upwards there.
 constexpr std::array<CellId, 5> BottomCells{{{17, 4}, {19, 1}, {19, 2}, {19, 3}, {18, 6}}};
+
+/// How far a pointer trembles that nobody means to move, in board units.
+constexpr double Tremor = 6;
+
+bool isTremor(Point from, Point to) {
+    return std::hypot(to.x - from.x, to.y - from.y) < Tremor;
+}
 
 bool opensUpwards(CellId cell) {
     return std::find(BottomCells.begin(), BottomCells.end(), cell) != BottomCells.end();
@@ -37,12 +46,33 @@ BoardInput::BoardInput(Game& game, const BusyState& busy, PlayCommands& commands
     , m_commands(commands)
     , m_display(display) {}
 
-void BoardInput::select(CellId cell) {
-    const CellId before = std::exchange(m_selection, m_game.isSelectable(cell) ? cell : CellId{});
-    if (m_selection != before)
-        m_display.showSelection(m_selection);
-    if (m_selection)
+CellId BoardInput::selection() const {
+    return m_game.isSelectable(m_cell) ? m_cell : CellId{};
+}
+
+void BoardInput::goTo(CellId cell) {
+    if (std::exchange(m_cell, cell) != cell)
+        m_display.showSelection(cell);
+    if (cell)
         m_display.focusBoard();
+}
+
+void BoardInput::walkTo(CellId cell) {
+    if (m_busy.isBusy() || !m_game.isReadable(cell))
+        return;
+    m_walked = true;
+    goTo(cell);
+}
+
+void BoardInput::selectUnderPointer() {
+    m_walked = false;
+    const CellId under = m_pointer ? cellAt(*m_pointer) : CellId{};
+    goTo(m_game.isSelectable(under) ? under : CellId{});
+}
+
+void BoardInput::enter(int number) {
+    if (!m_busy.isBusy() && selection())
+        place(selection(), number == 0 ? "" : NumText(number));
 }
 
 void BoardInput::place(CellId cell, const std::string& entry) {
@@ -64,20 +94,29 @@ void BoardInput::hidePopup() {
 }
 
 void BoardInput::Picture2_MouseMove(Point point) {
+    if (m_walked && m_pointer && isTremor(*m_pointer, point))
+        return;
     m_pointer = point;
     if (!m_busy.isBusy())
-        select(cellAt(point));
+        selectUnderPointer();
 }
 
 void BoardInput::Picture2_MouseDown(PointerButton button, Point point) {
     if (m_busy.isBusy())
         return;
-    if (button != PointerButton::Right || !m_selection) {
-        hidePopup();
-        return;
+    if (m_walked) { // away from where the pointer stands
+        m_pointer = point;
+        selectUnderPointer();
     }
-    m_popupTarget = m_selection;
-    m_display.showPopup(point, opensUpwards(m_selection));
+    if (button == PointerButton::Right && selection())
+        openPopup(point);
+    else
+        hidePopup();
+}
+
+void BoardInput::openPopup(Point corner) {
+    m_popupTarget = selection();
+    m_display.showPopup(corner, opensUpwards(m_popupTarget));
     m_display.showMessage("");
     m_display.yield();
 }
@@ -85,13 +124,12 @@ void BoardInput::Picture2_MouseDown(PointerButton button, Point point) {
 void BoardInput::Picture2_MouseUp(PointerButton button) {
     if (m_busy.isBusy())
         return;
-    if (!m_selection) {
+    if (!selection()) {
         hidePopup();
         return;
     }
-    if (button == PointerButton::Right || m_paletteItem == NoPaletteItem)
-        return;
-    place(m_selection, m_paletteItem == PaletteEraser ? "" : NumText(m_paletteItem + 1));
+    if (button != PointerButton::Right && m_paletteItem != NoPaletteItem)
+        enter(m_paletteItem == PaletteEraser ? 0 : m_paletteItem + 1);
 }
 
 void BoardInput::Picture2_KeyDown(int& keyCode) {
@@ -103,14 +141,15 @@ void BoardInput::Picture2_KeyPress(int& characterCode) {
     if (m_busy.isBusy())
         return;
     const int code = std::exchange(characterCode, 0);
-    if (!m_selection)
+    const CellId cell = selection();
+    if (!cell)
         return;
-    const std::string before = m_game.board.CellNum[m_selection];
+    const std::string before = m_game.board.CellNum[cell];
     if (isClearCode(code))
-        m_game.place(m_selection, "");
+        m_game.place(cell, "");
     else if (code >= key::FirstDigit && code <= key::LastDigit)
-        m_game.typeDigit(m_selection, static_cast<char>(code));
-    showEntry(m_selection, before);
+        m_game.typeDigit(cell, static_cast<char>(code));
+    showEntry(cell, before);
 }
 
 void BoardInput::digt_MouseUp(int item, PointerButton button) {
@@ -144,7 +183,9 @@ void BoardInput::Celltags_MouseDown(int hexagon) {
         return;
     Celltags_MouseUp();
     m_peekedHexagon = hexagon;
-    m_display.DrawPeek(withCandidates(m_game.board, m_game.TouchedCell, hexagon), hexagon);
+    const Board candidates = withCandidates(m_game.board, m_game.TouchedCell, hexagon);
+    m_display.DrawPeek(candidates, hexagon);
+    m_display.announce(hexagonInWords(candidates, hexagon));
 }
 
 void BoardInput::Celltags_MouseUp() {
@@ -157,35 +198,43 @@ void BoardInput::Timer1_Timer() {
 }
 
 void BoardInput::moveSelection(int columns, int rows) {
-    if (!m_busy.isBusy())
-        select(cellBeside(m_game, m_selection, columns, rows));
+    walkTo(cellBeside(m_game, m_cell, columns, rows));
 }
 
 void BoardInput::selectFirst() {
-    if (!m_busy.isBusy())
-        select(firstSelectable(m_game));
+    walkTo(firstSelectable(m_game));
 }
 
 void BoardInput::selectLast() {
-    if (!m_busy.isBusy())
-        select(lastSelectable(m_game));
+    walkTo(lastSelectable(m_game));
+}
+
+void BoardInput::readHexagon() {
+    if (m_cell)
+        m_display.announce(hexagonInWords(m_game.board, m_cell.hexagon) + ", " +
+                           missingInWords(m_game.board, m_cell.hexagon));
 }
 
 void BoardInput::openPopupAtSelection() {
-    if (m_selection)
-        Picture2_MouseDown(PointerButton::Right, numberCentre(m_selection));
+    if (!m_busy.isBusy() && selection())
+        openPopup(numberCentre(m_cell));
 }
 
 void BoardInput::pointerLeft() {
+    if (m_walked)
+        return;
     m_pointer.reset();
     if (!m_busy.isBusy())
-        select({});
+        selectUnderPointer();
 }
 
 void BoardInput::forgetSelection() {
     m_peekedHexagon = 0;
     hidePopup();
-    select(m_pointer ? cellAt(*m_pointer) : CellId{});
+    if (m_walked && m_game.isReadable(m_cell))
+        m_display.showSelection(m_cell); // it may be a given now
+    else
+        selectUnderPointer();
 }
 
 } // namespace tessaly

@@ -13,8 +13,9 @@ enum class PointerButton { None, Left, Right, Other };
 
 /// Pointer and key events of the board and of what stands around it: the palette (`digt`), the
 /// number pop-up (`Picture1` with the buttons `Num16`) and the hexagons' tags (`Celltags`). Holds
-/// the selection, which follows the pointer; all changes of cells go through the game. Whatever
-/// arrives while a command is under way is ignored.
+/// the selection, which follows the pointer, or the keys as soon as they walk: the pointer has it
+/// back only when it is meant to, not by a tremble or when a window comes over it. All changes of
+/// cells go through the game. Whatever arrives while a command is under way is ignored.
 class BoardInput {
 public:
     static constexpr int PaletteEraser = 6;
@@ -38,10 +39,16 @@ public:
     void Celltags_MouseUp();
     void Timer1_Timer();
 
-    /// Moves the selection from cell to cell, as if the pointer had been moved there.
+    /// Walk from cell to cell, givens among them, which are not selected.
     void moveSelection(int columns, int rows);
+    void walkTo(CellId cell);
+    /// To the first and the last cell that may be filled.
     void selectFirst();
     void selectLast();
+    /// Says what stands in the hexagon of the cell that the keys are at, and what is missing.
+    void readHexagon();
+    /// Puts a number into the selected cell in the place of all that stands there; 0 empties it.
+    void enter(int number);
     /// Opens the pop-up at the selected cell, as a right press there would.
     void openPopupAtSelection();
 
@@ -52,13 +59,18 @@ public:
     void forgetSelection();
 
     /// The selected cell; -1 and -1 when there is none.
-    int SelHex() const { return m_selection ? m_selection.hexagon : -1; }
-    int SelCell() const { return m_selection ? m_selection.position : -1; }
-    CellId selection() const { return m_selection; }
+    int SelHex() const { return selection() ? m_cell.hexagon : -1; }
+    int SelCell() const { return selection() ? m_cell.position : -1; }
+    CellId selection() const;
+    /// The cell that the keys are at: the selected one, or a given that is only read.
+    CellId cell() const { return m_cell; }
     bool canSelect(CellId cell) const { return m_game.isSelectable(cell); }
+    bool canRead(CellId cell) const { return m_game.isReadable(cell); }
 
 private:
-    void select(CellId cell);
+    void goTo(CellId cell);
+    void selectUnderPointer();
+    void openPopup(Point corner);
     void hidePopup();
     void place(CellId cell, const std::string& entry);
     /// Draws a cell's hexagon, unless the cell holds what it held before. The pop-up has been
@@ -70,8 +82,10 @@ private:
     PlayCommands& m_commands;
     Display& m_display;
 
-    CellId m_selection;
-    /// Where the pointer is, while it is over the board.
+    CellId m_cell;
+    /// Whether the keys walked there.
+    bool m_walked = false;
+    /// Where the pointer is, while it is over the board; since the keys walk, where it was then.
     std::optional<Point> m_pointer;
     /// The cell that the pop-up is open for; the pointer may have moved on since.
     CellId m_popupTarget;

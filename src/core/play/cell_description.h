@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tessaly {
 
@@ -17,5 +18,12 @@ std::string cellInWords(CellId cell);
 std::string entryInWords(const Board& board, CellId cell);
 /// What lies across the cell's side: "across: hexagon 1, bottom, empty", or "at the edge".
 std::string neighbourInWords(const Board& board, CellId cell);
+/// All cells of a hexagon: "hexagon 3: upper left 5, top empty, ...".
+std::string hexagonInWords(const Board& board, int hexagon);
+/// The numbers that a hexagon lacks: "missing 1 4", or "missing nothing".
+std::string missingInWords(const Board& board, int hexagon);
+/// What changed cells hold now; the one that the player is at is not named, and of many cells only
+/// the count is told. "" for none.
+std::string changesInWords(const Board& board, const std::vector<CellId>& changed, CellId at);
 
 } // namespace tessaly

@@ -37,7 +37,7 @@ public:
     virtual void DrawPeek(const Board& other, int hexagon) = 0;
     virtual void focusBoard() = 0;
 
-    /// Moves the selection marker to a cell; no cell hides it.
+    /// Moves the marker to the cell that the keys go to, a given among them; no cell hides it.
     virtual void showSelection(CellId cell) = 0;
     /// Shows the number pop-up with a corner at a point: its top left one, or, when `upwards`, its
     /// bottom left one. Starts the timer that closes it.
@@ -56,6 +56,8 @@ public:
     virtual void showRecentFiles(const std::vector<std::filesystem::path>& paths) = 0;
     /// Shows a text on the message line; an empty one clears it.
     virtual void showMessage(std::string_view text) = 0;
+    /// Says a text to whoever hears the board instead of seeing it; nothing is shown.
+    virtual void announce(std::string_view text) = 0;
 
     /// Shows or ends the busy pointer.
     virtual void showBusy(bool busy) = 0;

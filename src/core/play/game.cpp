@@ -9,9 +9,12 @@ std::string NumText(int number) {
     return std::to_string(number);
 }
 
+bool Game::isReadable(CellId cell) const {
+    return cell && !board.SolNum[cell].empty() && !board.isBlank(cell.hexagon);
+}
+
 bool Game::isSelectable(CellId cell) const {
-    const bool hasPuzzle = cell && !board.SolNum[cell].empty();
-    return hasPuzzle && !board.FixedCell[cell] && !board.isBlank(cell.hexagon);
+    return isReadable(cell) && !board.FixedCell[cell];
 }
 
 void Game::startPuzzle() {

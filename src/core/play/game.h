@@ -28,6 +28,9 @@ public:
     /// Whether there is a puzzle on the board: every cell of one has a solution.
     bool hasPuzzle() const { return !board.SolNum[AllCells.front()].empty(); }
 
+    /// Whether the player may know what the cell holds: a puzzle is loaded, and it is not withheld.
+    bool isReadable(CellId cell) const;
+
     /// Whether the player may enter anything in the cell: never while no puzzle is loaded.
     bool isSelectable(CellId cell) const;
 

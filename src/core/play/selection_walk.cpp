@@ -25,13 +25,18 @@ bool comesBefore(CellId a, CellId b) {
     return first.x < second.x;
 }
 
-template <class Better>
-CellId bestSelectable(const Game& game, Better better) {
+template <class Wanted, class Better>
+CellId bestCell(Wanted isWanted, Better better) {
     CellId best;
     for (CellId cell : AllCells)
-        if (game.isSelectable(cell) && (!best || better(cell, best)))
+        if (isWanted(cell) && (!best || better(cell, best)))
             best = cell;
     return best;
+}
+
+template <class Better>
+CellId bestSelectable(const Game& game, Better better) {
+    return bestCell([&game](CellId cell) { return game.isSelectable(cell); }, better);
 }
 
 /// The cost of going from one point to another in a direction; infinite when it lies the other way.
@@ -56,13 +61,13 @@ CellId lastSelectable(const Game& game) {
 }
 
 CellId cellBeside(const Game& game, CellId from, int columns, int rows) {
-    if (!game.isSelectable(from))
+    if (!game.isReadable(from))
         return columns + rows > 0 ? firstSelectable(game) : lastSelectable(game);
     const auto cost = [&](CellId to) {
         return stepCost(numberCentre(from), numberCentre(to), columns, rows);
     };
-    const CellId nearest =
-        bestSelectable(game, [&](CellId a, CellId b) { return cost(a) < cost(b); });
+    const CellId nearest = bestCell([&game](CellId cell) { return game.isReadable(cell); },
+                                    [&](CellId a, CellId b) { return cost(a) < cost(b); });
     return std::isinf(cost(nearest)) ? from : nearest;
 }
 

@@ -4,15 +4,17 @@
 
 namespace tessaly {
 
-/// Walking over the board by keys, from one cell that may be selected to another. A cell that may
-/// not be is stepped over; no cell when there is none at all.
+/// Walking over the board by keys. The walk passes over givens too, so that they can be heard; only
+/// what is withheld is stepped over.
 
-/// The first and the last cell in reading order: from the top, each line from the left.
+/// The first and the last cell that may be selected, in reading order: from the top, each line from
+/// the left. No cell when there is none.
 CellId firstSelectable(const Game& game);
 CellId lastSelectable(const Game& game);
 
 /// The nearest cell in a direction (`columns` -1 left, 1 right; `rows` -1 up, 1 down), or `from`
-/// itself where there is none. From no cell the walk begins at the first or the last one.
+/// itself where there is none. From no cell the walk begins at the first or the last one that may
+/// be selected.
 CellId cellBeside(const Game& game, CellId from, int columns, int rows);
 
 /// The same for hexagons, but for the blank one.

@@ -304,7 +304,7 @@ QString BoxControl::toolTipWithKeys() const {
 void BoxControl::answerShortcut(const QShortcutEvent& event) {
     if (!isEnabled() || event.isAmbiguous())
         return;
-    if (m_heldByShortcut)
+    if (m_isHeld)
         holdUntilReleased(event.key()[0].key());
     else
         click();
@@ -322,6 +322,10 @@ void BoxControl::holdUntilReleased(int key) {
     if (isDown())
         return;
     new KeyHold(key, this, [this] { letUp(); });
+    holdDown();
+}
+
+void BoxControl::holdDown() {
     setDown(true);
     Q_EMIT pressed();
 }
@@ -370,6 +374,8 @@ void BoxControl::keyPressEvent(QKeyEvent* event) {
     const QPointer<BoxControl> self(this);
     if (!isEnter(*event))
         QAbstractButton::keyPressEvent(event);
+    else if (!event->isAutoRepeat() && m_isHeld)
+        isDown() ? letUp() : holdDown();
     else if (!event->isAutoRepeat())
         click();
     if (self)

@@ -46,9 +46,9 @@ public:
     void setShownKeys(const QList<QKeySequence>& keys) { m_shownKeys = keys; }
     /// The tooltip's text and, on a line of its own, the keys.
     QString toolTipWithKeys() const;
-    /// The shortcut's key holds the button down for as long as it is down itself, instead of
-    /// clicking it.
-    void setHeldByShortcut(bool held) { m_heldByShortcut = held; }
+    /// What the button does lasts as long as it is down: the shortcut's key holds it down for as
+    /// long as it is down itself, and Enter until Enter comes again or the focus goes.
+    void setHeld(bool held) { m_isHeld = held; }
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
@@ -81,6 +81,7 @@ private:
     void nameAfterToolTip();
     void answerShortcut(const QShortcutEvent& event);
     void holdUntilReleased(int key);
+    void holdDown();
     /// Ends whatever holds it down, without a click.
     void letUp();
 
@@ -89,7 +90,7 @@ private:
     QColor m_text;
     QString m_nameFromToolTip;
     QList<QKeySequence> m_shownKeys;
-    bool m_heldByShortcut = false;
+    bool m_isHeld = false;
     bool m_alternateDown = false;
 };
 

@@ -58,4 +58,11 @@ QAccessibleInterface* PaintedList::focusChild() const {
     return QAccessibleWidget::focusChild();
 }
 
+QAccessible::State PaintedList::state() const {
+    QAccessible::State state = QAccessibleWidget::state();
+    if (currentItem() >= 0)
+        state.focused = false;
+    return state;
+}
+
 } // namespace tessaly

@@ -52,6 +52,8 @@ public:
     int indexOfChild(const QAccessibleInterface* child) const override;
     /// The current item while the widget has the focus.
     QAccessibleInterface* focusChild() const override;
+    /// The focus of an item is not the widget's.
+    QAccessible::State state() const override;
 
 protected:
     virtual PaintedItem* makeItem(int index) const = 0;

@@ -8,8 +8,11 @@
 namespace tessaly {
 namespace {
 
-/// One cell of the board: its place, what it holds and what lies across its side.
-class CellAccessible : public PaintedItem, public QAccessibleActionInterface {
+/// One cell of the board: its place, what it holds and what lies across its side. Its value is its
+/// number, 0 for none.
+class CellAccessible : public PaintedItem,
+                       public QAccessibleActionInterface,
+                       public QAccessibleValueInterface {
 public:
     CellAccessible(BoardView& view, CellId cell);
 
@@ -17,17 +20,40 @@ public:
     QAccessible::State state() const override;
 
     void* interface_cast(QAccessible::InterfaceType type) override;
+    /// A given can only have the focus.
     QStringList actionNames() const override;
-    /// The focus selects the cell, as the pointer over it would.
     void doAction(const QString& name) override;
     QStringList keyBindingsForAction(const QString&) const override { return {}; }
+
+    QVariant currentValue() const override;
+    void setCurrentValue(const QVariant& number) override;
+    QVariant maximumValue() const override { return CellCount; }
+    QVariant minimumValue() const override { return 0; }
+    QVariant minimumStepSize() const override { return 1; }
 
 protected:
     QRect place() const override { return m_view.rectangleOf(m_cell); }
 
 private:
+    /// What stands in the cell, but nothing of what is withheld.
+    std::string entry() const;
+
     BoardView& m_view;
     CellId m_cell;
+};
+
+/// A hexagon's tag, which a press holds down.
+class TagAccessible : public QAccessibleWidget {
+public:
+    explicit TagAccessible(HexagonTagWidget& tag)
+        : QAccessibleWidget(&tag, QAccessible::Button)
+        , m_tag(tag) {}
+
+    QStringList actionNames() const override { return {pressAction(), setFocusAction()}; }
+    void doAction(const QString& name) override;
+
+private:
+    HexagonTagWidget& m_tag;
 };
 
 QString sentence(const std::string& ascii) {
@@ -48,7 +74,7 @@ QString CellAccessible::text(QAccessible::Text kind) const {
     case QAccessible::Name:
         return sentence(cellInWords(m_cell) + ", " + entryInWords(board, m_cell));
     case QAccessible::Value:
-        return QString::fromStdString(board.CellNum[m_cell]);
+        return QString::fromStdString(entry());
     case QAccessible::Description:
         return sentence(neighbourInWords(board, m_cell));
     default:
@@ -57,37 +83,72 @@ QString CellAccessible::text(QAccessible::Text kind) const {
 }
 
 QAccessible::State CellAccessible::state() const {
-    const bool isOpen = m_view.input().canSelect(m_cell);
+    const BoardInput& input = m_view.input();
+    const bool isOpen = input.canSelect(m_cell);
     QAccessible::State state;
     state.readOnly = !isOpen;
     state.editable = isOpen;
-    state.focusable = isOpen;
+    state.focusable = input.canRead(m_cell);
     state.selectable = isOpen;
-    state.selected = m_view.input().selection() == m_cell;
-    state.focused = state.selected && m_view.hasFocus();
+    state.selected = input.selection() == m_cell;
+    state.focused = input.cell() == m_cell && m_view.hasFocus();
     state.invisible = !m_view.isVisible();
     return state;
 }
 
 void* CellAccessible::interface_cast(QAccessible::InterfaceType type) {
-    return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this)
-                                                : nullptr;
+    if (type == QAccessible::ActionInterface)
+        return static_cast<QAccessibleActionInterface*>(this);
+    if (type == QAccessible::ValueInterface)
+        return static_cast<QAccessibleValueInterface*>(this);
+    return nullptr;
 }
 
 QStringList CellAccessible::actionNames() const {
-    return m_view.input().canSelect(m_cell) ? QStringList{setFocusAction()} : QStringList{};
+    if (m_view.input().canSelect(m_cell))
+        return {pressAction(), showMenuAction(), setFocusAction()};
+    return m_view.input().canRead(m_cell) ? QStringList{setFocusAction()} : QStringList{};
 }
 
 void CellAccessible::doAction(const QString& name) {
-    if (name == setFocusAction())
-        m_view.input().Picture2_MouseMove(numberCentre(m_cell));
+    if (!actionNames().contains(name))
+        return;
+    m_view.input().walkTo(m_cell);
+    if (name == pressAction())
+        m_view.input().Picture2_MouseUp(PointerButton::Left);
+    else if (name == showMenuAction())
+        m_view.enterPopup();
+}
+
+std::string CellAccessible::entry() const {
+    return m_view.input().canRead(m_cell) ? m_view.board().CellNum[m_cell] : std::string();
+}
+
+QVariant CellAccessible::currentValue() const {
+    return isPlaced(entry()) ? entry().front() - '0' : 0;
+}
+
+void CellAccessible::setCurrentValue(const QVariant& number) {
+    const int wanted = number.toInt();
+    if (wanted < 0 || wanted > CellCount || !m_view.input().canSelect(m_cell))
+        return;
+    m_view.input().walkTo(m_cell);
+    m_view.input().enter(wanted);
+}
+
+void TagAccessible::doAction(const QString& name) {
+    QAccessibleWidget::doAction(setFocusAction()); // with which a hold ends
+    if (name == pressAction())
+        m_tag.toggle();
 }
 
 QAccessibleInterface* makeInterface(const QString&, QObject* object) {
     if (auto* view = qobject_cast<BoardView*>(object))
         return new BoardAccessible(*view);
     if (auto* tag = qobject_cast<HexagonTagWidget*>(object))
-        return new QAccessibleWidget(tag, QAccessible::Button, tag->accessibleName());
+        return new TagAccessible(*tag);
+    if (auto* popup = qobject_cast<NumberPopup*>(object))
+        return new QAccessibleWidget(popup, QAccessible::Grouping);
     return nullptr;
 }
 
@@ -102,12 +163,12 @@ void BoardAccessible::install() {
 }
 
 void BoardAccessible::tellFocus(BoardView& view) {
-    PaintedList::tellFocus(view, indexOf(view.input().selection()));
+    PaintedList::tellFocus(view, indexOf(view.input().cell()));
 }
 
-void BoardAccessible::tellEntry(BoardView& view) {
+void BoardAccessible::tellEntry(BoardView& view, CellId cell) {
     QAccessibleEvent renamed(&view, QAccessible::NameChanged);
-    renamed.setChild(indexOf(view.input().selection()));
+    renamed.setChild(indexOf(cell));
     QAccessible::updateAccessibility(&renamed);
 }
 
@@ -120,7 +181,7 @@ PaintedItem* BoardAccessible::makeItem(int index) const {
 }
 
 int BoardAccessible::currentItem() const {
-    return indexOf(m_view.input().selection());
+    return indexOf(m_view.input().cell());
 }
 
 QAccessibleInterface* BoardAccessible::childAt(int x, int y) const {

@@ -17,8 +17,8 @@ public:
     static void install();
     /// Says which cell the keys go to now, if the board has the focus.
     static void tellFocus(BoardView& view);
-    /// Says that the selected cell reads differently now.
-    static void tellEntry(BoardView& view);
+    /// Says that a cell reads differently now.
+    static void tellEntry(BoardView& view, CellId cell);
     /// The child that a cell is; -1 for no cell.
     static int indexOf(CellId cell);
 

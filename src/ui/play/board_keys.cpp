@@ -64,6 +64,24 @@ bool moveSelection(BoardInput& input, const QKeyEvent& event) {
     }
 }
 
+bool readsOrClicks(BoardInput& input, const QKeyEvent& event) {
+    if (isPartOfAShortcut(event))
+        return false;
+    switch (event.key()) {
+    case Qt::Key_H:
+        input.readHexagon();
+        return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Space:
+        if (!event.isAutoRepeat())
+            input.Picture2_MouseUp(PointerButton::Left);
+        return true;
+    default:
+        return false;
+    }
+}
+
 bool asksForMenu(const QKeyEvent& event) {
     return event.key() == Qt::Key_Menu ||
            (event.key() == Qt::Key_F10 && event.modifiers() == Qt::ShiftModifier);

@@ -17,6 +17,10 @@ int characterCodeOf(const QKeyEvent& event);
 /// Moves the selection if that is what the key is for: the arrows, Home and End. Whether it was.
 bool moveSelection(BoardInput& input, const QKeyEvent& event);
 
+/// Reads the hexagon out with H, or clicks the selected cell with Enter or Space. Whether it was
+/// so.
+bool readsOrClicks(BoardInput& input, const QKeyEvent& event);
+
 /// Whether the key asks for the menu of the selected cell.
 bool asksForMenu(const QKeyEvent& event);
 

@@ -2,6 +2,7 @@
 
 #include "core/play/board_geometry.h"
 #include "core/play/board_style.h"
+#include "core/play/cell_description.h"
 #include "core/play/selection_walk.h"
 #include "ui/drawing/qt_values.h"
 #include "ui/play/board_accessible.h"
@@ -58,13 +59,18 @@ void SelectionMarker::setColour(const QColor& colour) {
     update();
 }
 
+void SelectionMarker::setBroken(bool broken) {
+    m_broken = broken;
+    update();
+}
+
 void SelectionMarker::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const double thickness = std::max(1.5, width() / 14.0);
     const double inset = thickness / 2;
     const QRectF frame = QRectF(rect()).adjusted(inset, inset, -inset, -inset);
-    painter.setPen(QPen(m_colour, thickness));
+    painter.setPen(QPen(m_colour, thickness, m_broken ? Qt::DotLine : Qt::SolidLine));
     painter.drawRoundedRect(frame, frame.width() / 4, frame.width() / 4);
 }
 
@@ -73,7 +79,8 @@ BoardView::BoardView(const Board& board, const Appearance& appearance, QWidget* 
     , m_board(board)
     , m_appearance(appearance)
     , m_marker(this)
-    , m_popup(this) {
+    , m_popup(this)
+    , m_told(board.CellNum) {
     BoardAccessible::install();
     setObjectName(u"Picture2"_s);
     setAccessibleName(tr("Board"));
@@ -116,8 +123,27 @@ void BoardView::DrawHexagon(int hexagon) {
         return;
     draw(m_board, hexagon);
     showTag(hexagon);
-    if (m_input->selection().hexagon == hexagon)
-        BoardAccessible::tellEntry(*this);
+    tellChanges();
+}
+
+std::vector<CellId> BoardView::takeChanges() {
+    std::vector<CellId> changed;
+    for (CellId cell : AllCells)
+        if (std::exchange(m_told[cell], m_board.CellNum[cell]) != m_board.CellNum[cell]) {
+            BoardAccessible::tellEntry(*this, cell);
+            changed.push_back(cell);
+        }
+    return changed;
+}
+
+void BoardView::tellChanges() {
+    if (const std::vector<CellId> changed = takeChanges(); !changed.empty())
+        Q_EMIT entriesChanged(changesInWords(m_board, changed, m_input->cell()));
+}
+
+void BoardView::showPuzzle() {
+    takeChanges();
+    DrawBoard();
 }
 
 void BoardView::DrawPeek(const Board& other, int hexagon) {
@@ -140,6 +166,7 @@ void BoardView::DrawBoard() {
     if (m_board.isBlank(m_tagStop))
         stopAtTag(m_tagStop % HexagonCount + 1);
     update();
+    tellChanges();
 }
 
 void BoardView::DrawSolution(Colour colour) {
@@ -171,9 +198,10 @@ void BoardView::showSelection() {
 }
 
 void BoardView::placeMarker() {
-    const CellId cell = m_input->selection();
+    const CellId cell = m_input->cell();
     if (cell)
         m_marker.setGeometry(onWidget(markerRectangle(cell)));
+    m_marker.setBroken(!m_input->selection());
     m_marker.setVisible(static_cast<bool>(cell));
 }
 
@@ -186,7 +214,15 @@ CellId BoardView::cellUnder(QPoint point) const {
 }
 
 void BoardView::showPopup(Point corner, bool upwards) {
+    m_popup.setAccessibleName(
+        tr("Entry for %1").arg(QString::fromStdString(cellInWords(m_input->selection()))));
     m_popup.open(boardToWidget().map(toQt(corner)).toPoint(), upwards);
+}
+
+void BoardView::enterPopup() {
+    m_input->openPopupAtSelection();
+    if (m_popup.isVisible())
+        m_popup.setFocus();
 }
 
 void BoardView::hidePopup() {
@@ -233,7 +269,7 @@ void BoardView::paintEvent(QPaintEvent* event) {
     const QRectF source(target.x() * ratio, target.y() * ratio, target.width() * ratio,
                         target.height() * ratio);
     painter.drawImage(QRectF(target), m_surface.image(), source);
-    if (hasFocus() && m_usedByKeys && !m_input->selection())
+    if (hasFocus() && m_usedByKeys && !m_input->cell())
         drawFocus(painter);
 }
 
@@ -278,6 +314,9 @@ void BoardView::focusInEvent(QFocusEvent* event) {
         m_usedByKeys = false;
     }
     QWidget::focusInEvent(event);
+    // After the toolkit has told of the board itself.
+    QMetaObject::invokeMethod(
+        this, [this] { BoardAccessible::tellFocus(*this); }, Qt::QueuedConnection);
 }
 
 void BoardView::mouseMoveEvent(QMouseEvent* event) {
@@ -306,15 +345,10 @@ void BoardView::keyPressEvent(QKeyEvent* event) {
         m_input->Num16_Click(BoardInput::PopupClose);
         return;
     }
-    if (moveSelection(*m_input, *event))
-        return;
-    if (!asksForMenu(*event)) {
+    if (asksForMenu(*event))
+        enterPopup();
+    else if (!moveSelection(*m_input, *event) && !readsOrClicks(*m_input, *event))
         pressKey(*m_input, *event);
-        return;
-    }
-    m_input->openPopupAtSelection();
-    if (m_popup.isVisible())
-        m_popup.setFocus();
 }
 
 PlayArea::PlayArea(BoardView* board, PalettePanel* palette, QWidget* parent)

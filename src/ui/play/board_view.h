@@ -23,12 +23,15 @@ class SelectionMarker : public QWidget {
 public:
     explicit SelectionMarker(QWidget* parent);
     void setColour(const QColor& colour);
+    /// A broken line is for a given that is only read.
+    void setBroken(bool broken);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
     QColor m_colour;
+    bool m_broken = false;
 };
 
 /// The board in the window (`Picture2`): shows the board's picture at whatever size it is given,
@@ -46,12 +49,16 @@ public:
     void DrawBoard();
     void DrawSolution(Colour colour);
     void DrawPeek(const Board& other, int hexagon);
+    /// Another puzzle is on the board: draws it, and takes none of it for a change.
+    void showPuzzle();
     /// The colours or the font have changed: draws everything anew.
     void applyAppearance();
 
     void showSelection();
     void showPopup(Point corner, bool upwards);
     void hidePopup();
+    /// Opens the pop-up at the selected cell, with the focus in it.
+    void enterPopup();
 
     const Board& board() const { return m_board; }
     BoardInput& input() const { return *m_input; }
@@ -63,6 +70,9 @@ public:
     QTransform boardToWidget() const;
 
     QSize sizeHint() const override;
+
+Q_SIGNALS:
+    void entriesChanged(const std::string& inWords);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -83,6 +93,10 @@ private:
     void showTag(int hexagon);
     /// Lets Tab stop at the tag of a hexagon, and at no other.
     void stopAtTag(int hexagon);
+    /// The cells that hold something else than when this was asked last; a screen reader is told
+    /// that they read differently.
+    std::vector<CellId> takeChanges();
+    void tellChanges();
     void drawFocus(QPainter& painter) const;
 
     QRect onWidget(const Rect& rectangle) const;
@@ -99,6 +113,8 @@ private:
     /// The colour of the solution while it is shown.
     std::optional<Colour> m_solutionColour;
     bool m_usedByKeys = false;
+    /// The entries as a screen reader knows them.
+    Grid<std::string> m_told;
 };
 
 /// The middle of the main window: the board and, close at its right whatever the window's shape,

@@ -21,8 +21,8 @@ HexagonTagWidget::HexagonTagWidget(int hexagon, const Appearance& appearance, QW
     setObjectName(u"Celltags_%1"_s.arg(hexagon));
     setCursor(Qt::PointingHandCursor);
     setAccessibleName(tr("Hexagon %1").arg(hexagon));
-    setAccessibleDescription(
-        tr("Hold to see the candidates of its cells; the arrow keys lead to other hexagons"));
+    setAccessibleDescription(tr("Enter, or holding it down, shows the candidates of its cells; the "
+                                "arrow keys lead to other hexagons"));
 }
 
 void HexagonTagWidget::place(const QRect& tag) {
@@ -45,6 +45,10 @@ void HexagonTagWidget::release() {
     m_down = false;
     update();
     Q_EMIT released();
+}
+
+void HexagonTagWidget::toggle() {
+    m_down ? release() : press();
 }
 
 bool HexagonTagWidget::event(QEvent* event) {
@@ -84,6 +88,11 @@ void HexagonTagWidget::mouseReleaseEvent(QMouseEvent* event) {
 
 void HexagonTagWidget::keyPressEvent(QKeyEvent* event) {
     switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (!event->isAutoRepeat())
+            toggle();
+        return;
     case Qt::Key_Space:
         if (!event->isAutoRepeat())
             press();

@@ -17,6 +17,8 @@ public:
     int hexagon() const { return m_hexagon; }
     /// Where the tag is seen; around it the widget is as large as a pointer or a finger needs.
     void place(const QRect& tag);
+    /// Holds it down until the next time, or until the focus goes.
+    void toggle();
 
 Q_SIGNALS:
     void pressed(int hexagon);

@@ -2,9 +2,11 @@
 
 #include "core/files/file_access.h"
 #include "core/options/scheme_library.h"
+#include "core/play/cell_description.h"
 #include "core/session/configuration.h"
 #include "core/session/program_folder.h"
 #include "core/session/session.h"
+#include "ui/controls/announcer.h"
 #include "ui/controls/box_control.h"
 #include "ui/controls/dialog_parts.h"
 #include "ui/controls/file_name_picker.h"
@@ -68,7 +70,8 @@ Form1::Form1(Session& session, Prompts& prompts, const FileDialog& fileDialog, P
     , m_board(new BoardView(session.game.board, m_worn))
     , m_palette(new PalettePanel(m_worn))
     , m_status(new StatusLine)
-    , m_developerRow(new DeveloperRow)
+    , m_announcer(new Announcer(this))
+    , m_developerRow(session.developer ? new DeveloperRow : nullptr)
     , m_picker(new FNDialog(fileDialog, prompts, this))
     , m_options(new Form2x(session.appearance, session.ProgramFolder, prompts, this))
     , m_help(new Form4(session.appearance, this))
@@ -80,7 +83,8 @@ Form1::Form1(Session& session, Prompts& prompts, const FileDialog& fileDialog, P
     m_picker->setObjectName(u"gf1"_s);
     m_picker->hide();
     setCentralWidget(arrangeRegions());
-    m_commands.connectTo({m_menu, *m_tools, *m_board, *m_palette, *m_status, *m_developerRow});
+    m_commands.connectTo({m_menu, *m_tools, *m_board, *m_palette, *m_status, m_developerRow});
+    connect(m_board, &BoardView::entriesChanged, this, &Form1::announce);
     connect(m_menu.cmdexit, &QAction::triggered, this, &Form1::cmdexit);
     connectOptions();
     connectFileDrop();
@@ -98,8 +102,8 @@ QWidget* Form1::arrangeRegions() {
     rows->setContentsMargins(Margin, Margin, Margin, Margin);
     rows->setSpacing(Spacing);
     rows->addWidget(m_tools);
-    rows->addWidget(m_developerRow);
-    m_developerRow->setVisible(m_session.developer);
+    if (m_developerRow != nullptr)
+        rows->addWidget(m_developerRow);
     rows->addWidget(new PlayArea(m_board, m_palette), 1);
     rows->addWidget(m_status);
     return centre;
@@ -146,6 +150,10 @@ void Form1::DrawBoard() {
 
 void Form1::DrawSolution(Colour colour) {
     m_board->DrawSolution(colour);
+    Board solved = m_board->board();
+    solved.CellNum = solved.SolNum;
+    if (const CellId cell = m_board->input().cell())
+        announce("solution of " + hexagonInWords(solved, cell.hexagon));
 }
 
 void Form1::DrawPeek(const Board& other, int hexagon) {
@@ -183,11 +191,15 @@ void Form1::showPuzzle(const CurrentPuzzle& puzzle) {
         m_status->showFile(puzzle.PuzPath);
     else
         m_status->showFileText(u"Create a New Puzzle"_s);
-    DrawBoard();
+    m_board->showPuzzle();
+    offerCommands();
+    if (isInFile)
+        m_announcer->say(tr("Puzzle %1 of %2").arg(puzzle.PuzNum).arg(puzzle.PuzCount));
 }
 
 void Form1::showDifficulty(DifficultyChoice difficulty) {
     m_tools->showDifficulty(difficulty);
+    announce(nameOf(difficulty));
 }
 
 void Form1::showSaveTarget(const std::filesystem::path& path) {
@@ -200,6 +212,11 @@ void Form1::showRecentFiles(const std::vector<std::filesystem::path>& paths) {
 
 void Form1::showMessage(std::string_view text) {
     m_status->showMessage(text);
+    announce(text);
+}
+
+void Form1::announce(std::string_view text) {
+    m_announcer->say(QString::fromUtf8(text));
 }
 
 void Form1::showBusy(bool busy) {

@@ -8,6 +8,7 @@
 namespace tessaly {
 
 class AboutForm;
+class Announcer;
 class Form2x;
 class Form4;
 
@@ -39,6 +40,7 @@ public:
     void showSaveTarget(const std::filesystem::path& path) override;
     void showRecentFiles(const std::vector<std::filesystem::path>& paths) override;
     void showMessage(std::string_view text) override;
+    void announce(std::string_view text) override;
     void showBusy(bool busy) override;
     void beginProgress(const std::filesystem::path& path) override;
     void showProgress(const RunProgress& progress) override;
@@ -69,6 +71,8 @@ private:
     BoardView* m_board;
     PalettePanel* m_palette;
     StatusLine* m_status;
+    Announcer* m_announcer;
+    /// None unless it is asked for.
     DeveloperRow* m_developerRow;
     FNDialog* m_picker; // gf1
     Form2x* m_options;

@@ -4,7 +4,6 @@
 #include "ui/controls/dialog_parts.h"
 #include "ui/drawing/qt_values.h"
 
-#include <QAccessible>
 #include <QHBoxLayout>
 
 namespace tessaly {
@@ -54,10 +53,6 @@ void StatusLine::showFileText(const QString& text) {
 
 void StatusLine::showMessage(std::string_view text) {
     m_message->setText(QString::fromUtf8(text));
-    if (text.empty())
-        return;
-    QAccessibleEvent alert(m_message, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
 }
 
 } // namespace tessaly

@@ -47,7 +47,7 @@ ToolRow::ToolRow(QWidget* parent)
     cmdundo = addButton(Picture::Undo, u"Undo"_s, u"cmdundo"_s);
     cmdreset = addButton(Picture::Reset, u"Reset Puzzle"_s, u"cmdreset"_s);
     cmdshowsol = addButton(Picture::ShowSolution, u"Show Solution"_s, u"cmdshowsol"_s);
-    cmdshowsol->setHeldByShortcut(true);
+    cmdshowsol->setHeld(true);
     showPuzzleNumber(0, 0);
 }
 
@@ -114,6 +114,7 @@ void ToolRow::offerOthers(bool inFile) {
 void ToolRow::showDifficulty(DifficultyChoice difficulty) {
     const QKeySequence keys = DifLab->shortcut(); // which a button loses with its text
     DifLab->setText(QString::fromUtf8(nameOf(difficulty)));
+    DifLab->setAccessibleName(u"%1: %2"_s.arg(DifLab->toolTip(), DifLab->text()));
     DifLab->setShortcut(keys);
 }
 

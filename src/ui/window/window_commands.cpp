@@ -84,7 +84,8 @@ void WindowCommands::connectTo(const WindowRegions& regions) {
     connectTools(regions.tools, regions.board);
     connectPalette(regions.palette);
     onClick(regions.status.StatLab, [this] { play.StatLab(); });
-    connectDeveloperRow(regions.developerRow);
+    if (regions.developerRow != nullptr)
+        connectDeveloperRow(*regions.developerRow);
     connectCreation(regions.menu, regions.tools, regions.developerRow);
 }
 
@@ -153,10 +154,11 @@ void WindowCommands::connectDeveloperRow(const DeveloperRow& row) {
 
 /// The menu and the tools make a puzzle alike; the developer's row tells how it came out.
 void WindowCommands::connectCreation(const MainMenu& menu, const ToolRow& tools,
-                                     DeveloperRow& developerRow) {
-    const auto createOne = [this, &developerRow] {
+                                     DeveloperRow* developerRow) {
+    const auto createOne = [this, developerRow] {
         m_creation.cmdcreate();
-        developerRow.showText(QString::fromStdString(developerText(m_session.game.board)));
+        if (developerRow != nullptr)
+            developerRow->showText(QString::fromStdString(developerText(m_session.game.board)));
     };
     onClick(tools.cmdcreate, createOne);
     onChoice(menu.createSingle, createOne);

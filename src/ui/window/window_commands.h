@@ -27,7 +27,8 @@ struct WindowRegions {
     BoardView& board;
     PalettePanel& palette;
     StatusLine& status;
-    DeveloperRow& developerRow;
+    /// None unless it was asked for.
+    DeveloperRow* developerRow;
 };
 
 /// What the commands show and ask with.
@@ -68,7 +69,7 @@ private:
     void connectTools(ToolRow& tools, BoardView& board);
     void connectPalette(PalettePanel& palette);
     void connectDeveloperRow(const DeveloperRow& row);
-    void connectCreation(const MainMenu& menu, const ToolRow& tools, DeveloperRow& developerRow);
+    void connectCreation(const MainMenu& menu, const ToolRow& tools, DeveloperRow* developerRow);
 
     // What a control does to start a command that may be refused.
     template <class Command>

@@ -98,6 +98,12 @@ TEST(CellDescription, SaysWhereACellLiesWhatItHoldsAndWhatLiesAcross) {
     board.CellNum[5][2] = "6";
     EXPECT_EQ(neighbourInWords(board, {1, 5}), "across: hexagon 5, top, 6");
     EXPECT_EQ(neighbourInWords(board, {1, 2}), "at the edge");
+    EXPECT_EQ(hexagonInWords(board, 3),
+              "hexagon 3: upper left marks 3 5 2, top given 4, upper right "
+              "empty, lower right 6, bottom empty, lower left empty");
+    EXPECT_EQ(missingInWords(board, 3), "missing 1 2 3 5");
+    EXPECT_EQ(changesInWords(board, {{3, 1}, {5, 2}}, {3, 1}), "marks 3 5 2; hexagon 5, top, 6");
+    EXPECT_EQ(changesInWords(board, std::vector<CellId>(7), {}), "7 cells changed");
 }
 
 } // namespace

@@ -152,6 +152,7 @@ TEST_F(BoardInputTest, PeekingShowsCandidatesOnlyWhileHeld) {
     const Board before = game.board;
     input.Celltags_MouseDown(10);
     EXPECT_EQ(display.peeked[2], "12345");
+    EXPECT_EQ(display.announced.find("hexagon 10: upper left 6, top marks 1 2 3 4 5, upper"), 0U);
     EXPECT_EQ(game.board, before);
     input.Celltags_MouseUp();
     input.Celltags_MouseUp();
@@ -182,7 +183,7 @@ TEST_F(BoardInputTest, NothingIsEnteredWhileACommandIsUnderWay) {
     EXPECT_TRUE(display.drawn.empty());
 }
 
-TEST_F(BoardInputTest, ArrowsHomeAndEndReachEveryCellThatMayBeFilled) {
+TEST_F(BoardInputTest, ArrowsReachEveryCellThatIsNotWithheldAndGivensAreOnlyRead) {
     for (const char* file : {"easy.txt", "hard.txt"}) {
         game.board = boardOf(sampleRecords(file).front());
         std::vector<CellId> reached{firstSelectable(game)};
@@ -191,26 +192,39 @@ TEST_F(BoardInputTest, ArrowsHomeAndEndReachEveryCellThatMayBeFilled) {
                 if (const CellId next = cellBeside(game, reached[i], columns, rows);
                     std::find(reached.begin(), reached.end(), next) == reached.end())
                     reached.push_back(next);
-        EXPECT_EQ(std::ssize(reached),
-                  std::count_if(AllCells.begin(), AllCells.end(),
-                                [this](CellId cell) { return game.isSelectable(cell); }));
+        EXPECT_EQ(std::ssize(reached), BoardCellCount - CellCount);
     }
     game.board = puzzleWithoutGivens();
     input.pointerLeft();
     input.moveSelection(1, 0);
     EXPECT_EQ(input.selection(), (CellId{1, 2}));
-    input.pointerLeft();
-    input.moveSelection(-1, 0);
+    input.selectLast();
     input.moveSelection(0, 1); // there is nothing below
     EXPECT_EQ(input.selection(), (CellId{19, 5}));
-    input.selectFirst();
-    EXPECT_EQ(input.selection(), (CellId{1, 2}));
-    input.selectLast();
-    EXPECT_EQ(input.selection(), (CellId{19, 5}));
-    for (CellId cell : AllCells)
-        game.board.FixedCell[cell] = true;
-    input.selectFirst();
+    game.board.FixedCell[CellId{19, 6}] = true;
+    game.board.CellNum[19][6] = "3";
+    input.moveSelection(-1, 0);
+    EXPECT_EQ(display.marker, (CellId{19, 6}));
     EXPECT_EQ(input.SelHex(), -1);
+    key('4');
+    EXPECT_EQ(entry({19, 6}), "3");
+    input.readHexagon();
+    EXPECT_TRUE(display.announced.ends_with("lower left given 3, missing 1 2 4 5 6"));
+}
+
+TEST_F(BoardInputTest, ThePointerTakesTheCellOfTheKeysOnlyWhenItIsMeantTo) {
+    const CellId far{19, 5};
+    input.walkTo(far);
+    input.Picture2_MouseMove({pointer.x + 1, pointer.y});
+    input.pointerLeft();
+    input.forgetSelection();
+    EXPECT_EQ(input.selection(), far);
+    input.digt_MouseUp(3, PointerButton::Left);
+    click();
+    EXPECT_EQ(entry(), "4") << "the press was meant for this one";
+    input.walkTo(far);
+    pointAt({8, 1});
+    EXPECT_EQ(input.selection(), (CellId{8, 1}));
 }
 
 struct PlayCommandsTest : testing::Test, PlayScene {

@@ -18,6 +18,15 @@ QString nameOf(const QAccessibleInterface& item) {
 
 /// What a screen reader is told: the kind of event, and the child of the board that it is about.
 std::vector<std::pair<QAccessible::Event, int>> told;
+/// What it speaks out by itself.
+QStringList heard;
+
+void listenTo(QAccessibleEvent* event) {
+    told.emplace_back(event->type(), event->child());
+    if (event->type() == QAccessible::ObjectShow &&
+        event->accessibleInterface()->role() == QAccessible::Notification)
+        heard << nameOf(*event->accessibleInterface());
+}
 
 struct Accessibility : testing::Test {
     QAccessibleInterface& of(CellId cell) { return *board.child(BoardAccessible::indexOf(cell)); }
@@ -29,6 +38,7 @@ struct Accessibility : testing::Test {
     std::ptrdiff_t timesTold(Qt::Key key, QAccessible::Event kind, int child) {
         told.clear();
         QTest::keyClick(&game.board(), key);
+        QCoreApplication::processEvents();
         return std::count(told.begin(), told.end(), std::pair(kind, child));
     }
 
@@ -41,12 +51,15 @@ TEST_F(Accessibility, EachCellIsAnItemWithItsPlaceAndWhatItHolds) {
     ASSERT_EQ(nameOf(board), u"Board"_s);
     std::set<QString> names;
     for (CellId cell : AllCells) {
-        const QAccessibleInterface& item = of(cell);
+        QAccessibleInterface& item = of(cell);
         SCOPED_TRACE(nameOf(item).toStdString());
         names.insert(nameOf(item));
         EXPECT_TRUE(nameOf(item).startsWith(u"Hexagon %1, "_s.arg(cell.hexagon)));
         EXPECT_TRUE(nameOf(item).endsWith(QString::fromStdString(entryInWords(play.board, cell))));
-        EXPECT_EQ(item.text(QAccessible::Value).toStdString(), play.board.CellNum[cell]);
+        EXPECT_EQ(item.text(QAccessible::Value).toStdString(),
+                  play.board.isBlank(cell.hexagon) ? "" : play.board.CellNum[cell]);
+        EXPECT_EQ(item.actionInterface()->actionNames().size(),
+                  play.isSelectable(cell) ? 3 : play.isReadable(cell));
         EXPECT_EQ(item.state().readOnly, !play.isSelectable(cell));
         EXPECT_EQ(item.parent(), &board);
         EXPECT_EQ(board.indexOfChild(&item), BoardAccessible::indexOf(cell));
@@ -68,8 +81,7 @@ TEST_F(Accessibility, EachCellIsAnItemWithItsPlaceAndWhatItHolds) {
 }
 
 TEST_F(Accessibility, ThePlayIsHeardAndEachChangeOnce) {
-    const auto before = QAccessible::installUpdateHandler(
-        [](QAccessibleEvent* event) { told.emplace_back(event->type(), event->child()); });
+    const auto before = QAccessible::installUpdateHandler(listenTo);
     listen(true);
     const CellId cell = firstSelectable(play);
     QAccessibleInterface& item = of(cell);
@@ -81,21 +93,33 @@ TEST_F(Accessibility, ThePlayIsHeardAndEachChangeOnce) {
     EXPECT_EQ(timesTold(Qt::Key_2, QAccessible::NameChanged, index), 0) << "nothing changes";
     EXPECT_EQ(timesTold(Qt::Key_5, QAccessible::NameChanged, index), 1);
     EXPECT_TRUE(nameOf(item).endsWith(u", marks 2 5"_s));
-    EXPECT_EQ(timesTold(Qt::Key_F5, QAccessible::Alert, -1), 1) << "the message line";
+    game.find(u"StatLab"_s).setFocus();
+    game.board().setFocus();
+    EXPECT_EQ(timesTold(Qt::Key_F5, QAccessible::Focus, index), 1) << "it comes back to the cell";
+    EXPECT_FALSE(board.state().focused);
+    timesTold(Qt::Key_End, QAccessible::Focus, index);
+    game.click(u"cmdundo"_s);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(heard.join(u'/').toStdString(),
+              "Puzzle 1 of 40/2/marks 2 5/Not done yet .../" + cellInWords(cell) + ", empty");
     listen(false);
     QAccessible::installUpdateHandler(before);
+}
 
-    const auto focus = [this](CellId on) {
-        of(on).actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
-        return game.selection();
-    };
-    QTest::keyClick(&game.board(), Qt::Key_End);
-    EXPECT_FALSE(item.state().focused);
-    EXPECT_EQ(focus(cell), cell);
-    const CellId given = *std::find_if(AllCells.begin(), AllCells.end(),
-                                       [this](CellId each) { return play.board.FixedCell[each]; });
-    EXPECT_TRUE(of(given).actionInterface()->actionNames().isEmpty());
-    EXPECT_FALSE(focus(given));
+TEST_F(Accessibility, ACellCanBeFilledWithoutKeys) {
+    const CellId cell = firstSelectable(play);
+    QAccessibleInterface& item = of(cell);
+    const auto act = [&](const QString& action) { item.actionInterface()->doAction(action); };
+    item.valueInterface()->setCurrentValue(4);
+    EXPECT_EQ(item.valueInterface()->currentValue(), 4);
+    item.valueInterface()->setCurrentValue(7);
+    game.click(u"digt_1"_s);
+    act(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(play.board.CellNum[cell], "2");
+    act(QAccessibleActionInterface::showMenuAction());
+    EXPECT_TRUE(game.find(u"Num16_0"_s).hasFocus());
+    EXPECT_EQ(nameOf(*QAccessible::queryAccessibleInterface(&game.find(u"Picture1"_s))),
+              u"Entry for "_s + QString::fromStdString(cellInWords(cell)));
 }
 
 /// Walks around each window with the Tab key. Each control says what it is and looks different

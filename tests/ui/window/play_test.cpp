@@ -51,9 +51,9 @@ TEST_F(Play, KeysAloneReachEverything) {
                                              {Qt::Key_Down, 0, 1},
                                              {Qt::Key_Left, -1, 0},
                                              {Qt::Key_Up, 0, -1}}) {
-        const CellId next = cellBeside(play, game.selection(), columns, rows);
+        const CellId next = cellBeside(play, game.board().input().cell(), columns, rows);
         game.press(key);
-        EXPECT_EQ(game.selection(), next);
+        EXPECT_EQ(game.board().input().cell(), next);
     }
     game.press(Qt::Key_End);
     EXPECT_EQ(game.selection(), lastSelectable(play));
@@ -117,6 +117,14 @@ TEST_F(Play, SolutionAndCandidatesShowOnlyWhileButtonOrKeyIsHeld) {
         QWidget& button = game.find(QLatin1String(name));
         expectWhile([&] { QTest::mousePress(&button, Qt::LeftButton); },
                     [&] { QTest::mouseRelease(&button, Qt::LeftButton); });
+        button.setFocus();
+        const QImage waiting = game.picture();
+        for (const bool latched : {true, false, true}) {
+            QTest::keyClick(&button, Qt::Key_Return);
+            EXPECT_EQ(game.picture() != waiting, latched);
+        }
+        game.board().setFocus();
+        EXPECT_EQ(game.picture(), before) << "a hold ends with the focus";
     }
     expectWhile(
         [&] {

@@ -10,8 +10,6 @@ namespace tessaly {
 namespace {
 
 struct WindowCommandsTest : testing::Test {
-    WindowCommandsTest() { developer.show(); }
-
     /// Goes every way into a command but into those that touch no puzzle; how many there are.
     std::size_t giveEveryCommand() {
         const std::set<QString> harmless{u"cmdexit"_s, u"mnuhelp"_s, u"mnuabout"_s, u"DifLab"_s};
@@ -42,7 +40,7 @@ struct WindowCommandsTest : testing::Test {
         game.choose(item);
     }
 
-    GameWindow game{"hard.txt", 3};
+    GameWindow game{"hard.txt", 3, nullptr, true};
     DeveloperRow& developer = *game.window->findChild<DeveloperRow*>();
     const Board& board = game.session.game.board;
 };
