@@ -82,16 +82,16 @@ TEST_F(FileCommands, BrokenLinesAreNamedAndPassedOver) {
 
 TEST_F(FileCommands, PipesAreReadAndStandardOutputIsWritten) {
     put(file, Easy + "\r\n" + Hard + "\r\n");
-    for (const std::string command : {"check", "solve", "variants", "shuffle --seed 1"}) {
+    for (const std::string command : {"check ", "solve ", "variants ", "shuffle --seed 1 "}) {
         std::array<int, 2> ends{};
         ASSERT_EQ(::pipe(ends.data()), 0);
         ASSERT_GT(::write(ends[1], contentOf(file).data(), contentOf(file).size()), 0);
         ::close(ends[1]);
         const std::string pipe = "/dev/fd/" + std::to_string(ends[0]);
-        std::string expected = run(command + " " + file).out;
+        std::string expected = run(command + file).out;
         if (const std::size_t name = expected.find(file); name != std::string::npos)
             expected.replace(name, file.size(), pipe);
-        EXPECT_EQ(run(command + " " + pipe).out, expected);
+        EXPECT_EQ(run(command + pipe).out, expected);
         EXPECT_NE(expected, "");
         ::close(ends[0]);
     }
@@ -103,12 +103,13 @@ TEST_F(FileCommands, AFileThatCannotBeReadOrWrittenIsOneLineAndTheOutputStays) {
         expectRefused("solve " + path, exit_status::Failed, ": " + path + ": ");
         expectRefused("check " + path, exit_status::CannotCheck, ": " + path + ": ");
     }
+    const std::string broken = Easy + "\r\n" + Easy.substr(1) + "\r\n" + Easy;
     for (const std::string name : {"variants ", "shuffle "}) {
         const std::string line = name + file + " --output ";
         put(other, "old");
         std::filesystem::remove(file);
         expectRefused(line + other, exit_status::Failed, ": " + file + ": ");
-        put(file, Easy + "\r\n" + Easy.substr(1) + "\r\n" + Easy);
+        put(file, broken);
         expectRefused(line + other, exit_status::Failed, ": " + file + ": line 2: ");
         EXPECT_EQ(contentOf(other), "old");
         put(file, "");
