@@ -83,7 +83,7 @@ TEST_F(DrawingCommands, WhatCannotBeDoneIsSaidOnOneLineAndLeavesNothing) {
              {{"print", Easy, "--per-page", "3", "--output", out}, 2, "--per-page"},
              {{"print", Easy, "--from", "0", "--output", out}, 2, "--from"},
              {{"print", Easy, "--paper", "a5", "--output", out}, 2, "--paper"},
-             {{"render", Easy, "--number", "41", "--output", out}, 1, "no puzzle 41"},
+             {{"render", Easy, "--number", "41", "--output", out}, 1, "41: there is no"},
              {{"render", Easy, "--number", "1", "--output", "x.gif"}, 2, "x.gif"},
              {{"render", Easy, "--number", "1", "--output", out, "--scale", "0"}, 2, "--scale"},
              {{"render", Easy, "--number", "1", "--output", out, "--scheme", "no"}, 1, "no.col"},

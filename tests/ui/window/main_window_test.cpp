@@ -84,6 +84,7 @@ TEST_F(MainWindow, ExitAsksAndRemembersAndTheCloseBoxRemembersTheSizeOnly) {
 TEST_F(MainWindow, ResizesFromTheSmallestToAnySize) {
     game.resize(game.window->minimumSizeHint());
     EXPECT_NEAR(game.board().boardToWidget().m11(), 0.6, 0.05);
+    EXPECT_EQ(game.board().minimumSize(), QSize(304, 286)) << "whatever stands about it";
     game.resize({1600, 1200});
     EXPECT_GT(game.board().boardToWidget().m11(), 2.0);
     const auto left = [this](QWidget& of) { return of.mapTo(game.window.get(), QPoint()).x(); };
