@@ -1,9 +1,8 @@
 #include "core/base/command_line.h"
 #include "core/base/product.h"
 #include "core/files/file_access.h"
-#include "core/session/configuration.h"
 #include "core/session/game_options.h"
-#include "core/session/program_folder.h"
+#include "core/session/start_up.h"
 #include "ui/controls/file_name_picker.h"
 #include "ui/controls/icon_set.h"
 #include "ui/controls/message_box.h"
@@ -65,31 +64,6 @@ bool choosePlatform(const GameOptions& options) {
     return hasDisplay();
 }
 
-/// Whether a library without a colour scheme was replaced by the installed one, as the user wished.
-bool restored(const std::filesystem::path& share, const Session& session, Prompts& prompts,
-              LoadedSession& loaded) {
-    const std::string question = loaded.outcome.problem + "\r\nRestore the installed one?";
-    if (!loaded.holdsNoScheme || prompts.message(question, "vbyesno+vbcritical") != answer::Yes)
-        return false;
-    loaded.outcome = restoreSchemes(share, session.ProgramFolder);
-    return loaded.outcome.ok();
-}
-
-/// Finds the data files and reads them; tells the user when the game cannot start.
-bool start(const GameOptions& options, Session& session, Prompts& prompts, LoadedSession& loaded) {
-    auto sources = ProgramFolderSources::ofThisProcess();
-    sources.given = options.folder;
-    loaded.outcome = findProgramFolder(sources, session.ProgramFolder);
-    const std::string scheme = schemeLikeDesktop(QApplication::palette());
-    if (loaded.outcome.ok())
-        loaded = loadSession(session, scheme);
-    if (restored(sources.shareFolder, session, prompts, loaded))
-        loaded = loadSession(session, scheme);
-    if (!loaded.outcome.ok())
-        prompts.message(loaded.outcome.problem, Critical);
-    return loaded.outcome.ok();
-}
-
 void openPuzzle(const GameOptions& options, const LastPuzzle& last, PuzzleFileCommands& files) {
     if (options.file.empty()) {
         files.reopen(last.path, options.puzzle > 0 ? options.puzzle : last.number);
@@ -111,12 +85,16 @@ int run(const GameOptions& options) {
     Prompts& prompts = toPicture ? static_cast<Prompts&>(printed) : messageBox;
 
     session.developer = options.developer;
-    LoadedSession loaded;
-    if (!start(options, session, prompts, loaded))
+    auto sources = ProgramFolderSources::ofThisProcess();
+    sources.given = options.folder;
+    const LoadedSession loaded =
+        startSession(session, sources, schemeLikeDesktop(QApplication::palette()), prompts);
+    if (!loaded.outcome.ok())
         return EXIT_FAILURE;
     SystemPrinters printers;
     Form1 window(session, prompts, askPlatform, printers);
-    window.show();
+    if (!toPicture)
+        window.show();
     if (!loaded.notice.empty())
         prompts.message(loaded.notice, Critical);
     const auto open = [&] { openPuzzle(options, session.last, window.files()); };

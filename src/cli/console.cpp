@@ -106,6 +106,12 @@ int StandardOutput::sync() {
     return writeOut() ? 0 : -1;
 }
 
+StandardOutput::pos_type StandardOutput::seekoff(off_type offset, std::ios_base::seekdir from,
+                                                 std::ios_base::openmode) {
+    const bool isQuestion = offset == 0 && from == std::ios_base::cur;
+    return isQuestion ? pos_type(static_cast<off_type>(m_written - m_partOfLine)) : pos_type(-1);
+}
+
 bool StandardOutput::writeOut() {
     std::string_view rest(pbase(), static_cast<std::size_t>(pptr() - pbase()));
     setp(m_buffer.data(), m_buffer.data() + m_buffer.size());
@@ -120,6 +126,7 @@ bool StandardOutput::writeOut() {
         const std::size_t lineEnd = done.rfind('\n');
         m_partOfLine = lineEnd == std::string_view::npos ? m_partOfLine + done.size()
                                                          : done.size() - lineEnd - 1;
+        m_written += done.size();
         rest.remove_prefix(done.size());
     }
     return !m_failed;

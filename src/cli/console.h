@@ -93,6 +93,9 @@ public:
 protected:
     int_type overflow(int_type c) override;
     int sync() override;
+    /// Tells only where it is: how many bytes of whole lines were written.
+    pos_type seekoff(off_type offset, std::ios_base::seekdir from,
+                     std::ios_base::openmode which) override;
 
 private:
     bool writeOut();
@@ -100,7 +103,8 @@ private:
 
     int m_fd;
     std::vector<char> m_buffer;
-    /// How many bytes of a line that is not ended were written.
+    /// How many bytes were written, and how many of them of a line that is not ended.
+    std::size_t m_written = 0;
     std::size_t m_partOfLine = 0;
     bool m_failed = false;
 };

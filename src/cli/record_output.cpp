@@ -16,6 +16,14 @@ namespace {
 constexpr std::size_t FileBatch = 100'000;
 constexpr std::size_t StreamBatch = 32'000;
 
+/// New records carry no progress.
+constexpr std::streamoff BytesPerRecord = RecordLength + LineEnd.size();
+
+/// How far a stream is, also one that has failed.
+std::streamoff placeIn(const std::ostream& stream) {
+    return stream.rdbuf()->pubseekoff(0, std::ios_base::cur, std::ios_base::out);
+}
+
 /// The puzzle that a record stands for, whatever progress the player made on it.
 std::size_t puzzleHash(std::string_view record) {
     return std::hash<std::string_view>()(record.substr(0, RecordLength));
@@ -25,7 +33,8 @@ std::size_t puzzleHash(std::string_view record) {
 
 RecordOutput::RecordOutput(std::ostream& stream, std::filesystem::path path)
     : m_stream(stream)
-    , m_path(std::move(path)) {}
+    , m_path(std::move(path))
+    , m_streamStart(placeIn(stream)) {}
 
 Outcome RecordOutput::open() {
     if (m_path.empty() || !FileExists(m_path))
@@ -62,15 +71,18 @@ Outcome RecordOutput::flush() {
     m_lastFlush = Clock::now();
     if (!m_path.empty()) {
         Outcome written = lines.empty() ? Outcome::done() : m_store.appendPuzzles(m_path, lines);
-        m_inFile = written.ok() ? m_count : m_inFile;
+        m_written = written.ok() ? m_count : m_written;
         return written;
     }
     m_stream << lines;
-    return flushed(m_stream);
+    Outcome written = flushed(m_stream);
+    m_written = (placeIn(m_stream) - m_streamStart) / BytesPerRecord;
+    return written;
 }
 
 std::string RecordOutput::howMuch() const {
-    return m_path.empty() || m_count == 0 ? "" : "; " + counted(m_inFile, "puzzle") + " added";
+    const char* const done = m_path.empty() ? " written" : " added";
+    return m_count == 0 ? "" : "; " + counted(m_written, "puzzle") + done;
 }
 
 } // namespace tessaly

@@ -28,7 +28,7 @@ public:
     /// Writes out what was added; what goes to a file is then on the disk.
     Outcome flush();
 
-    /// "; 2 puzzles added" when it is a file: how many of them are on the disk.
+    /// "; 2 puzzles added" or "written": how many got into the file, or out; "" when none was made.
     std::string howMuch() const;
     /// How many records were added.
     std::int64_t count() const { return m_count; }
@@ -45,7 +45,8 @@ private:
     std::string m_lines;
     Clock::time_point m_lastFlush = Clock::now();
     std::int64_t m_count = 0;
-    std::int64_t m_inFile = 0;
+    std::int64_t m_written = 0;
+    std::streamoff m_streamStart;
 };
 
 } // namespace tessaly

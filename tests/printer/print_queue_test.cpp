@@ -2,6 +2,7 @@
 #include "ui/game_window.h"
 
 #include <QComboBox>
+#include <QPrinter>
 #include <QProcess>
 
 namespace tessaly {
@@ -10,10 +11,13 @@ namespace {
 /// The system's printers; in the platform's dialog the user presses "Print" at once.
 class PrintersWithoutDialog : public SystemPrinters {
 public:
-    bool setUp(QPrinter& printer, QWidget*) override {
-        printer.setPrinterName(u"Paper"_s);
-        return true;
+    std::optional<PrintTarget> setUp(const PrintQuestion& question, QWidget*) override {
+        QPrinter printer(QPrinter::HighResolution);
+        printer.setPrinterName(chosen);
+        printer.setCopyCount(2);
+        return targetOf(printer, question.pageCount);
     }
+    QString chosen = u"Paper"_s;
 };
 
 struct PrintQueue : testing::Test {
@@ -82,16 +86,21 @@ TEST_F(PrintQueue, PuzzleAndSolutionArriveFromThePlatformsDialog) {
     game.choose(u"mnuprintx_2"_s);
     EXPECT_EQ(game.message(), u"Printed"_s);
     const auto pages = textOf(take());
-    ASSERT_EQ(pages.size(), 2U);
+    ASSERT_EQ(pages.size(), 4U) << "two copies";
     EXPECT_GT(pages[0].size(), 40U);
     EXPECT_GT(pages[1].size(), pages[0].size());
+    EXPECT_EQ(pages[2] + pages[3], pages[0] + pages[1]);
 }
 
 TEST_F(PrintQueue, WhatAPrinterDoesNotTakeIsSaid) {
     printRange(u"Closed"_s);
-    EXPECT_EQ(game.lastPrompt().style, "vbok+vbcritical");
-    EXPECT_NE(game.lastPrompt().text.find("not accepting jobs"), std::string::npos)
-        << game.lastPrompt().text;
+    printers.chosen = u"Closed"_s;
+    game.choose(u"mnuprintx_0"_s);
+    ASSERT_EQ(game.prompts.shown.size(), 2U);
+    for (const auto& [text, style] : game.prompts.shown) {
+        EXPECT_EQ(style, "vbok+vbcritical");
+        EXPECT_NE(text.find("not accepting jobs"), std::string::npos) << text;
+    }
     EXPECT_EQ(arrived(), QStringList());
 }
 

@@ -54,6 +54,10 @@ struct RecordingDisplay : Display {
             onYield();
     }
 
+    bool waitFor(const std::filesystem::path&, const std::function<bool()>& attempt) override {
+        return attempt();
+    }
+
     std::vector<int> drawn;
     int boardsDrawn = 0;
     int solutionsDrawn = 0;

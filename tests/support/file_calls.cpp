@@ -86,6 +86,9 @@ TESSALY_FILE_CALL(int, ftruncate, (int file, off_t size), file, size)
 TESSALY_FILE_CALL(int, rename, (const char* from, const char* to), from, to)
 TESSALY_FILE_CALL(int, renameat, (int fromFolder, const char* from, int toFolder, const char* to),
                   fromFolder, from, toFolder, to)
+TESSALY_FILE_CALL(int, linkat,
+                  (int fromFolder, const char* from, int toFolder, const char* to, int flags),
+                  fromFolder, from, toFolder, to, flags)
 TESSALY_FILE_CALL(int, unlinkat, (int folder, const char* path, int flags), folder, path, flags)
 TESSALY_FILE_CALL(int, fchmod, (int file, mode_t mode), file, mode)
 TESSALY_FILE_CALL(int, fchown, (int file, uid_t owner, gid_t group), file, owner, group)

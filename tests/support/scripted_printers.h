@@ -4,9 +4,8 @@
 
 #include "support/temporary_folder.h"
 
-#include <QPrinter>
-
-#include <functional>
+#include <optional>
+#include <vector>
 
 namespace tessaly {
 
@@ -17,19 +16,20 @@ public:
         QString name;
         QString title;
         std::string pdf;
+        QStringList options;
     };
 
     QStringList names() const override { return installed; }
     QString defaultName() const override { return usual; }
     PaperSize paperOf(const QString&) const override { return paper; }
-    Outcome print(const QString& name, const std::filesystem::path& pdf,
-                  const QString& title) override {
-        printed.push_back({name, title, test::contentOf(pdf)});
+    Outcome print(const QString& name, const std::filesystem::path& pdf, const QString& title,
+                  const SheetSettings& sheets) override {
+        printed.push_back({name, title, test::contentOf(pdf), sheets.options()});
         return answer;
     }
-    bool setUp(QPrinter& printer, QWidget*) override {
+    std::optional<PrintTarget> setUp(const PrintQuestion&, QWidget*) override {
         ++asked;
-        return userSetsUp && userSetsUp(printer);
+        return chosen;
     }
 
     QStringList installed;
@@ -37,8 +37,8 @@ public:
     PaperSize paper = NamedPapers[0].size;
     Outcome answer;
     std::vector<Printed> printed;
-    /// What the user does in the platform's dialog; nobody is there at first, and it is cancelled.
-    std::function<bool(QPrinter&)> userSetsUp;
+    /// What the user sets up in the platform's dialog; nobody is there at first.
+    std::optional<PrintTarget> chosen;
     int asked = 0;
 };
 

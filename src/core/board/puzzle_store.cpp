@@ -26,11 +26,7 @@ Outcome cannotBeRead(const fs::path& path, const Outcome& why) {
 }
 
 PuzzleRead notRead(const Outcome& why) {
-    return {PuzzleRead::Status::CannotRead, why.problem, 0, {}};
-}
-
-PuzzleRead noRecord(std::string why, int count) {
-    return {PuzzleRead::Status::NoRecord, std::move(why), count, {}};
+    return {PuzzleRead::Status::CannotRead, why.problem};
 }
 
 ContentWriter writing(std::string_view content) {
@@ -146,21 +142,22 @@ PuzzleRead PuzzleStore::ReadPuzzle(const fs::path& path, int number, Board& boar
     if (const Outcome opened = openIndexed(path, file); !opened.ok())
         return notRead(opened);
     if (number < 1 || number > count())
-        return noRecord(noSuchPuzzle(path, number, count()).problem, count());
+        return {PuzzleRead::Status::NoRecord, noSuchPuzzle(path, number, count()).problem, count()};
     LineSpan span;
     std::string line;
     if (const Outcome read = readLine(path, file, number, span, line); !read.ok())
         return notRead(read);
     const Outcome read = RecordLine{number, line, span.end - span.begin > LongestLine}.read(board);
     if (!read.ok())
-        return noRecord(lineProblem(path, number, read.problem), count());
+        return {PuzzleRead::Status::NoRecord, lineProblem(path, number, read.problem), count(),
+                std::move(line), read.problem};
     return {PuzzleRead::Status::Done, {}, count(), std::move(line)};
 }
 
 Outcome PuzzleStore::WritePuzzle(const fs::path& path, int mode, const Board& board) {
     constexpr int ReplaceMode = 1;
     const std::string line = PuzzleRecord(board).append(LineEnd);
-    return mode == ReplaceMode ? replaceFile(path, line) : appendPuzzles(path, line);
+    return mode == ReplaceMode ? replaceFile(path, line, m_wait) : appendPuzzles(path, line);
 }
 
 Outcome PuzzleStore::appendPuzzle(const fs::path& path, std::string_view record, int& number) {
@@ -188,11 +185,11 @@ Outcome PuzzleStore::append(const fs::path& path, std::string_view wholeLines, i
 Outcome PuzzleStore::appendOnce(const fs::path& path, std::string_view wholeLines, int& number,
                                 bool& standsThere) {
     LockedFile file;
-    if (Outcome locked = file.lock(path); !locked.ok())
+    if (Outcome locked = file.lock(path, m_wait); !locked.ok())
         return locked;
     number = 1;
     if (!file.exists())
-        return file.replace(writing(wholeLines));
+        return file.replace(writing(wholeLines), standsThere);
     if (Outcome indexed = updateIndex(path, file.file()); !indexed.ok())
         return indexed;
     number = count() + 1;
@@ -225,7 +222,7 @@ Outcome PuzzleStore::rewriteWithMore(const LockedFile& file, const ContentWriter
 
 Outcome PuzzleStore::appendPuzzles(const fs::path& path, const ContentWriter& writer) {
     LockedFile file;
-    if (Outcome locked = file.lock(path); !locked.ok())
+    if (Outcome locked = file.lock(path, m_wait); !locked.ok())
         return locked;
     if (!file.exists())
         return file.replace(writer);
@@ -235,7 +232,7 @@ Outcome PuzzleStore::appendPuzzles(const fs::path& path, const ContentWriter& wr
 
 Outcome PuzzleStore::DeletePuzzle(const fs::path& path, int number, std::string_view expected) {
     LockedFile file;
-    if (Outcome locked = file.lock(path); !locked.ok())
+    if (Outcome locked = file.lock(path, m_wait); !locked.ok())
         return locked;
     if (!file.exists())
         return fileProblem(path, "cannot be read", ENOENT);

@@ -53,11 +53,14 @@ struct PuzzleRead {
 
     Status status = Status::CannotRead;
     /// What is wrong, in words; empty when done.
-    std::string reason;
+    std::string reason = {};
     /// How many records the file holds; 0 when it cannot be read.
     int count = 0;
-    /// The record as it stands in the file, without its line end; empty unless done.
-    std::string record;
+    /// The line as it stands in the file, without its line end, a record or not; empty where there
+    /// is none.
+    std::string record = {};
+    /// What is wrong with that line; empty when it is a record.
+    std::string flaw = {};
 
     bool ok() const { return status == Status::Done; }
 };
@@ -67,15 +70,20 @@ struct PuzzleRead {
 /// anew whenever a file has changed.
 class PuzzleStore {
 public:
-    /// `yield` is called for every block of a file that is read or copied.
-    explicit PuzzleStore(Yield yield = {})
-        : m_yield(std::move(yield)) {}
+    /// `yield` is called for every block of a file that is read or copied, `wait` for a file that
+    /// another program is writing.
+    explicit PuzzleStore(Yield yield = {}, LockWait wait = {})
+        : m_yield(std::move(yield))
+        , m_wait(std::move(wait)) {}
 
     /// Counts the records of a file.
     Outcome CountLines(const std::filesystem::path& path, int& count);
 
     /// Puts record `number`, from 1, onto the board. The board stays as it was unless done.
     PuzzleRead ReadPuzzle(const std::filesystem::path& path, int number, Board& board);
+
+    /// The file as it was when a puzzle was read or counted last.
+    const FileState& lastRead() const { return m_index.state(); }
 
     /// Writes the board's record: mode 1 makes it the only one of the file, any other appends it.
     Outcome WritePuzzle(const std::filesystem::path& path, int mode, const Board& board);
@@ -106,6 +114,7 @@ private:
     Outcome rewriteWithMore(const LockedFile& file, const ContentWriter& more);
 
     Yield m_yield;
+    LockWait m_wait;
     LineIndex m_index;
     /// Whether the last line of the indexed file is a record cut short.
     bool m_endsTorn = false;

@@ -37,13 +37,16 @@ bool FileExists(const std::filesystem::path& path) {
            retried([&] { return ::stat(path.c_str(), &status); }) == 0 && S_ISREG(status.st_mode);
 }
 
-Outcome replaceFile(const std::filesystem::path& path, std::string_view content) {
-    return replaceFile(path, [content](const ContentSink& sink) { return sink.write(content); });
+Outcome replaceFile(const std::filesystem::path& path, std::string_view content,
+                    const LockWait& wait) {
+    const auto write = [content](const ContentSink& sink) { return sink.write(content); };
+    return replaceFile(path, write, wait);
 }
 
-Outcome replaceFile(const std::filesystem::path& path, const ContentWriter& writer) {
+Outcome replaceFile(const std::filesystem::path& path, const ContentWriter& writer,
+                    const LockWait& wait) {
     LockedFile file;
-    if (Outcome locked = file.lock(path); !locked.ok())
+    if (Outcome locked = file.lock(path, wait); !locked.ok())
         return locked;
     return file.replace(writer);
 }

@@ -19,9 +19,11 @@ namespace tessaly {
 bool FileExists(const std::filesystem::path& path);
 
 /// Gives a file new content, keeping its permissions, or makes it.
-Outcome replaceFile(const std::filesystem::path& path, std::string_view content);
+Outcome replaceFile(const std::filesystem::path& path, std::string_view content,
+                    const LockWait& wait = {});
 /// The same for content that is too large to hold in memory.
-Outcome replaceFile(const std::filesystem::path& path, const ContentWriter& writer);
+Outcome replaceFile(const std::filesystem::path& path, const ContentWriter& writer,
+                    const LockWait& wait = {});
 
 /// The content of a file of at most `limit` bytes; a larger one is refused.
 Outcome readSmallFile(const std::filesystem::path& path, std::size_t limit, std::string& content);

@@ -116,4 +116,9 @@ void releaseLock(const FileDescriptor& file);
 /// Calls `attempt` until it answers true, with pauses that last ten seconds in all. Whether it did.
 bool patiently(const std::function<bool()>& attempt);
 
+/// How somebody waits for a file that another program is writing: calls `attempt` until it answers
+/// true, or gives up. Whether it did. An empty one waits `patiently`.
+using LockWait =
+    std::function<bool(const std::filesystem::path& path, const std::function<bool()>& attempt)>;
+
 } // namespace tessaly

@@ -36,6 +36,9 @@ public:
     /// Whether `update` would have nothing to read.
     bool isOf(const FileState& state) const { return m_valid && m_settled && m_state == state; }
 
+    /// The file when its lines were counted.
+    const FileState& state() const { return m_state; }
+
     int count() const { return static_cast<int>(m_count); }
     /// Whether the last line is ended, and so cannot be one that was cut short.
     bool endsInLineEnd() const { return m_lineEnds >= m_count; }

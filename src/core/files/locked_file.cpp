@@ -86,21 +86,26 @@ bool isScratchName(std::string_view name) {
            name.starts_with(ScratchStart) && name.ends_with(ScratchEnd);
 }
 
-void removeLeftover(const FileDescriptor& folder, const std::string& name) {
+void removeLeftover(const FileDescriptor& folder, const std::string& name,
+                    const FileDescriptor& held) {
     constexpr int Flags = O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY;
     const FileDescriptor file(retried([&] { return ::openat(folder.get(), name.c_str(), Flags); }));
+    const bool isSecondName = held.isOpen() && isNamed(held, folder, name) == Named::Yes;
     // A living writer holds the lock. Where nothing can be locked nobody knows, and the file stays.
-    if (file.isOpen() && takeLock(file) == LockAnswer::Taken &&
-        isNamed(file, folder, name) == Named::Yes)
+    if (isSecondName || (file.isOpen() && takeLock(file) == LockAnswer::Taken &&
+                         isNamed(file, folder, name) == Named::Yes))
         retried([&] { return ::unlinkat(folder.get(), name.c_str(), 0); });
 }
 
-void removeLeftovers(const std::filesystem::path& path, const FileDescriptor& folder) {
+/// `held` is the file that is locked here, if there is one: a new file keeps its scratch name when
+/// its writer dies just after it has taken its own.
+void removeLeftovers(const std::filesystem::path& path, const FileDescriptor& folder,
+                     const FileDescriptor& held) {
     std::error_code error;
     std::filesystem::directory_iterator entry(path, error);
     for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error))
         if (const auto name = entry->path().filename().native(); isScratchName(name))
-            removeLeftover(folder, name);
+            removeLeftover(folder, name, held);
 }
 
 /// The new content of a file while it is being written: a hidden file beside the old one, locked
@@ -122,11 +127,13 @@ public:
     Outcome create();
     ContentSink sink() const { return {m_file, m_place.path}; }
     /// Puts the content in the target's place, whole, with the target's permissions, and on the
-    /// disk.
-    Outcome takePlace();
+    /// disk. A target that is there against all expectation stays; then `isFirst` is false.
+    Outcome takePlace(bool& isFirst);
 
 private:
     Outcome checkTarget() const;
+    int replaceTarget() const;
+    int makeTarget() const;
     Outcome copyPermissions() const;
     Outcome flushFolder() const;
 
@@ -217,19 +224,38 @@ Outcome ScratchFile::flushFolder() const {
     return fileProblem(m_place.path, "was saved, but its folder cannot be flushed to the disk");
 }
 
+Outcome changedMeanwhile(const std::filesystem::path& path) {
+    return Outcome::failed(path.native() + ": was changed by another program at the same moment");
+}
+
 /// Fails when a program that knows nothing of the lock has changed the target since.
 Outcome ScratchFile::checkTarget() const {
+    if (!m_target.exists())
+        return Outcome::done();
     const auto now = FileState::of(m_place.folder, m_place.name);
     if (!now && errno != ENOENT)
         return fileProblem(m_place.path, CannotBeWritten);
-    if (now ? m_target.exists() && *now == m_target.state() : !m_target.exists())
-        return Outcome::done();
-    return Outcome::failed(m_place.path.native() +
-                           ": was changed by another program at the same moment");
+    return now && *now == m_target.state() ? Outcome::done() : changedMeanwhile(m_place.path);
 }
 
-Outcome ScratchFile::takePlace() {
+/// A link, unlike a new name, never takes another file's place. Not every file system knows links.
+int ScratchFile::makeTarget() const {
     const int folder = m_place.folder.get();
+    const int linked =
+        retried([&] { return ::linkat(folder, m_name.c_str(), folder, m_place.name.c_str(), 0); });
+    if (linked == 0)
+        retried([&] { return ::unlinkat(folder, m_name.c_str(), 0); });
+    const bool cannot = errno == EPERM || errno == EOPNOTSUPP || errno == ENOSYS;
+    return linked != 0 && cannot ? replaceTarget() : linked;
+}
+
+int ScratchFile::replaceTarget() const {
+    const int folder = m_place.folder.get();
+    return retried(
+        [&] { return ::renameat(folder, m_name.c_str(), folder, m_place.name.c_str()); });
+}
+
+Outcome ScratchFile::takePlace(bool& isFirst) {
     if (m_target.exists())
         if (Outcome kept = copyPermissions(); !kept.ok())
             return kept;
@@ -239,8 +265,11 @@ Outcome ScratchFile::takePlace() {
         return same;
     if (isNamed(m_file, m_place.folder, m_name) != Named::Yes)
         return Outcome::failed(m_place.path.native() + ": is being written by another program");
-    if (retried([&] { return ::renameat(folder, m_name.c_str(), folder, m_place.name.c_str()); }) !=
-        0)
+    const int renamed = m_target.exists() ? replaceTarget() : makeTarget();
+    isFirst = renamed == 0 || m_target.exists() || errno != EEXIST;
+    if (!isFirst)
+        return Outcome::done();
+    if (renamed != 0)
         return fileProblem(m_place.path, "cannot be replaced");
     Outcome flushed = flushFolder();
     releaseLock(m_file);
@@ -271,14 +300,15 @@ void LockedFile::unlock() {
     m_file.close();
 }
 
-Outcome LockedFile::lock(const std::filesystem::path& path) {
+Outcome LockedFile::lock(const std::filesystem::path& path, const LockWait& wait) {
     unlock();
     Outcome outcome = checkName(path);
     m_place.path = path;
-    if (outcome.ok() && !patiently([&] { return attempt(outcome); }))
+    const auto tried = [&] { return attempt(outcome); };
+    if (outcome.ok() && !(wait ? wait(path, tried) : patiently(tried)))
         outcome = Outcome::failed(path.native() + ": is being written by another program");
     if (outcome.ok())
-        removeLeftovers(m_place.folderPath, m_place.folder);
+        removeLeftovers(m_place.folderPath, m_place.folder, m_file);
     else
         unlock();
     return outcome;
@@ -360,13 +390,19 @@ Outcome LockedFile::missingLineEnd(std::string_view& missing) const {
     return Outcome::done();
 }
 
-Outcome LockedFile::replace(const ContentWriter& writer) const {
+Outcome LockedFile::replace(const ContentWriter& writer, bool& isFirst) const {
     ScratchFile scratch(*this);
     if (Outcome created = scratch.create(); !created.ok())
         return created;
     if (Outcome written = writer(scratch.sink()); !written.ok())
         return written;
-    return scratch.takePlace();
+    return scratch.takePlace(isFirst);
+}
+
+Outcome LockedFile::replace(const ContentWriter& writer) const {
+    bool isFirst = true;
+    Outcome replaced = replace(writer, isFirst);
+    return isFirst ? replaced : changedMeanwhile(m_place.path);
 }
 
 Outcome LockedFile::append(std::string_view wholeLines) const {
@@ -392,7 +428,7 @@ Outcome LockedFile::takeBack(std::string_view addition, Outcome problem) const {
 }
 
 void removeLeftovers(const std::filesystem::path& folder) {
-    removeLeftovers(folder, openFolder(folder));
+    removeLeftovers(folder, openFolder(folder), {});
 }
 
 } // namespace tessaly

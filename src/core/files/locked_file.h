@@ -28,9 +28,9 @@ public:
     LockedFile& operator=(const LockedFile&) = delete;
     ~LockedFile() { unlock(); }
 
-    /// Waits ten seconds at most for another instance. Refuses what is no regular file, and a file
-    /// that may not be written. What killed processes left in its folder is cleared up.
-    Outcome lock(const std::filesystem::path& path);
+    /// Waits for another instance as long as `wait` does. Refuses what is no regular file, and a
+    /// file that may not be written. What killed processes left in its folder is cleared up.
+    Outcome lock(const std::filesystem::path& path, const LockWait& wait = {});
 
     bool exists() const { return m_file.isOpen(); }
     const FileDescriptor& file() const { return m_file; }
@@ -42,6 +42,10 @@ public:
     /// beside the old one and then takes its name, so that whatever instant the process dies the
     /// old content stands or the new one.
     Outcome replace(const ContentWriter& writer) const;
+
+    /// The same, but where there was no file when it was locked and a program that could not be
+    /// kept out has made one since, nothing is written and `isFirst` is false.
+    Outcome replace(const ContentWriter& writer, bool& isFirst) const;
 
     /// Appends lines, each with its line end, to a file that exists. A last line without a line end
     /// is ended first. A failure leaves the file as it was.

@@ -3,6 +3,7 @@
 #include "core/board/puzzle_store.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace tessaly {
 
@@ -28,13 +29,37 @@ BookletPage Booklet::page(int number) const {
     return {};
 }
 
+std::vector<int> pagesOfCopies(const std::vector<int>& pages, const Copies& copies) {
+    std::vector<int> all;
+    const auto add = [&all](int page, int times) {
+        all.insert(all.end(), static_cast<std::size_t>(times), page);
+    };
+    if (!copies.collated && !copies.twoSided) {
+        for (int page : pages)
+            add(page, copies.count);
+        return all;
+    }
+    for (int copy = 0; copy < copies.count; ++copy) {
+        if (copies.twoSided && all.size() % 2 != 0)
+            add(EmptyPage, 1);
+        all.insert(all.end(), pages.begin(), pages.end());
+    }
+    return all;
+}
+
 PrintJob jobOf(const PrintRange& range, PuzzleStore& files) {
     std::vector<BookletPart> parts{{false, range.puzzlesPerPage}};
     if (range.solutions)
         parts.push_back({true, SolutionsPerPage});
-    const auto boardOf = [&files, path = range.path](int number, Board& board) {
+    const auto boardOf = [&files, path = range.path,
+                          first = std::optional<FileState>()](int number, Board& board) mutable {
         const PuzzleRead read = files.ReadPuzzle(path, number, board);
         board.ResetToGivens();
+        if (!first)
+            first = files.lastRead();
+        // The solutions would be those of other puzzles.
+        if (*first != files.lastRead())
+            return Outcome::failed(path.native() + ": changed while it was printed");
         return read.ok() ? Outcome::done() : Outcome::failed(read.reason);
     };
     const std::string name = range.path.filename().native();

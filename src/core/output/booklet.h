@@ -62,7 +62,24 @@ struct PrintJob {
     std::function<Outcome(int number, Board& board)> boardOf;
     /// What the document is called.
     std::string title;
+    /// The pages that are printed, from 0, in their order; empty for each of them once.
+    std::vector<int> pages = {};
 };
+
+/// A page with nothing on it.
+inline constexpr int EmptyPage = -1;
+
+/// How the copies of a document follow each other.
+struct Copies {
+    int count = 1;
+    /// Whether each copy is complete before the next one begins.
+    bool collated = true;
+    /// Whether both sides of the sheets are printed on, and so every copy begins on a new sheet.
+    bool twoSided = false;
+};
+
+/// The pages of all copies, in their order.
+std::vector<int> pagesOfCopies(const std::vector<int>& pages, const Copies& copies);
 
 /// Some of a file's puzzles, and how they are laid out.
 struct PrintRange {
@@ -76,7 +93,8 @@ struct PrintRange {
 };
 
 /// The job of printing a range: the puzzles as they were made, without what a player has entered,
-/// for a booklet is there to be solved, and then their solutions. `files` must outlive the job.
+/// for a booklet is there to be solved, and then their solutions. A file that has changed since its
+/// first puzzle was read is refused. `files` must outlive the job.
 PrintJob jobOf(const PrintRange& range, PuzzleStore& files);
 
 /// The job of printing one board as it stands, each part on a page of its own.

@@ -72,7 +72,7 @@ Colour markerColour(const Appearance& appearance) {
 }
 
 BoardStyle paperStyle(const Appearance& appearance) {
-    constexpr double WidestBorder = 16;
+    constexpr double WidestBorder = 10;
     return {
         .border = Black,
         .line = Black,

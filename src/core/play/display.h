@@ -6,6 +6,7 @@
 #include "core/play/board_geometry.h"
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -67,6 +68,10 @@ public:
     virtual void endProgress() = 0;
     /// Lets the window handle what has come in meanwhile.
     virtual void yield() = 0;
+    /// Waits for a file that another program is writing, says so and lets the window live: calls
+    /// `attempt` until it answers true, or the player gives up. Whether it did.
+    virtual bool waitFor(const std::filesystem::path& path,
+                         const std::function<bool()>& attempt) = 0;
 };
 
 } // namespace tessaly

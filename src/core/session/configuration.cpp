@@ -18,15 +18,34 @@ namespace {
 
 constexpr Colour LastColour = White;
 
+/// In bytes.
+constexpr std::size_t LargestConfiguration = std::size_t{1} << 20;
+
 /// Takes a list of numbers apart, one number after the other. Each is nothing when it is missing,
-/// garbled or out of the range that is asked for.
+/// garbled or out of the range that is asked for; then the list is damaged, unless that is a colour
+/// that was never chosen.
 class NumberList {
 public:
     explicit NumberList(std::string_view text)
         : m_rest(text) {}
 
+    bool isDamaged() const { return m_isDamaged; }
+
     std::optional<int> next(int lowest, int highest) {
-        const std::string_view text = nextField();
+        const std::optional<int> value = numberIn(nextField(), lowest, highest);
+        m_isDamaged = m_isDamaged || !value;
+        return value;
+    }
+
+    std::optional<Colour> nextColour() {
+        const std::string_view field = nextField();
+        const auto value = numberIn(field, 0, static_cast<int>(LastColour));
+        m_isDamaged = m_isDamaged || !(value || field.empty());
+        return value ? std::optional(static_cast<Colour>(*value)) : std::nullopt;
+    }
+
+private:
+    static std::optional<int> numberIn(std::string_view text, int lowest, int highest) {
         int value = 0;
         const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
         const bool isNumber = error == std::errc() && end == text.data() + text.size();
@@ -35,12 +54,6 @@ public:
         return value;
     }
 
-    std::optional<Colour> nextColour() {
-        const std::optional<int> value = next(0, static_cast<int>(LastColour));
-        return value ? std::optional(static_cast<Colour>(*value)) : std::nullopt;
-    }
-
-private:
     std::string_view nextField() {
         const std::size_t comma = m_rest.find(',');
         const std::string_view field = m_rest.substr(0, comma);
@@ -49,9 +62,11 @@ private:
     }
 
     std::string_view m_rest;
+    bool m_isDamaged = false;
 };
 
-void readNumbers(std::string_view line, Configuration& into) {
+/// Whether every number is one.
+bool readNumbers(std::string_view line, Configuration& into) {
     constexpr int Unlimited = std::numeric_limits<int>::max();
     NumberList numbers(line);
     into.PuzNum = numbers.next(1, Unlimited).value_or(into.PuzNum);
@@ -63,12 +78,14 @@ void readNumbers(std::string_view line, Configuration& into) {
     into.SplitHexas = numbers.next(0, 1).value_or(0) == 1;
     into.HexaFillColour = numbers.nextColour();
     into.NumBorder = numbers.next(0, 1).value_or(0) == 1;
+    return !numbers.isDamaged();
 }
 
-Configuration readLines(const std::vector<TextLine>& lines) {
-    Configuration read;
+/// Whether every line is whole, as far as that can be seen.
+bool readLines(const std::vector<TextLine>& lines, Configuration& read) {
+    constexpr std::size_t LeastLines = 4;
     const auto lineAt = [&](std::size_t i) { return i < lines.size() ? lines[i].text : ""; };
-    readNumbers(lineAt(0), read);
+    const bool hasNumbers = readNumbers(lineAt(0), read);
     if (!isBlank(lineAt(1)))
         read.ActiveScheme = lineAt(1);
     if (!isBlank(lineAt(2)))
@@ -77,7 +94,7 @@ Configuration readLines(const std::vector<TextLine>& lines) {
     for (std::size_t i = 4; i < lines.size(); ++i)
         if (!isBlank(lines[i].text))
             read.recentFiles.append(lines[i].text);
-    return read;
+    return hasNumbers && lines.size() >= LeastLines && lines.back().raw.ends_with('\n');
 }
 
 std::string colourText(std::optional<Colour> colour) {
@@ -127,9 +144,18 @@ void checkSchemes(const std::filesystem::path& folder, LoadedSession& loaded) {
             Outcome::failed("File: all.col is missing\r\nProgram cannot run without this file");
     else
         loaded.outcome = schemes.RefreshSchemeList();
-    loaded.holdsNoScheme = loaded.outcome.ok() && schemes.names().empty();
-    if (loaded.holdsNoScheme)
-        loaded.outcome = Outcome::failed(path.native() + ": there is no colour scheme in it");
+    if (!loaded.outcome.ok() || !schemes.names().empty())
+        return;
+    loaded.outcome = Outcome::failed(path.native() + ": there is no colour scheme in it");
+    loaded.damagedFile = SchemeLibraryFile;
+}
+
+void checkArrangements(Session& session, LoadedSession& loaded) {
+    const std::filesystem::path path = session.ProgramFolder / ArrangementFile;
+    loaded.outcome = Set6Combos(path, session.arrangements);
+    FileDescriptor file;
+    if (!loaded.outcome.ok() && (!isThere(path) || openForReading(path, file).ok()))
+        loaded.damagedFile = ArrangementFile;
 }
 
 bool hasScheme(const std::filesystem::path& folder, const std::string& scheme) {
@@ -180,19 +206,18 @@ void Configuration::applyTo(Appearance& appearance) const {
         FixedNumberColour.value_or(readableOn(appearance.HexaFillColour));
 }
 
-Outcome ReadcfgFile(const std::filesystem::path& path, Configuration& configuration) {
-    constexpr std::size_t Limit = std::size_t{1} << 20;
+ConfigurationRead ReadcfgFile(const std::filesystem::path& path, Configuration& configuration) {
     std::string content;
     configuration = {};
     if (!isThere(path))
-        return Outcome::done();
-    Outcome read = readSmallFile(path, Limit, content);
-    if (read.ok())
-        configuration = readLines(splitLines(content));
+        return {};
+    ConfigurationRead read{readSmallFile(path, LargestConfiguration, content)};
+    read.isDamaged = read.ok() && !readLines(splitLines(content), configuration);
     return read;
 }
 
-Outcome SavecfgFile(const std::filesystem::path& path, const Configuration& configuration) {
+Outcome SavecfgFile(const std::filesystem::path& path, const Configuration& configuration,
+                    const LockWait& wait) {
     std::string content;
     addLine(numberLine(configuration), content);
     addLine(configuration.ActiveScheme, content);
@@ -200,7 +225,7 @@ Outcome SavecfgFile(const std::filesystem::path& path, const Configuration& conf
     addLine(configuration.PuzPath.native(), content);
     for (const std::filesystem::path& file : configuration.recentFiles.paths())
         addLine(file.native(), content);
-    return replaceFile(path, content);
+    return replaceFile(path, content, wait);
 }
 
 LoadedSession loadSession(Session& session, const std::string& firstScheme) {
@@ -208,13 +233,14 @@ LoadedSession loadSession(Session& session, const std::string& firstScheme) {
     removeLeftovers(session.ProgramFolder);
     checkSchemes(session.ProgramFolder, loaded);
     if (loaded.outcome.ok())
-        loaded.outcome = Set6Combos(session.ProgramFolder / ArrangementFile, session.arrangements);
+        checkArrangements(session, loaded);
     if (!loaded.outcome.ok())
         return loaded;
     const std::filesystem::path path = configurationPath(session);
     Configuration configuration;
-    const Outcome read = ReadcfgFile(path, configuration);
-    session.configurationIsUnread = !read.ok();
+    const ConfigurationRead read = ReadcfgFile(path, configuration);
+    const Outcome kept = read.isDamaged ? keepDamaged(path) : Outcome{read.problem};
+    session.configurationIsUnread = !kept.ok();
     session.last = {configuration.PuzPath, configuration.PuzNum};
     if (!isThere(path)) {
         session.last.path = session.ProgramFolder / EasyLibraryFile;
@@ -222,11 +248,14 @@ LoadedSession loadSession(Session& session, const std::string& firstScheme) {
             configuration.ActiveScheme = firstScheme;
     }
     const Outcome applied = applyConfiguration(configuration, session);
-    loaded.notice = read.ok() ? applied.problem : read.problem;
+    loaded.notice = kept.ok() ? applied.problem : kept.problem;
+    if (read.isDamaged && kept.ok())
+        loaded.notice = path.native() + ": is damaged; what was in it is kept in \"" +
+                        path.filename().native() + DamagedExtension + "\"\r\n" + applied.problem;
     return loaded;
 }
 
-Outcome SavecfgFile(const Session& session) {
+Outcome SavecfgFile(const Session& session, const LockWait& wait) {
     if (session.configurationIsUnread)
         return Outcome::done();
     Configuration configuration;
@@ -236,7 +265,7 @@ Outcome SavecfgFile(const Session& session) {
     configuration.remember(session.appearance);
     configuration.PuzPath = showedPuzzle ? session.puzzle.PuzPath : session.last.path;
     configuration.recentFiles = session.recentFiles;
-    return SavecfgFile(configurationPath(session), configuration);
+    return SavecfgFile(configurationPath(session), configuration, wait);
 }
 
 } // namespace tessaly

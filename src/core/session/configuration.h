@@ -42,6 +42,11 @@ struct Configuration {
     friend bool operator==(const Configuration&, const Configuration&) = default;
 };
 
+struct [[nodiscard]] ConfigurationRead : Outcome {
+    /// Whether some of it is garbled or missing.
+    bool isDamaged = false;
+};
+
 /// Reads "tessaly.cfg": each value that is missing, garbled or out of its range takes its default,
 /// one by one, and where there is no file the configuration is that of a first run. Fails only when
 /// there is one that cannot be read.
@@ -50,18 +55,19 @@ struct Configuration {
 /// `HexaBorderWidth`, `FixedNumberColour`, `UserNumberColour`, `HexaBorderColour`, `SplitHexas`,
 /// `HexaFillColour`, `NumBorder`, a colour that was never chosen being empty; (2) the scheme;
 /// (3) the font; (4) the last puzzle file; (5) and on, the recent files.
-Outcome ReadcfgFile(const std::filesystem::path& path, Configuration& configuration);
+ConfigurationRead ReadcfgFile(const std::filesystem::path& path, Configuration& configuration);
 
 /// Writes the file anew: whole, or not at all.
-Outcome SavecfgFile(const std::filesystem::path& path, const Configuration& configuration);
+Outcome SavecfgFile(const std::filesystem::path& path, const Configuration& configuration,
+                    const LockWait& wait = {});
 
 /// What start-up found besides what went into the session.
 struct LoadedSession {
     /// Why the game cannot start; done when it can.
     Outcome outcome;
-    /// Whether it cannot because there is no colour scheme in the library of schemes, which the
-    /// installed one could mend.
-    bool holdsNoScheme = false;
+    /// The shipped file in the program's folder that is of no use, and so stops the start, where
+    /// the installed one could mend that; may be empty.
+    std::string damagedFile;
     /// What the user should know all the same; may be empty.
     std::string notice;
 };
@@ -75,6 +81,6 @@ LoadedSession loadSession(Session& session, const std::string& firstScheme = Def
 /// Writes what the next run is to remember: while no other puzzle was shown, the one that was to be
 /// opened, though its file may be out of reach today. Nothing is written over a configuration that
 /// could not be read.
-Outcome SavecfgFile(const Session& session);
+Outcome SavecfgFile(const Session& session, const LockWait& wait = {});
 
 } // namespace tessaly

@@ -30,6 +30,7 @@ MultipleCreation::MultipleCreation(Session& session, PuzzleFileCommands& files, 
     , m_display(display)
     , m_prompts(prompts)
     , m_orders(orders)
+    , m_store({}, [this](const auto&, const auto& attempt) { return waitFor(attempt); })
     , m_fill(arrangementsOf(session.arrangements))
     , m_chance(chance) {}
 
@@ -82,9 +83,20 @@ Outcome MultipleCreation::createAll(const CreationOrder& order, int& made) {
 /// Appends to the file on a thread of its own: a disk may take its time.
 Outcome MultipleCreation::append(const std::filesystem::path& path, const std::string& records) {
     auto writing = std::async([&] { return m_store.appendPuzzles(path, records); });
-    while (writing.wait_for(Turn) == std::future_status::timeout)
+    while (writing.wait_for(Turn) == std::future_status::timeout) {
+        if (m_waiting)
+            m_display.showMessage("Waiting for " + path.filename().native());
         m_display.yield();
+    }
     return writing.get();
+}
+
+bool MultipleCreation::waitFor(const std::function<bool()>& attempt) {
+    patiently([&] {
+        m_waiting = !attempt();
+        return m_stopped || !m_waiting;
+    });
+    return !m_waiting.exchange(false);
 }
 
 std::string MultipleCreation::createSome(const CreationOrder& order, int& made) {
@@ -135,6 +147,8 @@ void MultipleCreation::report(const CreationOrder& order, int made, const Outcom
     m_display.showMessage(count + " Puzles Created");
     if (!outcome.ok())
         m_prompts.message(outcome.problem, "vbok+vbcritical");
+    if (!outcome.ok() && made == 0)
+        return;
     m_prompts.message(count + " Puzzles added to file:\r\n" + order.path.native(),
                       "vbinformation+vbok");
 }

@@ -4,6 +4,7 @@
 #include "core/solver/chance.h"
 #include "core/solver/search_fill.h"
 
+#include <atomic>
 #include <filesystem>
 #include <functional>
 #include <optional>
@@ -46,6 +47,7 @@ private:
     /// those that are on the disk.
     Outcome createAll(const CreationOrder& order, int& made);
     Outcome append(const std::filesystem::path& path, const std::string& records);
+    bool waitFor(const std::function<bool()>& attempt);
     /// The records of a short while, counted in `made`.
     std::string createSome(const CreationOrder& order, int& made);
     /// A record that was not made in this run before.
@@ -62,7 +64,9 @@ private:
     SearchFill m_fill;
     Chance m_chance;
     std::unordered_set<std::string> m_known;
-    bool m_stopped = false;
+    std::atomic<bool> m_stopped = false;
+    /// Whether the thread that writes waits for another program.
+    std::atomic<bool> m_waiting = false;
 };
 
 } // namespace tessaly

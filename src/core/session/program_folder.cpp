@@ -49,7 +49,7 @@ FileDescriptor openFolder(const fs::path& folder) {
 
 constexpr std::size_t SizeLimit = std::size_t{256} << 20;
 
-Outcome copyShipped(const fs::path& from, const fs::path& to) {
+Outcome copyFile(const fs::path& from, const fs::path& to) {
     std::string content;
     if (Outcome read = readSmallFile(from, SizeLimit, content); !read.ok())
         return read;
@@ -67,7 +67,7 @@ Outcome copyAll(const fs::path& share, const fs::path& folder) {
             continue;
         if (fs::create_directories(copy.parent_path(), error); error)
             return fileProblem(copy.parent_path(), "cannot be created", error.value());
-        if (Outcome copied = copyShipped(share / file.name, copy); !copied.ok())
+        if (Outcome copied = copyFile(share / file.name, copy); !copied.ok())
             return copied;
     }
     return Outcome::done();
@@ -197,8 +197,13 @@ bool isOwnFile(const fs::path& programFolder, const fs::path& path) {
     });
 }
 
-Outcome restoreSchemes(const fs::path& share, const fs::path& folder) {
-    return copyShipped(share / SchemeLibraryFile, folder / SchemeLibraryFile);
+Outcome keepDamaged(const fs::path& path) {
+    return copyFile(path, path.native() + DamagedExtension);
+}
+
+Outcome restoreShippedFile(const fs::path& share, const fs::path& folder, const std::string& name) {
+    const Outcome kept = FileExists(folder / name) ? keepDamaged(folder / name) : Outcome::done();
+    return kept.ok() ? copyFile(share / name, folder / name) : kept;
 }
 
 ProgramFolderSources ProgramFolderSources::ofThisProcess() {

@@ -3,6 +3,7 @@
 #include "core/base/outcome.h"
 
 #include <filesystem>
+#include <string>
 
 namespace tessaly {
 
@@ -27,8 +28,13 @@ Outcome installShippedFiles(const std::filesystem::path& share,
 /// older file still works.
 void renewShippedFiles(const std::filesystem::path& share, const std::filesystem::path& folder);
 
-/// Puts the shipped library of schemes in the place of the one in `folder`.
-Outcome restoreSchemes(const std::filesystem::path& share, const std::filesystem::path& folder);
+/// Copies a damaged file, before it is written over, to one beside it whose name ends in this.
+inline constexpr const char* DamagedExtension = ".damaged";
+Outcome keepDamaged(const std::filesystem::path& path);
+
+/// Puts a shipped file in the place of the damaged one in `folder`, which is kept beside it.
+Outcome restoreShippedFile(const std::filesystem::path& share, const std::filesystem::path& folder,
+                           const std::string& name);
 
 /// Whether a path, through links or not, means a file that the program keeps for itself: no puzzles
 /// are saved to it.

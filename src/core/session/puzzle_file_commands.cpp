@@ -17,6 +17,11 @@ constexpr std::string_view FileProblem = "vbcritical+vbok";
 /// A file whose first lines are no records is not searched through to its end.
 constexpr int MostTried = 1000;
 
+std::string errorReading(int number, const PuzzleRead& read) {
+    return "Error reading p# " + std::to_string(number) +
+           (read.flaw.empty() ? "" : ": " + read.flaw);
+}
+
 /// For as long as it lives the pointer is busy and other commands are refused.
 class WhileAtWork {
 public:
@@ -55,7 +60,10 @@ PuzzleFileCommands::PuzzleFileCommands(Session& session, BoardInput& input, Disp
     , m_display(display)
     , m_prompts(prompts)
     , m_chooseFile(std::move(chooseFile)) {
-    m_session.files = PuzzleStore([&display] { display.yield(); });
+    m_session.files = PuzzleStore([&display] { display.yield(); },
+                                  [&display](const auto& path, const auto& attempt) {
+                                      return display.waitFor(path, attempt);
+                                  });
 }
 
 void PuzzleFileCommands::tellCritical(const std::string& text) {
@@ -79,13 +87,14 @@ PuzzleRead PuzzleFileCommands::show(const std::filesystem::path& path, int numbe
 PuzzleRead PuzzleFileCommands::ReadPuzzle(const std::filesystem::path& path, int number) {
     PuzzleRead read = show(path, number);
     if (!read.ok())
-        m_display.showMessage("Error reading p# " + std::to_string(number));
+        m_display.showMessage(errorReading(number, read));
     return read;
 }
 
 PuzzleRead PuzzleFileCommands::showReadable(const std::filesystem::path& path, int number,
                                             int step) {
     PuzzleRead read = ReadPuzzle(path, number);
+    const std::string error = errorReading(number, read);
     const int tries = std::min(read.count, MostTried);
     int next = number;
     for (int tried = 1; read.status == PuzzleRead::Status::NoRecord && tried < tries; ++tried) {
@@ -93,7 +102,7 @@ PuzzleRead PuzzleFileCommands::showReadable(const std::filesystem::path& path, i
         read = show(path, next);
     }
     if (read.ok() && next != number)
-        m_display.showMessage("Error reading p# " + std::to_string(number));
+        m_display.showMessage(error);
     return read;
 }
 
@@ -158,10 +167,22 @@ void PuzzleFileCommands::goTo(int number) {
         return;
     const int count = recount();
     if (number >= 1 && number <= count)
-        tellUnreadable(ReadPuzzle(m_session.puzzle.PuzPath, number));
+        showAsItIs(number);
     else
         m_display.showMessage("There is no puzzle " + std::to_string(number) + " among the " +
                               std::to_string(count));
+}
+
+void PuzzleFileCommands::showAsItIs(int number) {
+    const std::filesystem::path path = m_session.puzzle.PuzPath;
+    PuzzleRead read = ReadPuzzle(path, number);
+    tellUnreadable(read);
+    if (read.flaw.empty())
+        return;
+    m_session.game = {};
+    m_session.puzzle = {path, number, read.count, std::move(read.record)};
+    m_input.forgetSelection();
+    m_display.showPuzzle(m_session.puzzle);
 }
 
 void PuzzleFileCommands::setSaveTarget(const std::filesystem::path& path) {
@@ -209,6 +230,8 @@ bool PuzzleFileCommands::accepts(const std::filesystem::path& target) {
 }
 
 void PuzzleFileCommands::mnusaveto() {
+    if (!m_session.game.hasPuzzle())
+        return;
     const std::filesystem::path& path = m_session.saveTarget;
     const std::string question = "File not found:\r\n" + path.native() + "\r\nMake it anew?";
     if (FileExists(path) || m_prompts.message(question, "vbyesno+vbquestion") == answer::Yes)

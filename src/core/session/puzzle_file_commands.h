@@ -24,7 +24,8 @@ public:
     /// Steps to the previous (item 0) or the next puzzle (item 1), around the ends of the file and
     /// over what cannot be read.
     void cmdarrow(int item);
-    /// Shows a puzzle by its number; a number that the file does not have is only told.
+    /// Shows a puzzle by its number. A line that is no puzzle is shown as such, on an empty board,
+    /// so that it can be deleted; a number that the file does not have is only told.
     void goTo(int number);
     /// Appends the puzzle to a file that the user chooses, and shows it there.
     void mnusavex();
@@ -62,6 +63,7 @@ private:
     /// Shows the first puzzle of a file that can be read, from `number` on; tells when there is
     /// none.
     bool open(const std::filesystem::path& path, int number);
+    void showAsItIs(int number);
     /// Tells the user when the current file cannot be read.
     void tellUnreadable(const PuzzleRead& read);
     /// How many puzzles the current file holds now; as many as before when it cannot be read.

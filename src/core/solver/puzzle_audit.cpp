@@ -1,5 +1,6 @@
 #include "core/solver/puzzle_audit.h"
 
+#include "core/base/text.h"
 #include "core/board/digit_set.h"
 #include "core/board/puzzle_record.h"
 #include "core/board/tables.h"
@@ -115,6 +116,9 @@ void checkDifficulty(const Board& board, Findings& findings) {
 } // namespace
 
 std::vector<std::string> auditRecord(std::string_view line) {
+    // Blanks behind a record are forgiven, as in the game.
+    if (const auto end = line.find_last_not_of(BlankCharacters); end != line.npos)
+        line = line.substr(0, std::max(end + 1, std::min(line.size(), RecordLength)));
     Findings findings;
     Board board;
     if (const Outcome read = readRecord(line, board); !read.ok())

@@ -6,11 +6,11 @@
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
-#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QMouseEvent>
 #include <QStandardPaths>
 
+#include <algorithm>
 #include <filesystem>
 
 namespace tessaly {
@@ -37,13 +37,42 @@ private:
     QString m_directory = QDir::currentPath();
 };
 
-/// Why the path cannot be taken; empty when it can.
-QString problemWith(const QString& path) {
-    if (path.size() > LongestPath)
-        return u"The path of this file is longer than %1 characters, so it cannot be used:\r\n"_s
-                   .arg(LongestPath) %
-               path;
-    return problemWithName(path);
+/// Whether a text from the screen is the name that stands on the disk. One there that is not UTF-8
+/// arrives with replacement characters in it.
+bool isExact(const QString& name) {
+    return !name.contains(QChar::ReplacementCharacter) &&
+           QFile::decodeName(QFile::encodeName(name)) == name;
+}
+
+/// The one file of a folder that looks like `name` on the screen; empty when there is none, or
+/// more than one.
+std::filesystem::path fileLike(const std::filesystem::path& folder, const QString& name) {
+    if (isExact(name))
+        return folder / pathOf(name);
+    std::filesystem::path found;
+    std::error_code error;
+    std::filesystem::directory_iterator entry(folder, error);
+    for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
+        if (pathText(entry->path().filename()) != name)
+            continue;
+        if (!found.empty())
+            return {};
+        found = entry->path();
+    }
+    return found;
+}
+
+/// What an absolute path from the screen means on the disk; empty when that cannot be told.
+std::filesystem::path exactPath(const QString& path) {
+    if (path.contains(QChar::Null))
+        return {};
+    if (isExact(path))
+        return pathOf(path);
+    std::filesystem::path exact = "/";
+    for (const QString& name : path.split(u'/', Qt::SkipEmptyParts))
+        if (exact = fileLike(exact, name); exact.empty())
+            break;
+    return exact;
 }
 
 QStringList patternsIn(const QString& types) {
@@ -101,7 +130,7 @@ void FNDialog::setTitle(const QString& title) {
     m_button->setAccessibleName(title); // the caption says nothing to whoever cannot see it
 }
 
-QString FNDialog::GetFileName(const QString& mode) {
+std::filesystem::path FNDialog::GetFileName(const QString& mode) {
     const CurrentDirectoryKeeper keeper;
     const bool saving = mode.compare(QLatin1String("SAVE"), Qt::CaseInsensitive) == 0;
     return accepted(m_dialog(question(saving), window()));
@@ -117,14 +146,21 @@ FileQuestion FNDialog::question(bool saving) const {
             patternsIn(m_fileTypes), saving};
 }
 
-QString FNDialog::accepted(const QString& path) {
+std::filesystem::path FNDialog::accepted(const QString& path) {
     if (path.isEmpty())
         return {};
-    QString full = QDir::isAbsolutePath(path) ? path : QDir::current().filePath(path);
-    const QString problem = problemWith(full);
-    if (problem.isEmpty())
-        return full;
-    m_prompts.message(problem.toStdString(), "vbok+vbcritical");
+    const QString full = QDir::isAbsolutePath(path) ? path : QDir::current().filePath(path);
+    const std::filesystem::path exact = exactPath(full);
+    QString problem;
+    if (full.size() > LongestPath)
+        problem =
+            u"The path of this file is longer than %1 characters, so it cannot be used:\r\n"_s.arg(
+                LongestPath);
+    else if (exact.empty())
+        problem = u"The name of this file is not valid UTF-8 text, so it cannot be used:\r\n"_s;
+    else
+        return exact;
+    m_prompts.message(problem.append(full).toStdString(), "vbok+vbcritical");
     return {};
 }
 
@@ -141,7 +177,7 @@ std::filesystem::path choosePuzzleFile(FNDialog& picker, const std::filesystem::
     picker.setFileTypes(u"*.txt;*.dat"_s);
     picker.setFileTypesName(u"Tessaly Files"_s);
     picker.setDefaultDir(pathText(folder));
-    return pathOf(picker.GetFileName(use == FileUse::Save ? u"SAVE"_s : u"OPEN"_s));
+    return picker.GetFileName(use == FileUse::Save ? u"SAVE"_s : u"OPEN"_s);
 }
 
 std::filesystem::path chooseOutputFile(const OutputFileQuestion& question, FNDialog& picker,
@@ -150,29 +186,18 @@ std::filesystem::path chooseOutputFile(const OutputFileQuestion& question, FNDia
     picker.setFileTypes(question.types);
     picker.setFileTypesName(question.typesName);
     picker.setDefaultDir(question.folder);
-    QString chosen = picker.GetFileName(u"SAVE"_s);
-    if (chosen.isEmpty())
+    std::filesystem::path path = picker.GetFileName(u"SAVE"_s);
+    if (path.empty())
         return {};
-    if (QFileInfo(chosen).suffix().isEmpty())
-        chosen += question.extension;
-    const std::filesystem::path path = pathOf(chosen);
+    const auto endsIn = [&path](const QString& extension) {
+        return pathText(path).endsWith(extension, Qt::CaseInsensitive);
+    };
+    if (std::none_of(question.extensions.begin(), question.extensions.end(), endsIn))
+        path += pathOf(question.extensions.front());
     const bool wanted = !holdsSomething(path) ||
                         prompts.message("OverWrite file: " + path.native() + " ?",
                                         "vbyesno+vbquestion+vbdefaultbutton2") == answer::Yes;
     return wanted ? path : std::filesystem::path();
-}
-
-bool isExactPath(const QString& path) {
-    return !path.contains(QChar::ReplacementCharacter) && !path.contains(QChar::Null) &&
-           QFile::decodeName(QFile::encodeName(path)) == path;
-}
-
-QString problemWithName(const QString& path) {
-    if (isExactPath(path))
-        return {};
-    return QStringLiteral("The name of this file is not valid UTF-8 text, so it cannot be "
-                          "used:\r\n") %
-           path;
 }
 
 } // namespace tessaly

@@ -55,7 +55,7 @@ public:
     /// Shows the dialog and answers the chosen file's full path; nothing when the user cancels, or
     /// chooses a file whose name cannot be taken. The mode "SAVE", in any capitals, asks for a file
     /// to save to, every other one for a file to open. The process stays in its current directory.
-    QString GetFileName(const QString& mode);
+    std::filesystem::path GetFileName(const QString& mode);
 
     /// The patterns of the files to list, separated by ";". None at first: every file.
     QString fileTypes() const { return m_fileTypes; }
@@ -90,7 +90,7 @@ Q_SIGNALS:
 
 private:
     FileQuestion question(bool saving) const;
-    QString accepted(const QString& path);
+    std::filesystem::path accepted(const QString& path);
 
     FileDialog m_dialog;
     Prompts& m_prompts;
@@ -114,21 +114,13 @@ struct OutputFileQuestion {
     QString types;
     QString typesName;
     QString folder;
-    /// Put behind a name that has none; may be empty.
-    QString extension;
+    /// What the name may end in. Behind another one the first of them is put.
+    QStringList extensions;
 };
 
 /// Asks for a file to write to, and once more when there is something in it already. Empty when the
 /// user thinks better of it.
 std::filesystem::path chooseOutputFile(const OutputFileQuestion& question, FNDialog& picker,
                                        Prompts& prompts);
-
-/// Whether a path from the screen still names the file that was chosen there. A name on the disk
-/// that is not UTF-8 arrives with replacement characters in it, and would name another file or
-/// none.
-bool isExactPath(const QString& path);
-
-/// Why a file of that name cannot be taken, for the player; empty when it can.
-QString problemWithName(const QString& path);
 
 } // namespace tessaly

@@ -9,13 +9,18 @@
 #include <QPainter>
 #include <QPdfWriter>
 
+#include <numeric>
+
 namespace tessaly {
 namespace {
 
 constexpr double PointsPerInch = 72;
 
-Outcome paintPage(PagePainter& painter, const PrintJob& job, const BookletPage& page,
-                  const PageLayout& layout) {
+Outcome paintPage(PagePainter& painter, const PrintJob& job, int pageNumber, PaperSize paper) {
+    if (pageNumber == EmptyPage)
+        return Outcome::done();
+    const BookletPage page = job.booklet.page(pageNumber);
+    const PageLayout layout(paper, page.part.boardsPerPage);
     Board board;
     for (int place = 0; place < page.count; ++place) {
         const int number = job.firstNumber + page.first + place;
@@ -23,26 +28,46 @@ Outcome paintPage(PagePainter& painter, const PrintJob& job, const BookletPage& 
             return read;
         painter.drawBoard(board, number, page.part.solutions, layout.boardArea(place));
     }
+    painter.drawFooter(layout.footer(), pageNumber + 1, job.booklet.pageCount());
     return Outcome::done();
+}
+
+std::vector<int> pagesOf(const PrintJob& job) {
+    std::vector<int> pages = job.pages;
+    if (pages.empty()) {
+        pages.resize(static_cast<std::size_t>(job.booklet.pageCount()));
+        std::iota(pages.begin(), pages.end(), 0);
+    }
+    return pages;
 }
 
 PrintResult paintPages(QPagedPaintDevice& device, QPainter& painter, const PrintJob& job,
                        const Appearance& appearance, const GoOn& goOn) {
     painter.scale(device.logicalDpiX() / PointsPerInch, device.logicalDpiY() / PointsPerInch);
     PagePainter pages(painter, appearance);
-    const int pageCount = job.booklet.pageCount();
-    for (int number = 0; number < pageCount; ++number) {
-        if (!goOn(number))
+    int done = 0;
+    for (const int page : pagesOf(job)) {
+        if (!goOn(done))
             return {{}, true};
-        if (number > 0 && !device.newPage())
+        if (done > 0 && !device.newPage())
             return {Outcome::failed("A new page cannot be begun."), false};
-        const BookletPage page = job.booklet.page(number);
-        const PageLayout layout(paperOf(device), page.part.boardsPerPage);
-        if (Outcome painted = paintPage(pages, job, page, layout); !painted.ok())
+        if (Outcome painted = paintPage(pages, job, page, paperOf(device)); !painted.ok())
             return {painted, false};
-        pages.drawFooter(layout.footer(), number + 1, pageCount);
+        ++done;
     }
     return {};
+}
+
+/// Paints a booklet onto paper, on the whole sheet.
+PrintResult paintBooklet(QPagedPaintDevice& device, const PrintJob& job,
+                         const Appearance& appearance, const GoOn& goOn) {
+    QPainter painter;
+    if (!painter.begin(&device))
+        return {Outcome::failed("The printer cannot be used."), false};
+    PrintResult result = paintPages(device, painter, job, appearance, goOn);
+    if (!painter.end() && result.isComplete())
+        return {Outcome::failed("The pages cannot be finished."), false};
+    return result;
 }
 
 void setUp(QPdfWriter& writer, PaperSize paper, const std::string& title) {
@@ -85,17 +110,6 @@ Outcome SinkDevice::finish() {
 PaperSize paperOf(const QPagedPaintDevice& device) {
     const QRectF sheet = device.pageLayout().fullRectPoints();
     return {sheet.width(), sheet.height()};
-}
-
-PrintResult paintBooklet(QPagedPaintDevice& device, const PrintJob& job,
-                         const Appearance& appearance, const GoOn& goOn) {
-    QPainter painter;
-    if (!painter.begin(&device))
-        return {Outcome::failed("The printer cannot be used."), false};
-    PrintResult result = paintPages(device, painter, job, appearance, goOn);
-    if (!painter.end() && result.isComplete())
-        return {Outcome::failed("The pages cannot be finished."), false};
-    return result;
 }
 
 PrintResult writePdf(const std::filesystem::path& path, PaperSize paper, const PrintJob& job,

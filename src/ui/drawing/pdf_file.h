@@ -37,8 +37,8 @@ private:
     Outcome m_outcome;
 };
 
-/// Called before each page is painted with its number, from 0; when it answers false the printing
-/// ends.
+/// Called before each page is painted with the number of those before it; when it answers false the
+/// printing ends.
 using GoOn = std::function<bool(int page)>;
 
 /// How painting ended. When it was stopped nothing is wrong, but not all pages are there.
@@ -51,10 +51,6 @@ struct PrintResult {
 
 /// The whole sheet that a device prints on.
 PaperSize paperOf(const QPagedPaintDevice& device);
-
-/// Paints a booklet onto paper, on the whole sheet.
-PrintResult paintBooklet(QPagedPaintDevice& device, const PrintJob& job,
-                         const Appearance& appearance, const GoOn& goOn);
 
 /// Writes a booklet into a PDF file, with its fonts in it. The file is there, whole, when the
 /// result is complete; otherwise the path holds what it held before.

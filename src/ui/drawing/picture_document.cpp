@@ -1,15 +1,19 @@
 #include "ui/drawing/picture_document.h"
 
+#include "core/base/product.h"
 #include "core/files/file_access.h"
 #include "core/play/board_geometry.h"
 #include "ui/drawing/pdf_file.h"
+#include "ui/drawing/qt_values.h"
 
 #include <QBuffer>
 #include <QImage>
 #include <QPageLayout>
 #include <QPainter>
 #include <QPdfWriter>
+#include <QRegularExpression>
 #include <QSvgGenerator>
+#include <QtMath>
 
 #include <algorithm>
 #include <array>
@@ -21,25 +25,50 @@ QString extensionOf(const std::filesystem::path& path) {
     return QString::fromStdString(path.extension().native()).toLower();
 }
 
+using namespace Qt::StringLiterals;
+
+QColor groundOf(const BoardPicture& picture) {
+    return toQColor(appearanceOf(picture).SchemeColours[slot::Background]);
+}
+
 /// Paints a picture on a device of `dotsPerUnit` for each board unit.
 Outcome paintOn(QPaintDevice& device, const BoardPicture& picture, double dotsPerUnit) {
     QPainter painter;
     if (!painter.begin(&device))
         return Outcome::failed("the picture cannot be made");
+    // A page is a whole number of points, and so a bit larger than the picture.
+    painter.fillRect(QRect(0, 0, device.width(), device.height()), groundOf(picture));
     painter.scale(dotsPerUnit, dotsPerUnit);
     paintPicture(painter, picture);
     painter.end();
     return Outcome::done();
 }
 
+/// Qt rounds the size, and says it in millimetres.
+void setExactSize(QByteArray& svg, QSizeF size) {
+    static const QRegularExpression rounded(u"width=\"[^\"]*\" height=\"[^\"]*\""_s);
+    QString text = QString::fromUtf8(svg);
+    const QRegularExpressionMatch match = rounded.match(text);
+    text.replace(match.capturedStart(), match.capturedLength(),
+                 u"width=\"%1\" height=\"%2\""_s.arg(size.width()).arg(size.height()));
+    svg = text.toUtf8();
+}
+
 Outcome paintSvg(QIODevice& file, const BoardPicture& picture, double scale) {
     const QSizeF size(PictureWidth * scale, PictureHeight * scale);
+    QByteArray text;
+    QBuffer buffer(&text);
     QSvgGenerator svg;
-    svg.setOutputDevice(&file);
+    svg.setOutputDevice(&buffer);
     svg.setResolution(96);
-    svg.setSize(size.toSize());
+    svg.setSize(QSize(qCeil(size.width()), qCeil(size.height())));
     svg.setViewBox(QRectF(QPointF(), size));
-    return paintOn(svg, picture, scale);
+    svg.setTitle(QString::fromLatin1(Product::Name));
+    svg.setDescription({});
+    const Outcome painted = paintOn(svg, picture, scale);
+    setExactSize(text, size);
+    file.write(text);
+    return painted;
 }
 
 Outcome paintPdf(QIODevice& file, const BoardPicture& picture, double scale) {
@@ -47,6 +76,7 @@ Outcome paintPdf(QIODevice& file, const BoardPicture& picture, double scale) {
     const QSizeF points = QSizeF(PictureWidth, PictureHeight) * PointsPerUnit * scale;
     const QPageSize size(points, QPageSize::Point, {}, QPageSize::ExactMatch);
     pdf.setPageLayout(QPageLayout(size, QPageLayout::Portrait, {}));
+    pdf.setTitle(QString::fromLatin1(Product::Name));
     return paintOn(pdf, picture, scale * pdf.logicalDpiX() / 96);
 }
 

@@ -23,8 +23,11 @@ using namespace Qt::StringLiterals;
 constexpr double CopyScale = 2;
 
 OutputFileQuestion bitmapQuestion(const std::filesystem::path& programFolder) {
-    return {u"Select destination file for a bitmap copy of this puzzle"_s, u"*.bmp"_s,
-            u"Facetto Bitmap Files"_s, pathText(programFolder), u".bmp"_s};
+    return {u"Select destination file for a bitmap copy of this puzzle"_s,
+            u"*.bmp"_s,
+            u"Facetto Bitmap Files"_s,
+            pathText(programFolder),
+            {u".bmp"_s, u".png"_s}};
 }
 
 } // namespace
@@ -35,7 +38,7 @@ ExportCommands::ExportCommands(const Session& session, const ExportWindow& windo
 
 void ExportCommands::CopyBoard(bool solution) {
     const Board& board = m_session.game.board;
-    const bool isPuzzle = m_session.puzzle.PuzNum > 0;
+    const bool isPuzzle = m_session.puzzle.PuzNum > 0 && m_session.game.hasPuzzle();
     CopyPictureToClipboard(drawImage({board, m_session.appearance, solution}, CopyScale),
                            isPuzzle ? QString::fromStdString(PuzzleRecord(board)) : QString());
     m_window.display.showMessage(solution ? "Solution copied" : "Puzzle copied");

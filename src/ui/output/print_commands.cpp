@@ -3,10 +3,10 @@
 #include "core/session/session.h"
 #include "ui/controls/file_name_picker.h"
 #include "ui/drawing/pdf_file.h"
+#include "ui/drawing/qt_values.h"
 #include "ui/output/print_progress.h"
 #include "ui/output/printers.h"
 
-#include <QPrinter>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
@@ -16,8 +16,11 @@ namespace {
 using namespace Qt::StringLiterals;
 
 OutputFileQuestion pdfQuestion() {
-    return {u"Select a PDF file to print to"_s, u"*.pdf"_s, u"PDF Files"_s,
-            QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation), u".pdf"_s};
+    return {u"Select a PDF file to print to"_s,
+            u"*.pdf"_s,
+            u"PDF Files"_s,
+            QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
+            {u".pdf"_s}};
 }
 
 std::string pagesText(const PrintJob& job) {
@@ -45,32 +48,16 @@ void PrintCommands::tell(const Outcome& outcome, const std::string& success) {
 }
 
 void PrintCommands::printShown(bool puzzle, bool solution) {
-    if (m_session.puzzle.PuzNum == 0) {
+    if (m_session.puzzle.PuzNum == 0 || !m_session.game.hasPuzzle()) {
         m_window.prompts.message("There is no puzzle to print", "vbok+vbinformation");
         return;
     }
     const WhileSet running(m_session.busy.commandRunning);
     const PrintJob job = jobOf(m_session.game.board, m_session.puzzle.PuzNum, puzzle, solution);
-    QPrinter printer(QPrinter::HighResolution);
-    printer.setDocName(QString::fromStdString(job.title));
-    if (m_printer && !m_printer->isEmpty())
-        printer.setPrinterName(*m_printer);
-    if (m_printers.setUp(printer, m_window.window))
-        tell(paint(printer, job), "Printed");
-}
-
-/// A file is written like every other one, so that it is whole and nothing is lost silently.
-Outcome PrintCommands::paint(QPrinter& printer, const PrintJob& job) {
-    const GoOn always = [](int) { return true; };
-    const QString file = printer.outputFileName();
-    if (!file.isEmpty())
-        return writePdf(file.toStdString(), paperOf(printer), job, m_session.appearance, always)
-            .outcome;
-    // Without a printer Qt takes to PDF, whether a file is named or not.
-    if (!printer.isValid() || printer.outputFormat() == QPrinter::PdfFormat)
-        return Outcome::failed("There is no printer.");
-    printer.setFullPage(true);
-    return paintBooklet(printer, job, m_session.appearance, always).outcome;
+    const PrintQuestion question{QString::fromStdString(job.title), job.booklet.pageCount(),
+                                 m_printer.value_or(QString())};
+    if (const auto target = m_printers.setUp(question, m_window.window))
+        carryOut(job, *target, "Printed");
 }
 
 void PrintCommands::printMultiple() {
@@ -80,51 +67,58 @@ void PrintCommands::printMultiple() {
     if (!order)
         return;
     m_printer = order->printer;
-    m_closing = false;
-    carryOut(*order);
-}
-
-void PrintCommands::carryOut(const PrintOrder& order) {
-    const PrintJob job = jobOf(order.range, m_files);
-    std::string target = order.printer.toStdString();
-    if (order.printer.isEmpty()) {
-        target = chooseOutputFile(pdfQuestion(), m_window.picker, m_window.prompts);
-        if (target.empty())
+    PrintTarget target{order->printer, {}, {}};
+    if (order->printer.isEmpty()) {
+        target.file = chooseOutputFile(pdfQuestion(), m_window.picker, m_window.prompts);
+        if (target.file.empty())
             return;
     }
+    target.paper = target.file.empty() ? m_printers.paperOf(target.printer) : customaryPaper();
+    const PrintJob job = jobOf(order->range, m_files);
+    const std::string name =
+        target.file.empty() ? target.printer.toStdString() : target.file.native();
+    carryOut(job, target, pagesText(job) + " printed to " + name);
+}
+
+void PrintCommands::carryOut(PrintJob job, const PrintTarget& target, const std::string& success) {
+    m_closing = false;
+    job.pages = target.pages;
     m_window.progress.begin(u"Printing "_s + QString::fromStdString(job.title),
                             job.booklet.pageCount());
-    const PrintResult result =
-        order.printer.isEmpty() ? printToFile(target, job) : printTo(order.printer, job);
+    const PrintResult result = print(job, target);
     m_window.progress.end();
     if (m_closing)
         return;
     if (result.stopped)
         m_window.display.showMessage("Nothing was printed");
     else
-        tell(result.outcome, pagesText(job) + " printed to " + target);
+        tell(result.outcome, success);
+}
+
+/// A printer gets the whole document, finished, or none of it; so does a file.
+PrintResult PrintCommands::print(const PrintJob& job, const PrintTarget& target) {
+    if (!target.file.empty()) {
+        PrintJob withCopies = job;
+        withCopies.pages = pagesOfCopies(job.pages, target.sheets.copies);
+        return write(target.file, target.paper, withCopies);
+    }
+    if (target.printer.isEmpty())
+        return {Outcome::failed("There is no printer."), false};
+    const QTemporaryDir folder;
+    if (!folder.isValid())
+        return {Outcome::failed(folder.errorString().toStdString()), false};
+    const std::filesystem::path pdf = pathOf(folder.filePath(u"booklet.pdf"_s));
+    PrintResult result = write(pdf, target.paper, job);
+    if (result.isComplete())
+        result.outcome =
+            m_printers.print(target.printer, pdf, QString::fromStdString(job.title), target.sheets);
+    return result;
 }
 
 PrintResult PrintCommands::write(const std::filesystem::path& pdf, PaperSize paper,
                                  const PrintJob& job) {
     return writePdf(pdf, paper, job, m_session.appearance,
                     [this](int page) { return m_window.progress.goOn(page); });
-}
-
-PrintResult PrintCommands::printToFile(const std::filesystem::path& path, const PrintJob& job) {
-    return write(path, customaryPaper(), job);
-}
-
-/// The printer gets the whole document or none of it.
-PrintResult PrintCommands::printTo(const QString& printer, const PrintJob& job) {
-    const QTemporaryDir folder;
-    if (!folder.isValid())
-        return {Outcome::failed(folder.errorString().toStdString()), false};
-    const std::filesystem::path pdf = folder.filePath(u"booklet.pdf"_s).toStdString();
-    PrintResult result = write(pdf, m_printers.paperOf(printer), job);
-    if (result.isComplete())
-        result.outcome = m_printers.print(printer, pdf, QString::fromStdString(job.title));
-    return result;
 }
 
 } // namespace tessaly

@@ -9,7 +9,6 @@
 
 #include <filesystem>
 
-class QPrinter;
 class QWidget;
 
 namespace tessaly {
@@ -17,6 +16,7 @@ namespace tessaly {
 class FNDialog;
 class PrintProgress;
 class Printers;
+struct PrintTarget;
 struct Session;
 
 /// What the window lends to printing.
@@ -43,10 +43,9 @@ public:
     void stop();
 
 private:
-    Outcome paint(QPrinter& printer, const PrintJob& job);
-    void carryOut(const PrintOrder& order);
-    PrintResult printToFile(const std::filesystem::path& path, const PrintJob& job);
-    PrintResult printTo(const QString& printer, const PrintJob& job);
+    /// Prints a job, whatever kind of target; tells `success` or what went wrong.
+    void carryOut(PrintJob job, const PrintTarget& target, const std::string& success);
+    PrintResult print(const PrintJob& job, const PrintTarget& target);
     PrintResult write(const std::filesystem::path& pdf, PaperSize paper, const PrintJob& job);
     void tell(const Outcome& outcome, const std::string& success);
 

@@ -1,5 +1,7 @@
 #include "ui/output/printers.h"
 
+#include "ui/drawing/qt_values.h"
+
 #include <QEventLoop>
 #include <QLocale>
 #include <QPrintDialog>
@@ -7,6 +9,8 @@
 #include <QPrinterInfo>
 #include <QProcess>
 #include <QTimer>
+
+#include <algorithm>
 
 namespace tessaly {
 namespace {
@@ -25,7 +29,52 @@ bool waitForEnd(QProcess& program) {
     return program.state() == QProcess::NotRunning || loop.exec() == 0;
 }
 
+QString sidesOf(QPrinter::DuplexMode mode) {
+    switch (mode) {
+    case QPrinter::DuplexLongSide:
+        return u"two-sided-long-edge"_s;
+    case QPrinter::DuplexShortSide:
+        return u"two-sided-short-edge"_s;
+    case QPrinter::DuplexNone:
+        return u"one-sided"_s;
+    case QPrinter::DuplexAuto:
+        break;
+    }
+    return {};
+}
+
+std::vector<int> pagesOf(const QPrinter& printer, int pageCount) {
+    const bool inRange = printer.printRange() == QPrinter::PageRange;
+    std::vector<int> pages;
+    for (int page = 1; page <= pageCount; ++page)
+        if (!inRange || printer.pageRanges().contains(page))
+            pages.push_back(page - 1);
+    if (printer.pageOrder() == QPrinter::LastPageFirst)
+        std::reverse(pages.begin(), pages.end());
+    return pages;
+}
+
+/// What the system's print command said when it did not do its work.
+QString complaintOf(QProcess& lp) {
+    if (lp.error() == QProcess::FailedToStart)
+        return u"the program \"lp\" is missing; install the package \"cups-client\""_s;
+    const QString said = QString::fromLocal8Bit(lp.readAllStandardError()).trimmed();
+    return said.isEmpty() ? u"the program \"lp\": "_s + lp.errorString() : said;
+}
+
 } // namespace
+
+QStringList SheetSettings::options() const {
+    QStringList options{u"-n"_s, QString::number(copies.count)};
+    const auto add = [&options](const QString& name, const QString& value) {
+        if (!value.isEmpty())
+            options << u"-o"_s << name + u'=' + value;
+    };
+    add(u"collate"_s, copies.count == 1 ? QString() : copies.collated ? u"true"_s : u"false"_s);
+    add(u"sides"_s, sides);
+    add(u"media"_s, media);
+    return options;
+}
 
 QStringList SystemPrinters::names() const {
     return QPrinterInfo::availablePrinterNames();
@@ -46,25 +95,49 @@ PaperSize SystemPrinters::paperOf(const QString& name) const {
 // Qt prints without ever telling whether that worked, and cannot take back what it has begun; the
 // system's own command takes a whole document or says why not.
 Outcome SystemPrinters::print(const QString& name, const std::filesystem::path& pdf,
-                              const QString& title) {
+                              const QString& title, const SheetSettings& sheets) {
     QProcess lp;
-    lp.start(u"lp"_s,
-             {u"-d"_s, name, u"-t"_s, title, u"--"_s, QString::fromStdString(pdf.native())});
+    lp.start(u"lp"_s, QStringList{u"-d"_s, name, u"-t"_s, title} + sheets.options() +
+                          QStringList{u"--"_s, QString::fromStdString(pdf.native())});
     const bool ended = lp.waitForStarted() && waitForEnd(lp);
     if (ended && lp.exitStatus() == QProcess::NormalExit && lp.exitCode() == 0)
         return Outcome::done();
-    const QString said = QString::fromLocal8Bit(lp.readAllStandardError()).trimmed();
+    const QString complaint = complaintOf(lp);
     lp.kill();
     lp.waitForFinished();
-    const QString reason =
-        !said.isEmpty() ? said : u"the program \"lp\" does not run: "_s + lp.errorString();
-    return Outcome::failed(name.toStdString() + ": cannot print: " + reason.toStdString());
+    return Outcome::failed(name.toStdString() + ": cannot print: " + complaint.toStdString());
 }
 
-bool SystemPrinters::setUp(QPrinter& printer, QWidget* owner) {
+std::optional<PrintTarget> SystemPrinters::setUp(const PrintQuestion& question, QWidget* owner) {
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setDocName(question.title);
+    if (!question.printer.isEmpty())
+        printer.setPrinterName(question.printer);
     QPrintDialog dialog(&printer, owner);
-    dialog.setOptions(QPrintDialog::PrintToFile);
-    return dialog.exec() == QDialog::Accepted;
+    dialog.setOptions(QPrintDialog::PrintToFile | QPrintDialog::PrintPageRange |
+                      QPrintDialog::PrintCollateCopies);
+    dialog.setMinMax(1, question.pageCount);
+    if (dialog.exec() != QDialog::Accepted)
+        return {};
+    return targetOf(printer, question.pageCount);
+}
+
+PrintTarget targetOf(const QPrinter& printer, int pageCount) {
+    PrintTarget target;
+    target.file = pathOf(printer.outputFileName());
+    // Without a printer Qt takes to PDF, whether a file is named or not.
+    if (target.file.empty() && printer.isValid() &&
+        printer.outputFormat() == QPrinter::NativeFormat)
+        target.printer = printer.printerName();
+    const QRectF sheet = printer.pageLayout().fullRectPoints();
+    target.paper = {sheet.width(), sheet.height()};
+    target.pages = pagesOf(printer, pageCount);
+    target.sheets.sides = sidesOf(printer.duplex());
+    target.sheets.copies = {printer.copyCount(), printer.collateCopies(),
+                            target.sheets.sides.startsWith(u"two"_s)};
+    const QPageSize size = printer.pageLayout().pageSize();
+    target.sheets.media = size.id() == QPageSize::Custom ? QString() : size.key();
+    return target;
 }
 
 PaperSize customaryPaper() {

@@ -1,16 +1,51 @@
 #pragma once
 
 #include "core/base/outcome.h"
+#include "core/output/booklet.h"
 #include "core/output/page_layout.h"
 
 #include <QStringList>
 
 #include <filesystem>
+#include <optional>
+#include <vector>
 
 class QPrinter;
 class QWidget;
 
 namespace tessaly {
+
+/// How a printer puts a document onto its sheets.
+struct SheetSettings {
+    Copies copies;
+    /// What the print system calls the paper and its sides ("A4", "two-sided-long-edge"); empty for
+    /// those that the printer is set to.
+    QString media;
+    QString sides;
+
+    /// The same as options of the system's print command.
+    QStringList options() const;
+};
+
+/// Where and how something is printed.
+struct PrintTarget {
+    /// The device name; empty for a file.
+    QString printer;
+    /// The PDF file. Both are empty where there is no printer.
+    std::filesystem::path file;
+    PaperSize paper;
+    /// The pages of the document, from 0, in their order; empty for all.
+    std::vector<int> pages = {};
+    SheetSettings sheets = {};
+};
+
+/// What is to be set up in the platform's dialog.
+struct PrintQuestion {
+    QString title;
+    int pageCount = 1;
+    /// The printer to start with; empty for the usual one.
+    QString printer;
+};
 
 /// The printers of the system, as far as printing needs to know them.
 class Printers {
@@ -26,10 +61,10 @@ public:
 
     /// Hands a PDF file over to a printer.
     virtual Outcome print(const QString& name, const std::filesystem::path& pdf,
-                          const QString& title) = 0;
+                          const QString& title, const SheetSettings& sheets) = 0;
 
-    /// Lets the user set up one print in the platform's dialog; whether it is to be made.
-    virtual bool setUp(QPrinter& printer, QWidget* owner) = 0;
+    /// Lets the user set up one print in the platform's dialog; nothing when it is not to be made.
+    virtual std::optional<PrintTarget> setUp(const PrintQuestion& question, QWidget* owner) = 0;
 };
 
 class SystemPrinters : public Printers {
@@ -37,10 +72,13 @@ public:
     QStringList names() const override;
     QString defaultName() const override;
     PaperSize paperOf(const QString& name) const override;
-    Outcome print(const QString& name, const std::filesystem::path& pdf,
-                  const QString& title) override;
-    bool setUp(QPrinter& printer, QWidget* owner) override;
+    Outcome print(const QString& name, const std::filesystem::path& pdf, const QString& title,
+                  const SheetSettings& sheets) override;
+    std::optional<PrintTarget> setUp(const PrintQuestion& question, QWidget* owner) override;
 };
+
+/// What was set up for a document of `pageCount` pages.
+PrintTarget targetOf(const QPrinter& printer, int pageCount);
 
 /// The paper that people use in this part of the world: A4 or Letter.
 PaperSize customaryPaper();

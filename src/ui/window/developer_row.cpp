@@ -18,11 +18,15 @@ DeveloperRow::DeveloperRow(QWidget* parent)
     , flipAndAdd(addButton(u"FlipandAdd"_s, u"Command1"_s,
                            tr("Eight variants of every puzzle: addnew.txt into addnewr.txt")))
     , verify(addButton(u"Verify"_s, u"Command2"_s,
-                       tr("The puzzles that deduction solves: addnewr.txt into addnewrv.txt")))
+                       tr("The puzzles that deduction solves: addnewr.txt into addnewrv.txt. "
+                          "Hardly any hard one passes, for its hint is planted in the blank "
+                          "hexagon; tessaly-cli check is the fair judge")))
     , randomize(addButton(u"Randomize"_s, u"Command4"_s,
                           tr("Shuffle, each line once: puzzles20k.txt into puzzles20u.txt")))
-    , autoSolveHard(addButton(u"AutoSolveHard"_s, u"Command5"_s,
-                              tr("Tell the hint; the right button also solves with it")))
+    , autoSolveHard(
+          addButton(u"AutoSolveHard"_s, u"Command5"_s,
+                    tr("Tell the hint; the right button also plants it in the blank hexagon, "
+                       "where it seldom fits, and solves with it")))
     , solveLoop(addButton(u"SolveLoop"_s, u"Command12x"_s, tr("Check the board cell by cell")))
     , setValue(addButton(u"Set Manual Value"_s, u"Command3"_s, tr("Set any cell by hand")))
     , reread(addButton(u"ReReadPuzzle"_s, u"Command6"_s, tr("Read the puzzle again")))

@@ -1,10 +1,9 @@
 #include "ui/window/file_drop.h"
 
-#include "ui/controls/file_name_picker.h"
+#include "core/files/file_access.h"
 
 #include <QApplication>
 #include <QDropEvent>
-#include <QFileInfo>
 #include <QMimeData>
 #include <QUrl>
 #include <QWidget>
@@ -20,12 +19,14 @@ bool isOfThisComputer(const QUrl& url) {
 
 } // namespace
 
-QString draggedFile(const QMimeData& data) {
+// The bytes count, not what they look like: names need not be UTF-8.
+std::filesystem::path draggedFile(const QMimeData& data) {
     const QList<QUrl> urls = data.urls();
     if (urls.size() != 1 || !isOfThisComputer(urls.front()))
         return {};
-    const QString path = urls.front().path(QUrl::FullyDecoded);
-    return !isExactPath(path) || QFileInfo(path).isFile() ? path : QString();
+    const QByteArray encoded = urls.front().path(QUrl::FullyEncoded).toUtf8();
+    std::filesystem::path path = QByteArray::fromPercentEncoding(encoded).toStdString();
+    return FileExists(path) ? path : std::filesystem::path();
 }
 
 FileDrop::FileDrop(QWidget& window)
@@ -48,7 +49,7 @@ bool FileDrop::eventFilter(QObject*, QEvent* event) {
 void FileDrop::drag(QDropEvent& event) {
     const bool isWelcome = QApplication::activeModalWidget() == nullptr &&
                            (event.possibleActions() & Qt::CopyAction) &&
-                           !draggedFile(*event.mimeData()).isEmpty();
+                           !draggedFile(*event.mimeData()).empty();
     // A file that is said to have been moved may be deleted by the program that it came from.
     event.setDropAction(Qt::CopyAction);
     event.setAccepted(isWelcome);
@@ -58,11 +59,8 @@ void FileDrop::drop(QDropEvent& event) {
     drag(event);
     if (!event.isAccepted())
         return;
-    const QString path = draggedFile(*event.mimeData());
-    const QString problem = problemWithName(path);
-    const auto tell = [this, path, problem] {
-        problem.isEmpty() ? Q_EMIT dropped(path) : Q_EMIT refused(problem);
-    };
+    const std::filesystem::path path = draggedFile(*event.mimeData());
+    const auto tell = [this, path] { Q_EMIT dropped(path); };
     QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
 }
 

@@ -1,7 +1,8 @@
 #pragma once
 
 #include <QObject>
-#include <QString>
+
+#include <filesystem>
 
 class QDropEvent;
 class QMimeData;
@@ -19,9 +20,7 @@ public:
     explicit FileDrop(QWidget& window);
 
 Q_SIGNALS:
-    void dropped(const QString& path);
-    /// `reason` is for the player.
-    void refused(const QString& reason);
+    void dropped(const std::filesystem::path& path);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -31,8 +30,7 @@ private:
     void drop(QDropEvent& event);
 };
 
-/// The path of the one local file that is being dragged; empty when it is anything else. A name
-/// that is not UTF-8 has replacement characters in it.
-QString draggedFile(const QMimeData& data);
+/// The path of the one local file that is being dragged; empty when it is anything else.
+std::filesystem::path draggedFile(const QMimeData& data);
 
 } // namespace tessaly

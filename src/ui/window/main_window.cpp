@@ -25,6 +25,8 @@
 
 #include <QApplication>
 #include <QLineEdit>
+#include <QShortcut>
+#include <QTimer>
 #include <QToolTip>
 #include <QVBoxLayout>
 
@@ -245,6 +247,21 @@ void Form1::yield() {
     QCoreApplication::processEvents();
 }
 
+bool Form1::waitFor(const std::filesystem::path& path, const std::function<bool()>& attempt) {
+    bool taken = attempt();
+    if (taken)
+        return true;
+    bool givenUp = false;
+    const QShortcut escape(Qt::Key_Escape, this, [&givenUp] { givenUp = true; });
+    QTimer turns;
+    turns.start(Turn);
+    showMessage("Waiting for " + path.filename().native() + " (Escape gives up)");
+    for (; !taken && !givenUp && isVisible(); taken = attempt())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    showMessage({});
+    return taken;
+}
+
 void Form1::closeEvent(QCloseEvent* event) {
     m_commands.stop();
     rememberWindowPlace(*this, m_session.ProgramFolder);
@@ -265,12 +282,9 @@ void Form1::connectOptions() {
 
 void Form1::connectFileDrop() {
     auto* drop = new FileDrop(*this);
-    connect(drop, &FileDrop::dropped, this, [this](const QString& path) {
+    connect(drop, &FileDrop::dropped, this, [this](const std::filesystem::path& path) {
         if (!m_commands.refuses())
-            m_commands.files.load(pathOf(path));
-    });
-    connect(drop, &FileDrop::refused, this, [this](const QString& reason) {
-        m_prompts.message(reason.toStdString(), "vbok+vbcritical");
+            m_commands.files.load(path);
     });
 }
 
@@ -295,7 +309,11 @@ void Form1::ApplyScheme() {
 void Form1::cmdexit() {
     if (m_prompts.message("Exit?", "vbYesNo+vbquestion") != answer::Yes)
         return;
-    if (const Outcome saved = SavecfgFile(m_session); !saved.ok())
+    const WhileSet saving(m_session.busy.commandRunning);
+    const auto wait = [this](const auto& path, const auto& attempt) {
+        return waitFor(path, attempt);
+    };
+    if (const Outcome saved = SavecfgFile(m_session, wait); !saved.ok())
         m_prompts.message(saved.problem, "vbok+vbcritical");
     QApplication::closeAllWindows();
     QApplication::quit();

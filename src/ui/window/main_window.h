@@ -46,6 +46,7 @@ public:
     void showProgress(const RunProgress& progress) override;
     void endProgress() override;
     void yield() override;
+    bool waitFor(const std::filesystem::path& path, const std::function<bool()>& attempt) override;
 
 protected:
     void closeEvent(QCloseEvent* event) override;

@@ -11,9 +11,6 @@
 #include <QLineEdit>
 #include <QVBoxLayout>
 
-#include <algorithm>
-#include <limits>
-
 namespace tessaly {
 namespace {
 
@@ -83,9 +80,11 @@ QWidget* Form3::makeFileFrame(const FileDialog& fileDialog) {
     rows->addLayout(row);
     rows->addWidget(m_default);
     connect(m_picker, &FNDialog::clicked, this, &Form3::chooseFile);
-    connect(m_default, &QCheckBox::toggled, this, [this](bool ticked) {
+    connect(m_default, &QCheckBox::clicked, this, [this](bool ticked) {
         if (ticked)
             showFile(m_programFolder / DefaultFile);
+        else
+            chooseFile();
     });
     return frame;
 }
@@ -102,10 +101,9 @@ QHBoxLayout* Form3::makeButtons() {
 void Form3::chooseFile() {
     const std::filesystem::path chosen = choosePuzzleFile(
         *m_picker, m_path.parent_path(), FileUse::Save, "Select an output Puzzle file");
-    if (chosen.empty())
-        return;
-    m_default->setChecked(false);
-    showFile(chosen);
+    if (!chosen.empty())
+        showFile(chosen);
+    m_default->setChecked(m_path == m_programFolder / DefaultFile);
 }
 
 void Form3::showFile(const std::filesystem::path& path) {
@@ -114,9 +112,9 @@ void Form3::showFile(const std::filesystem::path& path) {
     m_file->setToolTip(plainToolTip(pathText(path)));
 }
 
+/// 0 when it is none, or more than can be counted.
 int Form3::number() const {
-    const qlonglong number = m_number->text().trimmed().toLongLong();
-    return static_cast<int>(std::min<qlonglong>(number, std::numeric_limits<int>::max()));
+    return m_number->text().trimmed().toInt();
 }
 
 DifficultyChoice Form3::difficulty() const {

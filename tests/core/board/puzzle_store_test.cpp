@@ -75,7 +75,7 @@ TEST_F(PuzzleStoreTest, ReadsARecordOrSaysWhatIsWrongWithItAndChangesNothing) {
         const Board expected = row.reason.empty() ? boardOf(row.record) : board;
         const PuzzleRead got = read(row.number);
         EXPECT_EQ(got.status, row.reason.empty() ? Status::Done : Status::NoRecord) << got.reason;
-        EXPECT_EQ(got.record, row.record);
+        EXPECT_EQ(got.flaw.empty() ? got.record : "", row.record);
         EXPECT_TRUE(got.ok() || got.reason.starts_with(path.native() + ": ")) << got.reason;
         EXPECT_NE(got.reason.find(row.reason), std::string::npos) << got.reason;
         EXPECT_EQ(board, expected);

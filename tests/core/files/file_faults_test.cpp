@@ -147,6 +147,24 @@ TEST_F(FileFaultsTest, OnlyWhatIsOnesOwnIsTakenBack) {
     EXPECT_EQ(contentOf(file), "old\nnew\nforeign\n");
 }
 
+TEST_F(FileFaultsTest, TwoThatMakeOneFileWithoutLocksBothStandInIt) {
+    const auto first = meanwhile("linkat", [this] { put(file, recordFile(1)); });
+    const auto before = [&, noLocks = failing("flock", ENOLCK, 0, 1000)](auto name,
+                                                                         int at) mutable {
+        return first(name, at) + noLocks(name, at);
+    };
+    int number = 0;
+    const auto append = [&] { return PuzzleStore().appendPuzzle(file, recordNumbered(2), number); };
+    EXPECT_EQ(problemWhile(before, append), "");
+    EXPECT_EQ(contentOf(file), recordFile(2));
+    EXPECT_EQ(number, 2);
+    fs::remove(file);
+    EXPECT_EQ(problemWhile(failing("unlinkat", EIO), append), "");
+    EXPECT_EQ(m_folder.names().size(), 2u) << "the new file has its scratch name too";
+    EXPECT_EQ(append().problem, "");
+    EXPECT_EQ(m_folder.names().size(), 1u);
+}
+
 TEST_F(FileFaultsTest, OnlyLeftoversOfDeadProcessesAreCleared) {
     const Names own{"a.txt", ".tessaly-notes.tmp", ".tessaly-0123456789abcdef.txt"};
     const fs::path torn = m_folder / ".tessaly-0123456789abcdef.tmp";

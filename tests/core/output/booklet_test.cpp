@@ -56,8 +56,19 @@ TEST(Booklet, ARangeIsPrintedAsItWasMadeWithItsSolutionsBehind) {
     EXPECT_EQ(job.boardOf(2, board).problem, "");
     EXPECT_EQ(board, made) << "without what the player entered";
     EXPECT_EQ(job.boardOf(3, board).problem, path + ": there is no puzzle 3 among its 2");
+    test::put(path, records[1] + "\n" + records[0] + "\n");
+    EXPECT_EQ(job.boardOf(2, board).problem, path + ": changed while it was printed");
     range.solutions = false;
     EXPECT_EQ(pagesOf(jobOf(range, files).booklet), (Pages{{{false, 4}, 0, 3}}));
+}
+
+TEST(Booklet, CopiesComeInOrderAndTwoSidedOnesOnSheetsOfTheirOwn) {
+    using Numbers = std::vector<int>;
+    for (const auto& [copies, pages] :
+         {std::pair{Copies{2, true, false}, Numbers{0, 1, 2, 0, 1, 2}},
+          {Copies{2, false, false}, {0, 0, 1, 1, 2, 2}},
+          {Copies{2, false, true}, {0, 1, 2, EmptyPage, 0, 1, 2}}})
+        EXPECT_EQ(pagesOfCopies({0, 1, 2}, copies), pages);
 }
 
 TEST(Booklet, OneBoardIsPrintedAsItStandsEachPartOnItsPage) {

@@ -1,6 +1,8 @@
 #include "core/session/configuration.h"
 
+#include "core/session/start_up.h"
 #include "support/file_calls.h"
+#include "support/scripted_prompts.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -157,7 +159,8 @@ TEST_F(ConfigurationTest, WhatWasSetIsThereAgainAfterARestart) {
 }
 
 TEST_F(ConfigurationTest, AConfigurationThatCannotBeReadIsToldAndNotWrittenOver) {
-    put(path, "7,3\r\nxp.col\r\n");
+    const std::string content = "7,3,4,1,2,3,1,4,1\r\nxp.col\r\nArial\r\n\r\n";
+    put(path, content);
     {
         // The folder, the schemes and the arrangements are opened first.
         const test::FileCalls calls(test::failing("open", EIO, 3));
@@ -165,19 +168,53 @@ TEST_F(ConfigurationTest, AConfigurationThatCannotBeReadIsToldAndNotWrittenOver)
                   path.native() + ": cannot be read: Input/output error");
     }
     EXPECT_EQ(SavecfgFile(session).problem, "");
-    EXPECT_EQ(contentOf(path), "7,3\r\nxp.col\r\n");
+    EXPECT_EQ(contentOf(path), content);
     EXPECT_EQ(loadSession(session).notice, "");
     const test::FileCalls calls(test::failing("write", ENOSPC));
     EXPECT_EQ(SavecfgFile(session).problem,
               path.native() + ": cannot be written: No space left on device");
 }
 
-TEST_F(ConfigurationTest, ADataFileThatIsMissingOrGarbledStopsTheStart) {
+TEST_F(ConfigurationTest, ADamagedConfigurationIsKeptBesideBeforeItIsWrittenOver) {
+    const fs::path kept = path.native() + ".damaged";
+    const std::string whole = "7,3,4,1,,3,1,4,1\r\nxp.col\r\nArial\r\n\r\n";
+    for (const auto& [content, isDamaged] : {std::pair<std::string, bool>{whole, false},
+                                             {whole.substr(4), true},
+                                             {"x" + whole, true},
+                                             {whole.substr(0, 30), true},
+                                             {whole + "/home/me/a.t", true}}) {
+        put(path, content);
+        EXPECT_EQ(!loadSession(session).notice.empty(), isDamaged) << content;
+        EXPECT_TRUE(SavecfgFile(session).ok());
+        EXPECT_EQ(fs::exists(kept) ? contentOf(kept) : "", isDamaged ? content : "");
+        fs::remove(kept);
+    }
+    put(path, "garbled");
+    fs::create_directory(kept);
+    EXPECT_NE(loadSession(session).notice, "");
+    EXPECT_TRUE(SavecfgFile(session).ok());
+    EXPECT_EQ(contentOf(path), "garbled") << "nothing could be kept";
+}
+
+TEST_F(ConfigurationTest, ADataFileThatIsMissingOrGarbledStopsTheStartUnlessItIsRestored) {
     const auto problem = [this] { return loadSession(session).outcome.problem; };
     for (const char* name : {"hexabinx.txt", "all.col"}) {
         put(folder / name, "255;255;255\r\n");
         EXPECT_TRUE(problem().starts_with((folder / name).native() + ": ")) << problem();
-        EXPECT_EQ(loadSession(session).holdsNoScheme, std::string_view(name) == "all.col");
+        ProgramFolderSources sources;
+        sources.given = sources.shareFolder = folder.path();
+        ScriptedPrompts prompts;
+        const auto starts = [&](std::deque<int> answers) {
+            prompts.answers = std::move(answers);
+            return startSession(session, sources, DefaultScheme, prompts).outcome.ok();
+        };
+        EXPECT_FALSE(starts({})) << "the installed one is no better";
+        EXPECT_EQ(prompts.shown.size(), 1u);
+        sources.shareFolder = TESSALY_DATA;
+        EXPECT_FALSE(starts({answer::No, answer::Ok}));
+        EXPECT_EQ(prompts.shown.at(1).text, problem() + "\r\nRestore the installed one?");
+        EXPECT_TRUE(starts({answer::Yes}));
+        EXPECT_EQ(contentOf((folder / name).native() + ".damaged"), "255;255;255\r\n");
         fs::remove(folder / name);
         EXPECT_NE(problem().find(name), std::string::npos) << problem();
         fs::copy_file(fs::path(TESSALY_DATA) / name, folder / name);

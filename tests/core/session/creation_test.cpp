@@ -135,9 +135,9 @@ TEST_F(CreationTest, AStopOrAFailureLeavesWholeRecords) {
     out = "/no/such/folder/out.txt";
     run(5);
     EXPECT_TRUE(seen().ends_with("|" + out.native() +
-                                 ": cannot be written: No such file or "
-                                 "directory [vbok+vbcritical]|0 Puzzles added to file:\r\n" +
-                                 out.native() + " [vbinformation+vbok]"));
+                                 ": cannot be written: No such file or directory "
+                                 "[vbok+vbcritical]"))
+        << seen();
 }
 
 } // namespace

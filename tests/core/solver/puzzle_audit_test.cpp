@@ -41,9 +41,9 @@ TEST(PuzzleAudit, FindsWhatIsWrongAndNothingElse) {
     } rows[] = {
         {easy.substr(1), "118 characters"},
         {"X" + easy.substr(1), "neither \"E\" nor \"H\""},
-        {easy + " ", "does not begin with \":\""},
+        {easy + "x", "does not begin with \":\""},
         {easy + ":7", "no number of the player"},
-        {easy + ":" + std::string(BoardCellCount + 1, ' '), "longer than"},
+        {easy + ":" + std::string(BoardCellCount, ' ') + "1", "longer than"},
         {changed(easy, 5, easy.substr(6, 1)), "hexagon 1 does not hold each"},
         {changed(easy, placeOf({10, 3}), "0"), "hexagon 10 does not hold each"},
         {swapped, "differs across the side of", 2},
@@ -60,7 +60,7 @@ TEST(PuzzleAudit, FindsWhatIsWrongAndNothingElse) {
         {givenWhere(easy, outside), "a cell of the blank hexagon is not given"},
         {givenWhere(hard, noHint), "the hint is not given"},
     };
-    for (const std::string& sound : {easy + ":" + std::string(BoardCellCount, '6'), hard})
+    for (const std::string& sound : {easy + ":" + std::string(BoardCellCount, '6'), hard + " \t"})
         EXPECT_EQ(auditRecord(sound), Findings{});
     for (const auto& row : rows) {
         const Findings findings = auditRecord(row.record);

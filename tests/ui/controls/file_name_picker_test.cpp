@@ -13,7 +13,7 @@ namespace {
 struct FileNamePickerTest : testing::Test {
     QString choose(const QString& name, const QString& mode = {}) {
         dialogs.add(name);
-        return picker.GetFileName(mode);
+        return pathText(picker.GetFileName(mode));
     }
     ScriptedFileDialogs dialogs;
     ScriptedPrompts prompts;
@@ -59,6 +59,13 @@ TEST_F(FileNamePickerTest, NamesThatCannotBeTakenAreRefusedWithTheReason) {
         EXPECT_NE(prompts.shown.back().text.find(reason), std::string::npos);
         EXPECT_EQ(prompts.shown.back().style, "vbok+vbcritical");
     }
+    const test::TemporaryFolder folder;
+    const std::filesystem::path odd = folder / "caf\xe9.txt";
+    test::put(odd, "");
+    dialogs.add(pathText(odd));
+    EXPECT_EQ(picker.GetFileName({}), odd) << "the only file that looks like this";
+    test::put(folder / "caf\xe8.txt", "");
+    EXPECT_EQ(choose(pathText(odd)), QString()) << "which of the two?";
 }
 
 TEST_F(FileNamePickerTest, ItsButtonFillsItAndItsEventsArePassedOn) {

@@ -5,6 +5,7 @@
 #include "ui/game_window.h"
 
 #include <QComboBox>
+#include <QPrinter>
 #include <QProgressBar>
 
 namespace tessaly {
@@ -54,11 +55,7 @@ struct Printing : testing::Test {
 
 TEST_F(Printing, PrintsTheShownPuzzleAsItStandsItsSolutionOrBoth) {
     constexpr std::size_t CaptionsAndFooter = 8;
-    game.printers.userSetsUp = [&](QPrinter& printer) {
-        printer.setOutputFileName(QString::fromStdString(pdf));
-        printer.setPageSize(QPageSize(QPageSize::Letter));
-        return true;
-    };
+    game.printers.chosen = PrintTarget{{}, pdf, NamedPapers[1].size};
     const PdfDocument printed(pdf);
     game.choose(u"mnuprintx_0"_s);
     const auto givens = printed.words(1).size();
@@ -73,6 +70,11 @@ TEST_F(Printing, PrintsTheShownPuzzleAsItStandsItsSolutionOrBoth) {
               std::size_t{HexagonCount - 1} * CellCount + CaptionsAndFooter);
     game.choose(u"mnuprintx_2"_s);
     EXPECT_EQ(printed.pageCount(), 2);
+    game.printers.chosen->pages = {1};
+    game.printers.chosen->sheets.copies = {2, true, true};
+    game.choose(u"mnuprintx_2"_s);
+    EXPECT_EQ(printed.pageCount(), 3) << "the second copy begins on a sheet of its own";
+    EXPECT_EQ(printed.words(3).size(), printed.words(1).size());
     EXPECT_TRUE(game.prompts.shown.empty());
 }
 
@@ -82,13 +84,10 @@ TEST_F(Printing, WhatCannotBePrintedIsSaid) {
         return game.lastPrompt().text;
     };
     EXPECT_EQ(shown(), "") << "cancelled";
-    game.printers.userSetsUp = [](QPrinter& printer) {
-        printer.setOutputFileName(u"/nowhere/out.pdf"_s);
-        return true;
-    };
+    game.printers.chosen = PrintTarget{{}, "/nowhere/out.pdf", NamedPapers[0].size};
     EXPECT_NE(shown().find("/nowhere/out.pdf"), std::string::npos);
     EXPECT_EQ(game.lastPrompt().style, "vbok+vbcritical");
-    game.printers.userSetsUp = [](QPrinter&) { return true; };
+    game.printers.chosen->file.clear();
     EXPECT_EQ(shown(), "There is no printer.");
     std::filesystem::create_directory(pdf);
     printRange(u"1"_s, u"4"_s, u"Print to PDF"_s);
@@ -100,6 +99,14 @@ TEST_F(Printing, WhatCannotBePrintedIsSaid) {
     game.printers.answer = Outcome::failed("Laser: on fire");
     printRange(u"1"_s, u"1"_s);
     EXPECT_EQ(game.lastPrompt(), (Message{"Laser: on fire", "vbok+vbcritical"}));
+    game.prompts.shown.clear();
+    game.printers.chosen->printer = u"Laser"_s;
+    EXPECT_EQ(shown(), "Laser: on fire");
+    EXPECT_NE(game.message(), u"Printed"_s);
+    EXPECT_EQ(game.printers.printed.back().options, (QStringList{u"-n"_s, u"1"_s}));
+    game.printers.answer = Outcome::done();
+    game.choose(u"mnuprintx_0"_s);
+    EXPECT_EQ(game.message(), u"Printed"_s);
     EXPECT_FALSE(game.session.busy.isBusy());
     game.session.puzzle = {};
     EXPECT_EQ(shown(), "There is no puzzle to print");
@@ -175,6 +182,34 @@ TEST_F(Printing, TheDialogTakesAnotherFileAndRemembersThePrinter) {
     EXPECT_EQ(game.fileDialogs.asked.back().title, u"Select a PDF file to print to");
     EXPECT_EQ(game.message().toStdString(), "40 pages printed to " + pdf + ".pdf");
     EXPECT_EQ(PdfDocument(pdf + ".pdf").pageCount(), 40);
+}
+
+TEST(SystemPrinters, TellTheProgramThatPrintsWhatTheDialogSetAndHearItsAnswer) {
+    const test::TemporaryFolder folder;
+    QPrinter printer;
+    printer.setOutputFileName(QString::fromStdString(folder / "out.pdf"));
+    printer.setPageSize(QPageSize(QPageSize::A5));
+    printer.setCopyCount(3);
+    printer.setPrintRange(QPrinter::PageRange);
+    printer.setFromTo(2, 3);
+    PrintTarget target = targetOf(printer, 4);
+    EXPECT_EQ(target.file, folder / "out.pdf");
+    EXPECT_EQ(target.pages, (std::vector{1, 2}));
+    EXPECT_NEAR(target.paper.height, 595, 1);
+    target.sheets.sides = u"two-sided-short-edge"_s; // only a real printer has them
+
+    const QByteArray before = qgetenv("PATH");
+    const auto printed = [&] {
+        return SystemPrinters().print(u"Laser"_s, "a.pdf", u"a title"_s, target.sheets).problem;
+    };
+    qputenv("PATH", QByteArray::fromStdString(folder.path()));
+    EXPECT_EQ(printed(), "Laser: cannot print: the program \"lp\" is missing; install the package "
+                         "\"cups-client\"");
+    test::put(folder / "lp", "#!/bin/sh\necho \"$@\" >&2\nexit 1\n");
+    std::filesystem::permissions(folder / "lp", std::filesystem::perms(0755));
+    EXPECT_EQ(printed(), "Laser: cannot print: -d Laser -t a title -n 3 -o collate=true "
+                         "-o sides=two-sided-short-edge -o media=A5 -- a.pdf");
+    qputenv("PATH", before);
 }
 
 TEST_F(Printing, ALongOneLetsTheWindowLiveAndLeavesNothingWhenItIsCancelledOrClosed) {

@@ -1,3 +1,4 @@
+#include "core/files/locked_file.h"
 #include "core/play/selection_walk.h"
 #include "ui/game_window.h"
 
@@ -79,6 +80,33 @@ TEST_F(MainWindow, ExitAsksAndRemembersAndTheCloseBoxRemembersTheSizeOnly) {
         game.restart();
         EXPECT_EQ(game.window->size(), first);
     }
+    const std::string configuration = game.folder.path() + "tessaly.cfg";
+    std::filesystem::remove(configuration);
+    std::filesystem::create_directory(configuration);
+    game.prompts.answers = {answer::Yes};
+    game.choose(u"cmdexit"_s);
+    EXPECT_EQ(game.lastPrompt().text, configuration + ": cannot be written: Is a directory");
+}
+
+TEST_F(MainWindow, LivesWhileAnotherProgramWritesAFileAndWaitingCanBeGivenUp) {
+    const std::string path = game.load("hard.txt");
+    const std::string before = test::contentOf(path);
+    std::optional<LockedFile> other;
+    const auto saveWhileLocked = [&](const std::function<void()>& meanwhile) {
+        EXPECT_TRUE(other.emplace().lock(path).ok());
+        QTimer::singleShot(50, game.window.get(), [&, meanwhile] {
+            EXPECT_EQ(game.message(), u"Waiting for hard.txt (Escape gives up)"_s);
+            meanwhile();
+        });
+        game.choose(u"mnusaveto"_s);
+        other.reset();
+        return game.lastPrompt().text;
+    };
+    EXPECT_EQ(saveWhileLocked([&] { game.press(Qt::Key_Escape); }),
+              path + ": is being written by another program");
+    EXPECT_EQ(test::contentOf(path), before);
+    EXPECT_TRUE(saveWhileLocked([&] { other.reset(); }).ends_with("added to file " + path));
+    EXPECT_GT(test::contentOf(path).size(), before.size());
 }
 
 TEST_F(MainWindow, ResizesFromTheSmallestToAnySize) {

@@ -44,16 +44,20 @@ TEST_F(AutoCreate, TheDialogTakesANumberAndAFile) {
     inNextDialog([&](QDialog& dialog) {
         auto& file = find<QLabel>(dialog, u"Label2"_s);
         EXPECT_EQ(file.text().toStdString(), defaultFile);
-        for (const QString& wrong : {u"0"_s, u"-3"_s, u"many"_s, u" "_s}) {
+        for (const QString& wrong : {u"0"_s, u"-3"_s, u"many"_s, u" "_s, u"99999999999"_s}) {
             game.prompts.shown.clear();
             order(dialog, wrong);
             EXPECT_EQ(game.lastPrompt().text, "Incorrect number of puzzles");
         }
         click(dialog, u"..."_s);
         EXPECT_EQ(file.text(), chosen);
-        EXPECT_FALSE(find<QCheckBox>(dialog, u"Check3"_s).isChecked());
-        QTest::keyClick(&find(dialog, u"Check3"_s), Qt::Key_Space);
+        auto& isDefault = find<QCheckBox>(dialog, u"Check3"_s);
+        EXPECT_FALSE(isDefault.isChecked());
+        QTest::keyClick(&isDefault, Qt::Key_Space);
         EXPECT_EQ(file.text().toStdString(), defaultFile);
+        game.fileDialogs.add({});
+        QTest::keyClick(&isDefault, Qt::Key_Space);
+        EXPECT_TRUE(isDefault.isChecked()) << "no other was chosen";
         click(dialog, u"Cancel"_s);
     });
     game.choose(u"mnucreaten_1"_s);

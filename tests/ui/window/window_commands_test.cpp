@@ -28,7 +28,7 @@ struct WindowCommandsTest : testing::Test {
         game.click(u"cmdallpencil"_s, Qt::RightButton);
         press(u"Command5"_s, Qt::RightButton);
         QTest::keyClick(&game.find(u"PuzNumNow"_s), Qt::Key_Return);
-        Q_EMIT game.window->findChild<FileDrop*>()->dropped(pathText(game.session.puzzle.PuzPath));
+        Q_EMIT game.window->findChild<FileDrop*>()->dropped(game.session.puzzle.PuzPath);
         return ways;
     }
     void press(const QString& developersButton, Qt::MouseButton with = Qt::LeftButton) {
