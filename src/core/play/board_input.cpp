@@ -94,8 +94,12 @@ void BoardInput::hidePopup() {
 }
 
 void BoardInput::Picture2_MouseMove(Point point) {
-    if (m_walked && m_pointer && isTremor(*m_pointer, point))
+    // A pointer that is first seen now may have stood there all the time.
+    const bool isMoved = m_pointer && !isTremor(*m_pointer, point);
+    if (m_walked && !isMoved) {
+        m_pointer = m_pointer.value_or(point);
         return;
+    }
     m_pointer = point;
     if (!m_busy.isBusy())
         selectUnderPointer();

@@ -214,7 +214,9 @@ TEST_F(BoardInputTest, ArrowsReachEveryCellThatIsNotWithheldAndGivensAreOnlyRead
 
 TEST_F(BoardInputTest, ThePointerTakesTheCellOfTheKeysOnlyWhenItIsMeantTo) {
     const CellId far{19, 5};
+    input.pointerLeft();
     input.walkTo(far);
+    pointAt(Cell); // where it stood behind a box
     input.Picture2_MouseMove({pointer.x + 1, pointer.y});
     input.pointerLeft();
     input.forgetSelection();
