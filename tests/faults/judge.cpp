@@ -73,6 +73,9 @@ Outcome judge(const Operation& operation, const Scene& before, const Scene& afte
             continue;
         if (!isOld && !isNew)
             return Outcome::failed("neither the old nor the new content");
+        if (fs::exists(before.*file) && fs::exists(work.*file) &&
+            fs::status(work.*file).permissions() != fs::status(before.*file).permissions())
+            return Outcome::failed("other rights");
         if (isDone && !isNew)
             return Outcome::failed("said to be done, but it is not");
         left = isOld ? "old" : "new";

@@ -41,6 +41,8 @@ Outcome Scene::make(int records) const {
     test::put(temporary, recordFile(1));
     if (records >= 0)
         test::put(puzzles, recordFile(records));
+    for (const fs::path& file : {schemes, temporary})
+        fs::permissions(file, fs::perms(0640));
     return saveConfiguration(*this, 1);
 }
 
@@ -53,6 +55,12 @@ const std::vector<Operation>& operations() {
         {"replace", &Scene::puzzles,
          [](S scene) { return PuzzleStore().WritePuzzle(scene.puzzles, 1, boardOf(newRecord())); }},
         {"delete", &Scene::puzzles, deletePuzzle},
+        {"temporary", &Scene::temporary,
+         [](S scene) {
+             return PuzzleStore().appendPuzzles(scene.temporary, newRecord() + "\r\n");
+         }},
+        {"deletetemporary", &Scene::temporary,
+         [](S scene) { return PuzzleStore().DeletePuzzle(scene.temporary, 1, recordNumbered(1)); }},
         {"configuration", &Scene::configuration,
          [](S scene) { return saveConfiguration(scene, 2); }},
         // The variants go to the very file that they are made of.
