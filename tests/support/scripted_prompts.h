@@ -56,7 +56,7 @@ struct ScriptedPrompts : Prompts {
     std::string told() {
         std::string all;
         for (const auto& [text, style] : std::exchange(shown, {}))
-            all += "|" + text + " [" + style + "]";
+            all.append("|").append(text).append(" [").append(style).append("]");
         return all;
     }
 

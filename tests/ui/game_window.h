@@ -32,7 +32,7 @@ public:
     std::string path() const { return m_folder.path().string() + "/"; }
 
     /// A copy of one of the sample puzzle files.
-    std::string puzzles(const std::string& name, std::string copyName = {}) const {
+    std::string puzzles(const std::string& name, const std::string& copyName = {}) const {
         std::string copy = path() + (copyName.empty() ? name : copyName);
         std::filesystem::copy_file(TESSALY_TEST_DATA "/puzzles/" + name, copy);
         return copy;
