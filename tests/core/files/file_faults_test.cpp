@@ -133,18 +133,23 @@ TEST_F(FileFaultsTest, AnAppendedLineStandsInTheFileThatTheNameMeans) {
 TEST_F(FileFaultsTest, OnlyWhatIsOnesOwnIsTakenBack) {
     put(file, "old\n");
     std::string foreign;
+    std::string_view alsoFails;
     const auto fail = [&](std::string_view name, int) {
         if (name == "fsync")
             std::ofstream(file, std::ios::app) << foreign;
-        return name == "fsync" ? EIO : 0;
+        return name == "fsync" || name == alsoFails ? EIO : 0;
     };
     const std::string problem = told("cannot be flushed to the disk: Input/output error");
     EXPECT_EQ(problemWhile(fail, appending("new\n")), problem);
     EXPECT_EQ(contentOf(file), "old\n");
+    const std::string partly = problem + "; a part of what was written may stand at its end";
+    alsoFails = "ftruncate";
+    EXPECT_EQ(problemWhile(fail, appending("new\n")), partly);
+    EXPECT_EQ(contentOf(file), "old\nnew\n");
+    alsoFails = {};
     foreign = "foreign\n";
-    EXPECT_EQ(problemWhile(fail, appending("new\n")),
-              problem + "; a part of what was written may stand at its end");
-    EXPECT_EQ(contentOf(file), "old\nnew\nforeign\n");
+    EXPECT_EQ(problemWhile(fail, appending("newer\n")), partly);
+    EXPECT_EQ(contentOf(file), "old\nnew\nnewer\nforeign\n");
 }
 
 TEST_F(FileFaultsTest, TwoThatMakeOneFileWithoutLocksBothStandInIt) {
@@ -225,6 +230,15 @@ TEST_F(FileFaultsTest, AReplacementIsDoneAsFarAsTheSystemAllows) {
         {"old", failing("fsync", EINVAL, 1), "", "ours"},
         {"old", failing("fsync", EIO, 1),
          "was saved, but its folder cannot be flushed to the disk: Input/output error", "ours"},
+        {"old",
+         [flushes = 0](std::string_view name, int) mutable {
+             return name == "syncfs" || (name == "fsync" && flushes++ == 1) ? EINVAL : 0;
+         },
+         "was saved, but its folder cannot be flushed to the disk: Invalid argument", "ours"},
+        // A file system without links, and a name that is taken.
+        {"", failing("linkat", EPERM), "", "ours"},
+        {"", failing("linkat", EIO), "cannot be replaced: Input/output error", ""},
+        {"old", failing("openat", EEXIST), "", "ours"},
         {"old", failing("fchmod", EPERM), "its permissions cannot be kept: Operation not permitted",
          "old"},
     };

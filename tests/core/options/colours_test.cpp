@@ -99,6 +99,11 @@ TEST(ColourSurface, KeysReachEveryPlaceAndStayOnTheSurface) {
         EXPECT_EQ(moved(from, columns, rows), to) << from.row << " " << from.column;
     EXPECT_EQ(boxOf({1, 1}).left, paletteBox(5).left);
     EXPECT_TRUE(boxOf({4, 7}).contains(17, 950) && boxOf({5, 7}).contains(17, 1175));
+    for (int index = 0; index < PlaceCount; ++index)
+        EXPECT_EQ(indexOf(placeAt(index)), index);
+    EXPECT_EQ(nameOf({4, 0}, Ramp), "darker: red 0, green 0, blue 0");
+    EXPECT_EQ(nameOf({5, 0}, Ramp), "lighter: red 255, green 255, blue 255");
+    EXPECT_NE(nameOf({0, 0}, Ramp), nameOf({3, 3}, Ramp));
 }
 
 } // namespace

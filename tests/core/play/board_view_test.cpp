@@ -66,6 +66,14 @@ TEST(BoardStyle, SpacedHexagonsAreBorderedByTheBackgroundAndPaperByItsOwnWidth) 
     EXPECT_EQ(split.border, RGB(200, 201, 202));
     EXPECT_GT(split.borderWidth, 2);
     EXPECT_TRUE(split.line == RGB(1, 2, 3) && split.solid == split.line);
+    appearance.SplitHexas = false;
+    EXPECT_EQ(boardStyle(appearance).border, split.line);
+    const auto hatch = hatchLines(10);
+    const auto centre = hexagonCentre(10);
+    EXPECT_NEAR(hatch[hatch.size() / 2].first.x - centre.x,
+                centre.x - hatch[hatch.size() / 2].second.x, 1e-9);
+    for (const auto& [from, to] : hatch)
+        EXPECT_NEAR(from.x + from.y, to.x + to.y, 1e-9) << "at 45 degrees";
     appearance.PrintLineWidth = 3;
     EXPECT_EQ(paperStyle(appearance).borderWidth, 3);
     appearance.PrintLineWidth = std::numeric_limits<int>::max();
