@@ -79,6 +79,7 @@ TEST_F(PuzzleStoreTest, ReadsARecordOrSaysWhatIsWrongWithItAndChangesNothing) {
         EXPECT_TRUE(got.ok() || got.reason.starts_with(path.native() + ": ")) << got.reason;
         EXPECT_NE(got.reason.find(row.reason), std::string::npos) << got.reason;
         EXPECT_EQ(board, expected);
+        EXPECT_EQ(readRecordAt(path, row.number, board).ok(), row.reason.empty());
         std::string visited;
         const auto visit = [&](const RecordLine& line) {
             visited = line.number == row.number && line.read(board).ok() ? line.text : "";

@@ -174,6 +174,8 @@ TEST_F(BoardInputTest, NothingIsEnteredWhileACommandIsUnderWay) {
     input.selectFirst();
     input.selectLast();
     input.pointerLeft();
+    input.enter(3);
+    input.Picture2_MouseDown(PointerButton::Left, numberCentre({8, 3}));
     EXPECT_EQ(input.selection(), Cell);
     input.Celltags_MouseDown(10);
     input.Num16_Click(2);
@@ -206,10 +208,18 @@ TEST_F(BoardInputTest, ArrowsReachEveryCellThatIsNotWithheldAndGivensAreOnlyRead
     input.moveSelection(-1, 0);
     EXPECT_EQ(display.marker, (CellId{19, 6}));
     EXPECT_EQ(input.SelHex(), -1);
+    input.enter(4);
     key('4');
     EXPECT_EQ(entry({19, 6}), "3");
     input.readHexagon();
     EXPECT_TRUE(display.announced.ends_with("lower left given 3, missing 1 2 4 5 6"));
+    game.board.CellNum[19] = {"", "1", "2", "4", "5", "6", "3"};
+    input.readHexagon();
+    EXPECT_TRUE(display.announced.ends_with("missing nothing"));
+    game.board.BlankHex = 5;
+    for (const auto& [columns, rows, beside] :
+         {std::tuple(0, 1, 15), {1, 0, 8}, {-1, 0, 7}, {0, -1, 7}})
+        EXPECT_EQ(hexagonBeside(game.board, 10, columns, rows), beside) << columns << rows;
 }
 
 TEST_F(BoardInputTest, ThePointerTakesTheCellOfTheKeysOnlyWhenItIsMeantTo) {

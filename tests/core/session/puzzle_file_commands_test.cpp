@@ -230,6 +230,10 @@ TEST_F(PuzzleFileCommandsTest, RecentFilesOpenUnlessTheyAreGone) {
     EXPECT_EQ(reopen(path, 2), "2/3 a.txt: ");
     EXPECT_EQ(display.saveTarget, path);
     EXPECT_EQ(reopen(path, 4), "1/3 a.txt: ");
+    load(fileOfPuzzles("b.txt", 2));
+    EXPECT_EQ(open(1), "1/3 a.txt: ");
+    fs::remove(pathOf("b.txt"));
+    EXPECT_EQ(open(0), "1/3 a.txt: |File not found:\r\nb.txt [vbcritical+vbok]");
     for (const fs::path& none : {fs::path("  "), fileOfPuzzles("temporarypuzfile.txt", 1),
                                  pathOf("gone.txt"), fileOf("broken.txt", "no puzzle\r\n")}) {
         reopen(path, 1);
@@ -239,7 +243,7 @@ TEST_F(PuzzleFileCommandsTest, RecentFilesOpenUnlessTheyAreGone) {
     fileOfPuzzles("a.txt", 2);
     const test::FileCalls calls(test::failing("pread", EIO));
     EXPECT_EQ(reopen(path, 1), "0/0 : ") << "it cannot be read";
-    EXPECT_EQ(display.recent.size(), 1u) << "it is not added";
+    EXPECT_EQ(display.recent.size(), 2u) << "it is not added";
 }
 
 } // namespace
