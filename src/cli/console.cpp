@@ -58,11 +58,11 @@ Outcome flushed(std::ostream& out) {
     return out.flush() ? Outcome::done() : fileProblem("standard output", "cannot be written");
 }
 
-ProgressBar::ProgressBar(const Console& console, std::int64_t total)
+TerminalProgressBar::TerminalProgressBar(const Console& console, std::int64_t total)
     : m_console(console)
     , m_total(std::max<std::int64_t>(total, 1)) {}
 
-void ProgressBar::show(std::int64_t done) {
+void TerminalProgressBar::show(std::int64_t done) {
     const Clock::time_point now = Clock::now();
     if (!m_console.errIsTerminal || now < m_next)
         return;
@@ -79,7 +79,7 @@ void ProgressBar::show(std::int64_t done) {
     m_console.err << EmptyLine << '[' << bar << text << std::flush;
 }
 
-void ProgressBar::clear() {
+void TerminalProgressBar::clear() {
     if (m_console.errIsTerminal)
         m_console.err << EmptyLine << std::flush;
 }

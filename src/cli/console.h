@@ -63,9 +63,9 @@ Outcome flushed(std::ostream& out);
 
 /// Shows on the terminal, where there is one, how far a long run is and how long the rest will
 /// take.
-class ProgressBar {
+class TerminalProgressBar {
 public:
-    ProgressBar(const Console& console, std::int64_t total);
+    TerminalProgressBar(const Console& console, std::int64_t total);
 
     void show(std::int64_t done);
     /// Leaves the line empty.

@@ -39,7 +39,7 @@ int create(const CreateOptions& options, const Console& console) {
     const PuzzleSeries series{difficultyAt(options.difficulty),
                               options.seed.value_or(Chance::freshSeed())};
     const SearchFill fill(allArrangements());
-    ProgressBar bar(console, options.count);
+    TerminalProgressBar bar(console, options.count);
     if (outcome.ok())
         makeSeries(series, options.jobs, fill, [&](const std::string& record) {
             output.add(record);

@@ -65,7 +65,7 @@ int print(const PrintOptions& options, const Console& console) {
 
     const Offscreen offscreen;
     const PrintJob job = jobOf(range, files);
-    ProgressBar bar(console, job.booklet.pageCount());
+    TerminalProgressBar bar(console, job.booklet.pageCount());
     const PrintResult result =
         writePdf(options.output, NamedPapers[options.paper].size, job, Appearance(), [&](int page) {
             bar.show(page);

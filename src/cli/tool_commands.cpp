@@ -39,7 +39,7 @@ Outcome writeOutput(const Console& console, const std::filesystem::path& path,
 int run(const Console& console, const ToolFiles& files, const Tool& tool) {
     int count = 0;
     const bool isCounted = PuzzleStore().CountLines(files.input, count).ok();
-    ProgressBar bar(console, count);
+    TerminalProgressBar bar(console, count);
     const KeepGoing keepGoing = [&](int records) {
         if (isCounted)
             bar.show(records);
