@@ -1,3 +1,4 @@
+#include "core/files/locked_file.h"
 #include "core/session/creation_commands.h"
 #include "core/session/multiple_creation.h"
 #include "support/core_fakes.h"
@@ -124,6 +125,19 @@ TEST_F(CreationTest, NothingIsMadeUnaskedAndWhatAnotherProgramReplacedIsShown) {
     run(1);
     EXPECT_EQ(session.game.board, boardOf(records[1]));
     EXPECT_TRUE(session.game.undoList.empty());
+}
+
+TEST_F(CreationTest, AFileThatAnotherInstanceWritesIsWaitedForAndSaidSo) {
+    fileOf("out.txt", "");
+    std::optional<LockedFile> held(std::in_place);
+    ASSERT_EQ(held->lock(out).problem, "");
+    display.onYield = [&] {
+        if (display.message == "Waiting for out.txt")
+            held.reset();
+    };
+    run(2);
+    EXPECT_FALSE(held.has_value());
+    EXPECT_EQ(differentMade(), 2u);
 }
 
 TEST_F(CreationTest, AStopOrAFailureLeavesWholeRecords) {
