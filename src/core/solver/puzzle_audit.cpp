@@ -117,7 +117,7 @@ void checkDifficulty(const Board& board, Findings& findings) {
 
 std::vector<std::string> auditRecord(std::string_view line) {
     // Blanks behind a record are forgiven, as in the game.
-    if (const auto end = line.find_last_not_of(BlankCharacters); end != line.npos)
+    if (const auto end = line.find_last_not_of(BlankCharacters); end != std::string_view::npos)
         line = line.substr(0, std::max(end + 1, std::min(line.size(), RecordLength)));
     Findings findings;
     Board board;
