@@ -150,7 +150,7 @@ std::filesystem::path FNDialog::accepted(const QString& path) {
     if (path.isEmpty())
         return {};
     const QString full = QDir::isAbsolutePath(path) ? path : QDir::current().filePath(path);
-    const std::filesystem::path exact = exactPath(full);
+    std::filesystem::path exact = exactPath(full);
     QString problem;
     if (full.size() > LongestPath)
         problem =
@@ -174,7 +174,7 @@ FNDialog* makeFilePicker(const FileDialog& ask, Prompts& prompts, QWidget* paren
 std::filesystem::path choosePuzzleFile(FNDialog& picker, const std::filesystem::path& folder,
                                        FileUse use, std::string_view title) {
     picker.setTitle(QString::fromUtf8(title));
-    picker.setFileTypes(u"*.txt;*.dat"_s);
+    picker.setFileTypes(u"*.txt;*.dat;*.tessaly"_s);
     picker.setFileTypesName(u"Tessaly Files"_s);
     picker.setDefaultDir(pathText(folder));
     return picker.GetFileName(use == FileUse::Save ? u"SAVE"_s : u"OPEN"_s);

@@ -65,7 +65,7 @@ Outcome paintSvg(QIODevice& file, const BoardPicture& picture, double scale) {
     svg.setViewBox(QRectF(QPointF(), size));
     svg.setTitle(QString::fromLatin1(Product::Name));
     svg.setDescription({});
-    const Outcome painted = paintOn(svg, picture, scale);
+    Outcome painted = paintOn(svg, picture, scale);
     setExactSize(text, size);
     file.write(text);
     return painted;

@@ -107,7 +107,7 @@ TEST_F(WindowCommandsTest, PuzzlesAreSavedToAndDeletedFromFilesWhateverTheirName
     choose(u"mnuload"_s, game.folder.puzzles("easy.txt"));
     for (const FileQuestion& asked : game.fileDialogs.asked) {
         EXPECT_EQ(asked.folder.toStdString(), game.folder.path());
-        EXPECT_EQ(asked.kind, u"Tessaly Files (*.txt;*.dat)"_s);
+        EXPECT_EQ(asked.kind, u"Tessaly Files (*.txt;*.dat;*.tessaly)"_s);
         EXPECT_EQ(asked.title, asked.saving ? u"Select an output Puzzle file"_s
                                             : u"Select a Puzzle file to open"_s);
     }
