@@ -153,11 +153,16 @@ TEST_F(PuzzleStoreTest, DeletingTakesTheLineThatIsShownAndKeepsEveryOtherByte) {
     EXPECT_TRUE(remove(1, recordNumbered(1)));
     EXPECT_GE(yields, 4);
 
-    const std::string a = recordNumbered(1) + "\n", b = recordNumbered(2) + "  \r\n";
     const std::string c = recordNumbered(3);
-    for (const auto& [number, left] :
-         {std::pair(1, Mark + b + c), {2, Mark + a + c}, {3, Mark + a + b}}) {
-        put(path, Mark + a + b + c);
+    const std::array lines{recordNumbered(1) + "\n", recordNumbered(2) + "  \r\n", c};
+    for (const int number : {1, 2, 3}) {
+        std::string all = Mark, left = Mark;
+        for (int line = 1; const std::string& text : lines) {
+            all += text;
+            if (line++ != number)
+                left += text;
+        }
+        put(path, all);
         EXPECT_TRUE(remove(number, read(number).record));
         EXPECT_EQ(contentOf(path), left);
         EXPECT_NE(store.DeletePuzzle(path, 1, recordNumbered(5)).problem.find("another program"),

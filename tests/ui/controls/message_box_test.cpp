@@ -44,7 +44,7 @@ TEST_F(MessageBoxTest, ItsStyleNamesButtonsAndIcon) {
              {u"vbcontinuecancel"_s, u"Continue6 Cancel2"_s},
              {u"vbnormal"_s, u"Ok0"_s},
          })
-        show(u"Exit?"_s, style, [&] {
+        show(u"Exit?"_s, style, [&, looks = looks, style = style] {
             QStringList shown;
             for (const auto* button : form.findChildren<BoxControl*>())
                 shown << button->text() + button->property("Tag").toString();
@@ -140,7 +140,7 @@ TEST_F(MessageBoxTest, AsksForALineOfText) {
         {click(u"ok"), "Größe"},
         {[](QDialog& prompt) { QTest::keyClick(prompt.focusWidget(), Qt::Key_Return); }, "Größe"}};
     for (const auto& [act, answered] : ways) {
-        inNextDialog([&act](QDialog& prompt) {
+        inNextDialog([act = act](QDialog& prompt) {
             auto* line = prompt.findChild<QLineEdit*>();
             EXPECT_EQ(line->accessibleName() + line->text(), u"Name <b>?");
             line->setText(u"Größe"_s);

@@ -52,7 +52,8 @@ TEST_F(WindowCommandsTest, WhilePuzzlesAreCreatedEveryCommandIsRefusedWithAWord)
     EXPECT_GT(ways, 40U);
     EXPECT_EQ(game.prompts.shown.size(), ways);
     for (const auto& [text, style] : game.prompts.shown)
-        EXPECT_EQ(text + '/' + style, "Let AutoCreate finish first/vbcritical+vbok");
+        EXPECT_EQ(std::string(text).append("/").append(style),
+                  "Let AutoCreate finish first/vbcritical+vbok");
     game.choose(u"oldfiles_0"_s);
     EXPECT_EQ(said(), "Cancel Puzzle Creation first");
 
