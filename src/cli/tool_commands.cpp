@@ -7,6 +7,7 @@
 
 #include <memory>
 #include <optional>
+#include <string>
 
 namespace tessaly {
 namespace {
@@ -28,11 +29,16 @@ Outcome writeOutput(const Console& console, const std::filesystem::path& path,
                     const ContentWriter& writer) {
     if (!path.empty())
         return replaceFile(path, writer);
-    const ContentSink sink([&console](std::string_view piece) {
-        console.out << piece;
-        return flushed(console.out);
+    // A stream cannot be taken back, so nothing goes there before all is well.
+    std::string content;
+    const ContentSink sink([&content](std::string_view piece) {
+        content += piece;
+        return Outcome::done();
     });
-    return writer(sink);
+    if (Outcome made = writer(sink); !made.ok())
+        return made;
+    console.out << content;
+    return flushed(console.out);
 }
 
 /// Runs a tool, with a progress bar where it can be known how much there is; the exit status.

@@ -111,6 +111,7 @@ TEST_F(FileCommands, AFileThatCannotBeReadOrWrittenIsOneLineAndTheOutputStays) {
         expectRefused(line + other, exit_status::Failed, ": " + file + ": ");
         put(file, broken);
         expectRefused(line + other, exit_status::Failed, ": " + file + ": line 2: ");
+        expectRefused(line + "-", exit_status::Failed, ": " + file + ": line 2: ");
         EXPECT_EQ(contentOf(other), "old");
         put(file, "");
         expectRefused(line + "/none/out.txt", exit_status::Failed, ": /none/out.txt: ");
