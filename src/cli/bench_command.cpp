@@ -4,6 +4,7 @@
 #include "core/solver/deduction.h"
 #include "core/solver/engine_signature.h"
 #include "core/solver/generator.h"
+#include "core/solver/next_step.h"
 #include "core/solver/puzzle_series.h"
 #include "core/solver/solution_counter.h"
 
@@ -68,6 +69,17 @@ int bench(double seconds, const Console& console) {
     show("deductions", [&](std::size_t turn) {
         board.CellNum = boardAt(turn).CellNum;
         SolveByDeduction(board);
+    });
+    std::size_t puzzle = 0;
+    WithheldDigits withheld{};
+    show("next steps", [&](std::size_t) {
+        if (const auto step = nextStep(board, withheld)) {
+            take(*step, board, withheld);
+            return;
+        }
+        board = boardAt(puzzle++);
+        board.ResetToGivens();
+        withheld = {};
     });
     show("counts of solutions", [&](std::size_t turn) { countSolutions(boardAt(turn)); });
     for (const DifficultyEntry& entry : Difficulties)

@@ -26,6 +26,8 @@ Option outputFile(std::string description, std::filesystem::path& target);
 Subcommand createCommand();
 /// Shows how far the rules solve the puzzles of a file.
 Subcommand solveCommand();
+/// Tells why each number of one puzzle must be where it is.
+Subcommand explainCommand();
 /// Tells what is wrong with the puzzles of a file.
 Subcommand checkCommand();
 /// Multiplies the puzzles of a file by mirroring and turning them.

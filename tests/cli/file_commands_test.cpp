@@ -56,6 +56,32 @@ TEST_F(FileCommands, SolveAnswersForEveryRecordOrForOne) {
                   "\\x1b]0;\\xc2\\x9b: cannot be read: No such file or directory\n");
 }
 
+TEST_F(FileCommands, ExplainTellsTheWholeWayOrWhereTheRulesEnd) {
+    put(file, Easy + "\r\n" + recordOfTheRim(Hard));
+    const CommandResult way = run("explain " + file + " --number 1");
+    EXPECT_EQ(way.status, exit_status::Done) << way.err;
+    const std::vector<std::string> steps = linesOf(way.out);
+    Board board = boardOf(Easy);
+    board.ResetToGivens();
+    for (std::size_t i = 0; i < steps.size(); ++i) {
+        std::istringstream words(steps[i]);
+        std::string number, cell, digit, reason, sentence;
+        words >> number >> cell >> digit >> reason;
+        std::getline(words, sentence);
+        EXPECT_EQ(number, std::to_string(i + 1));
+        EXPECT_TRUE(sentence.find(digit) != std::string::npos && sentence.back() == '.') << way.out;
+        board.CellNum[{std::stoi(cell.substr(0, 2)), cell[2] - '0'}] = digit;
+    }
+    EXPECT_EQ(board.CellNum, board.SolNum);
+    EXPECT_EQ(steps.front(), "1 015 3 across The triangle across the side holds 3.");
+    const CommandResult stuck = run("explain " + file + " --number 2");
+    EXPECT_EQ(stuck.status, exit_status::Failed);
+    EXPECT_EQ(stuck.err,
+              "tessaly-cli: " + file +
+                  ": line 2: the rules end after step 6; 72 cells not solved, first 014\n");
+    expectRefused("explain " + file + " --number 3", exit_status::Failed, "there is no such");
+}
+
 TEST_F(FileCommands, BrokenLinesAreNamedAndPassedOver) {
     const std::string broken = Easy.substr(0, 50) + "7" + Easy.substr(51);
     put(file, "\r\n" + Easy + "\r\n" + std::string(300'000, 'x') + "\r\n" + broken + "\r\n" + Easy +

@@ -1,6 +1,7 @@
 #include "manual/examples.h"
 
 #include "core/solver/deduction.h"
+#include "core/solver/step_sentence.h"
 #include "support/sample_puzzles.h"
 
 #include <gtest/gtest.h>
@@ -52,6 +53,20 @@ TEST(ManualExamples, AreShippedPuzzlesAndAsTheManualTellsThem) {
                 {3, {10, 1}, "24"}, {3, {10, 2}, "234"}};
     for (const auto& row : rows)
         EXPECT_EQ(all[row.example].board.CellNum[row.cell], row.entry);
+
+    std::string manual = test::contentOf(TESSALY_DATA "/tessaly.htm");
+    std::ranges::replace(manual, '\n', ' ');
+    constexpr std::array ReasonOf{Reason::Across, Reason::Cell, Reason::Place, Reason::Xcell};
+    constexpr int Corner = 8;
+    for (const Example& example : all) {
+        const Step step{ReasonOf.at(static_cast<std::size_t>(example.rule - 1)),
+                        example.settled.front(),
+                        std::stoi(example.number),
+                        {},
+                        Corner};
+        const std::string sentence = sentenceOf(step, example.board);
+        EXPECT_NE(manual.find("<i>" + sentence + "</i>"), std::string::npos) << sentence;
+    }
 }
 
 } // namespace
