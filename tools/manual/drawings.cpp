@@ -124,6 +124,7 @@ std::vector<Drawing> drawButtons() {
         {u"next", Picture::Next},
         {u"create", Picture::Create},
         {u"undo", Picture::Undo},
+        {u"redo", Picture::Redo},
         {u"reset", Picture::Reset},
         {u"solution", Picture::ShowSolution},
         {u"marks", Picture::PencilMarks},

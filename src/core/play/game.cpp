@@ -3,7 +3,20 @@
 #include "core/board/tables.h"
 #include "core/play/assists.h"
 
+#include <charconv>
+#include <sstream>
+#include <utility>
+#include <vector>
+
 namespace tessaly {
+namespace {
+
+/// The step that is about to change the marks.
+std::string markStep(const Play& play) {
+    return std::to_string(play.undoList.size()) + " " + positionText(play);
+}
+
+} // namespace
 
 std::string NumText(int number) {
     return std::to_string(number);
@@ -20,17 +33,21 @@ bool Game::isSelectable(CellId cell) const {
 void Game::startPuzzle() {
     TouchedCell = {};
     undoList.clear();
+    markSteps.clear();
+    redoSteps.clear();
 }
 
 void Game::PushUndo(int hexagon, int position) {
     if (hexagon < 1 || position < 1)
         return;
     const CellId cell{hexagon, position};
+    redoSteps.clear();
     undoList.push(cell, false, board.CellNum[cell]);
     TouchedCell[cell] = true;
 }
 
 void Game::pushGrouped(CellId cell) {
+    redoSteps.clear();
     undoList.push(cell, true, board.CellNum[cell]);
 }
 
@@ -45,6 +62,7 @@ void Game::typeDigit(CellId cell, char digit) {
         return;
     if (entry.empty())
         PushUndo(cell.hexagon, cell.position);
+    redoSteps.clear();
     entry += digit;
 }
 
@@ -75,22 +93,71 @@ int Game::setSingles() {
     return count;
 }
 
+void Game::fillMarks() {
+    redoSteps.clear();
+    markSteps.push(markStep(*this));
+    fillPencilMarks(board, TouchedCell);
+}
+
+void Game::clearMarks() {
+    redoSteps.clear();
+    markSteps.push(markStep(*this));
+    clearPencilMarks(board);
+}
+
+std::size_t Game::recordsBeneathMarks() const {
+    std::size_t records = 0;
+    if (!markSteps.empty()) {
+        const std::string& step = markSteps.newest();
+        std::from_chars(step.data(), step.data() + step.size(), records);
+    }
+    return records;
+}
+
+std::string Game::undoRecord(HexagonSet& changed) {
+    std::string text = undoList.pop();
+    const UndoRecord record = UndoRecord::of(text);
+    board.CellNum[record.cell] = record.entryBefore;
+    if (record.grouped)
+        TouchedCell[record.cell] = false;
+    changed.set(static_cast<std::size_t>(record.cell.hexagon));
+    return text;
+}
+
 HexagonSet Game::undo() {
     HexagonSet changed;
-    bool inRun = false;
-    while (!undoList.empty()) {
-        const UndoRecord record = undoList.newest();
-        if (inRun && !record.grouped)
-            break;
-        board.CellNum[record.cell] = record.entryBefore;
-        changed.set(static_cast<std::size_t>(record.cell.hexagon));
-        undoList.removeNewest();
-        if (!record.grouped)
-            break;
-        TouchedCell[record.cell] = false;
-        inRun = true;
+    if (!canUndo())
+        return changed;
+    std::string taken = positionText(*this);
+    const std::size_t beneath = recordsBeneathMarks();
+    if (undoList.size() == beneath) {
+        const std::string step = markSteps.pop();
+        readPosition(std::string_view(step).substr(step.find(' ') + 1), *this);
+        changed.set();
+    } else {
+        std::vector<std::string> records{undoRecord(changed)};
+        const auto isGrouped = [](const std::string& text) { return UndoRecord::of(text).grouped; };
+        while (isGrouped(records.back()) && undoList.size() > beneath &&
+               isGrouped(undoList.newest()))
+            records.push_back(undoRecord(changed));
+        for (auto record = records.rbegin(); record != records.rend(); ++record)
+            taken.append("\n").append(*record);
     }
+    redoSteps.push(std::move(taken));
     return changed;
+}
+
+void Game::redo() {
+    if (!canRedo())
+        return;
+    std::istringstream step(redoSteps.pop());
+    std::string position;
+    std::getline(step, position);
+    if (step.eof())
+        markSteps.push(markStep(*this));
+    for (std::string record; std::getline(step, record);)
+        undoList.push(record);
+    readPosition(position, *this);
 }
 
 void Game::reset() {

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "core/board/board.h"
-#include "core/play/undo_list.h"
+#include "core/play/play.h"
 
 #include <bitset>
 #include <string>
@@ -14,17 +13,10 @@ using HexagonSet = std::bitset<HexagonCount + 1>;
 /// The decimal text of a number: "3" for 3.
 std::string NumText(int number);
 
-/// The puzzle under play: the board, what the player touched, and what can be taken back.
-/// Every change of a cell goes through here, its undo record pushed before the entry is written.
-class Game {
+/// The rules by which a puzzle is played. Every change of a cell goes through here, its undo record
+/// pushed before the entry is written; a new change forgets what could be done again.
+class Game : public Play {
 public:
-    static constexpr std::size_t LongestEntry = 6;
-
-    Board board;
-    /// Whether an undo record was pushed for the cell since the puzzle was loaded.
-    Grid<bool> TouchedCell;
-    UndoList undoList;
-
     /// Whether there is a puzzle on the board: every cell of one has a solution.
     bool hasPuzzle() const { return !board.SolNum[AllCells.front()].empty(); }
 
@@ -57,14 +49,29 @@ public:
     /// Returns the number of cells set.
     int setSingles();
 
-    /// Takes back the newest change, or a whole run of grouped ones; returns what to draw again.
+    /// Write pencil marks into all cells, and take all away, as one step that can be taken back.
+    void fillMarks();
+    void clearMarks();
+
+    bool canUndo() const { return !undoList.empty() || !markSteps.empty(); }
+    bool canRedo() const { return !redoSteps.empty(); }
+
+    /// Takes back the newest change, or a whole run of grouped ones, or a step that changed all
+    /// marks; returns what to draw again.
     HexagonSet undo();
+
+    /// Does again what was taken back last, as one step.
+    void redo();
 
     /// Empties all that the player entered and forgets the undo records; the givens stay.
     void reset();
 
 private:
     void pushGrouped(CellId cell);
+    /// How many undo records lie beneath the newest step that changed the marks.
+    std::size_t recordsBeneathMarks() const;
+    /// Takes the newest undo record back; its text.
+    std::string undoRecord(HexagonSet& changed);
 };
 
 } // namespace tessaly

@@ -27,7 +27,7 @@ bool PlayCommands::confirmed(std::string_view question) {
 }
 
 void PlayCommands::cmdundo() {
-    if (m_game.undoList.empty())
+    if (!m_game.canUndo())
         return;
     m_display.showMessage("");
     const HexagonSet changed = m_game.undo();
@@ -37,10 +37,19 @@ void PlayCommands::cmdundo() {
     m_display.focusBoard();
 }
 
+void PlayCommands::cmdredo() {
+    if (!m_game.canRedo())
+        return;
+    m_display.showMessage("");
+    m_game.redo();
+    m_display.DrawBoard();
+    m_display.focusBoard();
+}
+
 void PlayCommands::cmdallpencil() {
     if (!confirmed("Existing Pencilmarks will be overwitten, Proceed?"))
         return;
-    fillPencilMarks(m_game.board, m_game.TouchedCell);
+    m_game.fillMarks();
     m_display.DrawBoard();
     m_display.showMessage("Pencilmarks updated");
     m_display.focusBoard();
@@ -49,7 +58,7 @@ void PlayCommands::cmdallpencil() {
 void PlayCommands::cmdallpencilClear() {
     if (!confirmed("Existing Pencilmarks will be cleared, Proceed?"))
         return;
-    clearPencilMarks(m_game.board);
+    m_game.clearMarks();
     m_display.DrawBoard();
     m_display.showMessage("Pencilmarks cleared");
     m_display.focusBoard();

@@ -13,6 +13,7 @@ public:
     PlayCommands(Game& game, const Appearance& appearance, Display& display, Prompts& prompts);
 
     void cmdundo();
+    void cmdredo();
     /// Pencil marks into all cells, after a question.
     void cmdallpencil();
     /// Takes all pencil marks away, after a question.

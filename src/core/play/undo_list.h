@@ -1,10 +1,10 @@
 #pragma once
 
 #include "core/board/vocabulary.h"
+#include "core/play/text_stack.h"
 
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace tessaly {
 
@@ -14,25 +14,16 @@ struct UndoRecord {
     /// Whether it belongs to a run of changes that one assist made.
     bool grouped = false;
     std::string entryBefore;
+
+    static UndoRecord of(std::string_view text);
 };
 
 /// The changes that can be taken back, newest first, without a limit. Each is kept as a text:
 /// hexagon and cell as two digits each, "*" when grouped, then the entry before the change.
-class UndoList {
+class UndoList : public TextStack {
 public:
-    bool empty() const { return m_records.empty(); }
-    std::size_t size() const { return m_records.size(); }
-    void clear() { m_records.clear(); }
-
+    using TextStack::push;
     void push(CellId cell, bool grouped, std::string_view entryBefore);
-    UndoRecord newest() const;
-    void removeNewest() { m_records.pop_back(); }
-
-    /// The text of the record that lies `age` records below the newest.
-    const std::string& text(std::size_t age) const { return m_records[m_records.size() - 1 - age]; }
-
-private:
-    std::vector<std::string> m_records;
 };
 
 } // namespace tessaly

@@ -19,6 +19,7 @@ enum class Picture {
     Next,
     Create,
     Undo,
+    Redo,
     Reset,
     ShowSolution,
     PencilMarks,

@@ -1,5 +1,6 @@
 #include "ui/window/main_menu.h"
 
+#include "core/play/game.h"
 #include "ui/drawing/qt_values.h"
 
 #include <QFontMetrics>
@@ -51,6 +52,7 @@ MainMenu::MainMenu(QMenuBar& bar) {
     buildCreateMenu(*addMenu(bar, u"&Create"_s, u"mnupuzzles"_s));
     buildSaveMenu(*addMenu(bar, u"&Save"_s, u"mnusavey"_s));
     buildPrintMenu(*addMenu(bar, u"&Print"_s, u"mnuprintxx"_s));
+    buildPlayMenu(*addMenu(bar, u"P&lay"_s, u"mnuplay"_s));
     showRecentFiles({});
     showCurrentFile({});
 }
@@ -100,6 +102,20 @@ void MainMenu::buildPrintMenu(QMenu& menu) {
     addCancel(menu, u"mnuprintx"_s, 5);
 }
 
+void MainMenu::buildPlayMenu(QMenu& menu) {
+    mnuundo = addCommand(menu, u"&Undo"_s, u"mnuundo"_s);
+    mnuredo = addCommand(menu, u"&Redo"_s, u"mnuredo"_s);
+    menu.addSeparator();
+    mnucheck = addCommand(menu, u"&Check Solution"_s, u"mnucheck"_s);
+    mnureset = addCommand(menu, u"R&eset Puzzle"_s, u"mnureset"_s);
+    menu.addSeparator();
+    mnuallpencil = addCommand(menu, u"Display All &Pencilmarks"_s, u"mnuallpencil"_s);
+    mnuclearpencil = addCommand(menu, u"C&lear All Pencilmarks"_s, u"mnuclearpencil"_s);
+    mnusetpairs = addCommand(menu, u"Fill P&aired Cells"_s, u"mnusetpairs"_s);
+    mnuset1s = addCommand(menu, u"&Set Singles"_s, u"mnuset1s"_s);
+    addCancel(menu);
+}
+
 void MainMenu::showRecentFiles(const std::vector<std::filesystem::path>& paths) {
     for (std::size_t i = 0; i < RecentFileCount; ++i) {
         const bool shown = i < paths.size();
@@ -115,10 +131,13 @@ void MainMenu::showCurrentFile(const std::filesystem::path& path) {
     mnusaveto->setVisible(!path.empty());
 }
 
-void MainMenu::offer(bool puzzle, bool inFile) {
+void MainMenu::offer(const Game& game, bool inFile) {
     for (QAction* item :
-         {mnuclippuz, mnuclipsol, mnusavex, mnusaveto, printPuzzle, printSolution, printBoth})
-        item->setEnabled(puzzle);
+         {mnuclippuz, mnuclipsol, mnusavex, mnusaveto, printPuzzle, printSolution, printBoth,
+          mnucheck, mnureset, mnuallpencil, mnuclearpencil, mnusetpairs, mnuset1s})
+        item->setEnabled(game.hasPuzzle());
+    mnuundo->setEnabled(game.canUndo());
+    mnuredo->setEnabled(game.canRedo());
     mnudelete->setEnabled(inFile);
 }
 

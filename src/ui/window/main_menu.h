@@ -11,6 +11,8 @@
 
 namespace tessaly {
 
+class Game;
+
 /// The menus of the main window. Each action and menu carries its name as object name; a command
 /// that is still to come is there, but disabled.
 class MainMenu {
@@ -26,7 +28,7 @@ public:
 
     /// Offers what makes sense now: with a puzzle on the board or none, one that stands in a file
     /// or not.
-    void offer(bool puzzle, bool inFile);
+    void offer(const Game& game, bool inFile);
 
     QAction* mnuload;
     QMenu* mnucopyclip;
@@ -53,11 +55,21 @@ public:
     QAction* printBoth;     // mnuprintx, item 2
     QAction* printMultiple; // mnuprintx, item 4
 
+    QAction* mnuundo;
+    QAction* mnuredo;
+    QAction* mnucheck;
+    QAction* mnureset;
+    QAction* mnuallpencil;
+    QAction* mnuclearpencil;
+    QAction* mnusetpairs;
+    QAction* mnuset1s;
+
 private:
     void buildFileMenu(QMenu& menu);
     void buildCreateMenu(QMenu& menu);
     void buildSaveMenu(QMenu& menu);
     void buildPrintMenu(QMenu& menu);
+    void buildPlayMenu(QMenu& menu);
 };
 
 } // namespace tessaly

@@ -37,7 +37,7 @@ using namespace Qt::StringLiterals;
 
 constexpr int Margin = 12;
 constexpr int Spacing = 12;
-constexpr QSize FirstSize(690, 690);
+constexpr QSize FirstSize(760, 690);
 
 /// The largest content of "window.cfg" that is looked at, in bytes.
 constexpr std::size_t LargestPlace = 4096;
@@ -130,9 +130,10 @@ void Form1::offerCommands() {
     const Game& game = m_session.game;
     const bool inFile = m_session.puzzle.PuzNum > 0;
     const QWidget* focused = QApplication::focusWidget();
-    m_menu.offer(game.hasPuzzle(), inFile);
+    m_menu.offer(game, inFile);
     m_tools->offerOthers(inFile);
-    m_tools->cmdundo->setEnabled(!game.undoList.empty());
+    m_tools->cmdundo->setEnabled(game.canUndo());
+    m_tools->cmdredo->setEnabled(game.canRedo());
     for (QWidget* control : {m_tools->cmdreset, m_tools->cmdshowsol, m_palette->cmdallpencil,
                              m_palette->cmdsetpairs, m_palette->cmdset1s, m_status->StatLab})
         control->setEnabled(game.hasPuzzle());

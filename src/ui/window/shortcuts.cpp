@@ -9,8 +9,9 @@
 namespace tessaly {
 namespace {
 
-QKeySequence keysOf(std::string_view keys) {
-    return QKeySequence::fromString(QString::fromUtf8(keys), QKeySequence::PortableText);
+QList<QKeySequence> keysOf(const Shortcut& shortcut) {
+    return QKeySequence::listFromString(QString::fromUtf8(shortcut.keys),
+                                        QKeySequence::PortableText);
 }
 
 void giveToBox(QLineEdit& box, const QKeySequence& keys) {
@@ -22,24 +23,15 @@ void giveToBox(QLineEdit& box, const QKeySequence& keys) {
     });
 }
 
-void giveToButton(BoxControl& button, const Shortcut& shortcut) {
-    button.setShortcut(keysOf(shortcut.keys));
-    if (shortcut.alternateKeys.empty())
-        return;
-    auto* alternate = new QShortcut(keysOf(shortcut.alternateKeys), &button);
-    alternate->setContext(Qt::WindowShortcut);
-    QObject::connect(alternate, &QShortcut::activated, &button, &BoxControl::alternateClicked);
-    button.setShownKeys({button.shortcut(), alternate->key()});
-}
-
 void give(QWidget& window, const Shortcut& shortcut) {
     const QString name = QString::fromUtf8(shortcut.command);
+    const QList<QKeySequence> keys = keysOf(shortcut);
     if (auto* action = window.findChild<QAction*>(name))
-        action->setShortcut(keysOf(shortcut.keys));
+        action->setShortcuts(keys);
     else if (auto* button = window.findChild<BoxControl*>(name))
-        giveToButton(*button, shortcut);
+        button->setShortcut(keys.front());
     else if (auto* box = window.findChild<QLineEdit*>(name))
-        giveToBox(*box, keysOf(shortcut.keys));
+        giveToBox(*box, keys.front());
 }
 
 } // namespace
@@ -49,7 +41,7 @@ void giveShortcuts(QWidget& window) {
         give(window, shortcut);
     for (const Shortcut& shared : SharedShortcuts)
         if (auto* button = window.findChild<BoxControl*>(QString::fromUtf8(shared.command)))
-            button->setShownKeys({keysOf(shared.keys)});
+            button->setShownKeys(keysOf(shared));
 }
 
 } // namespace tessaly

@@ -7,14 +7,12 @@ class QWidget;
 
 namespace tessaly {
 
-/// The keys of a command, by the object name of its menu item or button. The board itself takes the
-/// plain digits, the arrow keys, Home, End, Enter, Space, Backspace, Delete and Escape, so no
-/// command does.
+/// The keys of a command, by the object name of its menu item or button; "; " stands between
+/// several. The board itself takes the plain digits, the arrow keys, Home, End, Enter, Space,
+/// Backspace, Delete and Escape, so no command does.
 struct Shortcut {
     std::string_view command;
     std::string_view keys;
-    /// What the right mouse button does with the same control; empty for nothing.
-    std::string_view alternateKeys = {};
 };
 
 inline constexpr std::array Shortcuts{
@@ -39,13 +37,15 @@ inline constexpr std::array Shortcuts{
     Shortcut{"cmdarrow_1", "PgDown"},
     Shortcut{"PuzNumNow", "Ctrl+G"},
     Shortcut{"DifLab", "Ctrl+L"},
-    Shortcut{"cmdundo", "Ctrl+Z"},
-    Shortcut{"cmdreset", "Ctrl+R"},
     Shortcut{"cmdshowsol", "F2"},
-    Shortcut{"StatLab", "F5"},
-    Shortcut{"cmdallpencil", "F6", "Shift+F6"},
-    Shortcut{"cmdsetpairs", "F7"},
-    Shortcut{"cmdset1s", "F8"},
+    Shortcut{"mnuundo", "Ctrl+Z"},
+    Shortcut{"mnuredo", "Ctrl+Shift+Z; Ctrl+Y"},
+    Shortcut{"mnucheck", "F5"},
+    Shortcut{"mnureset", "Ctrl+R"},
+    Shortcut{"mnuallpencil", "F6"},
+    Shortcut{"mnuclearpencil", "Shift+F6"},
+    Shortcut{"mnusetpairs", "F7"},
+    Shortcut{"mnuset1s", "F8"},
     Shortcut{"digt_0", "Alt+1"},
     Shortcut{"digt_1", "Alt+2"},
     Shortcut{"digt_2", "Alt+3"},
@@ -55,10 +55,17 @@ inline constexpr std::array Shortcuts{
     Shortcut{"digt_6", "Alt+0"},
 };
 
-/// Two buttons that do what a menu item does: they name its keys, which are the item's own.
+/// Buttons that do what a menu item does: they name its keys, which are the item's own.
 inline constexpr std::array SharedShortcuts{
     Shortcut{"cmdload", "Ctrl+O"},
     Shortcut{"cmdcreate", "Ctrl+N"},
+    Shortcut{"cmdundo", "Ctrl+Z"},
+    Shortcut{"cmdredo", "Ctrl+Shift+Z; Ctrl+Y"},
+    Shortcut{"StatLab", "F5"},
+    Shortcut{"cmdreset", "Ctrl+R"},
+    Shortcut{"cmdallpencil", "F6; Shift+F6"},
+    Shortcut{"cmdsetpairs", "F7"},
+    Shortcut{"cmdset1s", "F8"},
 };
 
 /// Gives every command of the window its keys. An edit box gets the focus by its keys.

@@ -45,6 +45,7 @@ ToolRow::ToolRow(QWidget* parent)
     m_row->addWidget(progress, 1);
     addGap();
     cmdundo = addButton(Picture::Undo, u"Undo"_s, u"cmdundo"_s);
+    cmdredo = addButton(Picture::Redo, u"Redo"_s, u"cmdredo"_s);
     cmdreset = addButton(Picture::Reset, u"Reset Puzzle"_s, u"cmdreset"_s);
     cmdshowsol = addButton(Picture::ShowSolution, u"Show Solution"_s, u"cmdshowsol"_s);
     cmdshowsol->setHeld(true);

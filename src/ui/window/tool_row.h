@@ -35,6 +35,7 @@ public:
     BoxControl* DifLab;
     RunProgressBar* progress;
     BoxControl* cmdundo;
+    BoxControl* cmdredo;
     BoxControl* cmdreset;
     BoxControl* cmdshowsol;
 

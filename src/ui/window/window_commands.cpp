@@ -83,7 +83,7 @@ void WindowCommands::connectTo(const WindowRegions& regions) {
     connectMenu(regions.menu);
     connectTools(regions.tools, regions.board);
     connectPalette(regions.palette);
-    onClick(regions.status.StatLab, [this] { play.StatLab(); });
+    connectPlay(regions);
     if (regions.developerRow != nullptr)
         connectDeveloperRow(*regions.developerRow);
     connectCreation(regions.menu, regions.tools, regions.developerRow);
@@ -119,8 +119,6 @@ void WindowCommands::connectTools(ToolRow& tools, BoardView& board) {
     });
     // It touches neither the board nor a file, so it need not wait.
     QObject::connect(tools.DifLab, &BoxControl::clicked, &tools, [this] { m_creation.DifLab(); });
-    onClick(tools.cmdundo, [this] { play.cmdundo(); });
-    onClick(tools.cmdreset, [this] { play.cmdreset(); });
     QObject::connect(tools.cmdshowsol, &BoxControl::pressed, &tools,
                      guarded(*this, [this] { play.cmdshowsolPressed(); }));
     QObject::connect(tools.cmdshowsol, &BoxControl::released, &tools,
@@ -133,10 +131,26 @@ void WindowCommands::connectPalette(PalettePanel& palette) {
                          if (!refuses())
                              input.digt_MouseUp(item, button);
                      });
-    onClick(palette.cmdallpencil, [this] { play.cmdallpencil(); });
+}
+
+/// The menu "Play" and the buttons about the board do the same.
+void WindowCommands::connectPlay(const WindowRegions& regions) {
+    const MainMenu& menu = regions.menu;
+    const ToolRow& tools = regions.tools;
+    const PalettePanel& palette = regions.palette;
+    const auto onBoth = [this](QAction* item, BoxControl* button, auto command) {
+        onChoice(item, command);
+        onClick(button, command);
+    };
+    onBoth(menu.mnuundo, tools.cmdundo, [this] { play.cmdundo(); });
+    onBoth(menu.mnuredo, tools.cmdredo, [this] { play.cmdredo(); });
+    onBoth(menu.mnucheck, regions.status.StatLab, [this] { play.StatLab(); });
+    onBoth(menu.mnureset, tools.cmdreset, [this] { play.cmdreset(); });
+    onBoth(menu.mnuallpencil, palette.cmdallpencil, [this] { play.cmdallpencil(); });
+    onChoice(menu.mnuclearpencil, [this] { play.cmdallpencilClear(); });
     onAlternateClick(palette.cmdallpencil, [this] { play.cmdallpencilClear(); });
-    onClick(palette.cmdsetpairs, [this] { play.cmdsetpairs(); });
-    onClick(palette.cmdset1s, [this] { play.cmdset1s(); });
+    onBoth(menu.mnusetpairs, palette.cmdsetpairs, [this] { play.cmdsetpairs(); });
+    onBoth(menu.mnuset1s, palette.cmdset1s, [this] { play.cmdset1s(); });
 }
 
 void WindowCommands::connectDeveloperRow(const DeveloperRow& row) {

@@ -68,6 +68,7 @@ private:
     void connectMenu(const MainMenu& menu);
     void connectTools(ToolRow& tools, BoardView& board);
     void connectPalette(PalettePanel& palette);
+    void connectPlay(const WindowRegions& regions);
     void connectDeveloperRow(const DeveloperRow& row);
     void connectCreation(const MainMenu& menu, const ToolRow& tools, DeveloperRow* developerRow);
 

@@ -5,6 +5,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <functional>
+#include <iterator>
+
 namespace tessaly {
 namespace {
 
@@ -69,6 +73,49 @@ TEST_F(GameTest, AGroupedRunIsUndoneDownToTheSingleRecordBelow) {
     EXPECT_TRUE(changed.test(1) && changed.test(2) && changed.test(3)) << "both form one run";
     EXPECT_EQ(board.CellNum[1][6], "");
     EXPECT_EQ(undoList.text(0), "0703") << "what was there before stays";
+}
+
+TEST_F(GameTest, WhateverIsTakenBackCanBeDoneAgainStepByStep) {
+    board = boardOf(sampleRecords("easy.txt").front());
+    std::vector<CellId> open;
+    std::copy_if(AllCells.begin(), AllCells.end(), std::back_inserter(open),
+                 [this](CellId cell) { return isSelectable(cell); });
+    int count = 0;
+    const std::function<void()> steps[] = {
+        [&] { type(open[0], "35"), place(open[1], "4"), type(open[0], "1"); },
+        [&] { CopyAcrossSides(count); },
+        [&] { fillMarks(); }, // between two grouped runs
+        [&] { CopyAcrossSides(count), setSingles(); },
+        [&] { clearMarks(); },
+    };
+    std::vector<Board> boards{board};
+    for (const auto& step : steps) {
+        step();
+        boards.push_back(board);
+    }
+    const std::string position = positionText(*this);
+    const std::size_t records = undoList.size();
+    EXPECT_GT(count, 1);
+    boards.erase(std::unique(boards.begin(), boards.end()), boards.end());
+    for (int turn = 0; turn < 2; ++turn) {
+        auto expected = boards.rbegin();
+        for (; canUndo(); undo())
+            expected += *expected == board ? 1 : 0;
+        EXPECT_TRUE(*expected == board && expected + 1 == boards.rend());
+        auto again = boards.begin();
+        for (; canRedo(); redo())
+            again += *again == board ? 1 : 0;
+        EXPECT_TRUE(*again == board && again + 1 == boards.end());
+        EXPECT_EQ(positionText(*this), position);
+        EXPECT_EQ(undoList.size(), records);
+    }
+    place(open[0], "4");
+    place(open[1], "2");
+    undo();
+    type(open[0], "4");
+    EXPECT_TRUE(canRedo()) << "a digit that is there already is no change";
+    type(open[0], "5");
+    EXPECT_FALSE(canRedo()) << "a new change forgets it, an undo record or none";
 }
 
 TEST_F(GameTest, OnlyWhatThePlayerMayFillIsSelectableAndReset) {
