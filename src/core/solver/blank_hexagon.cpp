@@ -20,9 +20,8 @@ public:
     HintSearch(PuzzleDraft& draft, int blankHex)
         : m_draft(draft)
         , m_blankHex(blankHex)
-        , m_stuck(draft.givensWithout(blankHex)) {
-        m_isStuck = !m_stuck.deduceEveryCell(false);
-    }
+        , m_stuck(draft.rulesWithout(blankHex))
+        , m_isStuck(!m_stuck.deduceEverySide(false)) {}
 
     bool isStuck() const { return m_isStuck; }
 
@@ -44,22 +43,24 @@ private:
         std::size_t count = 0;
         for (int position = 1; position <= CellCount; ++position) {
             const CellId cell = SideLink[{m_blankHex, position}];
-            if (cell && mayHoldHint(cell) && m_stuck.board().isOpen(cell))
+            if (cell && mayHoldHint(cell) && m_stuck.open().contains(cell))
                 cells[count++] = cell;
         }
         return std::span(cells).first(count);
     }
 
-    bool isHint(CellId cell) const {
-        return with(cell).deduceEveryCell(true) && !with(cell).deduceEveryCell(false) &&
+    bool isHint(CellId cell) {
+        SideRules rules = m_stuck;
+        rules.settle(SideSet::of(cell));
+        return !rules.deduceEverySide(false) && rules.deduceEverySide(true) &&
                noOtherDigitSucceeds(cell);
     }
 
     /// Tries the other candidates in ascending order, as far as it has to: a digit that leaves the
     /// board unsettled ends the trials, and with them the cell unless the right one came before.
-    bool noOtherDigitSucceeds(CellId cell) const {
+    bool noOtherDigitSucceeds(CellId cell) {
         const int solution = m_draft.solutionDigit(cell);
-        const HexagonWord cells = m_stuck.board().hexagon(cell.hexagon);
+        const HexagonWord cells = stuckCells().board().hexagon(cell.hexagon);
         const DigitSet candidates = DigitSet::fromBits(word::byteAt(cells, cell.position));
         for (DigitSet rest = candidates; !rest.empty(); rest = rest.withoutFirst()) {
             const int digit = rest.first();
@@ -74,38 +75,36 @@ private:
         return true;
     }
 
-    int verdictOn(CellId cell, int digit) const {
-        PackedRules trial = m_stuck;
+    int verdictOn(CellId cell, int digit) {
+        PackedRules trial = stuckCells();
         trial.settle(cell, digit);
         trial.solveBasic(true, NoYield);
         return CheckHexagons(trial.board(), m_blankHex);
     }
 
-    PackedRules with(CellId cell) const {
-        PackedRules rules = m_stuck;
-        rules.settle(cell, m_draft.solutionDigit(cell));
-        return rules;
+    /// Where rules 1 to 3 are stuck, for wrong digits: what these lead to depends on the order in
+    /// which the rules are applied.
+    const PackedRules& stuckCells() {
+        if (!m_stuckCells) {
+            m_stuckCells.emplace(m_draft.givensWithout(m_blankHex));
+            m_stuckCells->solveBasic(false, NoYield);
+        }
+        return *m_stuckCells;
     }
 
     PuzzleDraft& m_draft;
     int m_blankHex;
     /// The givens without the blank hexagon, as far as rules 1 to 3 go.
-    PackedRules m_stuck;
-    bool m_isStuck = false;
+    SideRules m_stuck;
+    bool m_isStuck;
+    std::optional<PackedRules> m_stuckCells;
 };
-
-bool fallsToBasicRules(const PuzzleDraft& draft) {
-    return PackedRules(draft.givens()).deduceEveryCell(false);
-}
 
 /// Whether rules 1 to 3 settle a board without a hexagon's givens when they do with them: they do
 /// once they have settled those.
 bool fallsWithout(const PuzzleDraft& draft, int hexagon) {
-    const HexagonWord given = draft.givenMask(hexagon);
-    return PackedRules(draft.givensWithout(hexagon))
-        .deduceUntil(false, [hexagon, given](const PackedBoard& board) {
-            return (board.openFlags(hexagon) & given) == 0;
-        });
+    SideRules rules = draft.rulesWithout(hexagon);
+    return rules.deduce(rules.open() - draft.rules().open(), false);
 }
 
 std::optional<BlankChoice> tryBlank(PuzzleDraft& draft, Difficulty difficulty, int hexagon,
@@ -130,8 +129,6 @@ CellId hintedCell(int blankHex, int hintCell) {
 
 std::optional<BlankChoice> chooseBlank(PuzzleDraft& draft, Difficulty difficulty, Chance& chance,
                                        const std::function<void(int hexagon)>& beforeTrial) {
-    if (difficulty == Difficulty::Easy && !fallsToBasicRules(draft))
-        return std::nullopt;
     std::array<int, BlankHexagonChoices.size()> hexagons = BlankHexagonChoices;
     chance.shuffle(hexagons);
     for (int hexagon : hexagons) {

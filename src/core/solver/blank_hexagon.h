@@ -29,7 +29,8 @@ bool mayHoldHint(CellId cell);
 CellId hintedCell(int blankHex, int hintCell);
 
 /// Looks for a blank hexagon among the six choices in random order, and makes it a given. Each
-/// trial starts from the givens with that hexagon emptied.
+/// trial starts from the givens with that hexagon emptied. The cells on the rim must be given, and
+/// of an easy draft rules 1 to 3 must settle every cell from its givens.
 ///
 /// Easy: rules 1 to 3 settle every cell. Hard: they do not, and there is a cell beside the blank
 /// hexagon of whose candidates only the right one lets all four rules settle the board soundly;

@@ -2,7 +2,6 @@
 
 #include "core/board/tables.h"
 #include "core/solver/blank_hexagon.h"
-#include "core/solver/packed_rules.h"
 #include "core/solver/puzzle_draft.h"
 
 #include <algorithm>
@@ -39,6 +38,10 @@ public:
         for (int hexagon = 1; isDrawn() && hexagon <= HexagonCount; ++hexagon)
             show(hexagon, cells[static_cast<std::size_t>(hexagon)]);
     }
+    void show(const PuzzleDraft& draft) const {
+        if (isDrawn())
+            show(draft.givens());
+    }
 
 private:
     Board& m_board;
@@ -71,15 +74,15 @@ enum class Prospect {
 
 /// Whether the number of one more cell beside a choice of blank hexagon would settle the board.
 /// From fewer givens no hint can do what it does not do here.
-bool aHintWouldHelp(const PuzzleDraft& draft, const PackedRules& stuck) {
+bool aHintWouldHelp(const SideRules& stuck) {
     return std::any_of(BlankHexagonChoices.begin(), BlankHexagonChoices.end(), [&](int blankHex) {
         for (int position = 1; position <= CellCount; ++position) {
             const CellId hint = SideLink[{blankHex, position}];
-            if (!mayHoldHint(hint) || stuck.board().isSettled(hint))
+            if (!mayHoldHint(hint) || !stuck.open().contains(hint))
                 continue;
-            PackedRules trial = stuck;
-            trial.settle(hint, draft.solutionDigit(hint));
-            if (trial.deduceEveryCell(true))
+            SideRules trial = stuck;
+            trial.settle(SideSet::of(hint));
+            if (trial.deduceEverySide(true))
                 return true;
         }
         return false;
@@ -87,44 +90,46 @@ bool aHintWouldHelp(const PuzzleDraft& draft, const PackedRules& stuck) {
 }
 
 Prospect prospectOf(const PuzzleDraft& draft, Difficulty difficulty) {
-    PackedRules rules(draft.givens());
-    if (rules.deduceEveryCell(false))
+    SideRules rules = draft.rules();
+    if (rules.deduceEverySide(false))
         return Prospect::Solvable;
     if (difficulty == Difficulty::Easy)
         return Prospect::Hopeless;
-    if (rules.deduceEveryCell(true))
+    if (rules.deduceEverySide(true))
         return Prospect::Solvable;
-    return aHintWouldHelp(draft, rules) ? Prospect::Unsolvable : Prospect::Hopeless;
+    return aHintWouldHelp(rules) ? Prospect::Unsolvable : Prospect::Hopeless;
 }
 
-/// Whether the four rules settle the board without the cells of an entry when they do with them:
-/// they do once they have settled those.
-bool canDoWithout(const PuzzleDraft& draft, const RemovalEntry& entry) {
-    return PackedRules(draft.givens()).deduceUntil(true, [&entry](const PackedBoard& board) {
-        return board.isSettled(entry.first) && (!entry.second || board.isSettled(entry.second));
-    });
-}
-
-void tryToWithdraw(PuzzleDraft& draft, const RemovalEntry& entry) {
-    const PuzzleDraft before = draft;
+/// Withdraws the cells of an entry when the four rules can do without them: they can once they have
+/// settled those. False when the draft is lost, for an easy one that needs rule 4 here needs it in
+/// the end.
+bool tryToWithdraw(PuzzleDraft& draft, const RemovalEntry& entry, Difficulty difficulty) {
+    const SideSet sides =
+        SideSet::of(entry.first) | (entry.second ? SideSet::of(entry.second) : SideSet());
+    SideRules rules = draft.rulesWithout(sides);
+    const bool isEasy = difficulty == Difficulty::Easy;
+    const bool isBasic = isEasy && rules.deduce(sides, false);
+    if (!isBasic && !rules.deduce(sides, true))
+        return true;
     draft.withdraw(entry.first);
     if (entry.second)
         draft.withdraw(entry.second);
-    if (!canDoWithout(draft, entry))
-        draft = before;
+    return isBasic || !isEasy;
 }
 
 /// Withdraws each entry of the removal plan in turn that the four rules can do without, and in the
-/// end the cells that are never given.
-void thinGivens(PuzzleDraft& draft, Prospect prospect, const Watched& watched) {
+/// end the cells that are never given. False as soon as the draft is lost.
+bool thinGivens(PuzzleDraft& draft, Difficulty difficulty, Prospect prospect,
+                const Watched& watched) {
     for (const RemovalEntry& entry : RemovalPlan) {
-        if (prospect == Prospect::Solvable)
-            tryToWithdraw(draft, entry);
+        if (prospect == Prospect::Solvable && !tryToWithdraw(draft, entry, difficulty))
+            return false;
         watched.yield();
-        watched.show(draft.givens());
+        watched.show(draft);
     }
     for (CellId cell : NeverGiven)
         draft.withdraw(cell);
+    return true;
 }
 
 std::optional<BlankChoice> chooseBlank(PuzzleDraft& draft, Difficulty difficulty, Chance& chance,
@@ -134,6 +139,13 @@ std::optional<BlankChoice> chooseBlank(PuzzleDraft& draft, Difficulty difficulty
         if (watched.isDrawn())
             watched.show(draft.givensWithout(hexagon));
     });
+}
+
+/// Whether there can be a blank hexagon at all: no rule settles a cell on the rim, and what is easy
+/// falls to rules 1 to 3 with all of its givens.
+bool mayHaveBlank(const PuzzleDraft& draft, Difficulty difficulty) {
+    return draft.givesWholeRim() &&
+           (difficulty == Difficulty::Hard || draft.rules().deduceEverySide(false));
 }
 
 void writeChoice(const BlankChoice& choice, Difficulty difficulty, Board& board) {
@@ -164,11 +176,12 @@ void CreatePuzzle(Board& board, Difficulty difficulty, Chance& chance, const Sea
         const Prospect prospect = prospectOf(draft, difficulty);
         if (prospect == Prospect::Hopeless)
             continue;
-        thinGivens(draft, prospect, watched);
+        if (!thinGivens(draft, difficulty, prospect, watched))
+            continue;
         if (const auto choice = chooseBlank(draft, difficulty, own, watched)) {
             draft.writeTo(board);
             writeChoice(*choice, difficulty, board);
-            watched.show(draft.givens());
+            watched.show(draft);
             return;
         }
     }
@@ -180,7 +193,9 @@ bool ChooseBlankHexagon(Board& board, Difficulty difficulty, Chance& chance,
     board.SkipHex = NoHexagon;
     board.BlankHex = NoHexagon;
     PuzzleDraft draft(board);
-    const auto choice = chooseBlank(draft, difficulty, chance, watched);
+    const auto choice = mayHaveBlank(draft, difficulty)
+                            ? chooseBlank(draft, difficulty, chance, watched)
+                            : std::nullopt;
     draft.writeTo(board);
     writeChoice(choice.value_or(BlankChoice{}), difficulty, board);
     return choice.has_value();

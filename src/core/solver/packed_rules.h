@@ -96,31 +96,6 @@ public:
         }
     }
 
-    /// For a board whose settled cells are part of a solution: applies the rules, the cheap ones
-    /// first, until `isDone` answers true (then so does this) or nothing changes. On such a board
-    /// every order of the rules ends at the same cells, and more settled cells never end at fewer.
-    template <class IsDone>
-    bool deduceUntil(bool useXcells, const IsDone& isDone) {
-        for (;;) {
-            counter = 0;
-            FixNeighbours();
-            GetCandidates();
-            FixSingles();
-            if (counter == 0 && useXcells)
-                FixXcellPairs();
-            if (isDone(m_board))
-                return true;
-            if (counter == 0)
-                return false;
-        }
-    }
-
-    /// The same until every cell is settled.
-    bool deduceEveryCell(bool useXcells) {
-        return deduceUntil(useXcells,
-                           [](const PackedBoard& board) { return board.everyCellIsSettled(); });
-    }
-
     const PackedBoard& board() const { return m_board; }
     /// Settles a cell.
     void settle(CellId cell, int digit);

@@ -3,53 +3,55 @@
 #include "core/board/digit_set.h"
 #include "core/board/tables.h"
 
+#include <algorithm>
+
 namespace tessaly {
 namespace {
 
-constexpr HexagonWords makeFirstGivens() {
-    HexagonWords given{};
-    const auto give = [&given](CellId cell) {
-        given[static_cast<std::size_t>(cell.hexagon)] |= word::maskOf(cell.position);
-    };
+constexpr CellSet makeFirstGivens() {
+    CellSet given;
     for (CellId cell : AllCells)
         if (!SideLink[cell])
-            give(cell);
+            given.add(cell);
     for (const RemovalEntry& entry : RemovalPlan)
         for (CellId cell : {entry.first, entry.second})
             if (cell)
-                give(cell);
+                given.add(cell);
     return given;
 }
 
-constexpr HexagonWords FirstGivens = makeFirstGivens();
+constexpr CellSet FirstGivens = makeFirstGivens();
 
 } // namespace
 
 PuzzleDraft::PuzzleDraft(const HexagonWords& solution)
     : m_solution(solution)
+    , m_sides(sideDigits(solution))
     , m_given(FirstGivens) {}
 
 PuzzleDraft::PuzzleDraft(const Board& board)
-    : m_solution(packEntries(board.SolNum)) {
+    : m_solution(packEntries(board.SolNum))
+    , m_sides(sideDigits(m_solution)) {
     for (CellId cell : AllCells)
         if (board.FixedCell[cell])
             give(cell);
 }
 
 int PuzzleDraft::solutionDigit(CellId cell) const {
-    return DigitSet::fromBits(word::byteAt(m_solution[index(cell.hexagon)], cell.position)).first();
+    const HexagonWord cells = m_solution[static_cast<std::size_t>(cell.hexagon)];
+    return DigitSet::fromBits(word::byteAt(cells, cell.position)).first();
 }
 
-HexagonWords PuzzleDraft::givens() const {
+bool PuzzleDraft::givesWholeRim() const {
+    return std::all_of(AllCells.begin(), AllCells.end(),
+                       [this](CellId cell) { return SideLink[cell] || isGiven(cell); });
+}
+
+HexagonWords PuzzleDraft::solutionAt(const CellSet& given) const {
     HexagonWords cells{};
-    for (std::size_t i = 1; i < cells.size(); ++i)
-        cells[i] = m_solution[i] & m_given[i];
-    return cells;
-}
-
-HexagonWords PuzzleDraft::givensWithout(int hexagon) const {
-    HexagonWords cells = givens();
-    cells[index(hexagon)] = 0;
+    for (CellId cell : AllCells)
+        if (const auto at = static_cast<std::size_t>(cell.hexagon); given.contains(cell))
+            cells[at] |= m_solution[at] & word::maskOf(cell.position);
     return cells;
 }
 

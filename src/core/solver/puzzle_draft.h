@@ -3,6 +3,7 @@
 #include "core/board/board.h"
 #include "core/board/vocabulary.h"
 #include "core/solver/packed_board.h"
+#include "core/solver/side_rules.h"
 
 #include <array>
 
@@ -30,6 +31,39 @@ inline constexpr std::array<RemovalEntry, 8> RemovalPlan{{
 /// The cells that are never given in a puzzle, and therefore never hold its hint either.
 inline constexpr std::array<CellId, 2> NeverGiven{{{19, 2}, {1, 5}}};
 
+/// A set of cells: for each position a plane of the hexagons, in both halves of its word.
+class CellSet {
+public:
+    constexpr bool contains(CellId cell) const {
+        return (m_words[planes::sideIndex(cell)] & planes::hexagonBit(cell.hexagon)) != 0;
+    }
+    constexpr void add(CellId cell) { m_words[planes::sideIndex(cell)] |= bitsOf(cell.hexagon); }
+    constexpr void remove(CellId cell) {
+        m_words[planes::sideIndex(cell)] &= ~bitsOf(cell.hexagon);
+    }
+    constexpr void removeHexagon(int hexagon) {
+        for (planes::Word& word : m_words)
+            word &= ~bitsOf(hexagon);
+    }
+
+    /// The sides that have a cell of the set.
+    SideSet sides() const {
+        std::array<planes::Word, SideDirections> words{};
+        for (std::size_t here = 0; here < SideDirections; ++here) {
+            const std::size_t across = here + SideDirections;
+            words[here] = m_words[here] | planes::shifted(m_words[across], planes::Step[across]);
+        }
+        return SideSet(words) & SideSet::all();
+    }
+
+private:
+    static constexpr planes::Word bitsOf(int hexagon) {
+        return planes::inBothHalves(planes::hexagonBit(hexagon));
+    }
+
+    std::array<planes::Word, CellCount> m_words{};
+};
+
 /// A puzzle while it is being made: its solution and which cells are given.
 class PuzzleDraft {
 public:
@@ -41,29 +75,45 @@ public:
 
     int solutionDigit(CellId cell) const;
 
-    bool isGiven(CellId cell) const {
-        return word::byteAt(m_given[index(cell.hexagon)], cell.position) != 0;
+    bool isGiven(CellId cell) const { return m_given.contains(cell); }
+    bool givesWholeRim() const;
+    void give(CellId cell) { m_given.add(cell); }
+    void withdraw(CellId cell) { m_given.remove(cell); }
+    void giveHexagon(int hexagon) {
+        for (int position = 1; position <= CellCount; ++position)
+            give({hexagon, position});
     }
-    void give(CellId cell) { m_given[index(cell.hexagon)] |= word::maskOf(cell.position); }
-    void withdraw(CellId cell) { m_given[index(cell.hexagon)] &= ~word::maskOf(cell.position); }
-    void giveHexagon(int hexagon) { m_given[index(hexagon)] = word::repeat(0xFF); }
-    /// The givens of a hexagon, 0xFF in the byte of each.
-    HexagonWord givenMask(int hexagon) const { return m_given[index(hexagon)]; }
 
     /// The board at its givens.
-    HexagonWords givens() const;
+    HexagonWords givens() const { return solutionAt(m_given); }
     /// The board at its givens, with a hexagon emptied.
-    HexagonWords givensWithout(int hexagon) const;
+    HexagonWords givensWithout(int hexagon) const { return solutionAt(givenWithout(hexagon)); }
+
+    /// The rules at the givens, for as long as the draft lives.
+    SideRules rules() const { return rulesWithout(SideSet()); }
+    /// The same with more sides open than the givens leave.
+    SideRules rulesWithout(const SideSet& sides) const {
+        return {m_sides, (SideSet::all() - m_given.sides()) | sides};
+    }
+    /// The same with a hexagon emptied.
+    SideRules rulesWithout(int hexagon) const {
+        return {m_sides, SideSet::all() - givenWithout(hexagon).sides()};
+    }
 
     /// Writes solution and givens onto a board, whose entries end at the givens.
     void writeTo(Board& board) const;
 
 private:
-    static constexpr std::size_t index(int hexagon) { return static_cast<std::size_t>(hexagon); }
+    CellSet givenWithout(int hexagon) const {
+        CellSet given = m_given;
+        given.removeHexagon(hexagon);
+        return given;
+    }
+    HexagonWords solutionAt(const CellSet& cells) const;
 
     HexagonWords m_solution{};
-    /// 0xFF in the byte of each given.
-    HexagonWords m_given{};
+    SideDigits m_sides{};
+    CellSet m_given;
 };
 
 } // namespace tessaly

@@ -44,8 +44,7 @@ std::string inVisibleCell(const Step& step, bool isFromBlank) {
 }
 
 std::string inBlank(const Step& step) {
-    const std::string start =
-        "The solid hexagon must hold " + std::to_string(step.digit) + " there: ";
+    std::string start = "The solid hexagon must hold " + std::to_string(step.digit) + " there: ";
     switch (step.reason) {
     case Reason::Across:
         break;
