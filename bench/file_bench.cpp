@@ -30,7 +30,7 @@ constexpr std::size_t PieceSize = std::size_t{256} * 1024;
 class HugeFile {
 public:
     HugeFile() {
-        const std::string records = test::contentOf(fs::path(TESSALY_DATA) / "puzzles/easy.txt");
+        const std::string records = contentOf(fs::path(TESSALY_DATA) / "puzzles/easy.txt");
         const auto lines = std::count(records.begin(), records.end(), '\n');
         const Outcome written = replaceFile(path(), [&](const ContentSink& sink) {
             Outcome outcome;
@@ -43,10 +43,10 @@ public:
     }
 
     fs::path path() const { return m_folder / "million.txt"; }
-    const test::TemporaryFolder& folder() const { return m_folder; }
+    const TemporaryFolder& folder() const { return m_folder; }
 
 private:
-    test::TemporaryFolder m_folder;
+    TemporaryFolder m_folder;
 };
 
 const HugeFile& hugeFile() {

@@ -40,7 +40,7 @@ struct Library {
             std::cerr << written.problem << '\n';
     }
 
-    test::TemporaryFolder folder;
+    TemporaryFolder folder;
     ToolFiles files{folder / "library.txt", folder / "output.txt"};
 };
 

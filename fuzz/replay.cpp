@@ -12,7 +12,7 @@ int main(int argc, char** argv) {
     int count = 0;
     for (const auto& file : std::filesystem::directory_iterator(argc == 2 ? argv[1] : "")) {
         std::cout << file.path().filename().string() << std::endl;
-        const std::string input = tessaly::test::contentOf(file.path());
+        const std::string input = tessaly::contentOf(file.path());
         LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(input.data()), // NOLINT
                                input.size());
         ++count;

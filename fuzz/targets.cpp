@@ -36,9 +36,9 @@ void arrangements(std::string_view text) {
 
 /// Whatever was read, saving and reading it again gives the same.
 void configuration(std::string_view text) {
-    static const test::TemporaryFolder folder;
+    static const TemporaryFolder folder;
     const std::string path = folder / "tessaly.cfg";
-    test::put(path, text);
+    put(path, text);
     Configuration read;
     Configuration again;
     require(ReadcfgFile(path, read).ok(), "any configuration can be read");
@@ -60,8 +60,8 @@ void record(std::string_view text) {
 
 /// The library of colour schemes: listing, loading, and the three changes.
 void schemes(std::string_view text) {
-    static const test::TemporaryFolder folder;
-    test::put(folder / "all.col", text);
+    static const TemporaryFolder folder;
+    put(folder / "all.col", text);
     SchemeLibrary library(folder.path());
     require(library.RefreshSchemeList().ok(), "a library can be listed");
     Appearance appearance;

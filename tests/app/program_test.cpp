@@ -25,10 +25,6 @@ struct Program : testing::Test {
         return start(arguments + QStringList{u"--folder"_s, name, u"--screenshot"_s, picture},
                      u":4711"_s);
     }
-    QImage drawn(const QStringList& arguments) {
-        EXPECT_EQ(draw(arguments), 0) << complained;
-        return QImage(picture);
-    }
     bool complainedOf(std::string_view what) const {
         return complained.find(what) != std::string::npos;
     }
@@ -51,7 +47,8 @@ TEST_F(Program, DrawsThePuzzleThatIsAskedFor) {
     QList<QImage> seen{QImage()};
     for (const QStringList& arguments :
          {QStringList(), {file}, {file, u"--puzzle"_s, u"2"_s}, {file, u"--developer"_s}}) {
-        const QImage image = drawn(arguments);
+        EXPECT_EQ(draw(arguments), 0) << complained;
+        const QImage image(picture);
         EXPECT_FALSE(seen.contains(image)) << arguments.join(u' ').toStdString();
         seen << image;
     }
@@ -63,7 +60,7 @@ TEST_F(Program, SaysWhatItCouldNotReadOrWrite) {
     EXPECT_EQ(start({u"--folder"_s, name, u"--screenshot"_s, u"/nowhere/a.png"_s}), 1);
     EXPECT_TRUE(complainedOf("/nowhere/a.png"));
     QFile::remove(picture);
-    test::put(folder.path() + "all.col", "garbage");
+    put(folder.path() + "all.col", "garbage");
     EXPECT_EQ(draw({}), 1);
     EXPECT_TRUE(complainedOf("all.col")) << complained;
     EXPECT_FALSE(QFile::exists(picture));

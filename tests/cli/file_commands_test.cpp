@@ -11,11 +11,7 @@
 namespace tessaly {
 namespace {
 
-using test::CommandResult;
-using test::contentOf;
-using test::linesOf;
-using test::put;
-using FileCommands = test::CommandLineTest;
+using FileCommands = CommandLineTest;
 
 const std::string Easy = sampleRecords("easy.txt").front();
 const std::string Hard = sampleRecords("hard.txt").front();

@@ -3,25 +3,21 @@
 #include "cli/console.h"
 #include "core/board/puzzle_record.h"
 #include "core/files/file_descriptor.h"
-#include "support/child_process.h"
 #include "support/command_line.h"
 #include "support/file_calls.h"
-#include "support/full_disk.h"
+#include "support/process.h"
 
-#include <chrono>
 #include <csignal>
 #include <fcntl.h>
-#include <thread>
+#include <fstream>
+#include <sys/stat.h>
 
 namespace tessaly {
 namespace {
 
-using test::contentOf;
-
 constexpr std::size_t LineLength = RecordLength + 2;
 
-class StandardOutputTest : public test::CommandLineTest {
-protected:
+struct StandardOutputTest : CommandLineTest {
     std::string err() const { return contentOf(folder / "err.txt"); }
 
     /// Starts the program; standard output is appended to `outPath`, no file may grow beyond
@@ -30,7 +26,7 @@ protected:
                 rlim_t sizeLimit = RLIM_INFINITY) const {
         const std::string command = "exec " TESSALY_CLI " " + line + " >>" + outPath + " 2>" +
                                     (folder / "err.txt").string();
-        return test::startChild([&] {
+        return startChild([&] {
             for (const int each : {SIGINT, SIGTERM, SIGHUP}) // whatever the tests ignore
                 ::signal(each, SIG_DFL);
             const rlimit limit{sizeLimit, sizeLimit};
@@ -63,25 +59,25 @@ TEST_F(StandardOutputTest, NoCommandPassesOverAFullOne) {
 }
 
 TEST_F(StandardOutputTest, AnInterruptEndsTheProgramSoonWithWholeRecordsOnly) {
+    ASSERT_EQ(::mkfifo(file.c_str(), 0600), 0);
     for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
-        std::filesystem::remove(file);
         const pid_t child = start(Create + "10000000", file);
-        std::error_code none;
-        while (!std::filesystem::exists(file) || std::filesystem::file_size(file, none) == 0)
-            std::this_thread::sleep_for(std::chrono::milliseconds(5));
+        std::ifstream out(file, std::ios::binary);
+        std::string written(1, static_cast<char>(out.get())); // waits for the first record
         ::kill(child, signal);
+        std::getline(out, written, '\0');
         const int status = statusOf(child);
         EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == signal) << status;
-        const std::size_t records = test::linesOf(contentOf(file), "\r\n").size();
-        EXPECT_EQ(contentOf(file).size(), records * LineLength);
-        EXPECT_EQ(err(),
-                  "tessaly-cli: interrupted after " + std::to_string(records) + " puzzles\n");
+        ASSERT_EQ((written.size() + 1) % LineLength, 0U) << "whole records";
+        EXPECT_EQ(err(), "tessaly-cli: interrupted after " +
+                             std::to_string((written.size() + 1) / LineLength) + " puzzles\n");
     }
 }
 
-/// Writes on a disk where no file can be larger than `room` bytes. Whether that went well.
+/// Writes on a disk where no file can be larger than `room` bytes.
+/// Whether that went well.
 bool writeTo(const FileDescriptor& file, const std::string& text, rlim_t room) {
-    const test::FullDisk disk(room);
+    const FullDisk disk(room);
     StandardOutput buffer(file.get());
     std::ostream out(&buffer);
     out << text << std::flush;
@@ -95,7 +91,7 @@ bool writeTo(const FileDescriptor& file, const std::string& text, rlim_t room) {
 TEST_F(StandardOutputTest, APartOfALineIsTakenBackWhereTheFileEndsWithIt) {
     const auto left = [this](int more, const std::string& before, const std::string& text,
                              rlim_t room) {
-        test::put(file, before);
+        put(file, before);
         const FileDescriptor opened(::open(file.c_str(), O_WRONLY | more));
         EXPECT_EQ(writeTo(opened, text, room), room == RLIM_INFINITY);
         return contentOf(file);
@@ -110,7 +106,7 @@ TEST_F(StandardOutputTest, APartOfALineIsTakenBackWhereTheFileEndsWithIt) {
     EXPECT_EQ(left(O_APPEND, "", line + y, 150'000), line);
     EXPECT_EQ(left(0, older, line + x, 150), line + x.substr(0, 50) + older.substr(0, 50));
     EXPECT_FALSE(writeTo(FileDescriptor(), "x\n", RLIM_INFINITY)) << "closed";
-    const test::FileCalls calls(test::failing("fstat", EIO));
+    const FileCalls calls(failing("fstat", EIO));
     EXPECT_EQ(left(O_APPEND, "", "1234\n56", 6), "1234\n5");
 }
 

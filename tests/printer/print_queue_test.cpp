@@ -2,23 +2,10 @@
 #include "ui/game_window.h"
 
 #include <QComboBox>
-#include <QPrinter>
 #include <QProcess>
 
 namespace tessaly {
 namespace {
-
-/// The system's printers; in the platform's dialog the user presses "Print" at once.
-class PrintersWithoutDialog : public SystemPrinters {
-public:
-    std::optional<PrintTarget> setUp(const PrintQuestion& question, QWidget*) override {
-        QPrinter printer(QPrinter::HighResolution);
-        printer.setPrinterName(chosen);
-        printer.setCopyCount(2);
-        return targetOf(printer, question.pageCount);
-    }
-    QString chosen = u"Paper"_s;
-};
 
 struct PrintQueue : testing::Test {
     /// Prints the puzzles 2 to 8 and their solutions.
@@ -47,7 +34,7 @@ struct PrintQueue : testing::Test {
         return PdfDocument(sheets);
     }
 
-    PrintersWithoutDialog printers;
+    SystemPrinters printers;
     GameWindow game{"easy.txt", 3, &printers};
     QDir printed{qEnvironmentVariable("TESSALY_PRINTED")};
 };
@@ -82,25 +69,11 @@ TEST_F(PrintQueue, ABookletArrivesAtAPrinterOfTheSystemWithEveryNumberOnItsPage)
     EXPECT_TRUE(game.prompts.shown.empty());
 }
 
-TEST_F(PrintQueue, PuzzleAndSolutionArriveFromThePlatformsDialog) {
-    game.choose(u"mnuprintx_2"_s);
-    EXPECT_EQ(game.message(), u"Printed"_s);
-    const auto pages = textOf(take());
-    ASSERT_EQ(pages.size(), 4U) << "two copies";
-    EXPECT_GT(pages[0].size(), 40U);
-    EXPECT_GT(pages[1].size(), pages[0].size());
-    EXPECT_EQ(pages[2] + pages[3], pages[0] + pages[1]);
-}
-
 TEST_F(PrintQueue, WhatAPrinterDoesNotTakeIsSaid) {
     printRange(u"Closed"_s);
-    printers.chosen = u"Closed"_s;
-    game.choose(u"mnuprintx_0"_s);
-    ASSERT_EQ(game.prompts.shown.size(), 2U);
-    for (const auto& [text, style] : game.prompts.shown) {
-        EXPECT_EQ(style, "vbok+vbcritical");
-        EXPECT_NE(text.find("not accepting jobs"), std::string::npos) << text;
-    }
+    const auto [text, style] = game.lastPrompt();
+    EXPECT_EQ(style, "vbok+vbcritical");
+    EXPECT_NE(text.find("not accepting jobs"), std::string::npos) << text;
     EXPECT_EQ(arrived(), QStringList());
 }
 

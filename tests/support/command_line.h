@@ -3,15 +3,13 @@
 #include "cli/program.h"
 #include "support/temporary_folder.h"
 
-#include <gtest/gtest.h>
-
 #include <functional>
 #include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
 
-namespace tessaly::test {
+namespace tessaly {
 
 /// What a command line did.
 struct CommandResult {
@@ -26,32 +24,24 @@ struct CommandSetting {
     std::function<bool()> wasInterrupted = {};
 };
 
-/// Runs "tessaly-cli" with these arguments in this process. `more` are the subcommands besides
-/// those that every build has.
-inline CommandResult runCommand(const std::vector<std::string>& arguments,
-                                const CommandSetting& setting = {},
-                                std::vector<Subcommand> more = {}) {
-    std::vector<const char*> argv{"tessaly-cli"};
-    for (const std::string& argument : arguments)
-        argv.push_back(argument.c_str());
-    std::ostringstream out;
-    std::ostringstream err;
-    const int status = runProgram(static_cast<int>(argv.size()), argv.data(),
-                                  {out, err, setting.errIsTerminal, setting.wasInterrupted},
-                                  allCommands(std::move(more)));
-    return {status, out.str(), err.str()};
-}
-
 /// Command lines beside files of their own.
-class CommandLineTest : public testing::Test {
-protected:
-    /// `line` is parted at its blanks.
-    static CommandResult run(const std::string& line, const CommandSetting& setting = {}) {
-        std::istringstream words(line);
-        return runCommand({std::istream_iterator<std::string>(words), {}}, setting);
+struct CommandLineTest : testing::Test {
+    /// Runs "tessaly-cli" in this process; `line` is parted at its blanks.
+    CommandResult run(const std::string& line, const CommandSetting& setting = {}) const {
+        std::istringstream stream("tessaly-cli " + line);
+        const std::vector<std::string> words(std::istream_iterator<std::string>(stream), {});
+        std::vector<const char*> argv;
+        for (const std::string& word : words)
+            argv.push_back(word.c_str());
+        std::ostringstream out, err;
+        const int status =
+            runProgram(static_cast<int>(argv.size()), argv.data(),
+                       {out, err, setting.errIsTerminal, setting.wasInterrupted},
+                       allCommands(otherCommands ? otherCommands() : std::vector<Subcommand>()));
+        return {status, out.str(), err.str()};
     }
     /// That a command line fails, naming something on its one line.
-    static void expectRefused(const std::string& line, int status, const std::string& named) {
+    void expectRefused(const std::string& line, int status, const std::string& named) const {
         const CommandResult result = run(line);
         EXPECT_EQ(result.status, status) << line;
         EXPECT_EQ(result.out, "") << line;
@@ -61,9 +51,11 @@ protected:
             << line << " says " << result.err;
     }
 
+    /// What makes the subcommands besides those that every build has.
+    std::function<std::vector<Subcommand>()> otherCommands;
     TemporaryFolder folder;
     const std::string file = folder / "puzzles.txt";
     const std::string other = folder / "other.txt";
 };
 
-} // namespace tessaly::test
+} // namespace tessaly

@@ -17,7 +17,7 @@ namespace tessaly {
 struct RecordingDisplay : Display {
     void DrawHexagon(int hexagon) override { drawn.push_back(hexagon); }
     void DrawBoard() override { ++boardsDrawn; }
-    void DrawSolution(Colour) override { ++solutionsDrawn; }
+    void DrawSolution(Colour) override {}
     void DrawPeek(const Board& other, int hexagon) override { peeked = other.CellNum[hexagon]; }
     void focusBoard() override { ++focused; }
     void showSelection(CellId cell) override { marker = cell; }
@@ -60,7 +60,6 @@ struct RecordingDisplay : Display {
 
     std::vector<int> drawn;
     int boardsDrawn = 0;
-    int solutionsDrawn = 0;
     Grid<std::string>::Row peeked;
     int focused = 0;
     CellId marker;
@@ -126,7 +125,7 @@ struct SessionScene {
     }
 
     const std::vector<std::string> records = sampleRecords("easy.txt");
-    test::TemporaryFolder folder;
+    TemporaryFolder folder;
     Session session;
     RecordingDisplay display;
     ScriptedPrompts prompts;

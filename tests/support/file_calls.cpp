@@ -7,7 +7,7 @@
 #include <unistd.h>
 #include <utility>
 
-namespace tessaly::test {
+namespace tessaly {
 namespace {
 
 thread_local FileCalls* active = nullptr;
@@ -56,14 +56,14 @@ FileCalls::Before meanwhile(std::string_view name, const std::function<void()>& 
     };
 }
 
-} // namespace tessaly::test
+} // namespace tessaly
 
 // The linker leads each call to __wrap_NAME, and __real_NAME to where it went before.
 #define TESSALY_FILE_CALL(type, name, parameters, ...)                                             \
     type real_##name parameters asm("__real_" #name);                                              \
     type wrap_##name parameters asm("__wrap_" #name);                                              \
     type wrap_##name parameters {                                                                  \
-        return tessaly::test::guarded(#name, real_##name, __VA_ARGS__);                            \
+        return tessaly::guarded(#name, real_##name, __VA_ARGS__);                                  \
     }
 
 extern "C" {

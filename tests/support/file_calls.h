@@ -3,7 +3,7 @@
 #include <functional>
 #include <string_view>
 
-namespace tessaly::test {
+namespace tessaly {
 
 /// Stands between this thread and the system's calls on files while it lives. Only programs that
 /// are linked with `file_calls.cpp` and the options in `tests/CMakeLists.txt` can have one.
@@ -37,4 +37,4 @@ FileCalls::Before failing(std::string_view name, int error, int first = 0, int t
 FileCalls::Before meanwhile(std::string_view name, const std::function<void()>& work,
                             int first = 0);
 
-} // namespace tessaly::test
+} // namespace tessaly

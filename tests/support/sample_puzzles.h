@@ -13,7 +13,7 @@ namespace tessaly {
 
 /// The records of a puzzle file, without their line ends.
 inline std::vector<std::string> recordsOf(const std::string& path) {
-    return test::linesOf(test::contentOf(path), "\r\n");
+    return linesOf(contentOf(path), "\r\n");
 }
 
 /// The records of a puzzle file among the tests' own data.

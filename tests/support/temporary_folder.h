@@ -12,7 +12,7 @@
 #include <system_error>
 #include <vector>
 
-namespace tessaly::test {
+namespace tessaly {
 
 /// A folder of a test's own, gone with everything in it when the test ends.
 class TemporaryFolder {
@@ -64,4 +64,4 @@ inline std::vector<std::string> linesOf(const std::string& text, const std::stri
     return lines;
 }
 
-} // namespace tessaly::test
+} // namespace tessaly

@@ -1,10 +1,9 @@
 #pragma once
 
 #include "core/session/configuration.h"
-#include "support/scripted_file_dialogs.h"
-#include "support/scripted_printers.h"
 #include "support/scripted_prompts.h"
 #include "support/temporary_folder.h"
+#include "support/window_fakes.h"
 #include "ui/controls/box_control.h"
 #include "ui/drawing/qt_values.h"
 #include "ui/play/board_view.h"
@@ -27,7 +26,7 @@ class DataFolder {
 public:
     DataFolder() {
         for (const char* name : {"all.col", "hexabinx.txt"})
-            std::filesystem::copy_file(std::filesystem::path(TESSALY_DATA) / name, path() + name);
+            std::filesystem::copy_file(TESSALY_DATA "/" + std::string(name), path() + name);
     }
     std::string path() const { return m_folder.path().string() + "/"; }
 
@@ -39,7 +38,7 @@ public:
     }
 
 private:
-    test::TemporaryFolder m_folder;
+    TemporaryFolder m_folder;
 };
 
 /// Finds a control by its name.

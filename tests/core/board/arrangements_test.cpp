@@ -2,8 +2,6 @@
 
 #include "support/temporary_folder.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 
 namespace tessaly {
@@ -16,7 +14,7 @@ TEST(Arrangements, AnyOrderWillDoButEachMustBeThereOnce) {
     EXPECT_EQ(table.words[2] + table.words[720] + table.words[721], "ABCDFEFEDCBA");
     EXPECT_TRUE(std::is_sorted(&table.words[1], &table.words[721]));
     EXPECT_EQ(std::count(&table.scores[1], &table.scores[721], 6 * 720), 720);
-    const std::string line = test::contentOf(shipped).substr(0, 2160);
+    const std::string line = contentOf(shipped).substr(0, 2160);
     const auto changed = [&line](std::size_t at, const std::string& characters) {
         return std::string(line).replace(at, characters.size(), characters);
     };
@@ -36,10 +34,10 @@ TEST(Arrangements, AnyOrderWillDoButEachMustBeThereOnce) {
         {changed(2157, std::string("\0\x01\x18", 3)), "arrangement 720 of the first line does not"},
         {changed(3, "%;Q"), "arrangement 2 of the first line stands there twice"},
     };
-    const test::TemporaryFolder folder;
+    const TemporaryFolder folder;
     const std::string file = folder / "hexabinx.txt";
     for (const auto& row : rows) {
-        test::put(file, row.content);
+        put(file, row.content);
         const std::string problem = Set6Combos(file, table).problem;
         EXPECT_TRUE(row.reason.empty() ? problem.empty() : problem.starts_with(file + ": "))
             << problem;

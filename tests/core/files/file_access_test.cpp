@@ -2,10 +2,8 @@
 
 #include "core/board/puzzle_store.h"
 
-#include "support/full_disk.h"
+#include "support/process.h"
 #include "support/temporary_folder.h"
-
-#include <gtest/gtest.h>
 
 #include <sys/stat.h>
 #include <sys/xattr.h>
@@ -16,16 +14,13 @@ namespace {
 
 namespace fs = std::filesystem;
 using Names = std::set<std::string>;
-using test::contentOf;
-using test::put;
 
-class FileAccess : public testing::Test {
-protected:
+struct FileAccess : testing::Test {
     static Outcome append(const fs::path& path) {
         return PuzzleStore().appendPuzzles(path, "more\r\n");
     }
 
-    test::TemporaryFolder folder;
+    TemporaryFolder folder;
     fs::path file = folder / "a.txt";
 };
 
@@ -91,20 +86,19 @@ TEST_F(FileAccess, WhatIsNoRegularFileIsRefusedWithoutWaiting) {
 TEST_F(FileAccess, AFullDiskLeavesTheOldContentAndSaysSo) {
     const std::string before(1200, 'x'), more(2000, 'y');
     put(file, before);
-    const test::FullDisk disk(1205);
+    const FullDisk disk(1205);
     for (const Outcome& outcome :
          {append(file), replaceFile(file, more), replaceFile(folder / "new.txt", more)})
-        EXPECT_TRUE(outcome.problem.ends_with(": cannot be written: File too large"))
-            << outcome.problem;
+        EXPECT_TRUE(outcome.problem.ends_with("written: File too large")) << outcome.problem;
     EXPECT_EQ(contentOf(file), before);
     EXPECT_EQ(folder.names(), Names{"a.txt"});
 }
 
 TEST_F(FileAccess, ASmallFileIsReadUpToItsLimitAndChangedInOneGo) {
-    std::string meanwhile;
+    std::string foreign;
     const auto change = [&](std::string& content) {
-        if (!meanwhile.empty())
-            put(file, meanwhile);
+        if (!foreign.empty())
+            put(file, foreign);
         content += "line\n";
         return Outcome::done();
     };
@@ -113,7 +107,7 @@ TEST_F(FileAccess, ASmallFileIsReadUpToItsLimitAndChangedInOneGo) {
         EXPECT_EQ(contentOf(file), expected);
     }
     EXPECT_FALSE(rewriteSmallFile(file, 5, change).ok());
-    meanwhile = "foreign";
+    foreign = "foreign";
     const Outcome changed = rewriteSmallFile(file, 100, change);
     EXPECT_NE(changed.problem.find("another program"), std::string::npos);
     EXPECT_EQ(contentOf(file), "foreign");

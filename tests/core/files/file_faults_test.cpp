@@ -10,8 +10,6 @@
 #include "support/sample_puzzles.h"
 #include "support/temporary_folder.h"
 
-#include <gtest/gtest.h>
-
 #include <cerrno>
 #include <fcntl.h>
 
@@ -21,11 +19,6 @@ namespace {
 namespace fs = std::filesystem;
 using Names = std::set<std::string>;
 using faults::Scene;
-using test::contentOf;
-using test::failing;
-using test::FileCalls;
-using test::meanwhile;
-using test::put;
 
 /// What `work` says while another program acts, or a call fails, as `before` has it.
 std::string problemWhile(FileCalls::Before before, const std::function<Outcome()>& work) {
@@ -35,7 +28,7 @@ std::string problemWhile(FileCalls::Before before, const std::function<Outcome()
 
 /// Tries an operation again and again, each time with other calls failing.
 void tryFaults(const faults::Operation& operation, int records) {
-    const test::TemporaryFolder folder;
+    const TemporaryFolder folder;
     const Scene before{folder / "before"}, after{folder / "after"}, work{folder / "work"};
     const auto renew = [&](const Scene& scene) {
         fs::remove_all(scene.folder);
@@ -51,22 +44,20 @@ void tryFaults(const faults::Operation& operation, int records) {
     const bool succeeds = problemWhile(count, renew(after)).empty();
     // The calls from `first` up to `last` fail.
     const auto attempt = [&](int first, int last, int error) {
-        std::string_view call;
+        std::string said = std::string(operation.name) + " at " + std::to_string(records) + ": ";
         bool flushFailed = false;
         const auto fail = [&](std::string_view name, int number) {
-            const bool fails = number >= first && number < last;
-            call = number == first ? name : call;
-            flushFailed = flushFailed || (fails && error != EINTR && name == "fsync");
-            return fails ? error : 0;
+            if (number < first || number >= last)
+                return 0;
+            flushFailed = flushFailed || (error != EINTR && name == "fsync");
+            said.append(name).append(" ");
+            return error;
         };
         const std::string problem = problemWhile(fail, renew(work));
-        const bool isRight = problem.empty() ? !flushFailed : error != EINTR || !succeeds;
+        EXPECT_TRUE(problem.empty() ? !flushFailed : error != EINTR || !succeeds) << said;
         std::string left;
         const Outcome judged = judge(operation, before, after, work, problem.empty(), left);
-        EXPECT_TRUE(isRight && judged.ok())
-            << operation.name << " at " << records << " records, error " << error << " from call "
-            << first << ", " << call << ", up to " << last << ", left: " << left << problem
-            << judged.problem;
+        EXPECT_TRUE(judged.ok()) << said << error << left << problem << judged.problem;
     };
     for (int number = 0; number < calls; ++number) {
         attempt(number, number + 1, EIO);
@@ -84,8 +75,7 @@ TEST(FileFaults, NoFailingCallLosesOrTearsAnything) {
     EXPECT_EQ(std::distance(fs::directory_iterator(open), {}), before);
 }
 
-class FileFaultsTest : public testing::Test {
-protected:
+struct FileFaultsTest : testing::Test {
     /// The one hidden file beside those of the user.
     fs::path scratch() const {
         for (const std::string& name : m_folder.names())
@@ -110,7 +100,7 @@ protected:
         return [this, content] { return replaceFile(file, content); };
     }
 
-    test::TemporaryFolder m_folder;
+    TemporaryFolder m_folder;
     const fs::path file = m_folder / "a.txt";
     const std::function<void()> removed = [this] { fs::remove(file); };
 };
@@ -267,10 +257,8 @@ TEST_F(FileFaultsTest, AFileThatCannotBeReadToItsEndIsNamedAndStays) {
     const std::string record = recordNumbered(number);
     std::string content = "kept";
     const ContentWriter write = [](const ContentSink& sink) { return sink.write("x"); };
-    const struct {
-        int reads;
-        std::function<Outcome()> work;
-    } readings[] = {
+    // Each with the number of its reads.
+    const std::pair<int, std::function<Outcome()>> readings[] = {
         {2, [&] { return PuzzleStore().CountLines(file, number); }},
         {5, [&] { return Outcome{PuzzleStore().ReadPuzzle(file, 500, board).reason}; }},
         {7, [&] { return PuzzleStore().DeletePuzzle(file, 500, record); }},

@@ -4,9 +4,6 @@
 
 #include "support/temporary_folder.h"
 
-#include <gtest/gtest.h>
-
-#include <array>
 #include <random>
 
 namespace tessaly {
@@ -14,10 +11,9 @@ namespace {
 
 const std::string Mark(ByteOrderMark);
 
-class LineIndexTest : public testing::Test {
-protected:
+struct LineIndexTest : testing::Test {
     void put(const std::string& text) {
-        test::put(folder / "a.txt", text);
+        tessaly::put(folder / "a.txt", text);
         ASSERT_EQ(openForReading(folder / "a.txt", file).problem, "");
     }
     /// That the lines are where the plainest reading finds them, and behind the last one, which is
@@ -38,17 +34,17 @@ protected:
         EXPECT_EQ(index.hasBlankTail(), at < text.size());
     }
 
-    test::TemporaryFolder folder;
+    TemporaryFolder folder;
     FileDescriptor file;
 };
 
 /// Lines of all sorts, some of them longer than a block of the index.
 std::string randomText(std::mt19937& chance, std::size_t size) {
-    constexpr std::array Ends{"\n", "\r\n", "\n\n", " \r\n", "\t", "\r"};
+    constexpr const char* Ends[] = {"\n", "\r\n", "\n\n", " \r\n", "\t", "\r"};
     std::string text;
     while (text.size() < size) {
         text.append(chance() % 40 == 0 ? chance() % 200'000 : chance() % (size / 50 + 2), 'x');
-        text += Ends.at(chance() % Ends.size());
+        text += Ends[chance() % std::size(Ends)];
     }
     text.resize(size); // it may end in the middle of a line's end
     return text;

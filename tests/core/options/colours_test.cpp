@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <vector>
 
 namespace tessaly {
 namespace {
@@ -63,31 +64,21 @@ TEST(ColourSurface, ShadesLeadFromBlackAndFromWhiteToTheColourHalvesToEven) {
 }
 
 TEST(ColourSurface, ShowsTheClassicColoursTheRampsAndTheGround) {
-    const std::tuple<double, double, Colour> rows[] = {{10, 30, ClassicPalette[0]},
-                                                       {64.9, 229.9, ClassicPalette[0]},
-                                                       {75, 30, ClassicPalette[1]},
-                                                       {10, 255, ClassicPalette[4]},
-                                                       {259, 904, ClassicPalette[15]},
-                                                       {9.9, 100, Ground},
-                                                       {65, 100, Ground},
-                                                       {70, 100, Ground},
-                                                       {100, 240, Ground},
-                                                       {262, 800, Ground},
-                                                       {10, 950, Black},
-                                                       {10.9, 1149.9, Black},
-                                                       {17, 950, clrBlackness(Ramp, 7)},
-                                                       {266, 1000, Ramp},
-                                                       {10, 1175, White},
-                                                       {17, 1175, clrWhiteness(Ramp, 7)},
-                                                       {266, 1175, Ramp},
-                                                       {9.9, 1000, Ground},
-                                                       {267, 1000, Ground},
-                                                       {100, 920, Ground},
-                                                       {100, 1160, Ground},
-                                                       {100, 1375, Ground},
-                                                       {-1e6, 1000, Ground}};
-    for (const auto& [x, y, colour] : rows)
-        EXPECT_EQ(colourAt(x, y, Ramp, Ground), colour) << x << " " << y;
+    const std::pair<Colour, std::vector<std::pair<double, double>>> rows[] = {
+        {ClassicPalette[0], {{10, 30}, {64.9, 229.9}}},
+        {ClassicPalette[1], {{75, 30}}},
+        {ClassicPalette[4], {{10, 255}}},
+        {ClassicPalette[15], {{259, 904}}},
+        {Black, {{10, 950}, {10.9, 1149.9}}},
+        {clrBlackness(Ramp, 7), {{17, 950}}},
+        {White, {{10, 1175}}},
+        {clrWhiteness(Ramp, 7), {{17, 1175}}},
+        {Ramp, {{266, 1000}, {266, 1175}}},
+        {Ground, {{9.9, 100}, {65, 100}, {70, 100}, {100, 240}, {262, 800}, {-1e6, 1000}}},
+        {Ground, {{9.9, 1000}, {267, 1000}, {100, 920}, {100, 1160}, {100, 1375}}}};
+    for (const auto& [colour, places] : rows)
+        for (const auto& [x, y] : places)
+            EXPECT_EQ(colourAt(x, y, Ramp, Ground), colour) << x << " " << y;
 }
 
 TEST(ColourSurface, KeysReachEveryPlaceAndStayOnTheSurface) {

@@ -18,9 +18,7 @@ TEST(BoardGeometry, HexagonsAndNumbersStandWhereTheirAnchorsPutThem) {
     EXPECT_EQ(hexagonBounds(14), (Rect{37, 282, 145, 370}));
     EXPECT_EQ(detail::rounded({2.5, -3.5}), (Point{2, -4})) << "halves go to the even number";
     EXPECT_NEAR(numberCentre({10, 2}).y, 238 - 2 * HalfHeight / 3, 1e-9);
-    EXPECT_NEAR(numberCentre({10, 4}).x, 253 + HexagonSide / 2, 1e-9);
     EXPECT_NEAR(textPosition({10, 4}).y - numberCentre({10, 4}).y, 5, 1e-9);
-    EXPECT_EQ(textPosition({10, 5}), numberCentre({10, 5}));
 }
 
 TEST(BoardGeometry, APointHitsTheCellWhoseRectangleHoldsIt) {
@@ -68,11 +66,7 @@ TEST(BoardStyle, SpacedHexagonsAreBorderedByTheBackgroundAndPaperByItsOwnWidth) 
     EXPECT_TRUE(split.line == RGB(1, 2, 3) && split.solid == split.line);
     appearance.SplitHexas = false;
     EXPECT_EQ(boardStyle(appearance).border, split.line);
-    const auto hatch = hatchLines(10);
-    const auto centre = hexagonCentre(10);
-    EXPECT_NEAR(hatch[hatch.size() / 2].first.x - centre.x,
-                centre.x - hatch[hatch.size() / 2].second.x, 1e-9);
-    for (const auto& [from, to] : hatch)
+    for (const auto& [from, to] : hatchLines(10))
         EXPECT_NEAR(from.x + from.y, to.x + to.y, 1e-9) << "at 45 degrees";
     appearance.PrintLineWidth = 3;
     EXPECT_EQ(paperStyle(appearance).borderWidth, 3);

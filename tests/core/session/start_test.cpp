@@ -3,9 +3,6 @@
 #include "support/file_calls.h"
 #include "support/temporary_folder.h"
 
-#include <gtest/gtest.h>
-
-#include <chrono>
 #include <future>
 #include <map>
 #include <sstream>
@@ -14,12 +11,10 @@ namespace tessaly {
 namespace {
 
 namespace fs = std::filesystem;
-using test::put;
 using Files = std::map<std::string, std::string>;
 
 TEST(GameOptions, AreReadInAnyOrderOrRefusedInOneLine) {
     const std::pair<std::vector<const char*>, std::string> rows[] = {
-        {{"tessaly"}, " 0   0"},
         {{"tessaly", "my.txt", "--puzzle", "012", "--folder", "/data"}, "my.txt 12 /data  0"},
         {{"tessaly", "--developer", "--screenshot=out.png", "my.txt"}, "my.txt 0  out.png 1"},
         {{"tessaly", "--puzzle", "0"},
@@ -37,8 +32,7 @@ TEST(GameOptions, AreReadInAnyOrderOrRefusedInOneLine) {
     }
 }
 
-class ProgramFolderTest : public testing::Test {
-protected:
+struct ProgramFolderTest : testing::Test {
     ProgramFolderTest() {
         fs::create_directories(share / "puzzles");
         fs::create_directory(bin);
@@ -60,11 +54,11 @@ protected:
         Files files;
         for (const auto& entry : fs::recursive_directory_iterator(data))
             if (!entry.is_directory())
-                files[entry.path().lexically_relative(data)] = test::contentOf(entry.path());
+                files[entry.path().lexically_relative(data)] = contentOf(entry.path());
         return files;
     }
 
-    test::TemporaryFolder root;
+    TemporaryFolder root;
     fs::path share = root / "usr/share/tessaly-data";
     fs::path bin = root / "usr/bin";
     fs::path data = root / "home/data";
@@ -114,10 +108,9 @@ TEST_F(ProgramFolderTest, TheFirstStartCopiesWhatIsShippedAndLaterOnesRenewThePr
     put(userFolder / "puzzles/easy.txt", "my progress");
     fs::remove(userFolder / "all.col");
     put(share / "puzzles/hard.txt", "new library");
-    // Neither files nor folders need to look newer: some systems give all the same time.
+    // Files need not look newer: some systems give all the same time.
     put(share / "hexabinx.txt", "second release");
-    for (const fs::path& old : {share / "hexabinx.txt", userFolder / "puzzles/easy.txt"})
-        fs::last_write_time(old, fs::last_write_time(old) - std::chrono::hours(1000));
+    fs::last_write_time(share / "hexabinx.txt", fs::file_time_type::min());
     put(share / "tessaly.htm", "new page");
     fs::create_directory(share / "manual");
     put(share / "manual/side.png", "new drawing");
@@ -133,8 +126,10 @@ TEST_F(ProgramFolderTest, TheFirstStartCopiesWhatIsShippedAndLaterOnesRenewThePr
 TEST_F(ProgramFolderTest, AFirstStartThatFailsSaysWhyAndLeavesNothingBehind) {
     int flushes = 0;
     {
-        const test::FileCalls calls(
-            [&](std::string_view name, int) { return flushes += name == "fsync" ? 1 : 0, 0; });
+        const auto count = [&](std::string_view name, int) {
+            return flushes += name == "fsync", 0;
+        };
+        const FileCalls calls(count);
         ASSERT_EQ(found(), Found);
     }
     // The last two flush the filled folder and the one that it lies in.
@@ -144,7 +139,7 @@ TEST_F(ProgramFolderTest, AFirstStartThatFailsSaysWhyAndLeavesNothingBehind) {
                                              {"fsync", flushes - 2, "home/data/.tessaly.new"},
                                              {"fsync", flushes - 1, "home/data/tessaly"}}) {
         fs::remove_all(userFolder);
-        const test::FileCalls calls(test::failing(call, ENOSPC, first));
+        const FileCalls calls(failing(call, ENOSPC, first));
         const std::string answer = found();
         EXPECT_TRUE(answer.starts_with(std::string(place) + ": ") &&
                     answer.ends_with(": No space left on device"))
@@ -156,21 +151,14 @@ TEST_F(ProgramFolderTest, AFirstStartThatFailsSaysWhyAndLeavesNothingBehind) {
     fs::create_directory(share / "tessaly.htm");
     EXPECT_TRUE(found().starts_with("usr/share/tessaly-data/tessaly.htm: ")) << found();
     fs::remove(share / "tessaly.htm");
-    fs::rename(share / "hexabinx.txt", root / "aside");
+    fs::remove(share / "hexabinx.txt");
     EXPECT_TRUE(found().starts_with("usr/share/tessaly-data/hexabinx.txt: ")) << found();
     EXPECT_TRUE(fs::is_empty(data));
-    fs::rename(root / "aside", share / "hexabinx.txt");
-    EXPECT_EQ(found(), Found);
-
-    fs::remove_all(userFolder);
     put(userFolder, "a file");
     EXPECT_EQ(found(), "home/data/tessaly: is no folder");
     fs::remove(userFolder);
     fs::create_symlink(userFolder, userFolder);
     EXPECT_EQ(found(), "home/data/tessaly: cannot be examined: Too many levels of symbolic links");
-    fs::remove_all(root / "home");
-    put(root / "home", "a file");
-    EXPECT_TRUE(found().starts_with("home")) << found();
     // Where not even the system administrator can make a folder.
     sources.dataHome = "/proc";
     EXPECT_TRUE(found().starts_with("/proc/.tessaly.new: cannot be created: ")) << found();

@@ -61,18 +61,6 @@ TEST(Deduction, EveryRuleAndLoopAgreesWithThePlainReading) {
         EXPECT_GT(count, 50) << what;
 }
 
-TEST(Deduction, TheOwnerSeesTheBoardBeforeEveryPass) {
-    Chance chance(2);
-    Board board = sampleBoard(Sample::Puzzle, chance);
-    const Board start = board;
-    std::vector<Grid<std::string>> seen;
-    SolveByDeduction(board, [&] { seen.push_back(board.CellNum); });
-    ASSERT_GT(seen.size(), 2U);
-    EXPECT_EQ(seen.front(), start.CellNum);
-    EXPECT_NE(seen[1], start.CellNum);
-    EXPECT_EQ(seen.back(), board.CellNum) << "the last pass changes nothing";
-}
-
 TEST(Deduction, OpenCellsAreThoseOfSeveralCandidates) {
     Board board;
     EXPECT_EQ(countOpenCells(board), 0);

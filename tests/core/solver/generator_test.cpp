@@ -1,14 +1,18 @@
-#include "core/solver/generator.h"
+// From chance over a filling to a puzzle.
 
 #include "core/board/tables.h"
+#include "core/solver/chance.h"
+#include "core/solver/generator.h"
 #include "core/solver/puzzle_audit.h"
 #include "core/solver/puzzle_draft.h"
+#include "core/solver/search_fill.h"
+
 #include "support/sample_boards.h"
 #include "support/sample_puzzles.h"
 
-#include <gtest/gtest.h>
-
+#include <map>
 #include <set>
+#include <string>
 
 namespace tessaly {
 namespace {
@@ -30,12 +34,9 @@ TEST(Generator, FewCellsAreGivenAndEveryChoiceOfBlankHexagonComesUp) {
         for (const std::string& record : recordsOf(TESSALY_DATA "/puzzles/" + std::string(file))) {
             const Board board = boardOf(record);
             blanks.insert(board.BlankHex);
-            int givens = 0;
-            for (CellId cell : AllCells) {
-                givens += board.FixedCell[cell] && cell.hexagon != board.BlankHex ? 1 : 0;
-                EXPECT_TRUE(board.FixedCell[cell] || SideLink[cell]);
-            }
-            EXPECT_LE(givens, 45);
+            EXPECT_LE(
+                std::ranges::count_if(AllCells, [&](CellId cell) { return board.FixedCell[cell]; }),
+                45 + CellCount);
             EXPECT_FALSE(board.FixedCell[NeverGiven[0]] || board.FixedCell[NeverGiven[1]]);
         }
         EXPECT_EQ(blanks, (std::set<int>{5, 7, 8, 12, 13, 15}));
@@ -113,6 +114,46 @@ TEST(Generator, OneHalfOfTheDrawsIsEasy) {
         EXPECT_EQ(drawDifficulty(std::nullopt, chance), drawn) << number;
         EXPECT_EQ(drawDifficulty(Hard, chance), Hard);
     }
+}
+
+// That a complete table gives sound fillings is what puzzles promise.
+TEST(SearchFill, DrawsFromTheTableThatItIsGivenAndGivesUpWhenThatHasNoFilling) {
+    Chance chance(4);
+    std::vector<Arrangement> few = allArrangements();
+    std::erase_if(few, [](const Arrangement& digits) { return digits[0] == digits[3] % 6 + 1; });
+    HexagonWords cells{};
+    EXPECT_TRUE(SearchFill(few).fill(cells, chance).filled);
+    Grid<std::string> digits;
+    unpackChanges({}, cells, digits);
+    for (int hexagon = 1; hexagon <= HexagonCount; ++hexagon)
+        EXPECT_NE(std::stoi(digits[hexagon][1]), std::stoi(digits[hexagon][4]) % 6 + 1);
+    for (CellId cell : AllCells)
+        EXPECT_EQ(digits[cell], digits[SideLink[cell] ? SideLink[cell] : cell]);
+
+    for (std::size_t size : {0, 1, 3}) {
+        const FillResult result = SearchFill(std::span(few).first(size)).fill(cells, chance);
+        EXPECT_FALSE(result.filled);
+        EXPECT_EQ(result.attempts, SearchFill::MaxAttempts);
+        EXPECT_EQ(cells[19], 0U) << "cells are left open";
+    }
+}
+
+// That a seed gives the same numbers on every machine is the engine's signature.
+TEST(Chance, WhateverIsDrawnIsEquallyLikely) {
+    EXPECT_NE(Chance::freshSeed(), Chance::freshSeed());
+    Chance chance(3);
+    std::map<std::string, double> counts;
+    for (int i = 0; i < 48'000; ++i) {
+        std::string order = "abcd";
+        chance.shuffle(order);
+        counts[order] += 24;
+        // Of three quarters of the range every fourth number must be drawn again, or a third of
+        // them would come twice as often.
+        counts[std::to_string(chance.below(3U << 30) % 3)] += 3;
+    }
+    EXPECT_EQ(counts.size(), 24U + 3U);
+    for (const auto& [kind, count] : counts)
+        EXPECT_NEAR(count, 48'000, 4'000) << kind;
 }
 
 } // namespace

@@ -4,8 +4,6 @@
 #include "core/solver/step_sentence.h"
 #include "support/sample_puzzles.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 
 namespace tessaly::manual {
@@ -54,7 +52,7 @@ TEST(ManualExamples, AreShippedPuzzlesAndAsTheManualTellsThem) {
     for (const auto& row : rows)
         EXPECT_EQ(all[row.example].board.CellNum[row.cell], row.entry);
 
-    std::string manual = test::contentOf(TESSALY_DATA "/tessaly.htm");
+    std::string manual = contentOf(TESSALY_DATA "/tessaly.htm");
     std::ranges::replace(manual, '\n', ' ');
     constexpr std::array ReasonOf{Reason::Across, Reason::Cell, Reason::Place, Reason::Xcell};
     constexpr int Corner = 8;

@@ -6,8 +6,6 @@
 #include "support/sample_boards.h"
 #include "support/sample_puzzles.h"
 
-#include <gtest/gtest.h>
-
 #include <cstdlib>
 #include <set>
 #include <sstream>

@@ -10,8 +10,6 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr PaperSize A4 = NamedPapers[0].size;
-
 Outcome sample(int number, Board& board) {
     static const auto Hard = sampleRecords("hard.txt");
     static const auto Easy = sampleRecords("easy.txt");
@@ -20,14 +18,10 @@ Outcome sample(int number, Board& board) {
 }
 
 struct PdfFile : testing::Test {
-    bool print(const PrintJob& job, PaperSize paper) {
-        return writePdf(path, paper, job, appearance, [](int) { return true; }).isComplete();
-    }
     /// Reads the words of a page from then on.
     void turnTo(int page) {
         words = PdfDocument(path).words(page);
-        std::sort(words.begin(), words.end(),
-                  [](const auto& a, const auto& b) { return a.box.left() < b.box.left(); });
+        std::ranges::sort(words, {}, [](const auto& word) { return word.box.left(); });
     }
     /// What the page says in an area, on one line.
     QString textIn(const QRectF& area) const {
@@ -43,12 +37,12 @@ struct PdfFile : testing::Test {
         const Point onBoard = numberCentre(cell);
         const QPointF centre(area.left + (onBoard.x - BoardExtent.left) * scale,
                              area.top + (onBoard.y - BoardExtent.top) * scale);
-        const auto word = std::find_if(words.begin(), words.end(),
-                                       [&](const auto& each) { return each.box.contains(centre); });
+        const auto word = std::ranges::find_if(
+            words, [&](const auto& each) { return each.box.contains(centre); });
         return word == words.end() ? std::string() : word->text.toStdString();
     }
 
-    test::TemporaryFolder folder;
+    TemporaryFolder folder;
     std::filesystem::path path = folder / "out.pdf";
     Appearance appearance;
     std::vector<PdfDocument::Word> words;
@@ -61,12 +55,17 @@ TEST_F(PdfFile, HoldsEveryNumberCaptionAndFooterOnEitherPaper) {
         SCOPED_TRACE(testing::Message() << paper << ", " << perPage << " a page");
         const PaperSize size = NamedPapers.at(static_cast<std::size_t>(paper)).size;
         const Booklet booklet(Count, {{false, perPage}, {true, SolutionsPerPage}});
-        ASSERT_TRUE(print({booklet, First, sample, "Sample"}, size));
+        appearance.NumberFont = perPage == 4 ? "no such font" : "Liberation Sans";
+        const PrintJob job{booklet, First, sample, "Sample"};
+        ASSERT_TRUE(writePdf(path, size, job, appearance, [](int) { return true; }).isComplete());
         const PdfDocument pdf(path);
         ASSERT_EQ(pdf.pageCount(), (Count + perPage - 1) / perPage + 1);
         EXPECT_TRUE(
             pdf.info(u"Page size"_s).startsWith(paper == 0 ? u"595 x 842"_s : u"612 x 792"_s));
         EXPECT_EQ(pdf.info(u"Title"_s), u"Sample");
+        EXPECT_GE(pdf.fonts().size(), 2) << "a regular and a bold one";
+        for (const QString& line : pdf.fonts())
+            EXPECT_TRUE(line.contains(u" yes "_s)) << "it holds " << line.toStdString();
         for (int number = 1; number <= pdf.pageCount(); ++number) {
             const BookletPage page = booklet.page(number - 1);
             const PageLayout layout(size, page.part.boardsPerPage);
@@ -91,28 +90,6 @@ TEST_F(PdfFile, HoldsEveryNumberCaptionAndFooterOnEitherPaper) {
                 EXPECT_EQ(textIn(corner), QString::fromUtf8(board.DifName()));
             }
         }
-    }
-}
-
-TEST_F(PdfFile, DrawsEntriesAndMarksAsTheyStandInFontsThatItHolds) {
-    const auto played = [](int number, Board& board) {
-        Outcome read = sample(number, board);
-        board.CellNum[10][1] = "4";
-        board.CellNum[10][4] = "246";
-        return read;
-    };
-    for (const char* font : {"Liberation Sans", "no such font"}) {
-        appearance.NumberFont = font;
-        ASSERT_TRUE(print({Booklet(1, {{false, 1}}), 1, played, {}}, A4));
-        turnTo(1);
-        EXPECT_EQ(textAt(PageLayout(A4, 1).boardArea(0), {10, 1}), "4");
-        EXPECT_EQ(std::count_if(words.begin(), words.end(),
-                                [](const auto& word) { return word.text == u"246"; }),
-                  1);
-        const QStringList fonts = PdfDocument(path).fonts();
-        EXPECT_GE(fonts.size(), 2) << "a regular and a bold one";
-        for (const QString& line : fonts)
-            EXPECT_TRUE(line.contains(u" yes "_s)) << line.toStdString();
     }
 }
 

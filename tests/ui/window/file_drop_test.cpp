@@ -45,7 +45,6 @@ TEST_F(FileDropTest, APuzzleFileIsLoadedWhateverItsName) {
     game.session.puzzle = {};
     EXPECT_TRUE(dropped({"file://localhost" + QByteArray::fromStdString(easy)}));
     EXPECT_EQ(game.session.puzzle.PuzPath, easy);
-    EXPECT_FALSE(game.find<QLineEdit>(u"PuzNumNow"_s).acceptDrops());
 }
 
 TEST_F(FileDropTest, WhatIsNotOneFileOfThisComputerIsRefused) {

@@ -36,8 +36,6 @@ TEST_F(ShortcutsTest, EveryCommandHasKeysOfItsOwnThatTheBoardDoesNotTake) {
         else
             EXPECT_TRUE(taken.contains(button->shownKeys().front().toString()));
     }
-    EXPECT_EQ(game.find<BoxControl>(u"cmdallpencil"_s).toolTipWithKeys(),
-              u"Display All Pencilmarks; rightclick to clear\nF6; Shift+F6"_s);
 }
 
 TEST_F(ShortcutsTest, TheKeysDoWhatTheControlsDo) {

@@ -1,7 +1,6 @@
 #include "ui/window/window_commands.h"
 
 #include "core/board/puzzle_record.h"
-#include "ui/controls/run_progress_bar.h"
 #include "ui/game_window.h"
 #include "ui/window/developer_row.h"
 #include "ui/window/file_drop.h"
@@ -36,10 +35,6 @@ struct WindowCommandsTest : testing::Test {
         QTest::mouseClick(&find(developer, developersButton), with);
     }
     std::string said() { return game.lastPrompt().text; }
-    void choose(const QString& item, const std::string& path) {
-        game.fileDialogs.add(QString::fromStdString(path));
-        game.choose(item);
-    }
 
     GameWindow game{"hard.txt", 3, nullptr, true};
     DeveloperRow& developer = *game.window->findChild<DeveloperRow*>();
@@ -76,9 +71,8 @@ TEST(OfferedCommands, AreThoseThatMakeSenseNow) {
         }
         return names;
     };
-    const QStringList ofPuzzles{u"cmdreset"_s,   u"cmdallpencil"_s, u"StatLab"_s,
-                                u"mnuclipsol"_s, u"mnusavex"_s,     u"mnuprintx_2"_s,
-                                u"cmdarrow_1"_s, u"PuzNumNow"_s,    u"mnudelete"_s};
+    const QStringList ofPuzzles{u"cmdreset"_s,    u"StatLab"_s,    u"mnuclipsol"_s, u"mnusavex"_s,
+                                u"mnuprintx_2"_s, u"cmdarrow_1"_s, u"PuzNumNow"_s,  u"mnudelete"_s};
     EXPECT_EQ(offered(ofPuzzles), QStringList());
     game.load("easy.txt");
     EXPECT_EQ(offered(ofPuzzles), ofPuzzles);
@@ -100,35 +94,32 @@ TEST_F(WindowCommandsTest, PuzzlesAreSavedToAndDeletedFromFilesWhateverTheirName
     const std::string saved = PuzzleRecord(board) + "\r\n";
     for (const char* name : {"\"q\" & 'b'.dat", "line\nfeed.txt", "ü 50%.txt"}) {
         const std::string path = game.folder.path() + name;
-        choose(u"mnusavex"_s, path);
+        game.fileDialogs.add(QString::fromStdString(path));
+        game.choose(u"mnusavex"_s);
         EXPECT_EQ(said(), "Puzzle#1 added to file " + path);
         game.choose(u"mnusaveto"_s);
-        EXPECT_EQ(test::contentOf(path), saved + saved);
+        EXPECT_EQ(contentOf(path), saved + saved);
         EXPECT_EQ(game.text(u"PuzFileName"_s) + game.number(), QString::fromUtf8(name) + u'2');
         game.prompts.answers = {answer::Yes};
         game.choose(u"mnudelete"_s);
-        EXPECT_EQ(test::contentOf(path), saved);
+        EXPECT_EQ(contentOf(path), saved);
     }
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
-    choose(u"mnuload"_s, game.folder.puzzles("easy.txt"));
-    for (const FileQuestion& asked : game.fileDialogs.asked) {
-        EXPECT_EQ(asked.folder.toStdString(), game.folder.path());
-        EXPECT_EQ(asked.kind, u"Tessaly Files (*.txt;*.dat;*.tessaly)"_s);
-        EXPECT_EQ(asked.title, asked.saving ? u"Select an output Puzzle file"_s
-                                            : u"Select a Puzzle file to open"_s);
-    }
+    const FileQuestion& asked = game.fileDialogs.asked.back();
+    EXPECT_EQ(asked.folder.toStdString(), game.folder.path());
+    EXPECT_EQ(asked.title + asked.kind,
+              u"Select an output Puzzle fileTessaly Files (*.txt;*.dat;*.tessaly)"_s);
+    EXPECT_TRUE(asked.saving);
 }
 
 TEST_F(WindowCommandsTest, SixFilesLeaveTheFiveLatestInTheMenu) {
     const auto item = [this](const QString& name) {
-        const auto& action = game.find<QAction>(name);
-        return action.isVisible() ? action.text().section(u'/', -1) : u"hidden"_s;
+        return game.find<QAction>(name).text().section(u'/', -1);
     };
     for (const char* name : {"1", "2", "3", "4", "5", "6"})
         game.window->files().load(game.folder.puzzles("easy.txt", name + std::string(" & co.txt")));
     for (int i = 0; i < 5; ++i)
         EXPECT_EQ(item(u"oldfiles_%1"_s.arg(i)), u"%1 && co.txt"_s.arg(6 - i));
-    EXPECT_EQ(item(u"oldfiles_5"_s), QString()) << "the separator";
     game.choose(u"oldfiles_3"_s);
     EXPECT_EQ(game.text(u"PuzFileName"_s), u"3 & co.txt"_s);
     EXPECT_EQ(item(u"mnusaveto"_s), u"3 && co.txt"_s);
@@ -154,23 +145,6 @@ TEST_F(WindowCommandsTest, TheDevelopersButtonsReachTheirCommands) {
         press(name);
         EXPECT_NE(said().find(file), std::string::npos) << "there is no such file: " << said();
     }
-}
-
-TEST_F(WindowCommandsTest, ALongRunShowsABarAndClosingTheWindowEndsIt) {
-    std::string records;
-    for (int i = 0; i < 20000; ++i)
-        records += PuzzleRecord(board) + "\r\n";
-    test::put(game.folder.path() + "addnew.txt", records);
-    auto& bar = *game.window->findChild<RunProgressBar*>();
-    bool seen = false;
-    QTimer::singleShot(0, game.window.get(), [&] {
-        seen = bar.isVisible() && bar.maximum() == 20000;
-        game.window->close();
-    });
-    press(u"Command1"_s);
-    EXPECT_TRUE(seen && game.prompts.shown.empty());
-    EXPECT_TRUE(bar.isHidden());
-    EXPECT_FALSE(std::filesystem::exists(game.folder.path() + "addnewr.txt"));
 }
 
 } // namespace

@@ -1,12 +1,14 @@
 #pragma once
 
+#include "support/temporary_folder.h"
 #include "ui/controls/file_name_picker.h"
-
-#include <gtest/gtest.h>
+#include "ui/output/printers.h"
 
 #include <QList>
 
 #include <functional>
+#include <optional>
+#include <vector>
 
 namespace tessaly {
 
@@ -42,6 +44,39 @@ private:
     }
 
     QList<QString> m_names;
+};
+
+/// The printers of a test's own machine: none at first. What is printed is kept.
+class ScriptedPrinters : public Printers {
+public:
+    struct Printed {
+        QString name;
+        QString title;
+        std::string pdf;
+        QStringList options;
+    };
+
+    QStringList names() const override { return installed; }
+    QString defaultName() const override { return usual; }
+    PaperSize paperOf(const QString&) const override { return paper; }
+    Outcome print(const QString& name, const std::filesystem::path& pdf, const QString& title,
+                  const SheetSettings& sheets) override {
+        printed.push_back({name, title, contentOf(pdf), sheets.options()});
+        return answer;
+    }
+    std::optional<PrintTarget> setUp(const PrintQuestion&, QWidget*) override {
+        ++asked;
+        return chosen;
+    }
+
+    QStringList installed;
+    QString usual;
+    PaperSize paper = NamedPapers[0].size;
+    Outcome answer;
+    std::vector<Printed> printed;
+    /// What the user sets up in the platform's dialog; nobody is there at first.
+    std::optional<PrintTarget> chosen;
+    int asked = 0;
 };
 
 } // namespace tessaly
