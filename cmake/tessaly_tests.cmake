@@ -10,10 +10,6 @@ function(tessaly_add_program name)
     ${name} PRIVATE TESSALY_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data"
                     TESSALY_DATA="${PROJECT_SOURCE_DIR}/data")
   target_link_libraries(${name} PRIVATE tessaly_flags ${ARG_LIBRARIES})
-  # What a sanitizer looks into is the program; to optimise its tests only costs a compiler's time.
-  if(TESSALY_SANITIZE)
-    target_compile_options(${name} PRIVATE -O0)
-  endif()
 endfunction()
 
 # Adds a program of GoogleTest's; every test of it becomes one of CTest's.
