@@ -1,6 +1,6 @@
 // Does one operation on files, so that a tracer can hurt it, and judges what came of it:
 //
-//     tessaly_faults make RECORDS FOLDER             fills a folder; -1 makes no puzzle file
+//     tessaly_faults make RECORDS OPERATION FOLDER   fills a folder; -1 makes no puzzle file
 //     tessaly_faults OPERATION FOLDER                fails with a message, or has done it
 //     tessaly_faults judge OPERATION BEFORE AFTER WORK SAID
 
@@ -16,13 +16,21 @@ namespace tessaly::faults {
 namespace {
 
 Outcome run(const std::vector<std::string>& words) {
-    if (words.size() == 3 && words[0] == "make")
-        return Scene{words[2]}.make(std::stoi(words[1]));
+    const bool makes = words.size() == 4 && words[0] == "make";
     const bool judges = words.size() == 6 && words[0] == "judge";
-    const auto operation =
-        std::ranges::find(operations(), words.at(judges ? 1 : 0), &Operation::name);
-    if (operation == operations().end() || (!judges && words.size() != 2))
+    const auto operation = std::ranges::find(operations(),
+                                             words.at(makes    ? 2
+                                                      : judges ? 1
+                                                               : 0),
+                                             &Operation::name);
+    if (operation == operations().end() || (!makes && !judges && words.size() != 2))
         return Outcome::failed("wrong usage");
+    if (makes) {
+        const Scene scene{words[3]};
+        Outcome made = scene.make(std::stoi(words[1]));
+        operation->prepare(scene);
+        return made;
+    }
     if (judges) {
         std::string left;
         Outcome judged =

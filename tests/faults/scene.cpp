@@ -5,9 +5,11 @@
 #include "core/session/configuration.h"
 #include "core/solver/library_tools.h"
 
+#include "support/core_fakes.h"
 #include "support/sample_puzzles.h"
 
 #include <algorithm>
+#include <fstream>
 #include <functional>
 #include <optional>
 #include <set>
@@ -28,6 +30,35 @@ Outcome deletePuzzle(const Scene& scene) {
     return store.DeletePuzzle(scene.puzzles, number, record);
 }
 
+/// What "Save to" does, with every box that it shows for an answer unless all is well.
+Outcome saveTo(const Scene& scene) {
+    Session session;
+    session.ProgramFolder = scene.program;
+    RecordingDisplay display;
+    ScriptedPrompts prompts;
+    PlayCommands play(session.game, session.appearance, display, prompts);
+    BoardInput input(session.game, session.busy, play, display);
+    PuzzleFileCommands commands(session, input, display, prompts,
+                                [&](auto, auto) { return scene.puzzles; });
+    session.game.board = boardOf(newRecord());
+    session.puzzle.PuzNum = 1;
+    commands.mnusavex();
+    const std::string told = prompts.told();
+    const bool isWell = told.find("critical") == std::string::npos;
+    return isWell ? Outcome::done() : Outcome::failed(told);
+}
+
+/// A start with a configuration that cannot be understood, and the Exit after it.
+Outcome replaceDamaged(const Scene& scene) {
+    Session session;
+    session.ProgramFolder = scene.program;
+    const LoadedSession loaded = loadSession(session);
+    if (!loaded.outcome.ok())
+        return loaded.outcome;
+    session.puzzle.PuzNum = 2;
+    return session.configurationIsUnread ? Outcome::failed(loaded.notice) : SavecfgFile(session);
+}
+
 Outcome saveConfiguration(const Scene& scene, int puzzle) {
     Configuration configuration;
     configuration.PuzNum = puzzle;
@@ -42,8 +73,9 @@ std::optional<std::string> contentOf(const fs::path& path) {
 bool hasLitter(const Scene& scene) {
     // The new schemes are written there first, and stay.
     const fs::path schemesCopy = scene.program / "newall.cox";
-    const std::set<fs::path> known{scene.puzzles,   scene.configuration, scene.folder / "program",
-                                   scene.temporary, scene.schemes,       schemesCopy};
+    const std::set<fs::path> known{
+        scene.puzzles, scene.configuration, scene.program.parent_path(), scene.temporary,
+        scene.schemes, schemesCopy,         scene.arrangements,          scene.damaged};
     const fs::recursive_directory_iterator entries(scene.folder);
     return std::any_of(begin(entries), end(entries),
                        [&](const auto& entry) { return !known.contains(entry.path()); });
@@ -58,7 +90,9 @@ Outcome startAgain(const Scene& scene) {
     Board board;
     int count = 0;
     int number = 0;
-    const auto left = contentOf(scene.puzzles);
+    auto left = contentOf(scene.puzzles);
+    if (left) // what was torn counts for nothing
+        left->resize(left->rfind('\n') + 1);
     const std::string record = recordNumbered(7);
     for (const std::function<Outcome()>& step : std::initializer_list<std::function<Outcome()>>{
              [&] { return left ? files.CountLines(scene.puzzles, count) : Outcome::done(); },
@@ -102,6 +136,10 @@ const std::vector<Operation>& operations() {
          [](S scene) { return PuzzleStore().appendPuzzles(scene.puzzles, newRecord() + "\r\n"); }},
         {"replace", &Scene::puzzles,
          [](S scene) { return PuzzleStore().WritePuzzle(scene.puzzles, 1, boardOf(newRecord())); }},
+        {"torn", &Scene::puzzles,
+         [](S scene) { return PuzzleStore().appendPuzzles(scene.puzzles, newRecord() + "\r\n"); },
+         [](S scene) { std::ofstream(scene.puzzles, std::ios::app) << newRecord().substr(0, 80); }},
+        {"saveto", &Scene::puzzles, saveTo},
         {"delete", &Scene::puzzles, deletePuzzle},
         {"temporary", &Scene::temporary,
          [](S scene) {
@@ -111,6 +149,12 @@ const std::vector<Operation>& operations() {
          [](S scene) { return PuzzleStore().DeletePuzzle(scene.temporary, 1, recordNumbered(1)); }},
         {"configuration", &Scene::configuration,
          [](S scene) { return saveConfiguration(scene, 2); }},
+        {"damaged", &Scene::configuration, replaceDamaged,
+         [](S scene) {
+             put(scene.configuration, "no number\n");
+             fs::create_symlink(TESSALY_DATA "/hexabinx.txt", scene.arrangements);
+         },
+         true},
         // The variants go to the very file that they are made of.
         {"expand", &Scene::puzzles,
          [](S scene) {
@@ -150,6 +194,8 @@ Outcome judge(const Operation& operation, const Scene& before, const Scene& afte
         if (isDone && !isNew)
             return Outcome::failed("said to be done, but it is not");
         left = isOld ? "old" : "new";
+        if (!isOld && contentOf(work.damaged) != contentOf(after.damaged))
+            return Outcome::failed("what was damaged is not kept");
     }
     if (hasLitter(work))
         left += ", litter";

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "core/base/outcome.h"
+#include "core/board/arrangements.h"
 #include "core/board/puzzle_store.h"
+#include "core/session/program_folder.h"
 
 #include <filesystem>
 #include <string>
@@ -20,6 +22,9 @@ struct Scene {
     fs::path configuration = program / "tessaly.cfg";
     fs::path schemes = program / "all.col";
     fs::path temporary = program / TemporaryPuzzleFile;
+    fs::path arrangements = program / ArrangementFile;
+    /// What is kept of a configuration that could not be understood.
+    fs::path damaged = configuration.native() + DamagedExtension;
 
     /// Fills the folder. A count of -1 makes no puzzle file.
     Outcome make(int records) const;
@@ -31,6 +36,10 @@ struct Operation {
     /// The file that it writes.
     fs::path Scene::*target;
     Outcome (*work)(const Scene& scene);
+    /// What the folder needs before.
+    void (*prepare)(const Scene& scene) = [](const Scene&) {};
+    /// Tried by `script/faults` only.
+    bool isSlow = false;
 };
 
 const std::vector<Operation>& operations();

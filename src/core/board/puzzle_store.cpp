@@ -199,7 +199,9 @@ Outcome PuzzleStore::appendOnce(const fs::path& path, std::string_view wholeLine
         return appended;
     // What the index misses it reads when it is asked next; the lines are saved already.
     static_cast<void>(m_index.updateAppended(file.file()).ok());
-    return file.checkNamed(standsThere);
+    if (!file.checkNamed(standsThere).ok())
+        return fileProblem(path, "was saved, but cannot be examined");
+    return Outcome::done();
 }
 
 /// The new lines stand behind the last record, where they get their numbers.

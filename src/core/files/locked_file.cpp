@@ -297,7 +297,13 @@ Outcome FilePlace::find(const std::filesystem::path& path, FilePlace& place) {
 /// Closing alone would do, were the file not open in a forked child too.
 void LockedFile::unlock() {
     releaseLock(m_file.isOpen() ? m_file : m_place.folder);
+    m_lockFile.release();
     m_file.close();
+}
+
+LockAnswer LockedFile::takeLockOf(const FileDescriptor& file) {
+    const LockAnswer answer = takeLock(file);
+    return answer == LockAnswer::Unknown ? m_lockFile.take(m_place.folder, m_place.name) : answer;
 }
 
 Outcome LockedFile::lock(const std::filesystem::path& path, const LockWait& wait) {
@@ -319,6 +325,7 @@ Outcome LockedFile::lock(const std::filesystem::path& path, const LockWait& wait
 bool LockedFile::attempt(Outcome& outcome) {
     constexpr int Flags = O_RDWR | O_APPEND | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
     const std::filesystem::path path = m_place.path;
+    m_lockFile.release();
     m_file = FileDescriptor(retried([&] { return ::open(path.c_str(), Flags); }));
     if (!m_file.isOpen() && errno != ENOENT)
         outcome = fileProblem(path, CannotBeWritten);
@@ -333,7 +340,7 @@ bool LockedFile::attemptFile(Outcome& outcome) {
     outcome = checkRegular(m_file, m_place.path);
     if (!outcome.ok())
         return true;
-    const LockAnswer answer = takeLock(m_file);
+    const LockAnswer answer = takeLockOf(m_file);
     if (answer == LockAnswer::Failed)
         outcome = fileProblem(m_place.path, "cannot be locked");
     if (answer == LockAnswer::Failed || answer == LockAnswer::Busy)
@@ -351,7 +358,7 @@ bool LockedFile::attemptFile(Outcome& outcome) {
 }
 
 bool LockedFile::attemptFolder(Outcome& outcome) {
-    const LockAnswer answer = takeLock(m_place.folder);
+    const LockAnswer answer = takeLockOf(m_place.folder);
     if (answer == LockAnswer::Failed)
         outcome = fileProblem(m_place.path, "its folder cannot be locked");
     if (answer == LockAnswer::Failed || answer == LockAnswer::Busy)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/files/file_descriptor.h"
+#include "core/files/lock_file.h"
 
 #include <string>
 #include <string_view>
@@ -64,10 +65,13 @@ private:
     bool attempt(Outcome& outcome);
     bool attemptFile(Outcome& outcome);
     bool attemptFolder(Outcome& outcome);
+    LockAnswer takeLockOf(const FileDescriptor& file);
     Outcome takeBack(std::string_view addition, Outcome problem) const;
 
     FilePlace m_place;
     FileDescriptor m_file;
+    /// Where the file system knows no locks.
+    LockFile m_lockFile;
     FileState m_state;
 };
 

@@ -2,11 +2,13 @@
 
 #include "core/board/puzzle_record.h"
 
+#include "support/file_calls.h"
 #include "support/process.h"
 #include "support/sample_puzzles.h"
 #include "support/temporary_folder.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <map>
 #include <set>
 
@@ -159,7 +161,10 @@ TEST_F(PuzzleStoreTest, DeletingTakesTheLineThatIsShownAndKeepsEveryOtherByte) {
     EXPECT_EQ(contentOf(path), "");
 }
 
-TEST_F(PuzzleStoreTest, TwoInstancesLoseAndTearNoRecord) {
+class TwoInstances : public PuzzleStoreTest, public testing::WithParamInterface<int> {};
+INSTANTIATE_TEST_SUITE_P(LocksAnswering, TwoInstances, testing::Values(0, ENOLCK));
+
+TEST_P(TwoInstances, LoseAndTearNoRecord) {
     const char* const asked = std::getenv("TESSALY_ROUNDS"); // script/faults asks for more
     const int rounds = asked ? std::stoi(asked) : 100;
     std::set<std::string> expected;
@@ -169,6 +174,8 @@ TEST_F(PuzzleStoreTest, TwoInstancesLoseAndTearNoRecord) {
             expected.insert(recordNumbered(first + round));
         // Appends records and deletes every other one again.
         children.push_back(startChild([&] {
+            const FileCalls calls(
+                [](std::string_view name, int) { return name == "flock" ? GetParam() : 0; });
             for (int round = 0, number = 0; round < rounds; ++round) {
                 const std::string record = recordNumbered(first + round);
                 if (!store.appendPuzzle(path, record, number).ok())

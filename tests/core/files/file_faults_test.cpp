@@ -7,6 +7,7 @@
 
 #include "faults/scene.h"
 #include "support/file_calls.h"
+#include "support/process.h"
 #include "support/sample_puzzles.h"
 #include "support/temporary_folder.h"
 
@@ -32,10 +33,12 @@ void tryFaults(const faults::Operation& operation, int records) {
     const Scene before{folder / "before"}, after{folder / "after"}, work{folder / "work"};
     const auto renew = [&](const Scene& scene) {
         fs::remove_all(scene.folder);
-        fs::copy(before.folder, scene.folder, fs::copy_options::recursive);
+        fs::copy(before.folder, scene.folder,
+                 fs::copy_options::recursive | fs::copy_options::copy_symlinks);
         return [&] { return operation.work(scene); };
     };
     ASSERT_EQ(before.make(records).problem, "");
+    operation.prepare(before);
     int calls = 0;
     const auto count = [&](std::string_view, int) {
         ++calls;
@@ -71,7 +74,8 @@ TEST(FileFaults, NoFailingCallLosesOrTearsAnything) {
     const auto before = std::distance(fs::directory_iterator(open), {});
     for (const faults::Operation& operation : faults::operations())
         for (int records : {-1, 300})
-            tryFaults(operation, records);
+            if (!operation.isSlow)
+                tryFaults(operation, records);
     EXPECT_EQ(std::distance(fs::directory_iterator(open), {}), before);
 }
 
@@ -157,6 +161,33 @@ TEST_F(FileFaultsTest, TwoThatMakeOneFileWithoutLocksBothStandInIt) {
     EXPECT_EQ(problemWhile(failing("unlinkat", EIO), append), "");
     EXPECT_EQ(m_folder.names().size(), 2u) << "the new file has its scratch name too";
     EXPECT_EQ(append().problem, "");
+    EXPECT_EQ(m_folder.names().size(), 1u);
+}
+
+TEST_F(FileFaultsTest, WithoutLocksWhoWritesIsSeenInTheFolderUntilHeHasDied) {
+    const auto noLocks = failing("flock", ENOLCK, 0, 1000);
+    const LockWait notAtAll = [](const auto&, const auto& attempt) { return attempt(); };
+    const auto write = [&](const ContentSink& sink) {
+        EXPECT_EQ(replaceFile(file, "other", notAtAll).problem,
+                  told("is being written by another program"));
+        return sink.write("ours");
+    };
+    for (const std::string before : {"", "old"}) {
+        removed();
+        if (!before.empty())
+            put(file, before);
+        EXPECT_EQ(problemWhile(noLocks, [&] { return replaceFile(file, write); }), "");
+        EXPECT_EQ(contentOf(file), "ours");
+    }
+    const pid_t child = startChild([&] {
+        const FileCalls calls(noLocks);
+        LockedFile locked;
+        ::_exit(locked.lock(file).ok() ? 0 : 1);
+        return false;
+    });
+    ASSERT_TRUE(succeeded(child));
+    EXPECT_EQ(m_folder.names().size(), 2u);
+    EXPECT_EQ(problemWhile(noLocks, replacing("next")), "");
     EXPECT_EQ(m_folder.names().size(), 1u);
 }
 
