@@ -59,10 +59,11 @@ Outcome readSmallFile(const std::filesystem::path& path, std::size_t limit, std:
 }
 
 Outcome rewriteSmallFile(const std::filesystem::path& path, std::size_t limit,
-                         const std::function<Outcome(std::string& content)>& change) {
+                         const std::function<Outcome(std::string& content)>& change,
+                         const LockWait& wait) {
     LockedFile file;
     std::string content;
-    if (Outcome locked = file.lock(path); !locked.ok())
+    if (Outcome locked = file.lock(path, wait); !locked.ok())
         return locked;
     if (file.exists())
         if (Outcome read = readSmall(file.file(), path, limit, content); !read.ok())

@@ -31,7 +31,8 @@ Outcome readSmallFile(const std::filesystem::path& path, std::size_t limit, std:
 /// Changes what a small file holds now: `change` gets the content (empty when there is no file) and
 /// leaves the new one; a failure of its own leaves the file alone.
 Outcome rewriteSmallFile(const std::filesystem::path& path, std::size_t limit,
-                         const std::function<Outcome(std::string& content)>& change);
+                         const std::function<Outcome(std::string& content)>& change,
+                         const LockWait& wait = {});
 
 /// Makes the system's limit on the size of files a failure to write like any other, instead of the
 /// end of the process. For the start of a program.

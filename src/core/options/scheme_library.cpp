@@ -194,8 +194,9 @@ std::string schemeRecord(const std::string& header, const SchemeColours& colours
     return record;
 }
 
-SchemeLibrary::SchemeLibrary(std::filesystem::path programFolder)
-    : m_folder(std::move(programFolder)) {}
+SchemeLibrary::SchemeLibrary(std::filesystem::path programFolder, LockWait wait)
+    : m_folder(std::move(programFolder))
+    , m_wait(std::move(wait)) {}
 
 Outcome SchemeLibrary::RefreshSchemeList() {
     std::string content;
@@ -273,7 +274,7 @@ Outcome SchemeLibrary::rewrite(const std::function<Outcome(std::string& content)
         names = listNames(content);
         return changed;
     };
-    Outcome rewritten = rewriteSmallFile(library, SizeLimit, changeAndList);
+    Outcome rewritten = rewriteSmallFile(library, SizeLimit, changeAndList, m_wait);
     if (rewritten.ok())
         m_names = std::move(names);
     return rewritten;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/base/outcome.h"
+#include "core/files/file_descriptor.h"
 #include "core/options/appearance.h"
 
 #include <filesystem>
@@ -39,7 +40,8 @@ std::string schemeRecord(const std::string& header, const SchemeColours& colours
 /// not touch. When one fails, nothing is changed and its `Outcome` is the text for the user.
 class SchemeLibrary {
 public:
-    explicit SchemeLibrary(std::filesystem::path programFolder);
+    /// `wait` says how to wait for another program that is writing the library.
+    explicit SchemeLibrary(std::filesystem::path programFolder, LockWait wait = {});
 
     /// The listed names, without ".col", in the file's order, as of the last refresh or change.
     const std::vector<std::string>& names() const { return m_names; }
@@ -65,6 +67,7 @@ private:
     Outcome rewrite(const std::function<Outcome(std::string& content)>& change);
 
     std::filesystem::path m_folder;
+    LockWait m_wait;
     std::vector<std::string> m_names;
 };
 

@@ -2,6 +2,7 @@
 
 #include "core/base/run_progress.h"
 #include "core/board/board.h"
+#include "core/files/file_descriptor.h"
 #include "core/options/colour.h"
 #include "core/play/board_geometry.h"
 
@@ -72,6 +73,10 @@ public:
     /// `attempt` until it answers true, or the player gives up. Whether it did.
     virtual bool waitFor(const std::filesystem::path& path,
                          const std::function<bool()>& attempt) = 0;
+    /// The same, for who writes a file.
+    LockWait waiting() {
+        return [this](const auto& path, const auto& attempt) { return waitFor(path, attempt); };
+    }
 };
 
 } // namespace tessaly

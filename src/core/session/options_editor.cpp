@@ -54,9 +54,9 @@ std::string bareName(const std::string& file) {
 } // namespace
 
 OptionsEditor::OptionsEditor(Appearance& settings, std::filesystem::path programFolder,
-                             Prompts& prompts)
+                             Prompts& prompts, LockWait wait)
     : m_settings(settings)
-    , m_library(std::move(programFolder))
+    , m_library(std::move(programFolder), std::move(wait))
     , m_prompts(prompts)
     , m_samples(settings) {
     showSchemeInForce();

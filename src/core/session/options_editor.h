@@ -23,8 +23,10 @@ public:
     /// The buttons that give a sample the selected colour, by their index.
     enum ColourButton { FixedNumber, HexaFill, HexaBorder, UserNumber };
 
-    /// `settings` and `prompts` must outlive the editor.
-    OptionsEditor(Appearance& settings, std::filesystem::path programFolder, Prompts& prompts);
+    /// `settings` and `prompts` must outlive the editor. `wait` says how to wait for another
+    /// program that is writing the schemes.
+    OptionsEditor(Appearance& settings, std::filesystem::path programFolder, Prompts& prompts,
+                  LockWait wait = {});
 
     /// Called when the list of schemes was made anew, before the user is told why.
     void onNewList(std::function<void()> show) { m_showList = std::move(show); }

@@ -60,10 +60,7 @@ PuzzleFileCommands::PuzzleFileCommands(Session& session, BoardInput& input, Disp
     , m_display(display)
     , m_prompts(prompts)
     , m_chooseFile(std::move(chooseFile)) {
-    m_session.files = PuzzleStore([&display] { display.yield(); },
-                                  [&display](const auto& path, const auto& attempt) {
-                                      return display.waitFor(path, attempt);
-                                  });
+    m_session.files = PuzzleStore([&display] { display.yield(); }, display.waiting());
 }
 
 void PuzzleFileCommands::tellCritical(const std::string& text) {

@@ -113,9 +113,9 @@ PaperSize paperOf(const QPagedPaintDevice& device) {
 }
 
 PrintResult writePdf(const std::filesystem::path& path, PaperSize paper, const PrintJob& job,
-                     const Appearance& appearance, const GoOn& goOn) {
+                     const Appearance& appearance, const GoOn& goOn, const LockWait& wait) {
     PrintResult result;
-    const Outcome written = replaceFile(path, [&](const ContentSink& sink) {
+    const auto write = [&](const ContentSink& sink) {
         SinkDevice device(sink);
         {
             QPdfWriter writer(&device);
@@ -125,7 +125,8 @@ PrintResult writePdf(const std::filesystem::path& path, PaperSize paper, const P
         if (result.stopped)
             return Outcome::failed("stopped");
         return result.outcome.ok() ? device.finish() : result.outcome;
-    });
+    };
+    const Outcome written = replaceFile(path, write, wait);
     if (!result.stopped)
         result.outcome = written;
     return result;

@@ -55,6 +55,6 @@ PaperSize paperOf(const QPagedPaintDevice& device);
 /// Writes a booklet into a PDF file, with its fonts in it. The file is there, whole, when the
 /// result is complete; otherwise the path holds what it held before.
 PrintResult writePdf(const std::filesystem::path& path, PaperSize paper, const PrintJob& job,
-                     const Appearance& appearance, const GoOn& goOn);
+                     const Appearance& appearance, const GoOn& goOn, const LockWait& wait = {});
 
 } // namespace tessaly

@@ -88,14 +88,15 @@ PictureFormat pictureFormatOf(const std::filesystem::path& path) {
                                                                               : PictureFormat::Bmp;
 }
 
-Outcome writePicture(const std::filesystem::path& path, const QImage& picture,
-                     PictureFormat format) {
+Outcome writePicture(const std::filesystem::path& path, const QImage& picture, PictureFormat format,
+                     const LockWait& wait) {
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     if (!picture.save(&buffer, format == PictureFormat::Png ? "PNG" : "BMP"))
         return Outcome::failed(path.native() + ": the picture cannot be made");
-    return replaceFile(path, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
+    const std::string_view content{bytes.constData(), static_cast<std::size_t>(bytes.size())};
+    return replaceFile(path, content, wait);
 }
 
 bool isPictureDocument(const std::filesystem::path& path) {

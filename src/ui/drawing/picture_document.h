@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/base/outcome.h"
+#include "core/files/file_descriptor.h"
 #include "ui/drawing/board_picture.h"
 
 #include <filesystem>
@@ -15,8 +16,8 @@ enum class PictureFormat { Bmp, Png };
 PictureFormat pictureFormatOf(const std::filesystem::path& path);
 
 /// Writes a picture to a file, whole or not at all.
-Outcome writePicture(const std::filesystem::path& path, const QImage& picture,
-                     PictureFormat format);
+Outcome writePicture(const std::filesystem::path& path, const QImage& picture, PictureFormat format,
+                     const LockWait& wait = {});
 
 /// Whether a name ends in ".png", ".svg" or ".pdf", in any capitals.
 bool isPictureDocument(const std::filesystem::path& path);

@@ -51,9 +51,9 @@ int rowOf(std::optional<std::size_t> index) {
 } // namespace
 
 Form2x::Form2x(Appearance& settings, const std::filesystem::path& programFolder, Prompts& prompts,
-               QWidget* parent)
+               QWidget* parent, LockWait wait)
     : QDialog(parent)
-    , m_editor(settings, programFolder, prompts) {
+    , m_editor(settings, programFolder, prompts, std::move(wait)) {
     setObjectName(u"Form2x"_s);
     setWindowTitle(u"Tessaly Options"_s);
     setModal(true);

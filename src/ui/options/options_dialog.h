@@ -30,7 +30,7 @@ class Form2x : public QDialog {
 public:
     /// Both must outlive the dialog. `programFolder` holds the library of colour schemes.
     Form2x(Appearance& settings, const std::filesystem::path& programFolder, Prompts& prompts,
-           QWidget* parent = nullptr);
+           QWidget* parent = nullptr, LockWait wait = {});
 
     /// Shows the settings in force; the samples of an earlier use are dropped.
     void showOptions();

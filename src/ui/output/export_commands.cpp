@@ -50,9 +50,10 @@ void ExportCommands::mnucapwin() {
                                                         m_window.picker, m_window.prompts);
     if (path.empty())
         return;
-    const Outcome written = isOwnFile(m_session.ProgramFolder, path)
-                                ? Outcome::failed(path.native() + ": the program needs this file")
-                                : writePicture(path, picture, pictureFormatOf(path));
+    const Outcome written =
+        isOwnFile(m_session.ProgramFolder, path)
+            ? Outcome::failed(path.native() + ": the program needs this file")
+            : writePicture(path, picture, pictureFormatOf(path), m_window.display.waiting());
     if (written.ok())
         m_window.prompts.message(path.native(), "vbok");
     else

@@ -117,8 +117,8 @@ PrintResult PrintCommands::print(const PrintJob& job, const PrintTarget& target)
 
 PrintResult PrintCommands::write(const std::filesystem::path& pdf, PaperSize paper,
                                  const PrintJob& job) {
-    return writePdf(pdf, paper, job, m_session.appearance,
-                    [this](int page) { return m_window.progress.goOn(page); });
+    const auto goOn = [this](int page) { return m_window.progress.goOn(page); };
+    return writePdf(pdf, paper, job, m_session.appearance, goOn, m_window.display.waiting());
 }
 
 } // namespace tessaly

@@ -25,6 +25,7 @@
 
 #include <QApplication>
 #include <QLineEdit>
+#include <QProgressDialog>
 #include <QShortcut>
 #include <QTimer>
 #include <QToolTip>
@@ -61,6 +62,25 @@ void restoreWindowPlace(QWidget& window, const std::filesystem::path& programFol
         window.restoreGeometry(place);
 }
 
+/// Attempts something every now and then, as long as `goOn` says so, while the windows live.
+bool attemptInTurns(const std::function<bool()>& attempt, const std::function<bool()>& goOn) {
+    QTimer turns;
+    turns.start(Turn);
+    bool taken = false;
+    for (; !taken && goOn(); taken = attempt())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    return taken;
+}
+
+/// Waits where a box hides the message line and must not be used meanwhile.
+bool waitOver(QWidget& box, const std::string& text, const std::function<bool()>& attempt) {
+    QProgressDialog dialog(QString::fromStdString(text), u"Give Up"_s, 0, 0, &box);
+    dialog.setWindowTitle(u"Tessaly"_s);
+    dialog.setWindowModality(Qt::ApplicationModal);
+    dialog.show();
+    return attemptInTurns(attempt, [&] { return !dialog.wasCanceled(); });
+}
+
 } // namespace
 
 Form1::Form1(Session& session, Prompts& prompts, const FileDialog& fileDialog, Printers& printers)
@@ -75,7 +95,7 @@ Form1::Form1(Session& session, Prompts& prompts, const FileDialog& fileDialog, P
     , m_announcer(new Announcer(this))
     , m_developerRow(session.developer ? new DeveloperRow : nullptr)
     , m_picker(new FNDialog(fileDialog, prompts, this))
-    , m_options(new Form2x(session.appearance, session.ProgramFolder, prompts, this))
+    , m_options(new Form2x(session.appearance, session.ProgramFolder, prompts, this, waiting()))
     , m_help(new Form4(session.appearance, this))
     , m_about(new AboutForm(session.appearance, this))
     , m_commands(session, {this, m_worn, *this, prompts, fileDialog, *m_picker, printers}) {
@@ -249,16 +269,15 @@ void Form1::yield() {
 }
 
 bool Form1::waitFor(const std::filesystem::path& path, const std::function<bool()>& attempt) {
-    bool taken = attempt();
-    if (taken)
+    if (attempt())
         return true;
+    const std::string waiting = "Waiting for " + path.filename().native();
+    if (QWidget* box = QApplication::activeModalWidget())
+        return waitOver(*box, waiting, attempt);
     bool givenUp = false;
     const QShortcut escape(Qt::Key_Escape, this, [&givenUp] { givenUp = true; });
-    QTimer turns;
-    turns.start(Turn);
-    showMessage("Waiting for " + path.filename().native() + " (Escape gives up)");
-    for (; !taken && !givenUp && isVisible(); taken = attempt())
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    showMessage(waiting + " (Escape gives up)");
+    const bool taken = attemptInTurns(attempt, [&] { return !givenUp && isVisible(); });
     showMessage({});
     return taken;
 }
@@ -311,10 +330,7 @@ void Form1::cmdexit() {
     if (m_prompts.message("Exit?", "vbYesNo+vbquestion") != answer::Yes)
         return;
     const WhileSet saving(m_session.busy.commandRunning);
-    const auto wait = [this](const auto& path, const auto& attempt) {
-        return waitFor(path, attempt);
-    };
-    if (const Outcome saved = SavecfgFile(m_session, wait); !saved.ok())
+    if (const Outcome saved = SavecfgFile(m_session, waiting()); !saved.ok())
         m_prompts.message(saved.problem, "vbok+vbcritical");
     QApplication::closeAllWindows();
     QApplication::quit();
