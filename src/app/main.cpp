@@ -91,12 +91,14 @@ int run(const GameOptions& options) {
         startSession(session, sources, schemeLikeDesktop(QApplication::palette()), prompts);
     if (!loaded.outcome.ok())
         return EXIT_FAILURE;
+    const Outcome book = options.noBook ? Outcome::done() : openPlayBook(session);
     SystemPrinters printers;
     Form1 window(session, prompts, askPlatform, printers);
     if (!toPicture)
         window.show();
-    if (!loaded.notice.empty())
-        prompts.message(loaded.notice, Critical);
+    for (const std::string& notice : {loaded.notice, book.problem})
+        if (!notice.empty())
+            prompts.message(notice, Critical);
     const auto open = [&] { openPuzzle(options, session.last, window.files()); };
     if (!toPicture) {
         // Within the event loop, which ends when the window is closed while a large file is read.

@@ -38,7 +38,8 @@ Outcome saveTo(const Scene& scene) {
     ScriptedPrompts prompts;
     PlayCommands play(session.game, session.appearance, display, prompts);
     BoardInput input(session.game, session.busy, play, display);
-    PuzzleFileCommands commands(session, input, display, prompts,
+    PlayKeeping keeping(session, display, prompts);
+    PuzzleFileCommands commands(session, keeping, input, display, prompts,
                                 [&](auto, auto) { return scene.puzzles; });
     session.game.board = boardOf(newRecord());
     session.puzzle.PuzNum = 1;

@@ -32,6 +32,7 @@ struct RecordingDisplay : Display {
     void showPuzzle(const CurrentPuzzle& shown) override {
         puzzle = shown.PuzNum > 0 ? shown : CurrentPuzzle();
     }
+    void showPlay() override { ++playsShown; }
     void showDifficulty(DifficultyChoice shown) override { difficulty = shown; }
     void showSaveTarget(const std::filesystem::path& path) override { saveTarget = path; }
     void showRecentFiles(const std::vector<std::filesystem::path>& paths) override {
@@ -54,6 +55,9 @@ struct RecordingDisplay : Display {
             onYield();
     }
 
+    void afterwards(std::chrono::milliseconds, std::function<void()> what) override {
+        later = std::move(what);
+    }
     bool waitFor(const std::filesystem::path&, const std::function<bool()>& attempt) override {
         return attempt();
     }
@@ -69,6 +73,9 @@ struct RecordingDisplay : Display {
     int palette = BoardInput::NoPaletteItem;
 
     CurrentPuzzle puzzle;
+    int playsShown = 0;
+    /// What is to be done after a while.
+    std::function<void()> later;
     DifficultyChoice difficulty;
     std::filesystem::path saveTarget;
     std::vector<std::filesystem::path> recent;
@@ -135,8 +142,9 @@ struct SessionScene {
 
     PlayCommands play{session.game, session.appearance, display, prompts};
     BoardInput input{session.game, session.busy, play, display};
+    PlayKeeping keeping{session, display, prompts};
     PuzzleFileCommands files{
-        session, input, display, prompts, [this](FileUse use, std::string_view title) {
+        session, keeping, input, display, prompts, [this](FileUse use, std::string_view title) {
             asked.push_back((use == FileUse::Save ? "SAVE: " : "OPEN: ") + std::string(title));
             return chosen;
         }};

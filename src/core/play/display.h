@@ -6,6 +6,7 @@
 #include "core/options/colour.h"
 #include "core/play/board_geometry.h"
 
+#include <chrono>
 #include <filesystem>
 #include <functional>
 #include <string>
@@ -50,6 +51,8 @@ public:
 
     /// Another puzzle is on the board, or none.
     virtual void showPuzzle(const CurrentPuzzle& puzzle) = 0;
+    /// The play has changed: what can be taken back, how far the puzzle is.
+    virtual void showPlay() = 0;
     /// What the difficulty label shows.
     virtual void showDifficulty(DifficultyChoice difficulty) = 0;
     /// The file that "Save to" offers; empty for none.
@@ -69,6 +72,8 @@ public:
     virtual void endProgress() = 0;
     /// Lets the window handle what has come in meanwhile.
     virtual void yield() = 0;
+    /// Does something after a while, unless the window is gone by then.
+    virtual void afterwards(std::chrono::milliseconds delay, std::function<void()> what) = 0;
     /// Waits for a file that another program is writing, says so and lets the window live: calls
     /// `attempt` until it answers true, or the player gives up. Whether it did.
     virtual bool waitFor(const std::filesystem::path& path,

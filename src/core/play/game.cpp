@@ -31,29 +31,47 @@ bool Game::isSelectable(CellId cell) const {
 }
 
 void Game::startPuzzle() {
-    TouchedCell = {};
-    undoList.clear();
-    markSteps.clear();
+    Play fresh;
+    fresh.board = std::move(board);
+    static_cast<Play&>(*this) = std::move(fresh);
+    forgetReset();
+}
+
+void Game::takeAway() {
+    board = {};
+    startPuzzle();
+}
+
+void Game::forgetWhatWas() {
     redoSteps.clear();
+    forgetReset();
+}
+
+void Game::told() {
+    if (!isFinished && isSolved(board))
+        isFinished = wasSolved = true;
+    if (changed)
+        changed();
 }
 
 void Game::PushUndo(int hexagon, int position) {
     if (hexagon < 1 || position < 1)
         return;
     const CellId cell{hexagon, position};
-    redoSteps.clear();
+    forgetWhatWas();
     undoList.push(cell, false, board.CellNum[cell]);
     TouchedCell[cell] = true;
 }
 
 void Game::pushGrouped(CellId cell) {
-    redoSteps.clear();
+    forgetWhatWas();
     undoList.push(cell, true, board.CellNum[cell]);
 }
 
 void Game::place(CellId cell, const std::string& entry) {
     PushUndo(cell.hexagon, cell.position);
     board.CellNum[cell] = entry;
+    told();
 }
 
 void Game::typeDigit(CellId cell, char digit) {
@@ -62,11 +80,13 @@ void Game::typeDigit(CellId cell, char digit) {
         return;
     if (entry.empty())
         PushUndo(cell.hexagon, cell.position);
-    redoSteps.clear();
+    forgetWhatWas();
     entry += digit;
+    told();
 }
 
 void Game::CopyAcrossSides(int& count) {
+    int copied = 0;
     for (CellId cell : AllCells) {
         const CellId partner = SideLink[cell];
         if (cell.hexagon == board.SkipHex || !partner || partner.hexagon == board.BlankHex)
@@ -76,8 +96,11 @@ void Game::CopyAcrossSides(int& count) {
         pushGrouped(cell);
         board.CellNum[cell] = board.CellNum[partner];
         TouchedCell[cell] = true;
-        ++count;
+        ++copied;
     }
+    count += copied;
+    if (copied > 0)
+        told();
 }
 
 int Game::setSingles() {
@@ -90,19 +113,23 @@ int Game::setSingles() {
         board.CellNum[single.cell] = single.number;
         ++count;
     }
+    if (count > 0)
+        told();
     return count;
 }
 
 void Game::fillMarks() {
-    redoSteps.clear();
+    forgetWhatWas();
     markSteps.push(markStep(*this));
     fillPencilMarks(board, TouchedCell);
+    told();
 }
 
 void Game::clearMarks() {
-    redoSteps.clear();
+    forgetWhatWas();
     markSteps.push(markStep(*this));
     clearPencilMarks(board);
+    told();
 }
 
 std::size_t Game::recordsBeneathMarks() const {
@@ -114,37 +141,47 @@ std::size_t Game::recordsBeneathMarks() const {
     return records;
 }
 
-std::string Game::undoRecord(HexagonSet& changed) {
+std::string Game::undoRecord(HexagonSet& changedHexagons) {
     std::string text = undoList.pop();
     const UndoRecord record = UndoRecord::of(text);
     board.CellNum[record.cell] = record.entryBefore;
     if (record.grouped)
         TouchedCell[record.cell] = false;
-    changed.set(static_cast<std::size_t>(record.cell.hexagon));
+    changedHexagons.set(static_cast<std::size_t>(record.cell.hexagon));
     return text;
 }
 
-HexagonSet Game::undo() {
-    HexagonSet changed;
-    if (!canUndo())
-        return changed;
+void Game::undoStep(HexagonSet& changedHexagons) {
     std::string taken = positionText(*this);
     const std::size_t beneath = recordsBeneathMarks();
     if (undoList.size() == beneath) {
         const std::string step = markSteps.pop();
         readPosition(std::string_view(step).substr(step.find(' ') + 1), *this);
-        changed.set();
+        changedHexagons.set();
     } else {
-        std::vector<std::string> records{undoRecord(changed)};
+        std::vector<std::string> records{undoRecord(changedHexagons)};
         const auto isGrouped = [](const std::string& text) { return UndoRecord::of(text).grouped; };
         while (isGrouped(records.back()) && undoList.size() > beneath &&
                isGrouped(undoList.newest()))
-            records.push_back(undoRecord(changed));
+            records.push_back(undoRecord(changedHexagons));
         for (auto record = records.rbegin(); record != records.rend(); ++record)
             taken.append("\n").append(*record);
     }
     redoSteps.push(std::move(taken));
-    return changed;
+}
+
+HexagonSet Game::undo() {
+    HexagonSet changedHexagons;
+    if (!canUndo())
+        return changedHexagons;
+    if (m_beforeReset) {
+        static_cast<Play&>(*this) = *std::exchange(m_beforeReset, std::nullopt);
+        changedHexagons.set();
+    } else {
+        undoStep(changedHexagons);
+    }
+    told();
+    return changedHexagons;
 }
 
 void Game::redo() {
@@ -158,11 +195,29 @@ void Game::redo() {
     for (std::string record; std::getline(step, record);)
         undoList.push(record);
     readPosition(position, *this);
+    told();
 }
 
 void Game::reset() {
+    Play before = *this;
+    for (TextStack* stack :
+         {static_cast<TextStack*>(&before.undoList), &before.markSteps, &before.redoSteps})
+        stack->setStored(0); // what is stored now goes
     board.ResetToGivens();
     startPuzzle();
+    wasSolved = before.wasSolved;
+    if (before.isBegun())
+        m_beforeReset = std::move(before);
+    told();
+}
+
+bool Game::forgetReset() {
+    return std::exchange(m_beforeReset, std::nullopt).has_value();
+}
+
+void Game::takeHint() {
+    ++hints;
+    told();
 }
 
 } // namespace tessaly

@@ -3,6 +3,8 @@
 #include "core/play/play.h"
 
 #include <bitset>
+#include <functional>
+#include <optional>
 #include <string>
 
 namespace tessaly {
@@ -17,6 +19,9 @@ std::string NumText(int number);
 /// pushed before the entry is written; a new change forgets what could be done again.
 class Game : public Play {
 public:
+    /// Called after every change of the play; may be empty.
+    std::function<void()> changed;
+
     /// Whether there is a puzzle on the board: every cell of one has a solution.
     bool hasPuzzle() const { return !board.SolNum[AllCells.front()].empty(); }
 
@@ -28,6 +33,8 @@ public:
 
     /// Forgets the play of the puzzle before: call after another puzzle was put on the board.
     void startPuzzle();
+    /// Takes the puzzle off the board.
+    void takeAway();
 
     /// Remembers the cell's entry before a change; nothing for a cell below hexagon 1, position 1.
     void PushUndo(int hexagon, int position);
@@ -53,7 +60,7 @@ public:
     void fillMarks();
     void clearMarks();
 
-    bool canUndo() const { return !undoList.empty() || !markSteps.empty(); }
+    bool canUndo() const { return !undoList.empty() || !markSteps.empty() || m_beforeReset; }
     bool canRedo() const { return !redoSteps.empty(); }
 
     /// Takes back the newest change, or a whole run of grouped ones, or a step that changed all
@@ -63,15 +70,28 @@ public:
     /// Does again what was taken back last, as one step.
     void redo();
 
-    /// Empties all that the player entered and forgets the undo records; the givens stay.
+    /// Empties all that the player entered and forgets the undo records; the givens stay. Undo
+    /// brings it all back until something new is entered or `forgetReset` is called.
     void reset();
+    /// Whether there was anything left to bring back.
+    bool forgetReset();
+
+    /// The solution was looked at.
+    void takeHint();
 
 private:
     void pushGrouped(CellId cell);
+    /// What could be done again, or brought back, no longer can.
+    void forgetWhatWas();
+    /// Something has changed: ends the play when all is solved, and tells.
+    void told();
+    void undoStep(HexagonSet& changedHexagons);
     /// How many undo records lie beneath the newest step that changed the marks.
     std::size_t recordsBeneathMarks() const;
     /// Takes the newest undo record back; its text.
-    std::string undoRecord(HexagonSet& changed);
+    std::string undoRecord(HexagonSet& changedHexagons);
+
+    std::optional<Play> m_beforeReset;
 };
 
 } // namespace tessaly

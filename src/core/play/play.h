@@ -4,6 +4,7 @@
 #include "core/play/text_stack.h"
 #include "core/play/undo_list.h"
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -23,6 +24,16 @@ struct Play {
     /// What was taken back, step by step: the position before that, and on lines of their own the
     /// undo records of the step, the oldest first; none for a step that changed the marks.
     TextStack redoSteps;
+
+    /// How often the solution was looked at.
+    int hints = 0;
+    std::int64_t seconds = 0;
+    /// Whether this play has come to its end, and whether it or one before it did.
+    bool isFinished = false;
+    bool wasSolved = false;
+
+    /// Whether the player has entered anything, or something can be taken back.
+    bool isBegun() const;
 };
 
 /// A position as one text: for each of the 114 cells its entry, "!" when it was touched, and a
@@ -32,5 +43,8 @@ std::string positionText(const Play& play);
 /// Puts the position of such a text on the board of its puzzle. A text that is none is refused, and
 /// nothing changes.
 bool readPosition(std::string_view text, Play& play);
+
+/// Whether all texts of a play that comes from outside are what they should be.
+bool isSound(const Play& play);
 
 } // namespace tessaly

@@ -3,6 +3,7 @@
 #include "core/play/assists.h"
 #include "core/play/board_style.h"
 
+#include <chrono>
 #include <string>
 
 namespace tessaly {
@@ -98,6 +99,7 @@ void PlayCommands::StatLab() {
 }
 
 void PlayCommands::cmdshowsolPressed() {
+    m_game.takeHint();
     m_display.DrawSolution(solutionColour(m_appearance));
 }
 
@@ -111,7 +113,19 @@ void PlayCommands::cmdreset() {
     m_game.reset();
     m_display.DrawBoard();
     m_display.showMessage("");
+    if (m_game.canUndo())
+        offerBack();
     m_display.focusBoard();
+}
+
+void PlayCommands::offerBack() {
+    m_display.showMessage("All entries cleared; Undo brings them back");
+    m_display.afterwards(std::chrono::minutes(1), [this, offer = ++m_offers] {
+        if (offer != m_offers || !m_game.forgetReset())
+            return;
+        m_display.showMessage("");
+        m_display.showPlay();
+    });
 }
 
 } // namespace tessaly

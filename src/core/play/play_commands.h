@@ -31,12 +31,15 @@ public:
 
 private:
     bool confirmed(std::string_view question);
+    /// For a minute what was reset can be brought back.
+    void offerBack();
     void reportCount(int count, std::string_view done, std::string_view none);
 
     Game& m_game;
     const Appearance& m_appearance;
     Display& m_display;
     Prompts& m_prompts;
+    int m_offers = 0;
 };
 
 } // namespace tessaly

@@ -14,6 +14,8 @@ CommandSyntax gameSyntax(GameOptions& options) {
             text("--screenshot", "OUT.png",
                  "Write a picture (PNG) of the window as it first appears, and end",
                  options.screenshot),
+            flag("--no-book", "Keep nothing of what is played, and show nothing that was kept",
+                 options.noBook),
             flag("--developer", "Show the developer's buttons", options.developer)}};
 }
 

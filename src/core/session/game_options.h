@@ -17,6 +17,8 @@ struct GameOptions {
     std::filesystem::path folder;
     /// Where to write the picture of the window as it first appears, and end.
     std::filesystem::path screenshot;
+    /// Whether nothing is kept in the play book, nor read from it.
+    bool noBook = false;
     bool developer = false;
 };
 

@@ -3,6 +3,7 @@
 #include "core/files/file_access.h"
 #include "core/files/file_descriptor.h"
 #include "core/options/scheme_library.h"
+#include "core/session/play_book.h"
 
 #include <algorithm>
 #include <array>
@@ -188,7 +189,7 @@ void renewShippedFiles(const fs::path& share, const fs::path& folder) {
 
 bool isOwnFile(const fs::path& programFolder, const fs::path& path) {
     constexpr std::array OwnFiles{SchemeLibraryFile, ArrangementFile, HelpPageFile,
-                                  ConfigurationFile, WindowPlaceFile};
+                                  ConfigurationFile, WindowPlaceFile, PlayBook::FileName};
     return std::any_of(OwnFiles.begin(), OwnFiles.end(), [&](const char* name) {
         const fs::path own = programFolder / name;
         std::error_code oneIsMissing;

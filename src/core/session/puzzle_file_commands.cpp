@@ -53,9 +53,10 @@ bool holdsOtherText(const std::filesystem::path& path) {
 
 } // namespace
 
-PuzzleFileCommands::PuzzleFileCommands(Session& session, BoardInput& input, Display& display,
-                                       Prompts& prompts, FileChoice chooseFile)
+PuzzleFileCommands::PuzzleFileCommands(Session& session, PlayKeeping& keeping, BoardInput& input,
+                                       Display& display, Prompts& prompts, FileChoice chooseFile)
     : m_session(session)
+    , m_keeping(keeping)
     , m_input(input)
     , m_display(display)
     , m_prompts(prompts)
@@ -69,11 +70,13 @@ void PuzzleFileCommands::tellCritical(const std::string& text) {
 
 PuzzleRead PuzzleFileCommands::show(const std::filesystem::path& path, int number) {
     const WhileAtWork atWork(m_session, m_display);
+    m_keeping.leave();
     PuzzleRead read = m_session.files.ReadPuzzle(path, number, m_session.game.board);
     if (!read.ok())
         return read;
     m_session.game.startPuzzle();
     m_session.puzzle = {path, number, read.count, read.record};
+    m_keeping.resume();
     m_session.difficulty = m_session.game.board.difficulty;
     m_input.forgetSelection();
     m_display.showPuzzle(m_session.puzzle);
@@ -176,7 +179,7 @@ void PuzzleFileCommands::showAsItIs(int number) {
     tellUnreadable(read);
     if (read.flaw.empty())
         return;
-    m_session.game = {};
+    m_session.game.takeAway();
     m_session.puzzle = {path, number, read.count, std::move(read.record)};
     m_input.forgetSelection();
     m_display.showPuzzle(m_session.puzzle);
@@ -247,7 +250,7 @@ void PuzzleFileCommands::mnudelete() {
         return;
     }
     if (!showReadable(puzzle.PuzPath, 1).ok()) {
-        m_session.game = {};
+        m_session.game.takeAway();
         showWithoutFile();
     }
     m_prompts.message("Done", "vbinformation+vbok");
@@ -269,23 +272,33 @@ void PuzzleFileCommands::oldfiles_Click(int item) {
 }
 
 void PuzzleFileCommands::reopen(const std::filesystem::path& path, int number) {
+    const LastPuzzle& last = m_session.last;
     int count = 0;
     m_display.showRecentFiles(m_session.recentFiles.paths());
-    if (isBlank(path.native()) || path == temporaryFile() || !FileExists(path) ||
-        !m_session.files.CountLines(path, count).ok()) {
-        showEmptyBoard();
-        return;
-    }
-    if (showReadable(path, number > count ? 1 : number).ok())
+    const bool isKept = path != temporaryFile() || !last.record.empty();
+    const bool isThere = isKept && number > 0 && !isBlank(path.native()) && FileExists(path) &&
+                         m_session.files.CountLines(path, count).ok();
+    if (isThere && showReadable(path, number > count ? 1 : number).ok())
         setSaveTarget(path);
-    else
+    else if (path != last.path || !readRecord(last.record, m_session.game.board).ok())
         showEmptyBoard();
+    else
+        showRemembered();
     m_display.showMessage("");
     m_display.focusBoard();
 }
 
+/// The puzzle that was shown last is on the board, but where it stood it no longer is.
+void PuzzleFileCommands::showRemembered() {
+    m_session.game.startPuzzle();
+    m_session.difficulty = m_session.game.board.difficulty;
+    setSaveTarget({});
+    showWithoutFile();
+}
+
 void PuzzleFileCommands::showWithoutFile(const Outcome& why) {
     m_session.puzzle.PuzNum = 0;
+    m_keeping.resume();
     m_input.forgetSelection();
     m_display.showPuzzle(m_session.puzzle);
     if (!why.ok())

@@ -2,6 +2,7 @@
 
 #include "core/base/prompts.h"
 #include "core/play/board_input.h"
+#include "core/session/play_keeping.h"
 #include "core/session/session.h"
 
 #include <filesystem>
@@ -13,8 +14,8 @@ namespace tessaly {
 /// ignored.
 class PuzzleFileCommands {
 public:
-    PuzzleFileCommands(Session& session, BoardInput& input, Display& display, Prompts& prompts,
-                       FileChoice chooseFile);
+    PuzzleFileCommands(Session& session, PlayKeeping& keeping, BoardInput& input, Display& display,
+                       Prompts& prompts, FileChoice chooseFile);
 
     /// Lets the user choose a puzzle file and shows its first puzzle.
     void mnuload();
@@ -38,7 +39,7 @@ public:
     void oldfiles_Click(int item);
 
     /// Shows the puzzle that was shown when the program ended last, or the empty board, and the
-    /// recent files.
+    /// recent files. One that the play book remembers is shown even if its file has gone.
     void reopen(const std::filesystem::path& path, int number);
 
     /// Reads a puzzle onto the board and shows it. When that fails the board stays as it was and
@@ -56,6 +57,7 @@ public:
 
 private:
     void showEmptyBoard();
+    void showRemembered();
     PuzzleRead show(const std::filesystem::path& path, int number);
     /// Shows the puzzle `number` of a file or, in steps of `step` around the ends of the file, the
     /// first that can be read; the message line names the one that cannot.
@@ -74,6 +76,7 @@ private:
     void tellCritical(const std::string& text);
 
     Session& m_session;
+    PlayKeeping& m_keeping;
     BoardInput& m_input;
     Display& m_display;
     Prompts& m_prompts;

@@ -7,9 +7,11 @@
 #include "core/play/busy.h"
 #include "core/play/display.h"
 #include "core/play/game.h"
+#include "core/session/play_book.h"
 
 #include <algorithm>
 #include <filesystem>
+#include <memory>
 #include <utility>
 #include <vector>
 
@@ -44,12 +46,6 @@ private:
     std::vector<std::filesystem::path> m_paths;
 };
 
-/// The puzzle that was shown when the game ended last.
-struct LastPuzzle {
-    std::filesystem::path path;
-    int number = 1;
-};
-
 /// All that lives for the whole run of the game, owned once and handed on by reference.
 struct Session {
     /// Where the program's data files lie; ends in "/".
@@ -64,6 +60,8 @@ struct Session {
 
     LastPuzzle last;
     CurrentPuzzle puzzle;
+    /// Where the play is kept; none when it is not.
+    std::unique_ptr<PlayBook> book;
 
     /// Where dialogs for puzzle files open: beside the one in use, or the one used last.
     std::filesystem::path puzzleFolder() const {

@@ -42,4 +42,14 @@ LoadedSession startSession(Session& session, const ProgramFolderSources& sources
     return loaded;
 }
 
+Outcome openPlayBook(Session& session) {
+    session.book = std::make_unique<PlayBook>(session.ProgramFolder / PlayBook::FileName);
+    Outcome opened = session.book->open();
+    if (!session.book->isOpen())
+        session.book.reset();
+    else if (std::optional<LastPuzzle> last = session.book->last())
+        session.last = std::move(*last);
+    return opened;
+}
+
 } // namespace tessaly

@@ -14,4 +14,8 @@ namespace tessaly {
 LoadedSession startSession(Session& session, const ProgramFolderSources& sources,
                            const std::string& firstScheme, Prompts& prompts);
 
+/// Opens the play book in the program's folder for the session, and finds there which puzzle was
+/// played last. What the player should know of it; the session has a book only if it can be used.
+Outcome openPlayBook(Session& session);
+
 } // namespace tessaly

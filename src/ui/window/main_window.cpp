@@ -220,6 +220,10 @@ void Form1::showPuzzle(const CurrentPuzzle& puzzle) {
         m_announcer->say(tr("Puzzle %1 of %2").arg(puzzle.PuzNum).arg(puzzle.PuzCount));
 }
 
+void Form1::showPlay() {
+    offerCommands();
+}
+
 void Form1::showDifficulty(DifficultyChoice difficulty) {
     m_tools->showDifficulty(difficulty);
     announce(nameOf(difficulty));
@@ -268,6 +272,10 @@ void Form1::yield() {
     QCoreApplication::processEvents();
 }
 
+void Form1::afterwards(std::chrono::milliseconds delay, std::function<void()> what) {
+    QTimer::singleShot(delay, this, std::move(what));
+}
+
 bool Form1::waitFor(const std::filesystem::path& path, const std::function<bool()>& attempt) {
     if (attempt())
         return true;
@@ -284,8 +292,15 @@ bool Form1::waitFor(const std::filesystem::path& path, const std::function<bool(
 
 void Form1::closeEvent(QCloseEvent* event) {
     m_commands.stop();
+    m_commands.keeping.leave();
     rememberWindowPlace(*this, m_session.ProgramFolder);
     QMainWindow::closeEvent(event);
+}
+
+void Form1::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::ActivationChange)
+        m_commands.keeping.setPresent(isActiveWindow());
+    QMainWindow::changeEvent(event);
 }
 
 void Form1::connectOptions() {

@@ -36,6 +36,7 @@ public:
     void hidePopup() override;
     void showPalette(int pressedItem) override;
     void showPuzzle(const CurrentPuzzle& puzzle) override;
+    void showPlay() override;
     void showDifficulty(DifficultyChoice difficulty) override;
     void showSaveTarget(const std::filesystem::path& path) override;
     void showRecentFiles(const std::vector<std::filesystem::path>& paths) override;
@@ -46,10 +47,12 @@ public:
     void showProgress(const RunProgress& progress) override;
     void endProgress() override;
     void yield() override;
+    void afterwards(std::chrono::milliseconds delay, std::function<void()> what) override;
     bool waitFor(const std::filesystem::path& path, const std::function<bool()>& attempt) override;
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     QWidget* arrangeRegions();

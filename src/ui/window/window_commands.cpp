@@ -27,7 +27,8 @@ auto guarded(WindowCommands& commands, Command command,
 WindowCommands::WindowCommands(Session& session, const CommandWindow& window)
     : play(session.game, window.worn, window.display, window.prompts)
     , input(session.game, session.busy, play, window.display)
-    , files(session, input, window.display, window.prompts,
+    , keeping(session, window.display, window.prompts)
+    , files(session, keeping, input, window.display, window.prompts,
             [&session, &picker = window.picker](FileUse use, std::string_view title) {
                 return choosePuzzleFile(picker, session.puzzleFolder(), use, title);
             })

@@ -62,6 +62,7 @@ public:
 
     PlayCommands play;
     BoardInput input;
+    PlayKeeping keeping;
     PuzzleFileCommands files;
 
 private:

@@ -67,8 +67,8 @@ TEST_F(GameTest, AGroupedRunIsUndoneDownToTheSingleRecordBelow) {
     int count = 0;
     CopyAcrossSides(count);
     EXPECT_GT(count, 0);
-    const HexagonSet changed = undo();
-    EXPECT_TRUE(changed.test(1) && changed.test(2) && changed.test(3)) << "both form one run";
+    const HexagonSet drawn = undo();
+    EXPECT_TRUE(drawn.test(1) && drawn.test(2) && drawn.test(3)) << "both form one run";
     EXPECT_EQ(board.CellNum[1][6], "");
     EXPECT_EQ(undoList.text(0), "0703") << "what was there before stays";
 }

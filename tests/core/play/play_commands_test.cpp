@@ -267,7 +267,8 @@ TEST_F(PlayCommandsTest, WhatTakesEntriesAwayAsksFirst) {
                      "Existing Pencilmarks will be overwitten, Proceed?", "Pencilmarks updated"),
           {&PlayCommands::cmdallpencilClear, "Existing Pencilmarks will be cleared, Proceed?",
            "Pencilmarks cleared"},
-          {&PlayCommands::cmdreset, "Clear ALL user entries?", ""}}) {
+          {&PlayCommands::cmdreset, "Clear ALL user entries?",
+           "All entries cleared; Undo brings them back"}}) {
         for (CellId cell : AllCells)
             if (game.isSelectable(cell))
                 game.place(cell, cell.position == 1 ? "3" : "12");
@@ -283,6 +284,30 @@ TEST_F(PlayCommandsTest, WhatTakesEntriesAwayAsksFirst) {
     }
     EXPECT_EQ(game.board, fresh);
     EXPECT_TRUE(game.undoList.empty());
+}
+
+TEST_F(PlayCommandsTest, ForAMinuteUndoBringsBackWhatWasReset) {
+    const CellId cell = firstSelectable(game);
+    const auto playAndReset = [&] {
+        game.place(cell, "12");
+        prompts.answers = {answer::Yes};
+        commands.cmdreset();
+        return std::exchange(display.later, {});
+    };
+    const auto first = playAndReset();
+    commands.cmdundo();
+    EXPECT_EQ(game.board.CellNum[cell], "12");
+    const auto second = playAndReset();
+    first();
+    EXPECT_TRUE(game.canUndo()) << "that minute was another's";
+    second();
+    EXPECT_FALSE(game.canUndo());
+    EXPECT_EQ(display.message, "");
+    playAndReset();
+    game.place(cell, "3");
+    commands.cmdundo();
+    EXPECT_EQ(game.board, fresh) << "what is entered since counts";
+    EXPECT_FALSE(game.canUndo());
 }
 
 } // namespace

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "core/base/prompts.h"
+#include "core/play/display.h"
+#include "core/session/session.h"
+
+#include <chrono>
+#include <optional>
+
+namespace tessaly {
+
+/// Sees to it that what the player does is kept: every change of the game goes into the book, if
+/// there is one, before anything else happens, and with it the time that was played.
+class PlayKeeping {
+public:
+    /// The session must outlive it. As long as it lives the game tells it of every change.
+    PlayKeeping(Session& session, Display& display, Prompts& prompts);
+    ~PlayKeeping();
+    PlayKeeping(const PlayKeeping&) = delete;
+    PlayKeeping& operator=(const PlayKeeping&) = delete;
+
+    /// The puzzle is about to leave the board.
+    void leave();
+    /// Another puzzle is on the board: puts back what is known of its play.
+    void resume();
+
+    /// Time is counted only while the player is at the window.
+    void setPresent(bool present);
+    /// Brings the seconds played up to now.
+    void countTime();
+
+    /// Tells the player what went wrong, if anything.
+    void tell(const Outcome& outcome);
+
+private:
+    using Clock = std::chrono::steady_clock;
+
+    void keep();
+
+    Session& m_session;
+    Display& m_display;
+    Prompts& m_prompts;
+    /// Up to when the time is counted, while it is.
+    std::optional<Clock::time_point> m_countedTo;
+};
+
+} // namespace tessaly
