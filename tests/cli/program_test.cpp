@@ -64,7 +64,7 @@ TEST_F(Program, TheBenchShowsTheSignatureOfTheEngineAndRates) {
     ASSERT_EQ(lines.size(), 7U) << result.out;
     // This number changes with every change of what the engine fills, solves, counts or creates.
     // Where that is meant, put the new one here and into the message of the commit.
-    EXPECT_EQ(lines[0], "signature 17019943966383516668");
+    EXPECT_EQ(lines[0], "signature 14302628955330413749");
     for (std::size_t i = 1; i < lines.size(); ++i)
         EXPECT_TRUE(lines[i].ends_with(" a second")) << lines[i];
 }

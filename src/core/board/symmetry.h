@@ -48,6 +48,25 @@ inline constexpr Symmetry Turn{
     {0, 2, 3, 4, 5, 6, 1},
 };
 
+/// One symmetry after another.
+constexpr Symmetry after(const Symmetry& second, const Symmetry& first) {
+    Symmetry both = first;
+    for (int& hexagon : both.hexagons)
+        hexagon = second.hexagon(hexagon);
+    for (int& position : both.positions)
+        position = second.position(position);
+    return both;
+}
+
+constexpr std::array<Symmetry, 12> makeAll() {
+    std::array<Symmetry, 12> all{LeftRight, after(LeftRight, LeftRight)};
+    for (std::size_t i = 2; i < all.size(); ++i)
+        all[i] = after(Turn, all[i - 2]);
+    return all;
+}
+/// All that there are: the six turns, each with and without a mirror.
+inline constexpr std::array<Symmetry, 12> All = makeAll();
+
 } // namespace symmetry
 
 namespace detail {

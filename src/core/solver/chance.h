@@ -39,6 +39,9 @@ public:
     /// Computer Simulation 29, 2019.)
     std::uint32_t below(std::uint32_t bound);
 
+    /// A number from 0 up to but not 1, a whole number over 2 to the power of 53.
+    double unit() { return static_cast<double>(next() >> 11) * 0x1p-53; }
+
     /// Puts the items into random order, each order equally likely (Fisher and Yates).
     template <class Range>
     void shuffle(Range&& items) {

@@ -1,6 +1,7 @@
 #include "core/solver/search_fill.h"
 
 #include "core/board/tables.h"
+#include "core/solver/even_fill.h"
 
 #include <algorithm>
 #include <bit>
@@ -40,6 +41,11 @@ std::size_t drawChoice(SearchFill::Choices& choices, Chance& chance) {
         block &= block - 1;
     choices[at] ^= block & (~block + 1);
     return BlockBits * at + static_cast<std::size_t>(std::countr_zero(block));
+}
+
+bool holdsAll(std::vector<Arrangement> table) {
+    std::sort(table.begin(), table.end());
+    return table == allArrangements();
 }
 
 bool hasChoice(const SearchFill::Choices& choices) {
@@ -148,7 +154,8 @@ std::vector<Arrangement> arrangementsOf(const ArrangementTable& table) {
     return all;
 }
 
-SearchFill::SearchFill(std::span<const Arrangement> table) {
+SearchFill::SearchFill(std::span<const Arrangement> table)
+    : m_isComplete(holdsAll({table.begin(), table.end()})) {
     for (const Arrangement& digits : table) {
         const std::size_t index = m_arrangements.size();
         m_arrangements.push_back(packArrangement(digits));
@@ -170,12 +177,21 @@ SearchFill::Choices SearchFill::choices(const std::array<DigitSet, CellCount>& a
     return fitting;
 }
 
+bool SearchFill::fillEvenly(HexagonWords& cells, Chance& chance, const OnChange& onChange) const {
+    const auto filling = drawEvenFilling(chance);
+    cells = filling.value_or(HexagonWords{});
+    for (int hexagon = 1; onChange && hexagon <= HexagonCount; ++hexagon)
+        onChange(hexagon, cells[static_cast<std::size_t>(hexagon)]);
+    return filling.has_value();
+}
+
 FillResult SearchFill::fill(HexagonWords& cells, Chance& chance, const OnChange& onChange) const {
     FillResult result;
     while (!result.filled && result.attempts < MaxAttempts) {
         ++result.attempts;
         cells.fill(0);
-        result.filled = Attempt(*this, cells, chance, onChange).run();
+        result.filled = m_isComplete ? fillEvenly(cells, chance, onChange)
+                                     : Attempt(*this, cells, chance, onChange).run();
     }
     return result;
 }

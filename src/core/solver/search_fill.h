@@ -30,7 +30,8 @@ struct FillResult {
 };
 
 /// Finds random complete fillings of the board: the hexagons are slots, the arrangements of a table
-/// the candidates, the shared sides the crossings. Never changes once it is built, so any number of
+/// the candidates, the shared sides the crossings. From a table of all arrangements it draws evenly
+/// (see even_fill.h), from any other it searches. Never changes once it is built, so any number of
 /// threads may share one.
 class SearchFill {
 public:
@@ -57,6 +58,9 @@ public:
 private:
     static constexpr std::size_t SetCount = 64;
 
+    bool fillEvenly(HexagonWords& cells, Chance& chance, const OnChange& onChange) const;
+
+    bool m_isComplete;
     std::vector<HexagonWord> m_arrangements;
     /// For each cell and each digit set, the arrangements that put a digit of the set there.
     std::array<std::array<Choices, SetCount>, CellCount> m_fitting{};
