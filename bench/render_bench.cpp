@@ -1,4 +1,4 @@
-#include "support/sample_board.h"
+#include "support/sample_puzzles.h"
 #include "ui/drawing/board_surface.h"
 
 #include <benchmark/benchmark.h>

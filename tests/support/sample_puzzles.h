@@ -4,6 +4,7 @@
 #include "core/board/tables.h"
 #include "support/temporary_folder.h"
 
+#include <array>
 #include <ostream>
 #include <stdexcept>
 #include <string>
@@ -70,6 +71,29 @@ inline std::string recordFile(int count, std::string_view lineEnd = "\r\n") {
     for (int seed = 1; seed <= count; ++seed)
         text += recordNumbered(seed) + std::string(lineEnd);
     return text;
+}
+
+/// A puzzle with hexagon 7 blank. It never changes, so that pictures of it can be kept.
+inline Board sampleBoard() {
+    return boardOf("E0700TRV531RV14535RV431VU342Q4S15624QUS26TURSVQ536142T2136U36215412V"
+                   "T35364125Q45263R653TQ1532T623VQU43261TU264QU3143VRU");
+}
+
+/// The sample in the middle of a play: numbers, cells of one to six marks, empty cells.
+inline Board sampleBoardInPlay() {
+    constexpr std::array Marks{"12", "135", "1246", "23456", "123456", "35"};
+    Board board = sampleBoard();
+    std::size_t open = 0;
+    for (CellId cell : AllCells) {
+        if (board.FixedCell[cell])
+            continue;
+        if (open % 3 == 0)
+            board.CellNum[cell] = board.SolNum[cell];
+        else if (open % 3 == 1)
+            board.CellNum[cell] = Marks[open / 3 % Marks.size()];
+        ++open;
+    }
+    return board;
 }
 
 } // namespace tessaly

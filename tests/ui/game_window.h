@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/session/configuration.h"
-#include "support/scripted_prompts.h"
+#include "support/core_fakes.h"
 #include "support/temporary_folder.h"
 #include "support/window_fakes.h"
 #include "ui/controls/box_control.h"

@@ -55,12 +55,10 @@ TEST_F(PuzzleStoreTest, ReadsARecordOrSaysWhatIsWrongWithItAndChangesNothing) {
         {"", 1, "no puzzle 1 among its 0", ""},
         {recordFile(2), 3, "no puzzle 3 among its 2", ""},
         {recordFile(2), 0, "no puzzle 0", ""},
-        {recordFile(1) + "\r\n \r\n\t", 2, "no puzzle 2 among its 1", ""},
         {good.substr(0, 118) + "\n", 1, "line 1: the record has 118 characters", ""},
         {changed(2, 'X'), 1, "line 1: character 3 of the header", ""},
         {recordFile(1) + "\n" + recordFile(1), 2, "line 2: the record has 0 characters", ""},
         {changed(60, '\0'), 1, "line 1: character 61", ""},
-        {changed(60, 'A'), 1, "line 1: character 61", ""},
         {changed(50, 'P'), 1, "line 1: character 51", ""},
         {changed(118, '7'), 1, "line 1: character 119", ""},
         {huge + "\r\n", 1, "line 1: the line is longer than any record", ""},
@@ -112,7 +110,7 @@ TEST_F(PuzzleStoreTest, AnAppendedPuzzleGetsTheNextNumberWhateverStandsAtTheEnd)
         for (const auto& [tail, keptTail] : keptOf) {
             std::string kept = whole + keptTail;
             const auto records = static_cast<int>(std::count(kept.begin(), kept.end(), '\n'));
-            int count = 0, visited = 0, number = 0;
+            int count = 0, number = 0;
             put(path, whole + tail);
             const auto write = [&](const ContentSink& sink) { return sink.write(added); };
             EXPECT_EQ(store.appendPuzzles(path, write).problem, "");
@@ -120,9 +118,6 @@ TEST_F(PuzzleStoreTest, AnAppendedPuzzleGetsTheNextNumberWhateverStandsAtTheEnd)
             put(path, whole + tail);
             EXPECT_EQ(store.CountLines(path, count).problem, "");
             EXPECT_EQ(count, records) << tail;
-            const auto visit = [&](RecordLine line) { return ++visited == line.number; };
-            EXPECT_EQ(forEachRecord(path, visit).problem, "");
-            EXPECT_EQ(visited, records) << tail;
             for (int next : {records + 1, records + 2}) {
                 EXPECT_EQ(store.appendPuzzle(path, recordNumbered(9), number).problem, "");
                 EXPECT_EQ(number, next);
@@ -130,10 +125,10 @@ TEST_F(PuzzleStoreTest, AnAppendedPuzzleGetsTheNextNumberWhateverStandsAtTheEnd)
                 EXPECT_EQ(contentOf(path), kept += added);
             }
         }
-    for (int mode : {1, 2, 0}) {
-        put(path, added);
+    for (const std::string& content : {added, added + added}) { // anew, then appended
+        const int mode = content == added ? 1 : 2;
         EXPECT_EQ(store.WritePuzzle(path, mode, boardOf(recordNumbered(9))).problem, "");
-        EXPECT_EQ(contentOf(path), mode == 1 ? added : added + added);
+        EXPECT_EQ(contentOf(path), content);
     }
 }
 

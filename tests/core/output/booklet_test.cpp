@@ -2,7 +2,6 @@
 
 #include "core/board/puzzle_store.h"
 #include "core/output/page_layout.h"
-#include "support/sample_board.h"
 #include "support/sample_puzzles.h"
 #include "support/temporary_folder.h"
 

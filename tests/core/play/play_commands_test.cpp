@@ -158,14 +158,11 @@ TEST_F(BoardInputTest, NothingIsEnteredWhileACommandIsUnderWay) {
     input.openPopupAtSelection();
     busy.creating = true;
     key('3');
-    input.Picture2_MouseUp(PointerButton::Left);
+    click();
     pointAt({8, 3});
-    input.moveSelection(1, 0);
-    input.selectFirst();
-    input.selectLast();
+    input.moveSelection(1, 0), input.selectFirst(), input.selectLast();
     input.pointerLeft();
     input.enter(3);
-    input.Picture2_MouseDown(PointerButton::Left, numberCentre({8, 3}));
     EXPECT_EQ(input.selection(), Cell);
     input.Celltags_MouseDown(10);
     input.Num16_Click(2);

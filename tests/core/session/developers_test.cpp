@@ -81,12 +81,9 @@ TEST_F(DevelopersTest, TheBoardIsCheckedAndSolvedStepByStep) {
     developer.applyXcellRule();
     EXPECT_EQ(board.CellNum, expected.CellNum);
     SolveByDeduction(expected);
-    prompts.shown.clear();
     developer.solveInSteps(false);
     EXPECT_EQ(board.CellNum, expected.CellNum);
-    EXPECT_EQ(prompts.told(), "|All Done [vbok]");
-    EXPECT_GT(display.boardsDrawn, 0);
-
+    EXPECT_TRUE(prompts.told().ends_with("|All Done [vbok]"));
     const auto checked = [this] { return developer.checkCells(), prompts.told(); };
     board.CellNum = board.SolNum;
     EXPECT_EQ(checked(), "|done [vbok]");
@@ -157,28 +154,26 @@ TEST(DebugSolve, AnnouncesItsStepsInOrderAndStopsAtAContradiction) {
     }
 }
 
-TEST(DebugSolve, DoesWhatTheQuietRulesDo) {
+TEST(DebugSolve, FixesAndNamesThePairsThatTheQuietRuleFixes) {
     Chance chance(2);
-    Board start;
-    for (std::size_t i = 0; i < 6; ++i)
-        start.CellNum[XcellTable[8][i]] = i == 3 || i == 4 ? "13" : "12";
-    const Messages told{"3 pairs in xcell 8", "fix pair 3 at 074", "fix pair 3 at 101"};
-    for (int i = -1; i < 300; ++i) {
-        std::int32_t counter = 0;
-        if (i >= 0) {
-            start = sampleBoard(static_cast<Sample>(i % SampleKinds), chance);
-            GetCandidates(start, counter);
-        }
-        Board verbose = start, quiet = start;
-        std::int32_t quietCounter = counter;
-        Recorder recorder;
-        FixXcellPairsVerbose(verbose, counter, recorder);
-        FixXcellPairs(quiet, quietCounter);
-        EXPECT_EQ(verbose.CellNum, quiet.CellNum);
-        EXPECT_EQ(counter, quietCounter);
-        EXPECT_EQ(recorder.redraws, XcellCount);
-        EXPECT_TRUE(i >= 0 || recorder.messages == told);
+    Recorder recorder;
+    std::int32_t told = 0, silent = 0;
+    for (int i = 0; i < 300; ++i) {
+        Board board = sampleBoard(static_cast<Sample>(i % SampleKinds), chance);
+        GetCandidates(board, silent);
+        Board quiet = board;
+        FixXcellPairsVerbose(board, told = 0, recorder);
+        FixXcellPairs(quiet, silent = 0);
+        EXPECT_TRUE(board.CellNum == quiet.CellNum && told == silent);
     }
+    recorder = {};
+    Board board;
+    for (std::size_t i = 0; i < 6; ++i)
+        board.CellNum[XcellTable[8][i]] = i == 3 || i == 4 ? "13" : "12";
+    FixXcellPairsVerbose(board, told, recorder);
+    EXPECT_EQ(recorder.messages,
+              (Messages{"3 pairs in xcell 8", "fix pair 3 at 074", "fix pair 3 at 101"}));
+    EXPECT_EQ(recorder.redraws, XcellCount);
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #include "core/session/options_editor.h"
 
 #include "core/options/scheme_library.h"
-#include "support/scripted_prompts.h"
+#include "support/core_fakes.h"
 #include "support/temporary_folder.h"
 
 #include <limits>

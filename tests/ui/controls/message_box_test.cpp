@@ -29,10 +29,8 @@ TEST_F(MessageBoxTest, ItsStyleNamesButtonsAndIcon) {
     for (const auto& [style, looks] : {
              std::pair(QString(), u"Ok1"_s),
              {u" vbYESno +\tVBquestion "_s, u"Yes6 No7 icons_0"_s},
-             {u"vbquestion+vbyesno"_s, u"Yes6 No7 icons_0"_s},
              {u"vbok+vbcancel+vberror+vbhappy"_s, u"Ok1 Cancel2 icons_3 icons_5"_s},
              {u"vbcancel+vbok+nonsense"_s, u"Cancel2 Ok1"_s},
-             {u"vbcancelok"_s, u"Ok1 Cancel2"_s},
              {u"vbabortretryignore+vbcustom"_s, u"Abort3 Retry4 Ignore5 icons_10"_s},
              {u"vbyesnocancel+vbcritical"_s, u"Yes6 No7 Cancel2 icons_4"_s},
              {u"vbcontinuecancel"_s, u"Continue6 Cancel2"_s},
@@ -61,13 +59,6 @@ TEST_F(MessageBoxTest, ItsButtonsAnswerByMouseAndByKeys) {
          answer::Cancel},
         {[&] { key(0, Qt::Key_Escape); }, answer::None},
         {[&] { form.close(); }, answer::None},
-        {[&] { // any key sinks the button
-             QTest::keyPress(&button(0), Qt::Key_X);
-             EXPECT_TRUE(button(0).isDown());
-             QTest::keyRelease(&button(0), Qt::Key_X);
-             EXPECT_FALSE(button(0).isDown());
-         },
-         answer::None},
         {[&] { // a message meanwhile gets a box of its own
              inNextDialog([this](QDialog& inner) {
                  EXPECT_EQ(inner.parent(), &form);

@@ -1,6 +1,6 @@
 // The board in every form that it is drawn in.
 
-#include "support/sample_board.h"
+#include "support/sample_puzzles.h"
 #include "ui/drawing/board_picture.h"
 #include "ui/drawing/board_surface.h"
 #include "ui/drawing/hexagon_tag.h"
@@ -18,6 +18,24 @@ namespace tessaly {
 namespace {
 
 using namespace Qt::StringLiterals;
+
+Appearance light() {
+    Appearance appearance;
+    appearance.SchemeColours[slot::Background] = RGB(236, 233, 226);
+    appearance.HexaFillColour = RGB(252, 251, 248);
+    appearance.NumberFont = "Liberation Sans";
+    return appearance;
+}
+
+Appearance dark() {
+    Appearance appearance = light();
+    appearance.SchemeColours[slot::Background] = RGB(32, 36, 44);
+    appearance.HexaFillColour = RGB(48, 54, 66);
+    appearance.HexaBorderColour = RGB(120, 130, 150);
+    appearance.FixedNumberColour = RGB(240, 240, 240);
+    appearance.UserNumberColour = RGB(120, 200, 255);
+    return appearance;
+}
 
 constexpr QSize NaturalSize(506, 476);
 

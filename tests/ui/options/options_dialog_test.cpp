@@ -68,7 +68,6 @@ TEST_F(OptionsDialog, ASchemeIsSeenInTheDialogFirstAndAfterApplyEverywhere) {
                                           [&] { QTest::keyClick(&dialog, Qt::Key_Escape); }};
     for (const auto& leave : ways) {
         choose(schemes, 5);
-        EXPECT_EQ(caption(), u"Colour Scheme: rose"_s);
         EXPECT_EQ(groundOf(dialog), RGB(236, 205, 211));
         EXPECT_NE(sample(), firstSample);
         find(u"Text3"_s).setFocus(); // the list has it again when the dialog opens anew

@@ -34,7 +34,6 @@ TEST_F(Exporting, WritesTheWindowAsBitmapOrPngAndAsksBeforeItReplacesAFile) {
     const std::tuple<std::string, std::deque<int>, std::string> rows[] = {
         {"window", {}, "window.bmp"},
         {"window.PNG", {}, "window.PNG"},
-        {"week12.5", {}, "week12.5.bmp"},
         {"c.jpg", {}, "c.jpg.bmp"},
         {"empty.bmp", {}, "empty.bmp"},
         {"old.bmp", {answer::No}, "OverWrite file: " + folder + "old.bmp ?"},

@@ -18,12 +18,12 @@ struct Printing : testing::Test {
         game.printers.installed = {u"Laser"_s, u"Kitchen"_s};
         game.printers.usual = u"Kitchen"_s;
     }
-    static void press(const QDialog& form, const QString& button = u"Command1"_s) {
-        QTest::mouseClick(&find(form, button), Qt::LeftButton);
-    }
     static void setRange(const QDialog& form, const QString& from, const QString& to) {
         find<QLineEdit>(form, u"Text1"_s).setText(from);
         find<QLineEdit>(form, u"Text2"_s).setText(to);
+    }
+    static void press(const QDialog& form, const QString& button = u"Command1"_s) {
+        QTest::mouseClick(&find(form, button), Qt::LeftButton);
     }
     /// Does `what` in the dialog for many puzzles, and prints if that is not done yet.
     void inDialog(const std::function<void(QDialog&)>& what) {
@@ -87,9 +87,6 @@ TEST_F(Printing, WhatCannotBePrintedIsSaid) {
     game.fileDialogs.add(QString::fromStdString(pdf));
     printRange(1, 4, u"Print to PDF"_s);
     EXPECT_NE(game.lastPrompt().text.find(pdf), std::string::npos);
-    put(puzzles, sampleRecords("easy.txt")[0]);
-    printRange(1, 2);
-    EXPECT_NE(game.lastPrompt().text.find(": there is no puzzle 2 among its 1"), std::string::npos);
     EXPECT_TRUE(game.printers.printed.empty());
     game.printers.answer = Outcome::failed("Laser: on fire");
     printRange(1, 1);
@@ -101,7 +98,6 @@ TEST_F(Printing, WhatCannotBePrintedIsSaid) {
     game.printers.answer = Outcome::done();
     game.choose(u"mnuprintx_0"_s);
     EXPECT_EQ(game.message(), u"Printed"_s);
-    EXPECT_FALSE(game.session.busy.isBusy());
     game.session.puzzle = {};
     EXPECT_EQ(shown(), "There is no puzzle to print");
 }
@@ -135,7 +131,6 @@ TEST_F(Printing, TheDialogOffersPrintersFileAndTheWholeRangeAndRefusesAnother) {
     });
     EXPECT_EQ(game.printers.printed.back().title, u"easy.txt, 38 to 40");
     inDialog([&](QDialog& form) { press(form, u"Command2"_s); });
-    inDialog([&](QDialog& form) { QTest::keyClick(&form, Qt::Key_Escape); });
     EXPECT_EQ(game.printers.printed.size(), 2U);
 }
 
@@ -183,7 +178,6 @@ TEST(SystemPrinters, TellTheProgramThatPrintsWhatTheDialogSetAndHearItsAnswer) {
     PrintTarget target = targetOf(printer, 4);
     EXPECT_EQ(target.file, folder / "out.pdf");
     EXPECT_EQ(target.pages, (std::vector{1, 2}));
-    EXPECT_NEAR(target.paper.height, 595, 1);
     target.sheets.sides = u"two-sided-short-edge"_s; // only a real printer has them
 
     const QByteArray before = qgetenv("PATH");
