@@ -2,7 +2,6 @@
 
 #include "core/board/puzzle_store.h"
 
-#include "support/process.h"
 #include "support/temporary_folder.h"
 
 #include <sys/stat.h>
@@ -80,17 +79,6 @@ TEST_F(FileAccess, WhatIsNoRegularFileIsRefusedWithoutWaiting) {
     }
     EXPECT_EQ(content, "kept");
     EXPECT_EQ(folder.names(), (Names{"folder", "fifo"}));
-}
-
-TEST_F(FileAccess, AFullDiskLeavesTheOldContentAndSaysSo) {
-    const std::string before(1200, 'x'), more(2000, 'y');
-    put(file, before);
-    const FullDisk disk(1205);
-    for (const Outcome& outcome :
-         {append(file), replaceFile(file, more), replaceFile(folder / "new.txt", more)})
-        EXPECT_TRUE(outcome.problem.ends_with("written: File too large")) << outcome.problem;
-    EXPECT_EQ(contentOf(file), before);
-    EXPECT_EQ(folder.names(), Names{"a.txt"});
 }
 
 TEST_F(FileAccess, ASmallFileIsReadUpToItsLimitAndChangedInOneGo) {

@@ -64,8 +64,6 @@ TEST(BoardStyle, SpacedHexagonsAreBorderedByTheBackgroundAndPaperByItsOwnWidth) 
     EXPECT_EQ(split.border, RGB(200, 201, 202));
     EXPECT_GT(split.borderWidth, 2);
     EXPECT_TRUE(split.line == RGB(1, 2, 3) && split.solid == split.line);
-    appearance.SplitHexas = false;
-    EXPECT_EQ(boardStyle(appearance).border, split.line);
     for (const auto& [from, to] : hatchLines(10))
         EXPECT_NEAR(from.x + from.y, to.x + to.y, 1e-9) << "at 45 degrees";
     appearance.PrintLineWidth = 3;

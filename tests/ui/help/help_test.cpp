@@ -50,8 +50,6 @@ TEST_F(HelpWindow, BackAndForwardActAtAnchorsOnly) {
              {u"Command2"_s, u"one"_s}, // there is nothing ahead
              {u"second"_s, u"two"_s},
              {u"Command1"_s, u"one"_s},
-             {u"Command2"_s, u"two"_s},
-             {u"Command1"_s, u"one"_s},
              {u"Command1"_s, QString()},
              {u"Command2"_s, QString()}, // there is a way ahead, but the page has no anchor here
          }) {

@@ -162,10 +162,6 @@ TEST_F(OptionsDialog, ContrastAndSelectorMakeASchemeThatIsStoredAppliedAndDelete
     EXPECT_EQ(find<QSlider>(u"ContrastV"_s).value(), 100);
     QApplication::processEvents();
     EXPECT_EQ(dialog.width(), width) << "a long name must not widen the dialog";
-    click(u"Command1"_s);
-    EXPECT_EQ(groundOf(*game.window), ClassicPalette[11]);
-    open();
-    choose(schemes, 15);
     game.prompts.answers = {answer::Yes};
     click(u"DelSch"_s);
     EXPECT_EQ(schemes.count(), 15);
