@@ -48,8 +48,8 @@ TEST_F(FileCommands, SolveAnswersForEveryRecordOrForOne) {
     EXPECT_TRUE(run("solve " + file + " --rules basic --number 3").out.starts_with("3 84 "));
     expectRefused("solve " + file + " --number 1000", exit_status::Failed,
                   file + ": line 1000: there is no such record\n");
-    expectRefused("solve \x1b]0;\xc2\x9b", exit_status::Failed,
-                  "\\x1b]0;\\xc2\\x9b: cannot be read: No such file or directory\n");
+    expectRefused("solve \x1b]0;\xc2\x9b\x7f\xc2\xa0", exit_status::Failed,
+                  "\\x1b]0;\\xc2\\x9b\\x7f\xc2\xa0: cannot be read: No such file or directory\n");
 }
 
 TEST_F(FileCommands, ExplainTellsTheWholeWayOrWhereTheRulesEnd) {

@@ -27,6 +27,7 @@ TEST_F(Program, WrongUsageIsOneLineAndStatusTwo) {
     for (const auto& [line, named] : std::vector<std::pair<std::string, std::string>>{
              {"", "subcommand"},
              {"crate", "no subcommand crate"},
+             {"create --dificulty easy --count 1", "no option --dificulty"},
              {"create --difficulty nasty --count 1", "nasty"},
              {easy, "--count"},
              {easy + "0", "--count"},
@@ -36,6 +37,7 @@ TEST_F(Program, WrongUsageIsOneLineAndStatusTwo) {
              {easy + "1 --seed -1", "--seed"},
              {"shuffle a.txt --output b.txt --seed 18446744073709551616", "--seed"},
              {"solve", "FILE"},
+             {"variants a.txt b.txt", "b.txt"},
              {"solve a.txt --number 0", "--number"},
              {"solve a.txt --rules some", "some"},
              {"bench --seconds 0", "--seconds"},

@@ -110,14 +110,16 @@ TEST_F(PuzzleStoreTest, AnAppendedPuzzleGetsTheNextNumberWhateverStandsAtTheEnd)
         for (const auto& [tail, keptTail] : keptOf) {
             std::string kept = whole + keptTail;
             const auto records = static_cast<int>(std::count(kept.begin(), kept.end(), '\n'));
-            int count = 0, number = 0;
+            int count = 0, visited = 0, number = 0;
             put(path, whole + tail);
             const auto write = [&](const ContentSink& sink) { return sink.write(added); };
             EXPECT_EQ(store.appendPuzzles(path, write).problem, "");
             EXPECT_EQ(contentOf(path), kept + added);
             put(path, whole + tail);
             EXPECT_EQ(store.CountLines(path, count).problem, "");
-            EXPECT_EQ(count, records) << tail;
+            const auto visit = [&](RecordLine line) { return ++visited == line.number; };
+            EXPECT_EQ(forEachRecord(path, visit).problem, "");
+            EXPECT_EQ(std::pair(count, visited), std::pair(records, records)) << tail;
             for (int next : {records + 1, records + 2}) {
                 EXPECT_EQ(store.appendPuzzle(path, recordNumbered(9), number).problem, "");
                 EXPECT_EQ(number, next);
@@ -214,7 +216,8 @@ TEST(PuzzleRecord, ARecordIsTheWholeBoardWhateverItHeldBefore) {
     EXPECT_TRUE(board.FixedCell[1][1] && !board.FixedCell[2][1]);
     EXPECT_EQ(board.CellNum[1][1] + board.CellNum[2][1], "1");
     EXPECT_EQ(board.SolNum[2][1] + board.SolNum[19][6], "10");
-    EXPECT_FALSE(isHexagon(boardOf(sampleRecord("E2000")).BlankHex));
+    for (const char* none : {"E2000", "E0000"})
+        EXPECT_FALSE(isHexagon(boardOf(sampleRecord(none)).BlankHex));
 }
 
 TEST(PuzzleRecord, ProgressIsWrittenForSingleNumbersOfThePlayerAndReadBack) {

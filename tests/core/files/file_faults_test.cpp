@@ -192,7 +192,8 @@ TEST_F(FileFaultsTest, WithoutLocksWhoWritesIsSeenInTheFolderUntilHeHasDied) {
 }
 
 TEST_F(FileFaultsTest, OnlyLeftoversOfDeadProcessesAreCleared) {
-    const Names own{"a.txt", ".tessaly-notes.tmp", ".tessaly-0123456789abcdef.txt"};
+    const Names own{"a.txt", ".tessaly-notes.tmp", ".tessaly-0123456789abcdef.txt",
+                    "my-notes-0123456789abcdef.tmp"};
     const fs::path torn = m_folder / ".tessaly-0123456789abcdef.tmp";
     const auto begunAnew = [&] {
         fs::remove(torn);
@@ -243,6 +244,9 @@ TEST_F(FileFaultsTest, AReplacementIsDoneAsFarAsTheSystemAllows) {
         {"", failing("flock", ENOLCK, 0, 1000), "", "ours"},
         {"", failing("flock", EOPNOTSUPP, 0, 1000), "", "ours"},
         {"old", failing("flock", ENOSYS, 0, 1000), "", "ours"},
+        {"old", failing("flock", EBADF, 0, 1000), "", "ours"},
+        {"old", failing("flock", EWOULDBLOCK, 1), "", "ours"},
+        {"old", failing("flock", EIO), "cannot be locked: Input/output error", "old"},
         // The system says which links may be followed.
         {"old", failing("open", EACCES), "cannot be written: Permission denied", "old"},
         // A folder that may not be listed can neither be locked nor flushed. The file itself and
@@ -258,8 +262,16 @@ TEST_F(FileFaultsTest, AReplacementIsDoneAsFarAsTheSystemAllows) {
          "was saved, but its folder cannot be flushed to the disk: Invalid argument", "ours"},
         // A file system without links, and a name that is taken.
         {"", failing("linkat", EPERM), "", "ours"},
+        {"", failing("linkat", ENOSYS), "", "ours"},
         {"", failing("linkat", EIO), "cannot be replaced: Input/output error", ""},
         {"old", failing("openat", EEXIST), "", "ours"},
+        {"old", failing("openat", EEXIST, 0, 1000),
+         "no new file can be made beside it: File exists", "old"},
+        {"old", failing("fchmod", EINTR, 0, 1000),
+         "its permissions cannot be kept: Interrupted system call", "old"},
+        // A name that begins to lead to itself.
+        {"old", meanwhile("readlink", [this] { removed(), fs::create_symlink(file, file); }),
+         "cannot be written: Too many levels of symbolic links", ""},
         {"old", failing("fchmod", EPERM), "its permissions cannot be kept: Operation not permitted",
          "old"},
     };
@@ -274,10 +286,12 @@ TEST_F(FileFaultsTest, AReplacementIsDoneAsFarAsTheSystemAllows) {
     if (::geteuid() != 0)
         return;
     // What a group may do that cannot be kept is given to nobody.
-    ASSERT_EQ(::chown(file.c_str(), static_cast<uid_t>(-1), 65534), 0);
-    fs::permissions(file, fs::perms(0645));
-    EXPECT_EQ(problemWhile(failing("fchown", EPERM, 0, 2), replacing("new")), "");
-    EXPECT_EQ(fs::status(file).permissions(), fs::perms(0604));
+    for (const auto& [failures, mode] : {std::pair(2, 0604), {1, 0645}}) {
+        ASSERT_EQ(::chown(file.c_str(), 65534, 65534), 0);
+        fs::permissions(file, fs::perms(0645));
+        EXPECT_EQ(problemWhile(failing("fchown", EPERM, 0, failures), replacing("new")), "");
+        EXPECT_EQ(fs::status(file).permissions(), fs::perms(mode));
+    }
 }
 
 TEST_F(FileFaultsTest, AFileThatCannotBeReadToItsEndIsNamedAndStays) {

@@ -84,6 +84,13 @@ TEST_F(LineIndexTest, ReadsNothingUntilTheFileChangesOrMayHaveChangedUnseen) {
         ASSERT_TRUE(index.update(file).ok());
         ASSERT_EQ(index.count(), round % 2 == 0 ? 2 : 3);
     }
+    put("a\n"); // shorter than before
+    ASSERT_TRUE(index.updateAppended(file).ok());
+    EXPECT_EQ(index.count(), 1);
+    ASSERT_TRUE(openForReading("/proc/uptime", file).ok()); // of another file system
+    ASSERT_TRUE(index.updateAppended(file).ok());
+    EXPECT_EQ(index.count(), 0);
+    put("a\n");
     auto state = FileState::of(file).value();
     state.changed += 1'000'000'000; // as if the file were changed this very moment
     EXPECT_FALSE(state.wouldShowAChange());

@@ -75,6 +75,7 @@ TEST(Booklet, OneBoardIsPrintedAsItStandsEachPartOnItsPage) {
     EXPECT_EQ(both.title + second.title, "Puz# 7Sol# 7");
     EXPECT_EQ(pagesOf(both.booklet), (Pages{puzzle, solution}));
     EXPECT_EQ(pagesOf(second.booklet), Pages{solution});
+    EXPECT_EQ(pagesOf(jobOf(played, 7, true, false).booklet), Pages{puzzle});
     Board board;
     EXPECT_TRUE(both.boardOf(7, board).ok());
     EXPECT_EQ(board, played);

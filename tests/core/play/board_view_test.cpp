@@ -102,6 +102,8 @@ TEST(CellDescription, SaysWhereACellLiesWhatItHoldsAndWhatLiesAcross) {
               "hexagon 3: upper left marks 3 5 2, top given 4, upper right "
               "empty, lower right 6, bottom empty, lower left empty");
     EXPECT_EQ(missingInWords(board, 3), "missing 1 2 3 5");
+    board.CellNum[4] = {"", "1", "2", "3", "4", "5", "6"};
+    EXPECT_EQ(missingInWords(board, 4), "missing nothing");
     EXPECT_EQ(changesInWords(board, {{3, 1}, {5, 2}}, {3, 1}), "marks 3 5 2; hexagon 5, top, 6");
     EXPECT_EQ(changesInWords(board, std::vector<CellId>(7), {}), "7 cells changed");
 }

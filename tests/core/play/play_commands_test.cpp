@@ -151,6 +151,10 @@ TEST_F(BoardInputTest, PeekingShowsCandidatesOnlyWhileHeld) {
     input.Celltags_MouseUp();
     input.Celltags_MouseUp();
     EXPECT_EQ(display.drawn, std::vector<int>{10});
+    game.board = Board();
+    display.peeked = {};
+    input.Celltags_MouseDown(10);
+    EXPECT_EQ(display.peeked[2], "") << "there is no puzzle";
 }
 
 TEST_F(BoardInputTest, NothingIsEnteredWhileACommandIsUnderWay) {

@@ -207,6 +207,9 @@ TEST_F(ConfigurationTest, ADataFileThatIsMissingOrGarbledStopsTheStartUnlessItIs
         EXPECT_EQ(prompts.shown.at(1).text, problem() + "\r\nRestore the installed one?");
         EXPECT_TRUE(starts({answer::Yes}));
         EXPECT_EQ(contentOf((folder / name).native() + ".damaged"), "255;255;255\r\n");
+        fs::remove(folder / name);
+        EXPECT_NE(problem().find(name), std::string::npos) << problem();
+        fs::copy_file(fs::path(TESSALY_DATA) / name, folder / name);
     }
     const FileCalls calls(failing("open", EACCES, 1));
     EXPECT_EQ(problem(), (folder / "all.col").native() + ": cannot be read: Permission denied");

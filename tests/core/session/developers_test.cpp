@@ -42,6 +42,12 @@ TEST_F(DevelopersTest, FilesGrowAreProvedAndMixed) {
     EXPECT_EQ(prompts.told(), "|done [vbok]");
     EXPECT_EQ(lineCount("puzzles20u.txt"), 8 * 40) << "each once";
 
+    std::filesystem::remove(folder / "addnew.txt");
+    maintenance.FlipandAdd();
+    maintenance.Verify();
+    EXPECT_TRUE(seen().ends_with("|addnew.txt: cannot be read: No such file or directory "
+                                 "[vbok+vbcritical]|addnewr.txt: cannot be read: No such file or "
+                                 "directory [vbok+vbcritical]"));
     fileOfPuzzles("puzzles20k.txt", 40);
     display.onProgress = [this] {
         EXPECT_TRUE(session.busy.refuses(prompts));

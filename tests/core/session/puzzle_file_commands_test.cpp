@@ -211,6 +211,7 @@ TEST_F(PuzzleFileCommandsTest, DeleteAsksRemovesThePuzzleAndShowsTheFirst) {
     EXPECT_FALSE(session.game.hasPuzzle()) << "the board is empty";
     files.mnudelete();
     files.mnusavex();
+    files.goTo(1);
     EXPECT_EQ(step(1), "0/0 : Error reading p# 1") << "there is no puzzle";
     EXPECT_TRUE(asked.empty());
 }

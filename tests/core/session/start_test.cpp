@@ -159,6 +159,9 @@ TEST_F(ProgramFolderTest, AFirstStartThatFailsSaysWhyAndLeavesNothingBehind) {
     fs::remove(userFolder);
     fs::create_symlink(userFolder, userFolder);
     EXPECT_EQ(found(), "home/data/tessaly: cannot be examined: Too many levels of symbolic links");
+    fs::remove_all(root / "home");
+    put(root / "home", "a file");
+    EXPECT_TRUE(found().starts_with("home")) << found();
     // Where not even the system administrator can make a folder.
     sources.dataHome = "/proc";
     EXPECT_TRUE(found().starts_with("/proc/.tessaly.new: cannot be created: ")) << found();
