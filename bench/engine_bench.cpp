@@ -188,7 +188,7 @@ void secondThread(benchmark::State& state) {
     const auto secondsWith = [](int jobs) {
         int made = 0;
         return timeOf(wallSeconds, [&] {
-            makeSeries({std::nullopt, Seed}, jobs, completeFill(),
+            makeSeries({std::nullopt, Seed}, 0, jobs, completeFill(),
                        [&made](const std::string&) { return ++made < Puzzles; });
         });
     };

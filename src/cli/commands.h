@@ -30,6 +30,8 @@ Subcommand solveCommand();
 Subcommand explainCommand();
 /// Tells what is wrong with the puzzles of a file.
 Subcommand checkCommand();
+/// Shows how hard the puzzles of a file are.
+Subcommand rateCommand();
 /// Multiplies the puzzles of a file by mirroring and turning them.
 Subcommand variantsCommand();
 /// Puts the puzzles of a file into random order, each once.

@@ -6,9 +6,9 @@
 namespace tessaly {
 
 std::vector<Subcommand> allCommands(std::vector<Subcommand> more) {
-    std::vector<Subcommand> commands{createCommand(), solveCommand(),    explainCommand(),
-                                     checkCommand(),  variantsCommand(), shuffleCommand(),
-                                     benchCommand()};
+    std::vector<Subcommand> commands{createCommand(),  solveCommand(), explainCommand(),
+                                     checkCommand(),   rateCommand(),  variantsCommand(),
+                                     shuffleCommand(), benchCommand()};
     std::move(more.begin(), more.end(), std::back_inserter(commands));
     return commands;
 }

@@ -1,4 +1,5 @@
 #include "core/board/puzzle_record.h"
+#include "core/solver/puzzle_variants.h"
 #include "support/command_line.h"
 #include "support/file_calls.h"
 #include "support/process.h"
@@ -39,11 +40,52 @@ TEST_F(CreateCommand, ASeedGivesTheSameBytesWhateverTheNumberOfJobs) {
     EXPECT_NEAR(static_cast<double>(std::ranges::count(one, 'E')), 75, 45);
 }
 
-TEST_F(CreateCommand, TheShippedLibraryIsInOrder) {
-    for (const std::string name : {"easy", "hard"}) {
-        const std::string path = TESSALY_DATA "/puzzles/" + name + ".txt";
-        EXPECT_EQ(run("check " + path).out, path + ": 500 puzzles checked, 0 findings\n");
+/// What a puzzle has in common with those that it becomes when it is turned, mirrored or
+/// renumbered.
+std::string kindOf(const std::string& record) {
+    std::vector<std::string> images;
+    for (const Symmetry& symmetry : symmetry::All) {
+        std::string names;
+        for (char& c : images.emplace_back(transformed(record, symmetry).substr(5))) {
+            const auto number = static_cast<char>(c >= 'Q' ? c - 'Q' + '1' : c);
+            if (names.find(number) == std::string::npos)
+                names += number;
+            c = static_cast<char>('a' + names.find(number));
+        }
     }
+    return *std::min_element(images.begin(), images.end());
+}
+
+// The seeds are those of script/make-library, which makes the files anew.
+TEST_F(CreateCommand, TheShippedLibraryHasAHundredPuzzlesOfEachStarAndNoTwoAlike) {
+    std::set<std::string> kinds;
+    for (const auto& [name, seed] : {std::pair("easy", " --seed 1"), {"hard", " --seed 2"}}) {
+        const std::string path = TESSALY_DATA "/puzzles/" + std::string(name) + ".txt";
+        std::string made;
+        for (const char* stars : {"1", "2", "3", "4", "5-5"})
+            made += run("create --difficulty " + std::string(name) + seed +
+                        " --count 100 --stars " + stars)
+                        .out;
+        EXPECT_TRUE(contentOf(path) == made) << "is not what script/make-library makes";
+        EXPECT_EQ(run("check " + path).out, path + ": 500 puzzles checked, 0 findings\n");
+        const std::vector<std::string> rated = linesOf(run("rate " + path).out);
+        for (std::size_t i = 0; i < rated.size(); ++i)
+            EXPECT_EQ(rated[i].substr(rated[i].find(' ') + 6, 1), std::to_string(1 + i / 100));
+        for (const std::string& record : linesOf(made, "\r\n"))
+            kinds.insert(kindOf(record));
+    }
+    EXPECT_EQ(kinds.size(), 1000U);
+}
+
+TEST_F(CreateCommand, ADayHasOnePuzzleAndPartsOfASeriesJoin) {
+    const std::string day = "create --difficulty hard --day ";
+    const std::string puzzle = run(day + "2028-02-29").out;
+    EXPECT_EQ(differentRecords(puzzle + run(day + "2028-03-01").out), 2);
+    run(day + "2028-02-29 --output " + file);
+    EXPECT_EQ(contentOf(file), puzzle);
+    EXPECT_EQ(create("40 --seed 5 --jobs 2").out + create("25 --seed 5 --first 41 --jobs 1").out +
+                  create("35 --seed 5 --first 66 --jobs 3").out,
+              create("100 --seed 5").out);
 }
 
 TEST_F(CreateCommand, AppendsToAFileWithoutRepeatingWhatItHolds) {

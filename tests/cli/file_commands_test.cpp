@@ -70,6 +70,17 @@ TEST_F(FileCommands, ExplainTellsTheWholeWayOrWhereTheRulesEnd) {
     }
     EXPECT_EQ(board.CellNum, board.SolNum);
     EXPECT_EQ(steps.front(), "1 015 3 across The triangle across the side holds 3.");
+    const CommandResult rated = run("rate " + file);
+    EXPECT_EQ(rated.status, exit_status::Failed);
+    EXPECT_TRUE(rated.err.ends_with("line 2: the rules do not lead to the solution\n"));
+    std::istringstream words(rated.out);
+    std::size_t number = 0, stars = 0, score = 0, counted = 0;
+    std::string difficulty;
+    words >> number >> difficulty >> stars >> score;
+    EXPECT_TRUE(difficulty == "Easy" && stars >= 1 && stars <= 5 && score > 0) << rated.out;
+    for (std::size_t count = 0; words >> count;)
+        counted += count;
+    EXPECT_EQ(counted, steps.size());
     const CommandResult stuck = run("explain " + file + " --number 2");
     EXPECT_EQ(stuck.status, exit_status::Failed);
     EXPECT_EQ(stuck.err,
@@ -104,7 +115,8 @@ TEST_F(FileCommands, BrokenLinesAreNamedAndPassedOver) {
 
 TEST_F(FileCommands, PipesAreReadAndStandardOutputIsWritten) {
     put(file, Easy + "\r\n" + Hard + "\r\n");
-    for (const std::string command : {"check ", "solve ", "variants ", "shuffle --seed 1 "}) {
+    for (const std::string command :
+         {"check ", "solve ", "rate ", "variants ", "shuffle --seed 1 "}) {
         std::array<int, 2> ends{};
         ASSERT_EQ(::pipe(ends.data()), 0);
         ASSERT_GT(::write(ends[1], contentOf(file).data(), contentOf(file).size()), 0);

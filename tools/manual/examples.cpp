@@ -16,12 +16,12 @@ Board read(std::string_view record) {
 }
 
 Example copyAcrossASide() {
-    return {1, givensOf(FirstPuzzle), {1, 2, 5}, {{5, 2}}, {{1, 5}}, "6"};
+    return {1, givensOf(FirstPuzzle), {1, 2, 5}, {{5, 2}}, {{1, 5}}, "1"};
 }
 
 Example whatMayStand() {
     Example example{
-        2, givensOf(FirstPuzzle), {3, 6}, {{3, 2}, {3, 3}, {6, 2}, {6, 3}, {6, 4}}, {{3, 4}}, "2"};
+        2, givensOf(FirstPuzzle), {3, 6}, {{3, 2}, {3, 3}, {6, 2}, {6, 3}, {6, 4}}, {{3, 4}}, "4"};
     std::int32_t counter = 0;
     FixNeighbours(example.board, counter);
     return example;
@@ -35,7 +35,7 @@ Example onlyPlace() {
     example.hexagons = {3};
     example.reasons = {{3, 1}, {3, 6}};
     example.settled = {{3, 5}};
-    example.number = "6";
+    example.number = "1";
     return example;
 }
 

@@ -10,14 +10,14 @@
 namespace tessaly::manual {
 
 /// Two of the puzzles that the game is shipped with, an easy and a hard one, and their numbers.
-inline constexpr int FirstNumber = 78;
+inline constexpr int FirstNumber = 108;
 inline constexpr std::string_view FirstPuzzle =
-    "E1300RTU361TU12633UT261VR315T2V13542VQS54164352364152Q5264S3"
-    "5261415TR6365T213VUSRQTU436RQ2Q465326QUT36132TU613UR4254QVS";
-inline constexpr int CornerNumber = 137;
+    "E1500UVT213VQ35422VU413ST216U5Q32464SRQ56146253216435T6325Q2"
+    "4561345QV3225S614V32145S546QRVQUSTR13TVU26125TS342UQ6546RQS";
+inline constexpr int CornerNumber = 175;
 inline constexpr std::string_view CornerPuzzle =
-    "H1246TSQ562TV21355TV312QS562T1625343QTU26634251516324U21V3T2"
-    "3465132QU64VUQRST624153Q345VR2U346116STU25314VR452VQ3463RUQ";
+    "H1253UTS621SV14526UT231UQ243V4215362UTS614561S2531246V3251T1"
+    "3625426SQ45USTQRVR45136U164SR1U64R314RSV54235VQ435RV1521STV";
 
 /// A puzzle with its givens. The blank hexagon is empty: the player does not see it.
 Board givensOf(std::string_view record);

@@ -3,6 +3,7 @@
 #include "core/base/fnv_hash.h"
 #include "core/board/puzzle_record.h"
 #include "core/solver/deduction.h"
+#include "core/solver/puzzle_of_day.h"
 #include "core/solver/puzzle_series.h"
 #include "core/solver/solution_counter.h"
 
@@ -40,6 +41,14 @@ void addSolving(Board board, FnvHash& hash) {
     hash.add(std::to_string(countSolutions(start).found));
 }
 
+/// Days around a leap day, by their series' version.
+void addDays(const SearchFill& fill, FnvHash& hash) {
+    for (const char* text : {"2026-11-21", "2028-02-29", "2028-03-01"})
+        for (const DifficultyEntry& entry : Difficulties)
+            hash.add(puzzleOfDay(*readDay(text), entry.difficulty, fill));
+    hash.add(std::to_string(DaySeriesVersion));
+}
+
 } // namespace
 
 std::uint64_t engineSignature(const SearchFill& fill) {
@@ -53,6 +62,7 @@ std::uint64_t engineSignature(const SearchFill& fill) {
             if (readRecord(record, board).ok())
                 addSolving(board, hash);
         }
+    addDays(fill, hash);
     return hash.value();
 }
 

@@ -121,10 +121,11 @@ struct OuterSides {
             beside[place] = static_cast<std::int16_t>(all - right[place]);
     }
 
+    std::int32_t waysWith(std::size_t place) const { return left[place] * beside[place]; }
     std::int32_t ways() const {
         std::int32_t total = 0;
         for (std::size_t place = 0; place < left.size(); ++place)
-            total += left[place] * beside[place];
+            total += waysWith(place);
         return total;
     }
 };
@@ -162,8 +163,8 @@ public:
             rest -= m_ways[middle];
         const OuterSides outer = outerSides(middle);
         rest = chance.below(static_cast<std::uint32_t>(outer.ways()));
-        for (; rest >= outer.left[left] * outer.beside[left]; ++left)
-            rest -= outer.left[left] * outer.beside[left];
+        for (; rest >= outer.waysWith(left); ++left)
+            rest -= outer.waysWith(left);
         rest = chance.below(static_cast<std::uint32_t>(outer.beside[left]));
         for (; right == left || rest >= outer.right[right]; ++right)
             rest -= right == left ? 0 : outer.right[right];

@@ -70,11 +70,12 @@ private:
     std::atomic<bool> m_isOver = false;
 };
 
-void makeBlocks(const PuzzleSeries& series, const SearchFill& fill, BlockQueue& queue) {
+void makeBlocks(const PuzzleSeries& series, std::uint64_t first, const SearchFill& fill,
+                BlockQueue& queue) {
     for (std::uint64_t block = 0; queue.claim(block);) {
         Records records;
         for (std::uint64_t i = 0; i < BlockSize && !queue.isOver(); ++i)
-            records.push_back(series.record(block * BlockSize + i, fill));
+            records.push_back(series.record(first + block * BlockSize + i, fill));
         queue.put(block, std::move(records));
     }
 }
@@ -97,22 +98,33 @@ std::vector<std::thread> startThreads(int count, const std::function<void()>& wo
     return threads;
 }
 
+bool hasStars(const Board& board, const StarRange& stars) {
+    if (stars.isEverything())
+        return true;
+    const auto rating = ratePuzzle(board);
+    return rating && stars.contains(rating->stars);
+}
+
 } // namespace
 
 std::string PuzzleSeries::record(std::uint64_t index, const SearchFill& fill) const {
     Chance chance(seed, index);
-    Board board;
-    CreatePuzzle(board, drawDifficulty(difficulty, chance), chance, fill);
-    return PuzzleRecord(board);
+    const Difficulty drawn = drawDifficulty(difficulty, chance);
+    for (;;) {
+        Board board;
+        CreatePuzzle(board, drawn, chance, fill);
+        if (hasStars(board, stars))
+            return PuzzleRecord(board);
+    }
 }
 
-void makeSeries(const PuzzleSeries& series, int jobs, const SearchFill& fill,
+void makeSeries(const PuzzleSeries& series, std::uint64_t first, int jobs, const SearchFill& fill,
                 const std::function<bool(const std::string& record)>& take) {
     BlockQueue queue(jobs);
-    const auto work = [&] { makeBlocks(series, fill, queue); };
+    const auto work = [&] { makeBlocks(series, first, fill, queue); };
     std::vector<std::thread> threads = startThreads(jobs > 1 ? jobs : 0, work);
     if (threads.empty()) {
-        for (std::uint64_t index = 0; take(series.record(index, fill)); ++index) {
+        for (std::uint64_t index = first; take(series.record(index, fill)); ++index) {
         }
         return;
     }
