@@ -31,6 +31,7 @@ struct CommandLineTest : testing::Test {
         std::istringstream stream("tessaly-cli " + line);
         const std::vector<std::string> words(std::istream_iterator<std::string>(stream), {});
         std::vector<const char*> argv;
+        argv.reserve(words.size());
         for (const std::string& word : words)
             argv.push_back(word.c_str());
         std::ostringstream out, err;
