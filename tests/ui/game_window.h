@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/session/configuration.h"
+#include "core/session/start_up.h"
 #include "support/core_fakes.h"
 #include "support/temporary_folder.h"
 #include "support/window_fakes.h"
@@ -131,6 +132,9 @@ public:
         QTest::mouseMove(&board(), pointOf(cell));
     }
 
+    /// Whether the next start opens the play book.
+    bool hasBook = false;
+
     DataFolder folder;
     Session session;
     ScriptedPrompts prompts;
@@ -143,6 +147,8 @@ private:
         session.ProgramFolder = folder.path();
         const LoadedSession loaded = loadSession(session);
         EXPECT_TRUE(loaded.outcome.ok()) << loaded.outcome.problem;
+        const Outcome book = hasBook ? openPlayBook(session) : Outcome::done();
+        EXPECT_EQ(book.problem, "");
         window = std::make_unique<Form1>(session, prompts, fileDialogs.dialog(), m_printers);
         window->show();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(window.get()));

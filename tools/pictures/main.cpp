@@ -190,9 +190,8 @@ void takeDialogs(Pictures& pictures, const QString& scheme) {
 
 /// A long run of the developer's tools, as it stands at the usual and the smallest size.
 void takeRun(Pictures& pictures) {
-    GameWindow game;
+    GameWindow game({}, 1, nullptr, true);
     game.window->files().load(game.folder.puzzles("hard.txt"));
-    game.window->findChild<DeveloperRow*>()->show();
     RunProgress progress;
     progress.made = 912;
     progress.count = 30000;
@@ -206,6 +205,39 @@ void takeRun(Pictures& pictures) {
     pictures.take(*game.window, u"run-smallest"_s);
 }
 
+/// A solved puzzle and one that is begun, the menu of play and the statistics.
+void takePlayRecord(Pictures& pictures, const QString& scheme) {
+    GameWindow game;
+    game.hasBook = true;
+    game.restart();
+    game.find<QAction>(u"mnushowtime"_s).setChecked(true);
+    EXPECT_TRUE(SchemeLibrary(game.folder.path())
+                    .LoadScheme(scheme.toStdString() + ".col", game.session.appearance)
+                    .ok());
+    game.window->applyAppearance();
+    game.window->files().load(game.folder.puzzles("easy.txt"));
+    Game& play = game.session.game;
+    for (int puzzle = 1; puzzle <= 7; ++puzzle) {
+        play.seconds = 217 * puzzle;
+        for (CellId cell : AllCells)
+            if (play.isSelectable(cell))
+                play.place(cell, play.board.SolNum[cell]);
+        game.window->DrawBoard();
+        if (puzzle == 7)
+            pictures.take(*game.window, u"solved-"_s + scheme);
+        game.click(u"cmdarrow_1"_s);
+    }
+    play.place(firstOpenCell(game), "4");
+    game.window->DrawBoard();
+    pictures.take(*game.window, u"begun-"_s + scheme);
+    auto& menu = game.find<QMenu>(u"mnuplay"_s);
+    menu.popup({});
+    pictures.take(menu, u"menu-play-"_s + scheme);
+    menu.hide();
+    game.find<QAction>(u"mnustatistics"_s).trigger();
+    pictures.take(game.find(u"StatisticsForm"_s), u"statistics-"_s + scheme);
+}
+
 void takeAll(Pictures& pictures) {
     takeSizes(pictures);
     takeRun(pictures);
@@ -214,6 +246,7 @@ void takeAll(Pictures& pictures) {
     for (const QString& scheme : {u"xp"_s, u"night"_s}) {
         takePrinting(pictures, scheme);
         takeDialogs(pictures, scheme);
+        takePlayRecord(pictures, scheme);
     }
 }
 

@@ -28,6 +28,8 @@ constexpr std::array Migrations{
 };
 constexpr auto Version = static_cast<std::int64_t>(Migrations.size());
 
+constexpr std::string_view IsSolved = "SELECT 1 FROM puzzle WHERE record = ? AND solved";
+
 /// The setting that holds the number of the last puzzle, its record and its path.
 constexpr std::string_view LastSetting = "puzzle";
 
@@ -73,7 +75,7 @@ struct PlayBook::Statements {
         , addStep(database, "INSERT INTO step VALUES (?, ?, ?, ?)")
         , isCounted(database, "SELECT 1 FROM puzzle WHERE record = ? AND finished")
         , count(database, "INSERT INTO solving VALUES (?, ?, ?, ?)")
-        , isSolved(database, "SELECT 1 FROM puzzle WHERE record = ? AND solved")
+        , isSolved(database, IsSolved)
         , forgetSteps(database, "DELETE FROM step WHERE puzzle ="
                                 " (SELECT id FROM puzzle WHERE record = ?)")
         , forget(database, "DELETE FROM puzzle WHERE record = ?")
@@ -381,6 +383,17 @@ Outcome PlayBook::set(std::string_view name, std::string_view value) {
     m_database.begin(Transaction::Write);
     m_statements->set.with(name, value).run();
     return told(m_database.commit());
+}
+
+SolvedPuzzles::SolvedPuzzles(const fs::path& book) {
+    m_database.open(book, DatabaseUse::ReadOnly);
+    m_isSolved = Statement(m_database, IsSolved);
+}
+
+bool SolvedPuzzles::contain(std::string_view record) {
+    const bool solved = m_isSolved.with(record).next();
+    m_isSolved.with();
+    return solved;
 }
 
 } // namespace tessaly

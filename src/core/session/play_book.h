@@ -88,6 +88,8 @@ public:
     std::string setting(std::string_view name);
     Outcome set(std::string_view name, std::string_view value);
 
+    const std::filesystem::path& path() const { return m_path; }
+
 private:
     struct Statements;
 
@@ -119,6 +121,18 @@ private:
     std::string m_record;
     std::int64_t m_row = 0;
     std::int64_t m_version = 0;
+};
+
+/// The solved puzzles of a book as another thread than the player's asks for them.
+class SolvedPuzzles {
+public:
+    explicit SolvedPuzzles(const std::filesystem::path& book);
+
+    bool contain(std::string_view record);
+
+private:
+    Database m_database;
+    Statement m_isSolved;
 };
 
 } // namespace tessaly

@@ -24,7 +24,16 @@ void PlayKeeping::keep() {
     countTime();
     if (m_session.book)
         tell(m_session.book->keep(m_session.game));
+    if (m_session.game.wasSolved != m_isCountedSolved)
+        countSolved();
     m_display.showPlay();
+}
+
+void PlayKeeping::countSolved() {
+    m_countedFile = m_session.files.lastRead();
+    m_isCountedSolved = m_session.game.wasSolved;
+    if (m_session.book && m_session.puzzle.PuzNum > 0)
+        m_solved.begin(m_session.book->path(), m_session.puzzle.PuzPath);
 }
 
 void PlayKeeping::leave() {
@@ -42,6 +51,9 @@ void PlayKeeping::resume() {
     const LastPuzzle last{m_session.puzzle.PuzPath, m_session.puzzle.PuzNum,
                           PuzzleRecord(m_session.game.board).substr(0, RecordLength)};
     tell(m_session.book->rememberLast(last));
+    m_isCountedSolved = m_session.game.wasSolved;
+    if (m_session.files.lastRead() != m_countedFile)
+        countSolved();
 }
 
 void PlayKeeping::setPresent(bool present) {

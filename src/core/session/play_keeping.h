@@ -3,9 +3,11 @@
 #include "core/base/prompts.h"
 #include "core/play/display.h"
 #include "core/session/session.h"
+#include "core/session/solved_count.h"
 
 #include <chrono>
 #include <optional>
+#include <string>
 
 namespace tessaly {
 
@@ -29,6 +31,11 @@ public:
     /// Brings the seconds played up to now.
     void countTime();
 
+    /// "37 of 500 solved", of the file that is played; "" as long as it is not known.
+    std::string solvedInWords() const { return m_solved.inWords(); }
+    /// Counts them anew.
+    void countSolved();
+
     /// Tells the player what went wrong, if anything.
     void tell(const Outcome& outcome);
 
@@ -42,6 +49,11 @@ private:
     Prompts& m_prompts;
     /// Up to when the time is counted, while it is.
     std::optional<Clock::time_point> m_countedTo;
+
+    SolvedCount m_solved;
+    /// The file whose solved puzzles are counted, and whether the one on the board is one of them.
+    FileState m_countedFile;
+    bool m_isCountedSolved = false;
 };
 
 } // namespace tessaly

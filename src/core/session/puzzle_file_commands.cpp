@@ -4,6 +4,7 @@
 #include "core/board/puzzle_record.h"
 #include "core/files/file_access.h"
 #include "core/session/program_folder.h"
+#include "core/session/while_at_work.h"
 
 #include <algorithm>
 
@@ -21,23 +22,6 @@ std::string errorReading(int number, const PuzzleRead& read) {
     return "Error reading p# " + std::to_string(number) +
            (read.flaw.empty() ? "" : ": " + read.flaw);
 }
-
-/// For as long as it lives the pointer is busy and other commands are refused.
-class WhileAtWork {
-public:
-    WhileAtWork(Session& session, Display& display)
-        : m_running(session.busy.commandRunning)
-        , m_display(display) {
-        m_display.showBusy(true);
-    }
-    ~WhileAtWork() { m_display.showBusy(false); }
-    WhileAtWork(const WhileAtWork&) = delete;
-    WhileAtWork& operator=(const WhileAtWork&) = delete;
-
-private:
-    WhileSet m_running;
-    Display& m_display;
-};
 
 /// Whether a file has text in it, but no puzzle among its first lines.
 bool holdsOtherText(const std::filesystem::path& path) {

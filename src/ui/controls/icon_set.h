@@ -35,6 +35,8 @@ enum class Picture {
     View,
     Replace,
     Add,
+    Begun,
+    Solved,
     // Coloured drawings.
     Question,
     Exclamation,
@@ -63,6 +65,8 @@ class PictureView : public QWidget {
 
 public:
     PictureView(Picture picture, int size, QWidget* parent = nullptr);
+
+    void setPicture(Picture picture);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -22,6 +22,13 @@ QAction* addCommand(QMenu& menu, const QString& caption, const QString& name) {
     return action;
 }
 
+/// An item that is on or off.
+QAction* addSwitch(QMenu& menu, const QString& caption, const QString& name) {
+    QAction* action = addCommand(menu, caption, name);
+    action->setCheckable(true);
+    return action;
+}
+
 /// An item of an array of like items, by its index; separators count.
 QAction* addItem(QMenu& menu, const QString& caption, const QString& array, int index) {
     return addCommand(menu, caption, array + u'_' + QString::number(index));
@@ -113,6 +120,13 @@ void MainMenu::buildPlayMenu(QMenu& menu) {
     mnuclearpencil = addCommand(menu, u"C&lear All Pencilmarks"_s, u"mnuclearpencil"_s);
     mnusetpairs = addCommand(menu, u"Fill P&aired Cells"_s, u"mnusetpairs"_s);
     mnuset1s = addCommand(menu, u"&Set Singles"_s, u"mnuset1s"_s);
+    menu.addSeparator();
+    mnunextunsolved = addCommand(menu, u"&Next Unsolved"_s, u"mnunextunsolved"_s);
+    mnustatistics = addCommand(menu, u"S&tatistics"_s, u"mnustatistics"_s);
+    mnushowtime = addSwitch(menu, u"Show T&ime"_s, u"mnushowtime"_s);
+    menu.addSeparator();
+    mnuforgetpuzzle = addCommand(menu, u"&Forget this Puzzle's Play"_s, u"mnuforgetpuzzle"_s);
+    mnuforgetfile = addCommand(menu, u"F&orget All Play of this File"_s, u"mnuforgetfile"_s);
     addCancel(menu);
 }
 
@@ -131,14 +145,18 @@ void MainMenu::showCurrentFile(const std::filesystem::path& path) {
     mnusaveto->setVisible(!path.empty());
 }
 
-void MainMenu::offer(const Game& game, bool inFile) {
+void MainMenu::offer(const Game& game, bool inFile, bool hasBook) {
     for (QAction* item :
          {mnuclippuz, mnuclipsol, mnusavex, mnusaveto, printPuzzle, printSolution, printBoth,
           mnucheck, mnureset, mnuallpencil, mnuclearpencil, mnusetpairs, mnuset1s})
         item->setEnabled(game.hasPuzzle());
     mnuundo->setEnabled(game.canUndo());
     mnuredo->setEnabled(game.canRedo());
-    mnudelete->setEnabled(inFile);
+    for (QAction* item : {mnudelete, mnunextunsolved})
+        item->setEnabled(inFile);
+    mnustatistics->setEnabled(hasBook);
+    mnuforgetpuzzle->setEnabled(hasBook && game.hasPuzzle());
+    mnuforgetfile->setEnabled(hasBook && inFile);
 }
 
 } // namespace tessaly

@@ -27,8 +27,8 @@ public:
     void showCurrentFile(const std::filesystem::path& path);
 
     /// Offers what makes sense now: with a puzzle on the board or none, one that stands in a file
-    /// or not.
-    void offer(const Game& game, bool inFile);
+    /// or not, and a play book or none.
+    void offer(const Game& game, bool inFile, bool hasBook);
 
     QAction* mnuload;
     QMenu* mnucopyclip;
@@ -63,6 +63,11 @@ public:
     QAction* mnuclearpencil;
     QAction* mnusetpairs;
     QAction* mnuset1s;
+    QAction* mnunextunsolved;
+    QAction* mnustatistics;
+    QAction* mnushowtime;
+    QAction* mnuforgetpuzzle;
+    QAction* mnuforgetfile;
 
 private:
     void buildFileMenu(QMenu& menu);

@@ -17,6 +17,7 @@
 #include "ui/options/options_dialog.h"
 #include "ui/play/board_view.h"
 #include "ui/play/palette_panel.h"
+#include "ui/play/statistics_form.h"
 #include "ui/window/developer_row.h"
 #include "ui/window/file_drop.h"
 #include "ui/window/shortcuts.h"
@@ -98,6 +99,8 @@ Form1::Form1(Session& session, Prompts& prompts, const FileDialog& fileDialog, P
     , m_options(new Form2x(session.appearance, session.ProgramFolder, prompts, this, waiting()))
     , m_help(new Form4(session.appearance, this))
     , m_about(new AboutForm(session.appearance, this))
+    , m_statistics(new StatisticsForm(session, prompts, this))
+    , m_seconds(new QTimer(this))
     , m_commands(session, {this, m_worn, *this, prompts, fileDialog, *m_picker, printers}) {
     setObjectName(u"Form1"_s);
     setWindowTitle(u"Tessaly"_s);
@@ -105,6 +108,7 @@ Form1::Form1(Session& session, Prompts& prompts, const FileDialog& fileDialog, P
     m_picker->setObjectName(u"gf1"_s);
     m_picker->hide();
     setCentralWidget(arrangeRegions());
+    connectPlay();
     m_commands.connectTo({m_menu, *m_tools, *m_board, *m_palette, *m_status, m_developerRow});
     connect(m_board, &BoardView::entriesChanged, this, &Form1::announce);
     connect(m_menu.cmdexit, &QAction::triggered, this, &Form1::cmdexit);
@@ -150,7 +154,7 @@ void Form1::offerCommands() {
     const Game& game = m_session.game;
     const bool inFile = m_session.puzzle.PuzNum > 0;
     const QWidget* focused = QApplication::focusWidget();
-    m_menu.offer(game, inFile);
+    m_menu.offer(game, inFile, m_session.book != nullptr);
     m_tools->offerOthers(inFile);
     m_tools->cmdundo->setEnabled(game.canUndo());
     m_tools->cmdredo->setEnabled(game.canRedo());
@@ -215,13 +219,27 @@ void Form1::showPuzzle(const CurrentPuzzle& puzzle) {
     else
         m_status->showFileText(u"Create a New Puzzle"_s);
     m_board->showPuzzle();
-    offerCommands();
+    showPlay();
     if (isInFile)
         m_announcer->say(tr("Puzzle %1 of %2").arg(puzzle.PuzNum).arg(puzzle.PuzCount));
 }
 
 void Form1::showPlay() {
+    const Game& game = m_session.game;
     offerCommands();
+    m_tools->showPlayMark(game.wasSolved   ? Picture::Solved
+                          : game.isBegun() ? Picture::Begun
+                                           : Picture::None);
+    showTime();
+}
+
+void Form1::showTime() {
+    if (!m_seconds->isActive()) {
+        m_status->showTime({});
+        return;
+    }
+    m_commands.keeping.countTime();
+    m_status->showTime(playTimeText(m_session.game.seconds));
 }
 
 void Form1::showDifficulty(DifficultyChoice difficulty) {
@@ -329,6 +347,19 @@ void Form1::connectHelp() {
         m_help->show();
     });
     connect(m_menu.mnuabout, &QAction::triggered, m_about, &QDialog::show);
+}
+
+void Form1::connectPlay() {
+    m_tools->setSolvedText(
+        [this] { return QString::fromStdString(m_commands.keeping.solvedInWords()); });
+    m_seconds->setInterval(std::chrono::seconds(1));
+    connect(m_seconds, &QTimer::timeout, this, &Form1::showTime);
+    connect(m_menu.mnushowtime, &QAction::toggled, this, [this](bool on) {
+        on ? m_seconds->start() : m_seconds->stop();
+        showTime();
+    });
+    connect(m_menu.mnustatistics, &QAction::triggered, m_statistics,
+            &StatisticsForm::showStatistics);
 }
 
 void Form1::ApplyScheme() {

@@ -5,12 +5,15 @@
 
 #include <QMainWindow>
 
+class QTimer;
+
 namespace tessaly {
 
 class AboutForm;
 class Announcer;
 class Form2x;
 class Form4;
+class StatisticsForm;
 
 /// The main window: its regions, the commands that their controls give, and its other windows. What
 /// the commands show, it hands on to the region that shows it.
@@ -59,6 +62,8 @@ private:
     void connectOptions();
     void connectFileDrop();
     void connectHelp();
+    void connectPlay();
+    void showTime();
     /// What makes no sense now shows so and cannot be chosen.
     void offerCommands();
     void ApplyScheme();
@@ -82,6 +87,9 @@ private:
     Form2x* m_options;
     Form4* m_help;
     AboutForm* m_about;
+    StatisticsForm* m_statistics;
+    /// Runs while the time is shown.
+    QTimer* m_seconds;
 
     WindowCommands m_commands;
 };

@@ -27,7 +27,11 @@ StatusLine::StatusLine(QWidget* parent)
     : QWidget(parent)
     , StatLab(new BoxControl(tr("Check"), this))
     , m_fileName(makeLabel(u"PuzFileName"_s, this))
-    , m_message(makeLabel(u"MsgLab"_s, this)) {
+    , m_message(makeLabel(u"MsgLab"_s, this))
+    , m_time(new QLabel(this)) {
+    m_time->setObjectName(u"TimeLab"_s);
+    m_time->setToolTip(tr("Time played"));
+    m_time->hide();
     StatLab->setObjectName(u"StatLab"_s);
     StatLab->setToolTip(u"Check Solution"_s);
     StatLab->setFixedHeight(LineHeight);
@@ -38,6 +42,7 @@ StatusLine::StatusLine(QWidget* parent)
     line->setSpacing(Spacing);
     line->addWidget(m_fileName, 2);
     line->addWidget(m_message, 3);
+    line->addWidget(m_time);
     line->addWidget(StatLab);
 }
 
@@ -49,6 +54,11 @@ void StatusLine::showFile(const std::filesystem::path& path) {
 void StatusLine::showFileText(const QString& text) {
     m_fileName->setText(text);
     m_fileName->setToolTip({});
+}
+
+void StatusLine::showTime(const QString& text) {
+    m_time->setText(text);
+    m_time->setVisible(!text.isEmpty());
 }
 
 void StatusLine::showMessage(std::string_view text) {

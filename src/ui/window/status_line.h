@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+class QLabel;
+
 namespace tessaly {
 
 class BoxControl;
@@ -23,12 +25,15 @@ public:
     /// Shows a text in the place of a file's name.
     void showFileText(const QString& text);
     void showMessage(std::string_view text);
+    /// Shows how long the puzzle has been played, "" for nothing.
+    void showTime(const QString& text);
 
     BoxControl* StatLab;
 
 private:
     ElidedLabel* m_fileName; // PuzFileName
     ElidedLabel* m_message;  // MsgLab
+    QLabel* m_time;          // TimeLab
 };
 
 } // namespace tessaly

@@ -4,8 +4,10 @@
 #include "ui/controls/run_progress_bar.h"
 
 #include <QHBoxLayout>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QToolTip>
 
 #include <algorithm>
 #include <initializer_list>
@@ -17,6 +19,7 @@ using namespace Qt::StringLiterals;
 
 constexpr int ButtonSize = 40;
 constexpr int PictureSize = 24;
+constexpr int MarkSize = 20;
 constexpr int Spacing = 6;
 constexpr int GroupSpacing = 18;
 /// Room for the numbers of a library of a million puzzles; a larger one makes its own.
@@ -85,6 +88,9 @@ void ToolRow::addNumberBox() {
     m_puzNumber->setTextFormat(Qt::PlainText);
     m_row->addWidget(m_puzNumNow);
     m_row->addWidget(m_puzNumber);
+    m_mark = new PictureView(Picture::None, MarkSize, this);
+    m_mark->setObjectName(u"PlayMark"_s);
+    m_row->addWidget(m_mark);
 }
 
 BoxControl* ToolRow::addDifficultyLabel() {
@@ -105,6 +111,23 @@ void ToolRow::showPuzzleNumber(int number, int count) {
     m_puzNumber->setText(count > 0 ? u" of %1"_s.arg(count) : QString());
     m_puzNumber->setMinimumWidth(std::max(m_puzNumber->fontMetrics().horizontalAdvance(UsualCount),
                                           m_puzNumber->sizeHint().width()));
+}
+
+void ToolRow::showPlayMark(Picture mark) {
+    m_mark->setPicture(mark);
+    m_mark->setAccessibleName(mark == Picture::Solved  ? tr("Solved")
+                              : mark == Picture::Begun ? tr("Begun")
+                                                       : QString());
+}
+
+bool ToolRow::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip)
+        return QWidget::event(event);
+    const auto* help = static_cast<QHelpEvent*>(event);
+    const QWidget* under = childAt(help->pos());
+    if (m_solvedText && (under == m_mark || under == m_puzNumber))
+        QToolTip::showText(help->globalPos(), m_solvedText(), this);
+    return true;
 }
 
 void ToolRow::offerOthers(bool inFile) {

@@ -5,6 +5,7 @@
 #include <QWidget>
 
 #include <array>
+#include <functional>
 
 class QHBoxLayout;
 class QLabel;
@@ -13,6 +14,7 @@ class QLineEdit;
 namespace tessaly {
 
 class BoxControl;
+class PictureView;
 class RunProgressBar;
 enum class Picture;
 
@@ -26,6 +28,10 @@ public:
     /// Shows which puzzle of how many is on the board; 0 of 0 clears both.
     void showPuzzleNumber(int number, int count);
     void showDifficulty(DifficultyChoice difficulty);
+    /// Marks the puzzle as begun or solved beside its number, or as neither: `Picture::None`.
+    void showPlayMark(Picture mark);
+    /// What the mark's tooltip says of the whole file when it is asked.
+    void setSolvedText(std::function<QString()> text) { m_solvedText = std::move(text); }
     /// Lets the player go to other puzzles of a file, or not where there is none.
     void offerOthers(bool inFile);
 
@@ -43,6 +49,9 @@ Q_SIGNALS:
     /// Enter was pressed in the box; `number` is 0 when what it holds is no number.
     void numberEntered(int number);
 
+protected:
+    bool event(QEvent* event) override;
+
 private:
     BoxControl* addButton(Picture picture, const QString& toolTip, const QString& name);
     void addGap();
@@ -52,7 +61,9 @@ private:
     QHBoxLayout* m_row;
     QLineEdit* m_puzNumNow = nullptr; // PuzNumNow
     QLabel* m_puzNumber = nullptr;    // puznumber
+    PictureView* m_mark = nullptr;    // PlayMark
     QString m_shownNumber;
+    std::function<QString()> m_solvedText;
 };
 
 } // namespace tessaly

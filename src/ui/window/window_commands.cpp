@@ -40,6 +40,7 @@ WindowCommands::WindowCommands(Session& session, const CommandWindow& window)
     , m_printDialog(session.appearance, window.printers, window.fileDialog, window.prompts,
                     session.ProgramFolder, window.widget)
     , m_printProgress(session.appearance, window.widget)
+    , m_playBook(session, keeping, files, window.display, window.prompts)
     , m_creation(session, files, window.display, Chance(Chance::freshSeed()))
     , m_multipleCreation(session, files, window.display, window.prompts, m_creationDialog,
                          Chance(Chance::freshSeed()))
@@ -67,6 +68,15 @@ void WindowCommands::stop() {
 template <class Command>
 void WindowCommands::onChoice(QAction* item, Command command, std::string_view refusal) {
     QObject::connect(item, &QAction::triggered, item, guarded(*this, command, refusal));
+}
+
+void WindowCommands::remember(QAction* item, const std::string& setting) {
+    if (!m_session.book)
+        return;
+    item->setChecked(!m_session.book->setting(setting).empty());
+    QObject::connect(item, &QAction::toggled, item, [this, setting](bool on) {
+        keeping.tell(m_session.book->set(setting, on ? "on" : ""));
+    });
 }
 
 template <class Command>
@@ -152,6 +162,10 @@ void WindowCommands::connectPlay(const WindowRegions& regions) {
     onAlternateClick(palette.cmdallpencil, [this] { play.cmdallpencilClear(); });
     onBoth(menu.mnusetpairs, palette.cmdsetpairs, [this] { play.cmdsetpairs(); });
     onBoth(menu.mnuset1s, palette.cmdset1s, [this] { play.cmdset1s(); });
+    onChoice(menu.mnunextunsolved, [this] { m_playBook.mnunextunsolved(); });
+    onChoice(menu.mnuforgetpuzzle, [this] { m_playBook.mnuforgetpuzzle(); });
+    onChoice(menu.mnuforgetfile, [this] { m_playBook.mnuforgetfile(); });
+    remember(menu.mnushowtime, "showTime");
 }
 
 void WindowCommands::connectDeveloperRow(const DeveloperRow& row) {

@@ -4,6 +4,7 @@
 #include "core/session/developer_commands.h"
 #include "core/session/maintenance_commands.h"
 #include "core/session/multiple_creation.h"
+#include "core/session/play_book_commands.h"
 #include "ui/output/export_commands.h"
 #include "ui/output/print_commands.h"
 #include "ui/output/print_progress.h"
@@ -76,6 +77,8 @@ private:
     // What a control does to start a command that may be refused.
     template <class Command>
     void onChoice(QAction* item, Command command, std::string_view refusal = BusyState::Refusal);
+    /// Has a switch stand as it did when the game was played last.
+    void remember(QAction* item, const std::string& setting);
     template <class Command>
     void onClick(BoxControl* button, Command command);
     template <class Command>
@@ -89,6 +92,7 @@ private:
     Form5 m_printDialog;
     PrintProgress m_printProgress;
 
+    PlayBookCommands m_playBook;
     CreationCommands m_creation;
     MultipleCreation m_multipleCreation;
     DeveloperCommands m_developer;

@@ -17,7 +17,8 @@ namespace {
 struct WindowCommandsTest : testing::Test {
     /// Goes every way into a command but into those that touch no puzzle; how many there are.
     std::size_t giveEveryCommand() {
-        const std::set<QString> harmless{u"cmdexit"_s, u"mnuhelp"_s, u"mnuabout"_s, u"DifLab"_s};
+        const std::set<QString> harmless{u"cmdexit"_s, u"mnuhelp"_s, u"mnuabout"_s, u"DifLab"_s,
+                                         u"mnushowtime"_s};
         std::size_t ways = 4;
         for (QAction* item : game.window->findChildren<QAction*>())
             if (!item->shortcut().isEmpty() && item->isEnabled() &&
