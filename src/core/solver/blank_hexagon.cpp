@@ -86,7 +86,7 @@ private:
     /// which the rules are applied.
     const PackedRules& stuckCells() {
         if (!m_stuckCells) {
-            m_stuckCells.emplace(m_draft.givensWithout(m_blankHex));
+            m_stuckCells.emplace(m_draft.solutionWithout(m_stuck.open()));
             m_stuckCells->solveBasic(false, NoYield);
         }
         return *m_stuckCells;

@@ -55,6 +55,21 @@ HexagonWords PuzzleDraft::solutionAt(const CellSet& given) const {
     return cells;
 }
 
+HexagonWords PuzzleDraft::solutionWithout(const SideSet& sides) const {
+    HexagonWords cells = m_solution;
+    const auto empty = [&cells](CellId cell) {
+        cells[static_cast<std::size_t>(cell.hexagon)] &= ~word::maskOf(cell.position);
+    };
+    for (CellId cell : AllCells)
+        if (const std::size_t direction = planes::sideIndex(cell);
+            direction < SideDirections &&
+            (sides[direction] & planes::hexagonBit(cell.hexagon)) != 0) {
+            empty(cell);
+            empty(SideLink[cell]);
+        }
+    return cells;
+}
+
 void PuzzleDraft::writeTo(Board& board) const {
     board.CellNum = {};
     board.SolNum = {};

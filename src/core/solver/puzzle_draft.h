@@ -88,6 +88,8 @@ public:
     HexagonWords givens() const { return solutionAt(m_given); }
     /// The board at its givens, with a hexagon emptied.
     HexagonWords givensWithout(int hexagon) const { return solutionAt(givenWithout(hexagon)); }
+    /// The solution with both cells of some sides emptied.
+    HexagonWords solutionWithout(const SideSet& sides) const;
 
     /// The rules at the givens, for as long as the draft lives.
     SideRules rules() const { return rulesWithout(SideSet()); }

@@ -1,12 +1,21 @@
 #include "core/solver/side_rules.h"
 
 #include <bit>
+#include <type_traits>
 
 namespace tessaly {
 namespace {
 
 using planes::DigitPlanes;
 using planes::Word;
+
+/// Does something for each direction as a constant, so that all shifts are by constants.
+template <class Work>
+void forEachDirection(const Work& work) {
+    work(std::integral_constant<std::size_t, 0>());
+    work(std::integral_constant<std::size_t, 1>());
+    work(std::integral_constant<std::size_t, 2>());
+}
 
 /// From the hexagon where a side's bit stands to the one across the side.
 Word across(Word word, std::size_t direction) {
@@ -71,14 +80,16 @@ bool SideRules::deduce(const SideSet& wanted, bool useXcells) {
 
 void SideRules::findCandidates() {
     DigitPlanes lacks{};
-    for (std::size_t direction = 0; direction < SideDirections; ++direction)
+    forEachDirection([&](auto direction) {
         for (std::size_t i = 0; i < planes::WordCount; ++i) {
             const Word digits = (*m_solution)[direction][i] & m_open[direction];
             lacks[i] |= digits | across(digits, direction);
         }
-    for (std::size_t direction = 0; direction < SideDirections; ++direction)
+    });
+    forEachDirection([&](auto direction) {
         for (std::size_t i = 0; i < planes::WordCount; ++i)
             m_candidates[direction][i] = lacks[i] & back(lacks[i], direction) & m_open[direction];
+    });
 }
 
 /// A side with one candidate is settled, and one that alone can hold a digit in one of its
@@ -86,21 +97,22 @@ void SideRules::findCandidates() {
 SideSet SideRules::settledByHexagons() const {
     DigitPlanes seen{};
     DigitPlanes again{};
-    for (std::size_t direction = 0; direction < SideDirections; ++direction)
+    forEachDirection([&](auto direction) {
         for (std::size_t i = 0; i < planes::WordCount; ++i) {
             const Word here = m_candidates[direction][i];
             const Word there = across(here, direction);
             again[i] |= (seen[i] & here) | ((seen[i] | here) & there);
             seen[i] |= here | there;
         }
+    });
     std::array<Word, SideDirections> settled{};
-    for (std::size_t direction = 0; direction < SideDirections; ++direction) {
+    forEachDirection([&](auto direction) {
         const DigitPlanes& digits = m_candidates[direction];
         Word lone = 0;
         for (std::size_t i = 0; i < planes::WordCount; ++i)
             lone |= digits[i] & ~(again[i] & back(again[i], direction));
         settled[direction] = planes::eitherHalf(lone) | planes::exactlyOne(digits);
-    }
+    });
     return SideSet(settled);
 }
 
