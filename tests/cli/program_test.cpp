@@ -23,33 +23,11 @@ TEST_F(Program, EveryCommandHelpsWithAnExample) {
 }
 
 TEST_F(Program, WrongUsageIsOneLineAndStatusTwo) {
-    const std::string easy = "create --difficulty easy --count ";
-    for (const auto& [line, named] : std::vector<std::pair<std::string, std::string>>{
-             {"", "subcommand"},
-             {"crate", "no subcommand crate"},
-             {"create --dificulty easy --count 1", "no option --dificulty"},
-             {"create --difficulty nasty --count 1", "nasty"},
-             {easy, "--count"},
-             {"create --difficulty easy", "--count"},
-             {"create --difficulty easy --day 2027-02-29", "--day"},
-             {easy + "1 --day 2028-02-29", "--day"},
-             {easy + "1 --first 2", "--first"},
-             {easy + "1 --stars 0", "--stars"},
-             {easy + "1 --stars 5-4", "--stars"},
-             {easy + "0", "--count"},
-             {easy + "10000001", "--count"},
-             {easy + "2.5", "--count"},
-             {easy + "1 --jobs 257", "--jobs"},
-             {easy + "1 --seed -1", "--seed"},
-             {"shuffle a.txt --output b.txt --seed 18446744073709551616", "--seed"},
-             {"solve", "FILE"},
-             {"variants a.txt b.txt", "b.txt"},
-             {"solve a.txt --number 0", "--number"},
-             {"solve a.txt --rules some", "some"},
-             {"bench --seconds 0", "--seconds"},
-             {"bench --seconds nan", "--seconds"},
-         })
-        expectRefused(line, exit_status::WrongUsage, named);
+    // What is named, a bar, the command line.
+    for (const std::string& row : linesOf(contentOf(TESSALY_TEST_DATA "/wrong_usage.txt"))) {
+        const std::size_t bar = row.find('|');
+        expectRefused(row.substr(bar + 1), exit_status::WrongUsage, row.substr(0, bar));
+    }
 }
 
 TEST_F(Program, AnInterruptedCommandEndsWhereItIsAndSaysSoByItsStatus) {

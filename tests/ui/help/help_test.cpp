@@ -93,14 +93,13 @@ TEST_F(HelpWindow, TheRealPageShowsItsDrawingsInTheirSize) {
     EXPECT_EQ(browser.horizontalScrollBar()->maximum(), 0) << "nothing is cut off";
 }
 
-TEST(AboutBox, WearsTheSchemeAndIsClosedInThreeWays) {
+TEST(AboutBox, WearsTheSchemeAndIsClosedByButtonAndClick) {
     GameWindow game;
     auto& about = game.find<AboutForm>(u"AboutForm"_s);
     auto& text = find<QPlainTextEdit>(about, u"AboutText"_s);
     game.session.appearance.SchemeColours[slot::Background] = RGB(20, 24, 30);
     const std::function<void()> ways[] = {
         [&] { QTest::mouseClick(&find(about, u"AboutOk"_s), Qt::LeftButton); },
-        [&] { QTest::keyClick(&about, Qt::Key_Escape); },
         [&] { QTest::mousePress(text.viewport(), Qt::LeftButton); }};
     for (const auto& close : ways) {
         game.choose(u"mnuabout"_s);
