@@ -4,8 +4,7 @@
 
 #include <QProcess>
 
-namespace tessaly {
-namespace {
+namespace tessaly::program_test {
 
 struct Program : testing::Test {
     /// Runs the game to its end, without a display or with one that does not answer; its status.
@@ -66,5 +65,4 @@ TEST_F(Program, SaysWhatItCouldNotReadOrWrite) {
     EXPECT_FALSE(QFile::exists(picture));
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::program_test

@@ -7,8 +7,7 @@
 #include <algorithm>
 #include <set>
 
-namespace tessaly {
-namespace {
+namespace tessaly::create_command_test {
 
 struct CreateCommand : CommandLineTest {
     CommandResult create(const std::string& asked, const CommandSetting& setting = {}) const {
@@ -146,5 +145,4 @@ TEST_F(CreateCommand, ATerminalGetsAProgressBarThatIsGoneInTheEnd) {
     EXPECT_EQ(differentRecords(result.out), 30);
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::create_command_test

@@ -8,8 +8,7 @@
 #include <array>
 #include <unistd.h>
 
-namespace tessaly {
-namespace {
+namespace tessaly::file_commands_test {
 
 using FileCommands = CommandLineTest;
 
@@ -174,5 +173,4 @@ TEST_F(FileCommands, EveryVariantOfNewPuzzlesPassesTheCheckAndIsShuffledOnce) {
     EXPECT_TRUE(std::ranges::is_permutation(lines, variant));
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::file_commands_test

@@ -1,8 +1,7 @@
 #include "support/command_line.h"
 #include "support/sample_puzzles.h"
 
-namespace tessaly {
-namespace {
+namespace tessaly::program_test {
 
 using Program = CommandLineTest;
 
@@ -55,5 +54,4 @@ TEST_F(Program, TheBenchShowsTheSignatureOfTheEngineAndRates) {
         EXPECT_TRUE(lines[i].ends_with(" a second")) << lines[i];
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::program_test

@@ -12,8 +12,7 @@
 #include <fstream>
 #include <sys/stat.h>
 
-namespace tessaly {
-namespace {
+namespace tessaly::standard_output_test {
 
 constexpr std::size_t LineLength = RecordLength + 2;
 
@@ -110,5 +109,4 @@ TEST_F(StandardOutputTest, APartOfALineIsTakenBackWhereTheFileEndsWithIt) {
     EXPECT_EQ(left(O_APPEND, "", "1234\n56", 6), "1234\n5");
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::standard_output_test

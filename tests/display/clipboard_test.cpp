@@ -5,8 +5,7 @@
 #include <QEventLoop>
 #include <QProcess>
 
-namespace tessaly {
-namespace {
+namespace tessaly::clipboard_test {
 
 /// The clipboard as another program reads it, in one of the kinds that are offered. The game gives
 /// it away piece by piece, so its events are handled meanwhile.
@@ -39,5 +38,4 @@ TEST(Clipboard, AnotherProgramReadsPictureAndRecord) {
     }
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::clipboard_test

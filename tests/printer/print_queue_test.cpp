@@ -4,8 +4,7 @@
 #include <QComboBox>
 #include <QProcess>
 
-namespace tessaly {
-namespace {
+namespace tessaly::print_queue_test {
 
 struct PrintQueue : testing::Test {
     /// Prints the puzzles 2 to 8 and their solutions.
@@ -25,48 +24,25 @@ struct PrintQueue : testing::Test {
         return lpstat.waitForFinished() && lpstat.exitCode() == 0 &&
                lpstat.readAllStandardOutput().isEmpty();
     }
-    /// The paper that comes out of the printer, taken away.
-    PdfDocument take() {
-        EXPECT_TRUE(QTest::qWaitFor(allIsPrinted, 60'000));
-        EXPECT_EQ(arrived().size(), 1);
-        const std::string sheets = game.folder.path() + "sheets.pdf";
-        EXPECT_TRUE(printed.rename(arrived().value(0), QString::fromStdString(sheets)));
-        return PdfDocument(sheets);
-    }
-
     SystemPrinters printers;
     GameWindow game{"easy.txt", 3, &printers};
     QDir printed{qEnvironmentVariable("TESSALY_PRINTED")};
 };
 
-/// The letters and digits of all pages in the order of the alphabet: on their way to the printer
-/// they are put together to other words, in another order.
-std::vector<std::string> textOf(const PdfDocument& document) {
-    std::vector<std::string> pages;
-    for (int page = 1; page <= document.pageCount(); ++page) {
-        std::string& text = pages.emplace_back();
-        for (const auto& word : document.words(page))
-            text += word.text.toStdString();
-        std::sort(text.begin(), text.end());
-    }
-    return pages;
-}
-
-TEST_F(PrintQueue, ABookletArrivesAtAPrinterOfTheSystemWithEveryNumberOnItsPage) {
+TEST_F(PrintQueue, ABookletArrivesAtAPrinterOfTheSystemWithEveryPageOnItsPaper) {
     EXPECT_EQ(printers.names(), (QStringList{u"Closed"_s, u"Paper"_s}));
     EXPECT_EQ(printers.defaultName(), u"Paper"_s);
     EXPECT_NEAR(printers.paperOf(u"Paper"_s).width, 420, 2);
     EXPECT_NEAR(printers.paperOf(u"Paper"_s).height, 595, 2);
     printRange(u"Paper"_s);
     EXPECT_EQ(game.message(), u"3 pages printed to Paper"_s);
-    const PdfDocument sheets = take();
-    const std::string file = game.folder.path() + "file.pdf";
-    game.fileDialogs.add(QString::fromStdString(file));
-    printRange(u"Print to PDF"_s);
+    EXPECT_TRUE(QTest::qWaitFor(allIsPrinted, 60'000));
+    ASSERT_EQ(arrived().size(), 1);
+    const PdfDocument sheets(printed.filePath(arrived().front()).toStdString());
     EXPECT_EQ(sheets.pageCount(), 3);
     EXPECT_TRUE(sheets.info(u"Page size"_s).endsWith(u"(A5)"_s));
-    EXPECT_EQ(textOf(sheets), textOf(PdfDocument(file)));
-    EXPECT_TRUE(game.prompts.shown.empty());
+    EXPECT_GT(sheets.words(3).size(), 7U * 30) << "seven solutions";
+    EXPECT_TRUE(printed.remove(arrived().front()));
 }
 
 TEST_F(PrintQueue, WhatAPrinterDoesNotTakeIsSaid) {
@@ -77,5 +53,4 @@ TEST_F(PrintQueue, WhatAPrinterDoesNotTakeIsSaid) {
     EXPECT_EQ(arrived(), QStringList());
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::print_queue_test

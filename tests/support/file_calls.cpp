@@ -76,6 +76,10 @@ TESSALY_FILE_CALL(int, fstatat, (int folder, const char* path, struct stat* stat
                   folder, path, status, flags)
 TESSALY_FILE_CALL(ssize_t, readlink, (const char* path, char* target, size_t size), path, target,
                   size)
+TESSALY_FILE_CALL(ssize_t, readlinkat, (int folder, const char* path, char* target, size_t size),
+                  folder, path, target, size)
+TESSALY_FILE_CALL(int, symlinkat, (const char* target, int folder, const char* path), target,
+                  folder, path)
 TESSALY_FILE_CALL(int, flock, (int file, int operation), file, operation)
 TESSALY_FILE_CALL(ssize_t, pread, (int file, void* bytes, size_t size, off_t offset), file, bytes,
                   size, offset)
@@ -92,5 +96,8 @@ TESSALY_FILE_CALL(int, linkat,
 TESSALY_FILE_CALL(int, unlinkat, (int folder, const char* path, int flags), folder, path, flags)
 TESSALY_FILE_CALL(int, fchmod, (int file, mode_t mode), file, mode)
 TESSALY_FILE_CALL(int, fchown, (int file, uid_t owner, gid_t group), file, owner, group)
+TESSALY_FILE_CALL(int, fsetxattr,
+                  (int file, const char* name, const void* value, size_t size, int flags), file,
+                  name, value, size, flags)
 TESSALY_FILE_CALL(int, nanosleep, (const timespec* time, timespec* left), time, left)
 }

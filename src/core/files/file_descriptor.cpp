@@ -54,10 +54,9 @@ bool lacksLocks(int error) {
 } // namespace
 
 FileDescriptor& FileDescriptor::operator=(FileDescriptor&& other) noexcept {
-    if (this != &other) {
-        close();
-        m_fd = std::exchange(other.m_fd, -1);
-    }
+    const int taken = std::exchange(other.m_fd, -1);
+    close();
+    m_fd = taken;
     return *this;
 }
 

@@ -4,8 +4,7 @@
 
 #include <algorithm>
 
-namespace tessaly {
-namespace {
+namespace tessaly::arrangements_test {
 
 TEST(Arrangements, AnyOrderWillDoButEachMustBeThereOnce) {
     const std::string shipped = TESSALY_DATA "/hexabinx.txt";
@@ -46,5 +45,4 @@ TEST(Arrangements, AnyOrderWillDoButEachMustBeThereOnce) {
     }
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::arrangements_test

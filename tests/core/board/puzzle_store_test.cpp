@@ -12,8 +12,7 @@
 #include <map>
 #include <set>
 
-namespace tessaly {
-namespace {
+namespace tessaly::puzzle_store_test {
 
 namespace fs = std::filesystem;
 using Status = PuzzleRead::Status;
@@ -236,5 +235,4 @@ TEST(PuzzleRecord, ProgressIsWrittenForSingleNumbersOfThePlayerAndReadBack) {
     EXPECT_EQ(board.CellNum[2], (std::array<std::string, 7>{"", "4", "", "", "", "2", ""}));
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::puzzle_store_test

@@ -4,12 +4,13 @@
 
 #include "support/temporary_folder.h"
 
+#include <cstdlib>
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
 #include <unistd.h>
 
-namespace tessaly {
-namespace {
+namespace tessaly::file_access_test {
 
 namespace fs = std::filesystem;
 using Names = std::set<std::string>;
@@ -79,6 +80,10 @@ TEST_F(FileAccess, WhatIsNoRegularFileIsRefusedWithoutWaiting) {
     }
     EXPECT_EQ(content, "kept");
     EXPECT_EQ(folder.names(), (Names{"folder", "fifo"}));
+    const FileDescriptor terminal(::posix_openpt(O_RDWR | O_NOCTTY));
+    ASSERT_EQ(::grantpt(terminal.get()) + ::unlockpt(terminal.get()), 0);
+    FileDescriptor opened;
+    EXPECT_EQ(openForReadingOnce(::ptsname(terminal.get()), opened).problem, "") << "is read once";
 }
 
 TEST_F(FileAccess, ASmallFileIsReadUpToItsLimitAndChangedInOneGo) {
@@ -100,5 +105,4 @@ TEST_F(FileAccess, ASmallFileIsReadUpToItsLimitAndChangedInOneGo) {
     EXPECT_EQ(contentOf(file), "foreign");
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::file_access_test

@@ -2,6 +2,7 @@
 
 #include "core/board/arrangements.h"
 #include "core/files/file_access.h"
+#include "core/files/lock_file.h"
 #include "core/files/locked_file.h"
 #include "core/session/program_folder.h"
 
@@ -11,11 +12,14 @@
 #include "support/sample_puzzles.h"
 #include "support/temporary_folder.h"
 
+#include <array>
 #include <cerrno>
+#include <ctime>
 #include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/xattr.h>
 
-namespace tessaly {
-namespace {
+namespace tessaly::file_faults_test {
 
 namespace fs = std::filesystem;
 using Names = std::set<std::string>;
@@ -191,6 +195,43 @@ TEST_F(FileFaultsTest, WithoutLocksWhoWritesIsSeenInTheFolderUntilHeHasDied) {
     EXPECT_EQ(m_folder.names().size(), 1u);
 }
 
+TEST_F(FileFaultsTest, ALockLinkOfAnotherMachineCountsUntilItIsOld) {
+    const FileDescriptor home(::open(m_folder.path().c_str(), O_RDONLY));
+    LockFile lock;
+    ASSERT_EQ(lock.take(home, "a.txt"), LockAnswer::Taken);
+    const fs::path link = m_folder / *m_folder.names().begin();
+    const std::string self = fs::read_symlink(link);
+    const std::string host = self.substr(0, self.find(':') + 1);
+    lock.release();
+    const auto another = [&] {
+        fs::remove(link);
+        fs::create_symlink("another:2", link);
+    };
+    const std::tuple<std::string, std::time_t, FileCalls::Before, bool> rows[] = {
+        {"elsewhere:1", 0, failing("", 0), true},
+        {"elsewhere:1", 1000, failing("", 0), false},
+        {"elsewhere:1", 1000, failing("fstatat", EIO), true},
+        {"elsewhere:1", 1000, failing("readlinkat", EIO), true},
+        {"elsewhere:1", 1000, failing("renameat", EIO), true},
+        {"elsewhere:1", 1000, meanwhile("renameat", another), true},
+        {host + "x", 0, failing("", 0), true},
+        {host + "0", 0, failing("", 0), true},
+    };
+    for (const auto& [writer, age, before, stays] : rows) {
+        fs::remove(link);
+        fs::create_symlink(writer, link);
+        const timespec then{std::time(nullptr) - age, 0};
+        const std::array times{then, then};
+        ASSERT_EQ(::utimensat(AT_FDCWD, link.c_str(), times.data(), AT_SYMLINK_NOFOLLOW), 0);
+        const FileCalls calls(before);
+        EXPECT_EQ(lock.take(home, "a.txt"), LockAnswer::Busy) << writer << age;
+        EXPECT_EQ(fs::is_symlink(link), stays) << writer << age;
+    }
+    fs::remove(link);
+    const FileCalls calls(failing("symlinkat", EPERM));
+    EXPECT_EQ(lock.take(home, "a.txt"), LockAnswer::Unknown);
+}
+
 TEST_F(FileFaultsTest, OnlyLeftoversOfDeadProcessesAreCleared) {
     const Names own{"a.txt", ".tessaly-notes.tmp", ".tessaly-0123456789abcdef.txt",
                     "my-notes-0123456789abcdef.tmp"};
@@ -292,6 +333,15 @@ TEST_F(FileFaultsTest, AReplacementIsDoneAsFarAsTheSystemAllows) {
         EXPECT_EQ(problemWhile(failing("fchown", EPERM, 0, failures), replacing("new")), "");
         EXPECT_EQ(fs::status(file).permissions(), fs::perms(mode));
     }
+    // Nor has the group what somebody on a list had, when the list cannot be kept.
+    constexpr std::array<std::uint16_t, 22> List{2,      0,      1,  6, 0xFFFF, 0xFFFF, 2,  4,
+                                                 65534,  0,      4,  0, 0xFFFF, 0xFFFF, 16, 4,
+                                                 0xFFFF, 0xFFFF, 32, 4, 0xFFFF, 0xFFFF};
+    if (::setxattr(file.c_str(), "system.posix_acl_access", List.data(), sizeof(List), 0) != 0)
+        return;
+    ASSERT_EQ(fs::status(file).permissions(), fs::perms(0644));
+    EXPECT_EQ(problemWhile(failing("fsetxattr", ENOTSUP, 0, 9), replacing("new")), "");
+    EXPECT_EQ(fs::status(file).permissions(), fs::perms(0604));
 }
 
 TEST_F(FileFaultsTest, AFileThatCannotBeReadToItsEndIsNamedAndStays) {
@@ -347,5 +397,4 @@ TEST_F(FileFaultsTest, NobodyIsWaitedForLongerThanTenSeconds) {
     EXPECT_EQ(contentOf(file), "old");
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::file_faults_test

@@ -6,8 +6,7 @@
 
 #include <random>
 
-namespace tessaly {
-namespace {
+namespace tessaly::line_index_test {
 
 const std::string Mark(ByteOrderMark);
 
@@ -98,5 +97,4 @@ TEST_F(LineIndexTest, ReadsNothingUntilTheFileChangesOrMayHaveChangedUnseen) {
     EXPECT_TRUE(state.wouldShowAChange());
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::line_index_test

@@ -6,8 +6,7 @@
 #include <algorithm>
 #include <vector>
 
-namespace tessaly {
-namespace {
+namespace tessaly::colours_test {
 
 using namespace colour_surface;
 
@@ -97,5 +96,4 @@ TEST(ColourSurface, KeysReachEveryPlaceAndStayOnTheSurface) {
     EXPECT_NE(nameOf({0, 0}, Ramp), nameOf({3, 3}, Ramp));
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::colours_test

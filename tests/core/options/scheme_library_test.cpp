@@ -4,8 +4,7 @@
 
 #include <algorithm>
 
-namespace tessaly {
-namespace {
+namespace tessaly::scheme_library_test {
 
 using Names = std::vector<std::string>;
 
@@ -210,5 +209,4 @@ TEST(ShippedSchemes, TheSpecialOnesAreWhatTheirNamesSay) {
     EXPECT_LT(leastDistance(shipped("meadow")), 55) << "the measure must tell a bad one";
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::scheme_library_test

@@ -8,8 +8,7 @@
 #include <algorithm>
 #include <vector>
 
-namespace tessaly {
-namespace {
+namespace tessaly::booklet_test {
 
 using Pages = std::vector<BookletPage>;
 
@@ -113,5 +112,4 @@ TEST(PageLayout, BoardsLieApartOnTheSheetAndKeepTheirShape) {
         }
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::booklet_test

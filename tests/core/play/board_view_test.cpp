@@ -8,8 +8,7 @@
 
 #include <limits>
 
-namespace tessaly {
-namespace {
+namespace tessaly::board_view_test {
 
 TEST(BoardGeometry, HexagonsAndNumbersStandWhereTheirAnchorsPutThem) {
     const std::array<Point, CellCount> first{
@@ -55,15 +54,8 @@ TEST(BoardStyle, MarksStandRightAlignedInTwoRows) {
     }
 }
 
-TEST(BoardStyle, SpacedHexagonsAreBorderedByTheBackgroundAndPaperByItsOwnWidth) {
+TEST(BoardStyle, PaperIsBorderedByItsOwnWidthAndSignsAreSeenOnEveryFill) {
     Appearance appearance;
-    appearance.SchemeColours[slot::Background] = RGB(200, 201, 202);
-    appearance.HexaBorderColour = RGB(1, 2, 3);
-    appearance.SplitHexas = true;
-    const BoardStyle split = boardStyle(appearance);
-    EXPECT_EQ(split.border, RGB(200, 201, 202));
-    EXPECT_GT(split.borderWidth, 2);
-    EXPECT_TRUE(split.line == RGB(1, 2, 3) && split.solid == split.line);
     for (const auto& [from, to] : hatchLines(10))
         EXPECT_NEAR(from.x + from.y, to.x + to.y, 1e-9) << "at 45 degrees";
     appearance.PrintLineWidth = 3;
@@ -108,5 +100,4 @@ TEST(CellDescription, SaysWhereACellLiesWhatItHoldsAndWhatLiesAcross) {
     EXPECT_EQ(changesInWords(board, std::vector<CellId>(7), {}), "7 cells changed");
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::board_view_test

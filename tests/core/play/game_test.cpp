@@ -7,8 +7,7 @@
 #include <functional>
 #include <iterator>
 
-namespace tessaly {
-namespace {
+namespace tessaly::game_test {
 
 constexpr CellId Cell{7, 3};
 using Entries = Grid<std::string>::Row;
@@ -219,5 +218,4 @@ TEST_F(GameTest, TheCheckFindsTheLowestWrongHexagonAndWhetherAllIsSolved) {
     EXPECT_FALSE(isSolved(board));
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::game_test

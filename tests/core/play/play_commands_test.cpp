@@ -5,8 +5,7 @@
 
 #include <algorithm>
 
-namespace tessaly {
-namespace {
+namespace tessaly::play_commands_test {
 
 constexpr CellId Cell{7, 3};
 
@@ -311,5 +310,4 @@ TEST_F(PlayCommandsTest, ForAMinuteUndoBringsBackWhatWasReset) {
     EXPECT_FALSE(game.canUndo());
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::play_commands_test

@@ -5,8 +5,7 @@
 #include "support/file_calls.h"
 #include "support/temporary_folder.h"
 
-namespace tessaly {
-namespace {
+namespace tessaly::configuration_test {
 
 namespace fs = std::filesystem;
 using Paths = std::vector<fs::path>;
@@ -225,5 +224,4 @@ TEST_F(ConfigurationTest, ASchemeThatIsGoneOrDamagedIsSaidAndTheBuiltInOneServes
     }
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::configuration_test

@@ -6,8 +6,7 @@
 
 #include <set>
 
-namespace tessaly {
-namespace {
+namespace tessaly::creation_test {
 
 struct CreationTest : testing::Test, SessionScene, CreationOrderChoice {
     CreationTest() {
@@ -147,5 +146,4 @@ TEST_F(CreationTest, AStopOrAFailureLeavesWholeRecords) {
                                          "[vbok+vbcritical]"));
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::creation_test

@@ -6,8 +6,7 @@
 
 #include <limits>
 
-namespace tessaly {
-namespace {
+namespace tessaly::options_editor_test {
 
 constexpr Colour Orange = RGB(250, 150, 20);
 constexpr Colour Dark = RGB(20, 30, 40);
@@ -235,5 +234,4 @@ TEST_F(OptionsEditorTest, WithoutTheSchemesTheRestCanStillBeSet) {
     EXPECT_EQ(settings.HexaBorderWidth, Appearance().HexaBorderWidth);
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::options_editor_test

@@ -4,7 +4,6 @@
 #include "support/sample_puzzles.h"
 #include "support/temporary_folder.h"
 
-#include <gtest/gtest.h>
 #include <sqlite3.h>
 
 #include <cerrno>
@@ -12,8 +11,7 @@
 #include <functional>
 #include <random>
 
-namespace tessaly {
-namespace {
+namespace tessaly::play_book_test {
 
 namespace fs = std::filesystem;
 
@@ -304,5 +302,4 @@ TEST_F(PlayBookTest, OnAFullDiskPlayGoesOnAndIsKeptWhenThereIsRoomAgain) {
     EXPECT_EQ(foundAnew(records[0]), window.found());
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::play_book_test

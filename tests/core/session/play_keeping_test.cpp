@@ -4,8 +4,7 @@
 #include "core/session/start_up.h"
 #include "support/core_fakes.h"
 
-namespace tessaly {
-namespace {
+namespace tessaly::play_keeping_test {
 
 namespace fs = std::filesystem;
 
@@ -84,5 +83,4 @@ TEST_F(PlayKeepingTest, TimeIsCountedOnlyForWhoIsThere) {
     EXPECT_LT(run.session.game.seconds, 102);
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::play_keeping_test

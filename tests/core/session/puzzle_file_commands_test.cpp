@@ -5,8 +5,7 @@
 
 #include <cerrno>
 
-namespace tessaly {
-namespace {
+namespace tessaly::puzzle_file_commands_test {
 
 namespace fs = std::filesystem;
 
@@ -237,5 +236,4 @@ TEST_F(PuzzleFileCommandsTest, RecentFilesOpenUnlessTheyAreGone) {
     EXPECT_EQ(display.recent.size(), 2u) << "it is not added";
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::puzzle_file_commands_test

@@ -7,8 +7,7 @@
 #include <map>
 #include <sstream>
 
-namespace tessaly {
-namespace {
+namespace tessaly::start_test {
 
 namespace fs = std::filesystem;
 using Files = std::map<std::string, std::string>;
@@ -177,5 +176,4 @@ TEST_F(ProgramFolderTest, TwoFirstStartsAtOnceBothFindAWholeFolder) {
     }
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::start_test

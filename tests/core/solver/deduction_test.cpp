@@ -15,8 +15,7 @@
 #include <map>
 #include <string>
 
-namespace tessaly {
-namespace {
+namespace tessaly::deduction_test {
 
 using Rule = void (*)(Board& board, std::int32_t& counter);
 
@@ -111,5 +110,4 @@ TEST(SideRules, EndWhereTheRulesEndOneByOneOnAHundredThousandBoards) {
         EXPECT_TRUE(count > 10'000 && count < 49'000) << count;
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::deduction_test

@@ -1,6 +1,5 @@
 // From chance over a filling to a puzzle.
 
-#include "core/board/tables.h"
 #include "core/solver/chance.h"
 #include "core/solver/generator.h"
 #include "core/solver/puzzle_audit.h"
@@ -14,8 +13,7 @@
 #include <set>
 #include <string>
 
-namespace tessaly {
-namespace {
+namespace tessaly::generator_test {
 
 constexpr auto Easy = Difficulty::Easy;
 constexpr auto Hard = Difficulty::Hard;
@@ -28,20 +26,6 @@ void expectPuzzle(const Board& board, Difficulty difficulty) {
 }
 
 // What puzzles promise besides is what the command line's check finds in those that it has created.
-TEST(Generator, FewCellsAreGivenAndEveryChoiceOfBlankHexagonComesUp) {
-    for (const char* file : {"easy.txt", "hard.txt"}) {
-        std::set<int> blanks;
-        for (const std::string& record : recordsOf(TESSALY_DATA "/puzzles/" + std::string(file))) {
-            const Board board = boardOf(record);
-            blanks.insert(board.BlankHex);
-            const auto isGiven = [&](CellId cell) { return board.FixedCell[cell]; };
-            EXPECT_LE(std::ranges::count_if(AllCells, isGiven), 45 + CellCount);
-            EXPECT_FALSE(board.FixedCell[NeverGiven[0]] || board.FixedCell[NeverGiven[1]]);
-        }
-        EXPECT_EQ(blanks, (std::set<int>{5, 7, 8, 12, 13, 15}));
-    }
-}
-
 TEST(Generator, AWatchedPuzzleIsTheSameAndIsDrawnAsItGrows) {
     Chance chance(7);
     for (Difficulty difficulty : {Easy, Hard}) {
@@ -132,5 +116,4 @@ TEST(Chance, WhateverIsDrawnIsEquallyLikely) {
         EXPECT_NEAR(count, 48'000, 4'000) << kind;
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::generator_test

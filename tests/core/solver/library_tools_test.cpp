@@ -12,8 +12,7 @@
 #include <map>
 #include <set>
 
-namespace tessaly {
-namespace {
+namespace tessaly::library_tools_test {
 
 std::string textOf(const std::vector<std::string>& lines) {
     std::string text;
@@ -153,5 +152,4 @@ TEST(PuzzleVariants, TheSubtractedHeaderDiffersFromTheTrueOneAsItAlwaysDid) {
         EXPECT_EQ(variant.substr(0, 5), "E9900") << "no blank hexagon, no hint";
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::library_tools_test

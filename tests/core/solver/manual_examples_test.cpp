@@ -6,8 +6,7 @@
 
 #include <algorithm>
 
-namespace tessaly::manual {
-namespace {
+namespace tessaly::manual::manual_examples_test {
 
 /// What a rule makes of a cell of an example.
 std::string after(const Example& example, int rule, CellId cell) {
@@ -67,5 +66,4 @@ TEST(ManualExamples, AreShippedPuzzlesAndAsTheManualTellsThem) {
     }
 }
 
-} // namespace
-} // namespace tessaly::manual
+} // namespace tessaly::manual::manual_examples_test

@@ -10,8 +10,7 @@
 #include <set>
 #include <sstream>
 
-namespace tessaly {
-namespace {
+namespace tessaly::next_step_test {
 
 /// How many solutions a board of nothing but a step's proof has in which its cell holds `digit`.
 int solutionsWith(const Step& step, int digit, const Board& puzzle) {
@@ -124,5 +123,4 @@ TEST(NextStep, MistakesAreFoundByTheRulesAndOnlyOnDemandByTheSolution) {
     }
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::next_step_test

@@ -9,8 +9,7 @@
 #include <algorithm>
 #include <map>
 
-namespace tessaly {
-namespace {
+namespace tessaly::puzzle_audit_test {
 
 using Findings = std::vector<std::string>;
 
@@ -111,5 +110,4 @@ TEST(SolutionCounter, StopsWhereItIsTold) {
     }
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::puzzle_audit_test

@@ -7,8 +7,7 @@
 
 #include <array>
 
-namespace tessaly {
-namespace {
+namespace tessaly::search_fill_test {
 
 TEST(SearchFill, ATableThatLacksArrangementsIsSearched) {
     std::vector<Arrangement> few = allArrangements();
@@ -60,5 +59,4 @@ TEST(SearchFill, EveryPairOfCellsAgreesAsOftenAsInEvenlyDrawnFillings) {
     }
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::search_fill_test

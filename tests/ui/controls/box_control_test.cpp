@@ -1,6 +1,5 @@
 #include "ui/controls/box_control.h"
 
-#include "ui/controls/icon_set.h"
 #include "ui/drawing/qt_values.h"
 
 #include <gtest/gtest.h>
@@ -11,8 +10,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
-namespace tessaly {
-namespace {
+namespace tessaly::box_control_test {
 
 using namespace Qt::StringLiterals;
 
@@ -60,18 +58,6 @@ TEST_F(BoxControlTest, AnswersToButtonsAndKeysAndLeavesFocusAndLatchAsTheyAre) {
     EXPECT_EQ(clicked.count(), 2) << "an Enter key held down answers one question only";
 }
 
-TEST_F(BoxControlTest, EveryStateLooksDifferent) {
-    QList<QImage> looks;
-    for (const char* state : {"plain", "latched", "focused", "disabled", "coloured"}) {
-        m_button.setLatched(*state == 'l');
-        *state == 'f' ? m_button.setFocus() : m_button.clearFocus();
-        m_button.setEnabled(*state != 'd');
-        m_button.setFaceColour(*state == 'c' ? Qt::darkBlue : QColor());
-        EXPECT_FALSE(looks.contains(picture())) << state;
-        looks << picture();
-    }
-}
-
 TEST_F(BoxControlTest, ItsOutlineAndBorderAreSharpLinesAtEveryScale) {
     const QColor face(200, 200, 200);
     m_button.setFaceColour(face);
@@ -108,27 +94,4 @@ TEST_F(BoxControlTest, MayBeDeletedByWhatItsClickDoes) {
     EXPECT_TRUE(doomed.isNull());
 }
 
-TEST(IconSet, EveryPictureIsThereNoTwoAreAlikeAndLineDrawingsTakeTheColour) {
-    const QColor colour(180, 40, 90);
-    QList<QImage> seen;
-    for (auto each = Picture::Load; each <= Picture::Product; each = Picture(int(each) + 1)) {
-        SCOPED_TRACE(static_cast<int>(each));
-        const QImage image = pixmapOf(each, 24, colour, 2).toImage();
-        ASSERT_EQ(image.size(), QSize(48, 48)) << "as sharp as the screen";
-        EXPECT_FALSE(seen.contains(image));
-        seen << image;
-        int opaque = 0;
-        for (int at = 0; at < 48 * 48; ++at) {
-            const QColor pixel = image.pixelColor(at % 48, at / 48);
-            opaque += pixel.alpha() == 255;
-            if (each <= Picture::Add && pixel.alpha() == 255) {
-                ASSERT_NEAR(pixel.red() + pixel.green(), colour.red() + colour.green(), 3);
-            }
-        }
-        EXPECT_GT(opaque, 48);
-    }
-    EXPECT_EQ(productIcon().pixmap(QSize(64, 64)).size(), QSize(64, 64));
-}
-
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::box_control_test

@@ -4,8 +4,7 @@
 
 #include <QTemporaryDir>
 
-namespace tessaly {
-namespace {
+namespace tessaly::file_name_picker_test {
 
 struct FileNamePickerTest : testing::Test {
     QString choose(const QString& name, const QString& mode = {}) {
@@ -61,5 +60,4 @@ TEST_F(FileNamePickerTest, NamesThatCannotBeTakenAreRefusedWithTheReason) {
     EXPECT_EQ(choose(pathText(odd)), QString()) << "which of the two?";
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::file_name_picker_test

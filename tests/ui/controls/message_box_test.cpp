@@ -7,8 +7,7 @@
 #include <QTextEdit>
 #include <QWindow>
 
-namespace tessaly {
-namespace {
+namespace tessaly::message_box_test {
 
 const QString YesNoCancel = u"vbYesNoCancel+vbquestion"_s;
 
@@ -126,5 +125,4 @@ TEST_F(MessageBoxTest, AsksForALineOfText) {
     }
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::message_box_test

@@ -7,8 +7,6 @@
 #include "ui/drawing/qt_values.h"
 #include "ui/golden_picture.h"
 
-#include <gtest/gtest.h>
-
 #include <QFontDatabase>
 #include <QPainter>
 #include <QPicture>
@@ -16,8 +14,7 @@
 #include <cmath>
 #include <random>
 
-namespace tessaly {
-namespace {
+namespace tessaly::board_drawing_test {
 
 using namespace Qt::StringLiterals;
 
@@ -199,5 +196,4 @@ TEST(SchemePalette, TakesItsColoursFromTheSlotsAndReadsOnEveryScheme) {
     EXPECT_STREQ(schemeLikeDesktop(QPalette(QColor(0x2a, 0x2a, 0x2e))), DarkScheme);
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::board_drawing_test

@@ -5,8 +5,7 @@
 #include "support/temporary_folder.h"
 #include "ui/drawing/qt_values.h"
 
-namespace tessaly {
-namespace {
+namespace tessaly::pdf_file_test {
 
 using namespace Qt::StringLiterals;
 
@@ -93,5 +92,4 @@ TEST_F(PdfFile, HoldsEveryNumberCaptionAndFooterOnEitherPaper) {
     }
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::pdf_file_test

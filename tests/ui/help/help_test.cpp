@@ -12,8 +12,7 @@
 #include <QScrollBar>
 #include <QTextBlock>
 
-namespace tessaly {
-namespace {
+namespace tessaly::help_test {
 
 struct HelpWindow : testing::Test {
     HelpWindow() {
@@ -98,16 +97,13 @@ TEST(AboutBox, WearsTheSchemeAndIsClosedByButtonAndClick) {
     auto& about = game.find<AboutForm>(u"AboutForm"_s);
     auto& text = find<QPlainTextEdit>(about, u"AboutText"_s);
     game.session.appearance.SchemeColours[slot::Background] = RGB(20, 24, 30);
-    const std::function<void()> ways[] = {
-        [&] { QTest::mouseClick(&find(about, u"AboutOk"_s), Qt::LeftButton); },
-        [&] { QTest::mousePress(text.viewport(), Qt::LeftButton); }};
-    for (const auto& close : ways) {
+    for (QWidget* closing : {&find(about, u"AboutOk"_s), text.viewport()}) {
         game.choose(u"mnuabout"_s);
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&about));
         EXPECT_EQ(groundOf(about), RGB(20, 24, 30));
         EXPECT_EQ(find<QLabel>(about, u"Label1"_s).text(), u"Version 1.0");
         EXPECT_TRUE(text.toPlainText().contains(u"\nThis progam is free to use and distribute\n"));
-        close();
+        QTest::mouseClick(closing, Qt::LeftButton);
         EXPECT_FALSE(about.isVisible());
     }
 }
@@ -151,5 +147,4 @@ TEST_F(Manual, NamesEveryCommandAndTellsWhatItDoes) {
     EXPECT_EQ(game.message(), u" 3 Cells Fixed"_s) << "as the first puzzle's walk tells";
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::help_test

@@ -12,8 +12,7 @@
 #include <QSignalSpy>
 #include <QSlider>
 
-namespace tessaly {
-namespace {
+namespace tessaly::options_dialog_test {
 
 struct OptionsDialog : testing::Test {
     OptionsDialog() { open(); }
@@ -208,5 +207,4 @@ TEST(ColourSurfaceView, ShowsWhatItPicksAtEverySize) {
     }
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::options_dialog_test

@@ -6,8 +6,7 @@
 #include <QImage>
 #include <QSvgRenderer>
 
-namespace tessaly {
-namespace {
+namespace tessaly::drawing_commands_test {
 
 using namespace Qt::StringLiterals;
 
@@ -91,5 +90,4 @@ TEST_F(DrawingCommands, OnAFullDiskTheOldFileStaysAndTheNewOneIsNotSaidToBeThere
     EXPECT_EQ(folder.names(), (std::set<std::string>{"a.png", "a.svg", "a.pdf"}));
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::drawing_commands_test

@@ -7,8 +7,7 @@
 #include <QClipboard>
 #include <QMimeData>
 
-namespace tessaly {
-namespace {
+namespace tessaly::export_commands_test {
 
 struct Exporting : testing::Test {
     GameWindow game{"hard.txt", 2};
@@ -58,5 +57,4 @@ TEST_F(Exporting, WritesTheWindowAsBitmapOrPngAndAsksBeforeItReplacesAFile) {
     EXPECT_EQ(game.fileDialogs.asked.back().kind, u"Facetto Bitmap Files (*.bmp)");
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::export_commands_test

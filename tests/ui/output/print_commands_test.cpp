@@ -8,8 +8,7 @@
 #include <QPrinter>
 #include <QProgressBar>
 
-namespace tessaly {
-namespace {
+namespace tessaly::print_commands_test {
 
 using Message = ScriptedPrompts::Message;
 
@@ -73,10 +72,7 @@ TEST_F(Printing, PrintsTheShownPuzzleAsItStandsItsSolutionOrBoth) {
 }
 
 TEST_F(Printing, WhatCannotBePrintedIsSaid) {
-    const auto shown = [&] {
-        game.choose(u"mnuprintx_0"_s);
-        return game.lastPrompt().text;
-    };
+    const auto shown = [&] { return game.choose(u"mnuprintx_0"_s), game.lastPrompt().text; };
     EXPECT_EQ(shown(), "") << "cancelled";
     game.printers.chosen = PrintTarget{{}, "/nowhere/out.pdf", NamedPapers[0].size};
     EXPECT_NE(shown().find("/nowhere/out.pdf"), std::string::npos);
@@ -225,5 +221,4 @@ TEST_F(Printing, ALongOneLetsTheWindowLiveAndLeavesNothingWhenItIsCancelledOrClo
     EXPECT_TRUE(game.printers.printed.empty());
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::print_commands_test

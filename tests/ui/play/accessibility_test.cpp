@@ -9,8 +9,7 @@
 #include <qpa/qplatformaccessibility.h>
 #include <qpa/qplatformintegration.h>
 
-namespace tessaly {
-namespace {
+namespace tessaly::accessibility_test {
 
 QString nameOf(const QAccessibleInterface& item) {
     return item.text(QAccessible::Name);
@@ -157,5 +156,4 @@ TEST_F(Accessibility, EveryControlHasANameAndShowsItsFocus) {
     }
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::accessibility_test

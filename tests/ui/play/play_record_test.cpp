@@ -5,8 +5,7 @@
 #include <QHelpEvent>
 #include <QToolTip>
 
-namespace tessaly {
-namespace {
+namespace tessaly::play_record_test {
 
 struct PlayRecord : testing::Test {
     PlayRecord() {
@@ -104,5 +103,4 @@ TEST_F(PlayRecord, TimesAreShownWhenTheyAreAskedFor) {
     EXPECT_EQ(mark(), u"Solved"_s);
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::play_record_test

@@ -9,8 +9,7 @@
 #include <QMimeData>
 #include <QUrl>
 
-namespace tessaly {
-namespace {
+namespace tessaly::main_window_test {
 
 struct MainWindow : testing::Test {
     /// The file, the puzzle's number, how many there are, and the difficulty as they are shown.
@@ -166,10 +165,8 @@ TEST_F(FileDropTest, APuzzleFileIsLoadedWhateverItsName) {
 TEST_F(FileDropTest, WhatIsNotOneFileOfThisComputerIsRefused) {
     const QByteArray good = urlOf(easy);
     const QByteArray folder = QByteArray::fromStdString(game.folder.path());
-    for (const QList<QByteArray>& urls : {QList<QByteArray>{},
-                                          {good, good},
+    for (const QList<QByteArray>& urls : {QList<QByteArray>{good, good},
                                           {"file://" + folder},
-                                          {"file://" + folder + "gone.txt"},
                                           {"file://elsewhere" + QByteArray::fromStdString(easy)},
                                           {"https://tessaly.example/easy.txt"}})
         EXPECT_FALSE(dropped(urls)) << urls.join(' ').toStdString();
@@ -184,5 +181,4 @@ TEST_F(FileDropTest, WhatIsNotOneFileOfThisComputerIsRefused) {
     EXPECT_FALSE(dropped({good})) << "a dialog is open";
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::main_window_test

@@ -4,8 +4,7 @@
 
 #include <QCheckBox>
 
-namespace tessaly {
-namespace {
+namespace tessaly::multiple_creation_dialog_test {
 
 /// The creation of many puzzles with its real dialog.
 struct AutoCreate : testing::Test {
@@ -96,5 +95,4 @@ TEST_F(AutoCreate, ExitMeanwhileAsksAndRemembersThePuzzleInPlay) {
     EXPECT_EQ(game.text(u"PuzFileName"_s) + game.number(), u"hard.txt7"_s);
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::multiple_creation_dialog_test

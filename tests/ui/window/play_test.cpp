@@ -1,8 +1,7 @@
 #include "core/play/selection_walk.h"
 #include "ui/game_window.h"
 
-namespace tessaly {
-namespace {
+namespace tessaly::play_test {
 
 struct Play : testing::Test {
     GameWindow game{"easy.txt"};
@@ -158,5 +157,4 @@ TEST_F(Play, ThePopupClosesByItselfByEscapeAndByAClickElsewhere) {
     }
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::play_test

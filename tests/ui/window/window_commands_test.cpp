@@ -11,8 +11,7 @@
 #include <QMenu>
 #include <QSignalSpy>
 
-namespace tessaly {
-namespace {
+namespace tessaly::window_commands_test {
 
 struct WindowCommandsTest : testing::Test {
     /// Goes every way into a command but into those that touch no puzzle; how many there are.
@@ -210,5 +209,4 @@ TEST_F(ShortcutsTest, TheKeysDoWhatTheControlsDo) {
     EXPECT_NE(game.session.game.board, played);
 }
 
-} // namespace
-} // namespace tessaly
+} // namespace tessaly::window_commands_test
