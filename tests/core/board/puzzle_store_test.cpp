@@ -83,17 +83,6 @@ TEST_F(PuzzleStoreTest, ReadsARecordOrSaysWhatIsWrongWithItAndChangesNothing) {
     }
 }
 
-TEST_F(PuzzleStoreTest, FilesMayShrinkOrVanishBetweenTwoCommands) {
-    put(path, recordFile(1000));
-    ASSERT_TRUE(read(1000).ok());
-    fs::resize_file(path, recordFile(500).size());
-    EXPECT_EQ(read(1000).status, Status::NoRecord);
-    EXPECT_EQ(read(500).count, 500);
-    fs::remove(path);
-    EXPECT_EQ(read(1).status, Status::CannotRead);
-    EXPECT_FALSE(remove(1, recordNumbered(1)));
-}
-
 TEST_F(PuzzleStoreTest, AnAppendedPuzzleGetsTheNextNumberWhateverStandsAtTheEnd) {
     const std::string added = recordNumbered(9) + "\r\n";
     const std::string third = recordNumbered(3), cut = third.substr(0, 118);

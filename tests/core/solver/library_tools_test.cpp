@@ -25,32 +25,19 @@ class LibraryToolsTest : public testing::Test {
 protected:
     using ToolRun = std::function<Outcome(const KeepGoing&)>;
 
-    Outcome expand(const KeepGoing& goOn = {}) {
-        return expandPuzzles(files, TopBottomHeader::Follows, goOn);
-    }
-
     TemporaryFolder folder;
     ToolFiles files{folder / "in.txt", folder / "out.txt"};
     std::vector<std::string> puzzles = sampleRecords("hard.txt");
     Chance chance{5};
     VerifyCount count;
     const std::vector<ToolRun> allTools{
-        [this](const KeepGoing& goOn) { return expand(goOn); },
+        [this](const KeepGoing& goOn) {
+            return expandPuzzles(files, TopBottomHeader::Follows, goOn);
+        },
         [this](const KeepGoing& goOn) { return verifyPuzzles(files, count, goOn); },
         [this](const KeepGoing& goOn) { return shufflePuzzles(files, chance, goOn); },
     };
 };
-
-TEST_F(LibraryToolsTest, ExpandingWritesTheVariantsOfEveryPuzzleInOrder) {
-    put(files.input, "\xEF\xBB\xBF" + puzzles[0] + "\n" + puzzles[1] + "\r\n\r\n  ");
-    std::string expected;
-    for (const std::string& puzzle : {puzzles[0], puzzles[1]})
-        for (const std::string& variant : variantsOf(puzzle, TopBottomHeader::Follows))
-            expected += variant + "\r\n";
-    put(files.output, puzzles[2] + "\r\n\r\n  \n");
-    ASSERT_TRUE(expand().ok());
-    EXPECT_EQ(contentOf(files.output), puzzles[2] + "\r\n" + expected);
-}
 
 TEST_F(LibraryToolsTest, VerifyingKeepsWhatDeductionSolves) {
     const std::string easy = sampleRecords("easy.txt").front();
