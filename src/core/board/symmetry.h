@@ -64,7 +64,7 @@ constexpr std::array<Symmetry, 12> makeAll() {
         all[i] = after(Turn, all[i - 2]);
     return all;
 }
-/// All that there are: the six turns, each with and without a mirror.
+/// All that there are: the six turns, each with and without a mirror; the second changes nothing.
 inline constexpr std::array<Symmetry, 12> All = makeAll();
 
 } // namespace symmetry
