@@ -250,6 +250,8 @@ TEST_F(FileFaultsTest, OnlyLeftoversOfDeadProcessesAreCleared) {
     EXPECT_EQ(contentOf(torn), "another one's") << "begun between the opening and the lock";
     EXPECT_EQ(problemWhile(failing("flock", ENOLCK, 0, 1000), replacing("new")), "");
     EXPECT_TRUE(fs::exists(torn)) << "nobody knows whether its writer lives";
+    EXPECT_EQ(problemWhile(failing("openat", EACCES), appending("x\n")), "");
+    EXPECT_TRUE(fs::exists(torn)) << "nor whose it is";
     for (const auto& work : {appending("x\n"), replacing("new")}) {
         put(torn, "torn");
         EXPECT_EQ(work().problem, "");
@@ -261,7 +263,6 @@ TEST_F(FileFaultsTest, OnlyLeftoversOfDeadProcessesAreCleared) {
     EXPECT_EQ(contentOf(file), "newer") << "taken for a leftover before it was locked";
     EXPECT_EQ(problemWhile(meanwhile("fsync", taken), replacing("newest")),
               told("is being written by another program"));
-    EXPECT_EQ(contentOf(file), "newer");
     const auto write = [&](const ContentSink& sink) {
         removeLeftovers(m_folder.path());
         EXPECT_TRUE(fs::exists(scratch())) << "its writer is alive";
@@ -374,6 +375,18 @@ TEST_F(FileFaultsTest, AFileThatCannotBeReadToItsEndIsNamedAndStays) {
             EXPECT_TRUE(contentOf(file) == before) << problem << " at " << call;
         }
     EXPECT_EQ(content, "kept");
+    LockedFile locked;
+    ASSERT_TRUE(locked.lock(file).ok());
+    const auto append = [&] { return locked.append("x\n"); };
+    EXPECT_EQ(problemWhile(failing("pread", FileCalls::Skipped), append),
+              told("cannot be read: Input/output error"));
+}
+
+TEST_F(FileFaultsTest, AFolderThatIsMadeMeanwhileIsNoFile) {
+    const fs::path name = m_folder / "made/";
+    const auto made = meanwhile("readlink", [&] { fs::create_directory(name); });
+    EXPECT_EQ(problemWhile(made, [&] { return replaceFile(name, "x"); }),
+              name.native() + ": cannot be written: Is a directory");
 }
 
 TEST_F(FileFaultsTest, NobodyIsWaitedForLongerThanTenSeconds) {

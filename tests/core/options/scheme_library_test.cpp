@@ -24,8 +24,7 @@ std::string record(const std::string& header, int base, int count = 13) {
     return lines;
 }
 
-class SchemeLibraryTest : public testing::Test {
-protected:
+struct SchemeLibraryTest : testing::Test {
     void setFile(const std::string& content) {
         put(m_file, content);
         EXPECT_EQ(library.RefreshSchemeList().problem, "");

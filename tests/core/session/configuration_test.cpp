@@ -30,8 +30,7 @@ Configuration sample() {
 }
 
 /// A program folder/// A program folder with the configuration in it, and the session of one run.
-class ConfigurationTest : public testing::Test {
-protected:
+struct ConfigurationTest : testing::Test {
     ConfigurationTest() {
         session.ProgramFolder = folder.path() / "";
         for (const char* name : {"all.col", "hexabinx.txt"})

@@ -21,8 +21,7 @@ std::string textOf(const std::vector<std::string>& lines) {
     return text;
 }
 
-class LibraryToolsTest : public testing::Test {
-protected:
+struct LibraryToolsTest : testing::Test {
     using ToolRun = std::function<Outcome(const KeepGoing&)>;
 
     TemporaryFolder folder;
