@@ -25,7 +25,7 @@ void Database::open(const std::filesystem::path& path, DatabaseUse use) {
     const int result = sqlite3_open_v2(path.c_str(), &connection, how, nullptr);
     m_connection.reset(connection);
     note(result);
-    sqlite3_busy_timeout(connection, PatienceMs);
+    sqlite3_busy_timeout(connection, Patience);
 }
 
 bool Database::isReadOnly() const {

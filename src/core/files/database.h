@@ -22,8 +22,8 @@ enum class Transaction { Read, Write };
 /// `forgetFailure`, so whoever runs several asks once, at their end, how it went.
 class Database {
 public:
-    /// How long a statement waits for another program that is writing.
-    static constexpr int PatienceMs = 100;
+    /// How long a statement waits for another program that is writing, in milliseconds.
+    static constexpr int Patience = 500;
 
     /// Opens or makes the file. A problem is that of `outcome`.
     void open(const std::filesystem::path& path, DatabaseUse use);

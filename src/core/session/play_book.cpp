@@ -51,6 +51,12 @@ std::string recordOf(const Play& play) {
     return PuzzleRecord(play.board).substr(0, RecordLength);
 }
 
+/// `Version` when it cannot be found out.
+std::int64_t versionOf(Database& database) {
+    Statement asked(database, "PRAGMA user_version");
+    return asked.next() ? asked.number(0) : Version;
+}
+
 std::int64_t now() {
     return std::time(nullptr);
 }
@@ -132,7 +138,7 @@ Outcome PlayBook::begin() {
     m_database.execute("PRAGMA journal_mode = WAL");
     if (!m_database.isDamaged())
         m_database.forgetFailure();
-    m_database.execute("PRAGMA synchronous = NORMAL");
+    m_database.execute("PRAGMA synchronous = NORMAL; PRAGMA wal_autocheckpoint = 0");
     if (Outcome migrated = migrate(); !migrated.ok())
         return migrated;
     m_statements = std::make_unique<Statements>(m_database);
@@ -142,22 +148,20 @@ Outcome PlayBook::begin() {
     return prepared;
 }
 
+/// A book of this version is not written to.
 Outcome PlayBook::migrate() {
-    if (Outcome sound = m_database.outcome(); !sound.ok())
-        return sound;
-    m_database.begin(Transaction::Write);
-    Statement asked(m_database, "PRAGMA user_version");
-    const std::int64_t version = asked.next() ? asked.number(0) : Version;
-    asked = {};
-    for (std::int64_t from = version; from >= 0 && from < Version; ++from)
-        m_database.execute(Migrations[static_cast<std::size_t>(from)]);
-    if (version < Version)
-        m_database.execute("PRAGMA user_version = " + std::to_string(Version));
-    Outcome migrated = m_database.commit();
+    const std::int64_t version = versionOf(m_database);
     if (version > Version)
         return Outcome::failed(m_path.native() +
                                ": cannot be used: it was written by a newer version of the game");
-    return migrated;
+    if (version == Version || !m_database.outcome().ok())
+        return m_database.outcome();
+    m_database.begin(Transaction::Write);
+    // Another program may have been quicker.
+    for (std::int64_t from = versionOf(m_database); from >= 0 && from < Version; ++from)
+        m_database.execute(Migrations[static_cast<std::size_t>(from)]);
+    m_database.execute("PRAGMA user_version = " + std::to_string(Version));
+    return m_database.commit();
 }
 
 /// On a connection of its own, for reading; in a book without a log that keeps others from
@@ -206,9 +210,21 @@ Outcome PlayBook::told(const Outcome& outcome) {
                            "\r\nWhat you play is not kept as long as this lasts.");
 }
 
+/// Has a long log written into the book, which waits for the disk: not while somebody plays, but
+/// between two puzzles.
+void PlayBook::emptyLog() {
+    constexpr int LongLog = 250;
+    if (m_changesInLog < LongLog)
+        return;
+    m_changesInLog = 0;
+    m_database.forgetFailure();
+    m_database.execute("PRAGMA wal_checkpoint(PASSIVE)");
+}
+
 Outcome PlayBook::resume(Play& play) {
     if (!isOpen())
         return Outcome::done();
+    emptyLog();
     m_record = recordOf(play);
     m_row = m_version = 0;
     m_database.begin(Transaction::Read);
@@ -283,6 +299,7 @@ Outcome PlayBook::keepOnce(Play& play) {
         return outcome;
     m_row = row;
     m_version = version;
+    ++m_changesInLog;
     for (TextStack* stack : stacksOf(play))
         stack->setStored(stack->size());
     return outcome;
@@ -382,6 +399,7 @@ Outcome PlayBook::set(std::string_view name, std::string_view value) {
         return Outcome::done();
     m_database.begin(Transaction::Write);
     m_statements->set.with(name, value).run();
+    ++m_changesInLog;
     return told(m_database.commit());
 }
 

@@ -99,6 +99,7 @@ private:
     void stop();
     Outcome setAside();
     Outcome told(const Outcome& outcome);
+    void emptyLog();
     void readSteps(Play& play);
     bool wasCounted();
     void countSolving(const Play& play);
@@ -109,6 +110,7 @@ private:
     Database m_database;
     std::unique_ptr<Statements> m_statements;
     std::string m_toldLast;
+    int m_changesInLog = 0;
 
     /// Looks through the whole book beside the play, which takes long for a large one.
     Database m_checked;
