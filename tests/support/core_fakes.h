@@ -77,6 +77,7 @@ struct RecordingDisplay : Display {
     void DrawBoard() override { ++boardsDrawn; }
     void DrawSolution(Colour) override {}
     void DrawPeek(const Board& other, int hexagon) override { peeked = other.CellNum[hexagon]; }
+    void showHint(const Hint& shown) override { hint = shown; }
     void focusBoard() override { ++focused; }
     void showSelection(CellId cell) override { marker = cell; }
     void showPopup(Point corner, bool upwards) override {
@@ -123,6 +124,7 @@ struct RecordingDisplay : Display {
     std::vector<int> drawn;
     int boardsDrawn = 0;
     Grid<std::string>::Row peeked;
+    Hint hint;
     int focused = 0;
     CellId marker;
     bool popupShown = false;

@@ -125,6 +125,7 @@ std::vector<Drawing> drawButtons() {
         {u"create", Picture::Create},
         {u"undo", Picture::Undo},
         {u"redo", Picture::Redo},
+        {u"hint", Picture::Hint},
         {u"reset", Picture::Reset},
         {u"solution", Picture::ShowSolution},
         {u"marks", Picture::PencilMarks},

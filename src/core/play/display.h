@@ -5,6 +5,7 @@
 #include "core/files/file_descriptor.h"
 #include "core/options/colour.h"
 #include "core/play/board_geometry.h"
+#include "core/play/hint_guide.h"
 
 #include <chrono>
 #include <filesystem>
@@ -37,6 +38,8 @@ public:
     /// Writes the solution over every cell that is no given; drawing the board takes it away again.
     virtual void DrawSolution(Colour colour) = 0;
     /// Draws a hexagon as another board has it, until the hexagon is drawn again.
+    /// Marks on the board what a hint speaks of; an empty one takes that away.
+    virtual void showHint(const Hint& hint) = 0;
     virtual void DrawPeek(const Board& other, int hexagon) = 0;
     virtual void focusBoard() = 0;
 

@@ -85,6 +85,23 @@ void PlayCommands::cmdset1s() {
     reportCount(m_game.setSingles(), " Cells Set", "None Set");
 }
 
+void PlayCommands::cmdhint() {
+    if (!m_game.hasPuzzle())
+        return;
+    if (m_guide.entersNext(m_game.board)) {
+        const Step& step = m_guide.step();
+        m_game.takeHint();
+        m_game.place(step.cell, NumText(step.digit));
+        m_display.DrawHexagon(step.cell.hexagon);
+        m_display.showMessage(NumText(step.digit) + " entered");
+    } else {
+        const Hint hint = m_guide.next(m_game.board);
+        m_display.showHint(hint);
+        m_display.showMessage(hint.sentence);
+    }
+    m_display.focusBoard();
+}
+
 void PlayCommands::StatLab() {
     if (const int wrong = firstWrongHexagon(m_game.board); wrong != 0) {
         m_display.showMessage("Cell" + signedText(wrong) + " has incorrect numbers");

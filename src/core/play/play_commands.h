@@ -4,6 +4,7 @@
 #include "core/options/appearance.h"
 #include "core/play/display.h"
 #include "core/play/game.h"
+#include "core/play/hint_guide.h"
 
 namespace tessaly {
 
@@ -22,6 +23,8 @@ public:
     void cmdsetpairs();
     /// Sets the last missing number of every hexagon that lacks one.
     void cmdset1s();
+    /// Gives a hint in three: where, why, and then the number itself.
+    void cmdhint();
     /// Judges the board: names the first wrong hexagon, or says that all is done.
     void StatLab();
     /// Shows the solution from the press of the button to its release.
@@ -40,6 +43,7 @@ private:
     Display& m_display;
     Prompts& m_prompts;
     int m_offers = 0;
+    HintGuide m_guide;
 };
 
 } // namespace tessaly

@@ -21,6 +21,7 @@ enum class Picture {
     Undo,
     Redo,
     Reset,
+    Hint,
     ShowSolution,
     PencilMarks,
     SetPairs,

@@ -72,7 +72,8 @@ QString CellAccessible::text(QAccessible::Text kind) const {
     const Board& board = m_view.board();
     switch (kind) {
     case QAccessible::Name:
-        return sentence(cellInWords(m_cell) + ", " + entryInWords(board, m_cell));
+        return sentence(cellInWords(m_cell) + ", " + entryInWords(board, m_cell) +
+                        (m_view.isSeenBroken(m_cell) ? ", breaks a rule" : ""));
     case QAccessible::Value:
         return QString::fromStdString(entry());
     case QAccessible::Description:

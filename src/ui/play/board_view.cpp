@@ -15,6 +15,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 #include <utility>
 
@@ -29,6 +30,7 @@ constexpr int FocusInset = 3;
 constexpr double FocusThickness = 2;
 /// Between the board and the palette.
 constexpr int Spacing = 12;
+constexpr std::chrono::milliseconds RestTime{350};
 
 PointerButton pointerButton(Qt::MouseButton button) {
     switch (button) {
@@ -74,10 +76,13 @@ void SelectionMarker::paintEvent(QPaintEvent*) {
     painter.drawRoundedRect(frame, frame.width() / 4, frame.width() / 4);
 }
 
-BoardView::BoardView(const Board& board, const Appearance& appearance, QWidget* parent)
+BoardView::BoardView(const Board& board, const Appearance& appearance, const ViewSwitches& switches,
+                     QWidget* parent)
     : QWidget(parent)
     , m_board(board)
     , m_appearance(appearance)
+    , m_switches(switches)
+    , m_overlay(board, appearance, switches, this)
     , m_marker(this)
     , m_popup(this)
     , m_told(board.CellNum) {
@@ -93,6 +98,9 @@ BoardView::BoardView(const Board& board, const Appearance& appearance, QWidget* 
     for (int hexagon = 1; hexagon <= HexagonCount; ++hexagon)
         m_tags[static_cast<std::size_t>(hexagon)] = new HexagonTagWidget(hexagon, appearance, this);
     stopAtTag(m_tagStop);
+    m_rest.setSingleShot(true);
+    m_rest.setInterval(RestTime);
+    connect(&m_rest, &QTimer::timeout, this, &BoardView::showLook);
     applyAppearance();
 }
 
@@ -137,12 +145,20 @@ std::vector<CellId> BoardView::takeChanges() {
 }
 
 void BoardView::tellChanges() {
-    if (const std::vector<CellId> changed = takeChanges(); !changed.empty())
-        Q_EMIT entriesChanged(changesInWords(m_board, changed, m_input->cell()));
+    m_overlay.update();
+    const std::vector<CellId> changed = takeChanges();
+    if (changed.empty())
+        return;
+    m_overlay.showHint({});
+    const bool isBroken = std::any_of(changed.begin(), changed.end(),
+                                      [this](CellId cell) { return isSeenBroken(cell); });
+    Q_EMIT entriesChanged(changesInWords(m_board, changed, m_input->cell()) +
+                          (isBroken ? ", breaks a rule" : ""));
 }
 
 void BoardView::showPuzzle() {
     takeChanges();
+    m_overlay.showHint({});
     DrawBoard();
 }
 
@@ -160,6 +176,7 @@ void BoardView::draw(const Board& board, int hexagon) {
 
 void BoardView::DrawBoard() {
     m_solutionColour.reset();
+    m_overlay.show();
     m_surface.DrawBoard(m_board);
     for (int hexagon = 1; hexagon <= HexagonCount; ++hexagon)
         showTag(hexagon);
@@ -171,6 +188,7 @@ void BoardView::DrawBoard() {
 
 void BoardView::DrawSolution(Colour colour) {
     m_solutionColour = colour;
+    m_overlay.hide(); // which speaks of what the player entered
     m_surface.DrawSolution(m_board, colour);
     update();
 }
@@ -191,8 +209,28 @@ void BoardView::stopAtTag(int hexagon) {
     m_tags[static_cast<std::size_t>(m_tagStop)]->setFocusPolicy(Qt::TabFocus);
 }
 
+void BoardView::showPaletteDigit(char digit) {
+    m_paletteDigit = digit;
+    showLook();
+}
+
+CellId BoardView::lookedAt() const {
+    return m_usedByKeys ? m_input->cell() : m_hovered;
+}
+
+void BoardView::showLook() {
+    CellId cell = lookedAt();
+    if (m_board.isBlank(cell.hexagon))
+        cell = {}; // what it holds is withheld
+    char digit = m_paletteDigit;
+    if (digit == 0 && cell && !m_rest.isActive() && isPlaced(m_board.CellNum[cell]))
+        digit = m_board.CellNum[cell].front();
+    m_overlay.look(cell, digit);
+}
+
 void BoardView::showSelection() {
     placeMarker();
+    showLook();
     update(QRegion(rect()) - rect().adjusted(FocusInset, FocusInset, -FocusInset, -FocusInset));
     BoardAccessible::tellFocus(*this);
 }
@@ -256,6 +294,8 @@ void BoardView::updateSurface() {
 }
 
 void BoardView::placeChildren() {
+    m_overlay.setGeometry(rect());
+    m_overlay.setTransform(boardToWidget());
     for (HexagonTagWidget* tag : m_tags)
         if (tag != nullptr)
             tag->place(onWidget(tagRectangle(tag->hexagon())));
@@ -322,6 +362,11 @@ void BoardView::focusInEvent(QFocusEvent* event) {
 void BoardView::mouseMoveEvent(QMouseEvent* event) {
     if (std::exchange(m_usedByKeys, false))
         update(); // without the frame
+    if (const CellId cell = cellUnder(event->position().toPoint());
+        std::exchange(m_hovered, cell) != cell) {
+        m_rest.start();
+        showLook();
+    }
     m_input->Picture2_MouseMove(onBoard(event->position()));
 }
 
@@ -335,7 +380,9 @@ void BoardView::mouseReleaseEvent(QMouseEvent* event) {
 
 void BoardView::leaveEvent(QEvent* event) {
     QWidget::leaveEvent(event);
+    m_hovered = {};
     m_input->pointerLeft();
+    showLook();
 }
 
 void BoardView::keyPressEvent(QKeyEvent* event) {

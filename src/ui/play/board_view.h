@@ -4,9 +4,11 @@
 #include "core/options/appearance.h"
 #include "core/play/board_input.h"
 #include "ui/drawing/board_surface.h"
+#include "ui/play/board_overlay.h"
 #include "ui/play/hexagon_tag_widget.h"
 #include "ui/play/number_popup.h"
 
+#include <QTimer>
 #include <QWidget>
 
 #include <array>
@@ -40,7 +42,8 @@ class BoardView : public QWidget {
     Q_OBJECT
 
 public:
-    BoardView(const Board& board, const Appearance& appearance, QWidget* parent = nullptr);
+    BoardView(const Board& board, const Appearance& appearance, const ViewSwitches& switches,
+              QWidget* parent = nullptr);
 
     /// Whom the events go to: call before the view is shown.
     void setInput(BoardInput& input);
@@ -49,6 +52,13 @@ public:
     void DrawBoard();
     void DrawSolution(Colour colour);
     void DrawPeek(const Board& other, int hexagon);
+    /// Marks what a hint speaks of, until the board changes or another one comes; an empty one
+    /// takes that away.
+    void showHint(const Hint& hint) { m_overlay.showHint(hint); }
+    /// The digit that the palette enters, or 0: it is looked for on the board.
+    void showPaletteDigit(char digit);
+    /// The switches about what stands out have changed.
+    void applySwitches() { m_overlay.update(); }
     /// Another puzzle is on the board: draws it, and takes none of it for a change.
     void showPuzzle();
     /// The colours or the font have changed: draws everything anew.
@@ -61,6 +71,10 @@ public:
     void enterPopup();
 
     const Board& board() const { return m_board; }
+    /// Whether the board shows that the cell's number breaks a rule.
+    bool isSeenBroken(CellId cell) const {
+        return m_switches.showBrokenRules && breaksARule(m_board, cell);
+    }
     BoardInput& input() const { return *m_input; }
     /// Where a cell lies, and which cell lies where, in this widget's logical pixels.
     QRect rectangleOf(CellId cell) const;
@@ -88,6 +102,9 @@ protected:
 private:
     void updateSurface();
     void placeChildren();
+    /// Where the player looks: at the cell under the pointer, or the one that the keys are at.
+    CellId lookedAt() const;
+    void showLook();
     void placeMarker();
     void draw(const Board& board, int hexagon);
     void showTag(int hexagon);
@@ -104,8 +121,14 @@ private:
 
     const Board& m_board;
     const Appearance& m_appearance;
+    const ViewSwitches& m_switches;
     BoardInput* m_input = nullptr;
     BoardSurface m_surface;
+    BoardOverlay m_overlay;
+    CellId m_hovered;
+    char m_paletteDigit = 0;
+    /// A pointer that rests on a number looks for it; one that passes by does not.
+    QTimer m_rest;
     std::array<HexagonTagWidget*, HexagonCount + 1> m_tags{}; // Celltags
     int m_tagStop = 1;
     SelectionMarker m_marker; // Shape1

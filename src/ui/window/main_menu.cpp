@@ -120,9 +120,14 @@ void MainMenu::buildPlayMenu(QMenu& menu) {
     mnuclearpencil = addCommand(menu, u"C&lear All Pencilmarks"_s, u"mnuclearpencil"_s);
     mnusetpairs = addCommand(menu, u"Fill P&aired Cells"_s, u"mnusetpairs"_s);
     mnuset1s = addCommand(menu, u"&Set Singles"_s, u"mnuset1s"_s);
+    mnuhint = addCommand(menu, u"&Hint"_s, u"mnuhint"_s);
     menu.addSeparator();
     mnunextunsolved = addCommand(menu, u"&Next Unsolved"_s, u"mnunextunsolved"_s);
     mnustatistics = addCommand(menu, u"S&tatistics"_s, u"mnustatistics"_s);
+    menu.addSeparator();
+    viewSwitches = {addSwitch(menu, u"Show &Broken Rules"_s, u"mnubroken"_s),
+                    addSwitch(menu, u"Show E&qual Numbers"_s, u"mnuequal"_s),
+                    addSwitch(menu, u"Fa&de Impossible Marks"_s, u"mnufade"_s)};
     mnushowtime = addSwitch(menu, u"Show T&ime"_s, u"mnushowtime"_s);
     menu.addSeparator();
     mnuforgetpuzzle = addCommand(menu, u"&Forget this Puzzle's Play"_s, u"mnuforgetpuzzle"_s);
@@ -148,7 +153,7 @@ void MainMenu::showCurrentFile(const std::filesystem::path& path) {
 void MainMenu::offer(const Game& game, bool inFile, bool hasBook) {
     for (QAction* item :
          {mnuclippuz, mnuclipsol, mnusavex, mnusaveto, printPuzzle, printSolution, printBoth,
-          mnucheck, mnureset, mnuallpencil, mnuclearpencil, mnusetpairs, mnuset1s})
+          mnucheck, mnureset, mnuallpencil, mnuclearpencil, mnusetpairs, mnuset1s, mnuhint})
         item->setEnabled(game.hasPuzzle());
     mnuundo->setEnabled(game.canUndo());
     mnuredo->setEnabled(game.canRedo());

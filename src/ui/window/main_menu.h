@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/play/highlights.h"
+
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
@@ -63,6 +65,8 @@ public:
     QAction* mnuclearpencil;
     QAction* mnusetpairs;
     QAction* mnuset1s;
+    QAction* mnuhint;
+    std::array<QAction*, AllViewSwitches.size()> viewSwitches{};
     QAction* mnunextunsolved;
     QAction* mnustatistics;
     QAction* mnushowtime;

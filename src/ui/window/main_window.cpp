@@ -39,7 +39,7 @@ using namespace Qt::StringLiterals;
 
 constexpr int Margin = 12;
 constexpr int Spacing = 12;
-constexpr QSize FirstSize(760, 690);
+constexpr QSize FirstSize(850, 690);
 
 /// The largest content of "window.cfg" that is looked at, in bytes.
 constexpr std::size_t LargestPlace = 4096;
@@ -90,7 +90,7 @@ Form1::Form1(Session& session, Prompts& prompts, const FileDialog& fileDialog, P
     , m_worn(session.appearance)
     , m_menu(*menuBar())
     , m_tools(new ToolRow)
-    , m_board(new BoardView(session.game.board, m_worn))
+    , m_board(new BoardView(session.game.board, m_worn, session.view))
     , m_palette(new PalettePanel(m_worn))
     , m_status(new StatusLine)
     , m_announcer(new Announcer(this))
@@ -158,8 +158,9 @@ void Form1::offerCommands() {
     m_tools->offerOthers(inFile);
     m_tools->cmdundo->setEnabled(game.canUndo());
     m_tools->cmdredo->setEnabled(game.canRedo());
-    for (QWidget* control : {m_tools->cmdreset, m_tools->cmdshowsol, m_palette->cmdallpencil,
-                             m_palette->cmdsetpairs, m_palette->cmdset1s, m_status->StatLab})
+    for (QWidget* control :
+         {m_tools->cmdhint, m_tools->cmdreset, m_tools->cmdshowsol, m_palette->cmdallpencil,
+          m_palette->cmdsetpairs, m_palette->cmdset1s, m_status->StatLab})
         control->setEnabled(game.hasPuzzle());
     if (focused != nullptr && focused->window() == this && !focused->isEnabled())
         m_board->setFocus(Qt::TabFocusReason);
@@ -187,6 +188,10 @@ void Form1::DrawPeek(const Board& other, int hexagon) {
     m_board->DrawPeek(other, hexagon);
 }
 
+void Form1::showHint(const Hint& hint) {
+    m_board->showHint(hint);
+}
+
 void Form1::focusBoard() {
     // A pointer that only crosses the board does not take the focus from what is being typed.
     const auto* field = qobject_cast<QLineEdit*>(QApplication::focusWidget());
@@ -208,6 +213,8 @@ void Form1::hidePopup() {
 
 void Form1::showPalette(int pressedItem) {
     m_palette->showPalette(pressedItem);
+    const bool isDigit = pressedItem >= 0 && pressedItem < BoardInput::PaletteEraser;
+    m_board->showPaletteDigit(isDigit ? static_cast<char>('1' + pressedItem) : '\0');
 }
 
 void Form1::showPuzzle(const CurrentPuzzle& puzzle) {

@@ -33,6 +33,7 @@ public:
     void DrawBoard() override;
     void DrawSolution(Colour colour) override;
     void DrawPeek(const Board& other, int hexagon) override;
+    void showHint(const Hint& hint) override;
     void focusBoard() override;
     void showSelection(CellId cell) override;
     void showPopup(Point corner, bool upwards) override;

@@ -46,6 +46,7 @@ inline constexpr std::array Shortcuts{
     Shortcut{"mnuclearpencil", "Shift+F6"},
     Shortcut{"mnusetpairs", "F7"},
     Shortcut{"mnuset1s", "F8"},
+    Shortcut{"mnuhint", "F4"},
     Shortcut{"mnunextunsolved", "Ctrl+PgDown"},
     Shortcut{"mnustatistics", "Ctrl+T"},
     Shortcut{"mnushowtime", "Ctrl+Shift+T"},
@@ -71,6 +72,7 @@ inline constexpr std::array SharedShortcuts{
     Shortcut{"cmdallpencil", "F6; Shift+F6"},
     Shortcut{"cmdsetpairs", "F7"},
     Shortcut{"cmdset1s", "F8"},
+    Shortcut{"cmdhint", "F4"},
 };
 
 /// Gives every command of the window its keys. An edit box gets the focus by its keys.

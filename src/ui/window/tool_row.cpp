@@ -21,7 +21,7 @@ constexpr int ButtonSize = 40;
 constexpr int PictureSize = 24;
 constexpr int MarkSize = 20;
 constexpr int Spacing = 6;
-constexpr int GroupSpacing = 18;
+constexpr int GroupSpacing = 14;
 /// Room for the numbers of a library of a million puzzles; a larger one makes its own.
 constexpr QLatin1String UsualNumber("1000000");
 constexpr int MostDigits = 10;
@@ -49,6 +49,7 @@ ToolRow::ToolRow(QWidget* parent)
     addGap();
     cmdundo = addButton(Picture::Undo, u"Undo"_s, u"cmdundo"_s);
     cmdredo = addButton(Picture::Redo, u"Redo"_s, u"cmdredo"_s);
+    cmdhint = addButton(Picture::Hint, u"Hint: where, why, what"_s, u"cmdhint"_s);
     cmdreset = addButton(Picture::Reset, u"Reset Puzzle"_s, u"cmdreset"_s);
     cmdshowsol = addButton(Picture::ShowSolution, u"Show Solution"_s, u"cmdshowsol"_s);
     cmdshowsol->setHeld(true);

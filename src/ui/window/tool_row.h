@@ -42,6 +42,7 @@ public:
     RunProgressBar* progress;
     BoxControl* cmdundo;
     BoxControl* cmdredo;
+    BoxControl* cmdhint;
     BoxControl* cmdreset;
     BoxControl* cmdshowsol;
 

@@ -73,10 +73,21 @@ void WindowCommands::onChoice(QAction* item, Command command, std::string_view r
 void WindowCommands::remember(QAction* item, const std::string& setting) {
     if (!m_session.book)
         return;
-    item->setChecked(!m_session.book->setting(setting).empty());
+    if (const std::string kept = m_session.book->setting(setting); !kept.empty())
+        item->setChecked(kept == "on");
     QObject::connect(item, &QAction::toggled, item, [this, setting](bool on) {
-        keeping.tell(m_session.book->set(setting, on ? "on" : ""));
+        keeping.tell(m_session.book->set(setting, on ? "on" : "off"));
     });
+}
+
+void WindowCommands::connectSwitch(QAction& item, const ViewSwitch& which, BoardView& board) {
+    bool& value = m_session.view.*which.value;
+    item.setChecked(value);
+    QObject::connect(&item, &QAction::toggled, &board, [&value, &board](bool on) {
+        value = on;
+        board.applySwitches();
+    });
+    remember(&item, std::string(which.setting));
 }
 
 template <class Command>
@@ -162,6 +173,9 @@ void WindowCommands::connectPlay(const WindowRegions& regions) {
     onAlternateClick(palette.cmdallpencil, [this] { play.cmdallpencilClear(); });
     onBoth(menu.mnusetpairs, palette.cmdsetpairs, [this] { play.cmdsetpairs(); });
     onBoth(menu.mnuset1s, palette.cmdset1s, [this] { play.cmdset1s(); });
+    onBoth(menu.mnuhint, tools.cmdhint, [this] { play.cmdhint(); });
+    for (std::size_t i = 0; i < AllViewSwitches.size(); ++i)
+        connectSwitch(*menu.viewSwitches[i], AllViewSwitches[i], regions.board);
     onChoice(menu.mnunextunsolved, [this] { m_playBook.mnunextunsolved(); });
     onChoice(menu.mnuforgetpuzzle, [this] { m_playBook.mnuforgetpuzzle(); });
     onChoice(menu.mnuforgetfile, [this] { m_playBook.mnuforgetfile(); });

@@ -75,11 +75,11 @@ TEST_F(MainWindow, ExitAsksAndRemembersAndTheCloseBoxRemembersTheSizeOnly) {
     EXPECT_EQ(game.find<QAction>(u"oldfiles_0"_s).text().toStdString(), path);
 
     game.load("hard.txt");
-    game.resize({700, 640});
+    game.resize({740, 640});
     game.window->close();
     game.restart();
     EXPECT_EQ(game.session.puzzle.PuzPath, path);
-    EXPECT_EQ(game.window->size(), QSize(700, 640));
+    EXPECT_EQ(game.window->size(), QSize(740, 640));
     for (const char* garbled : {"", "%%%", "AdnQywAD\r\n"}) {
         put(game.folder.path() + "window.cfg", garbled);
         game.restart();
