@@ -63,7 +63,8 @@ void takeAway(const FileDescriptor& folder, const std::string& link, const std::
     if (::renameat(folder.get(), link.c_str(), folder.get(), aside.c_str()) != 0)
         return;
     if (readLink(folder, aside) != writer)
-        static_cast<void>(::linkat(folder.get(), aside.c_str(), folder.get(), link.c_str(), 0));
+        retried(
+            [&] { return ::linkat(folder.get(), aside.c_str(), folder.get(), link.c_str(), 0); });
     ::unlinkat(folder.get(), aside.c_str(), 0);
 }
 
