@@ -6,14 +6,16 @@
 #include "killed/player.h"
 #include "support/core_fakes.h"
 
-int main(int argc, char** argv) {
-    using namespace tessaly;
+namespace tessaly::killed {
+namespace {
+
+int play(int argc, char** argv) {
     if (argc != 3)
         return 2;
     SessionScene scene;
     scene.session.ProgramFolder = std::filesystem::path(argv[1]) / "";
     if (const Outcome book = openPlayBook(scene.session); !book.ok())
-        killed::say("told", book.problem);
+        say("told", book.problem);
     scene.files.load(argv[2]);
     const auto press = [&scene](std::mt19937& chance) {
         constexpr int Steps = 8;
@@ -33,7 +35,19 @@ int main(int argc, char** argv) {
             scene.input.cell() ? scene.input.Picture2_KeyDown(key) : scene.input.selectFirst();
         }
         if (!scene.prompts.shown.empty())
-            killed::say("told", scene.prompts.told());
+            say("told", scene.prompts.told());
     };
-    killed::playForEver(scene.session, press);
+    playForEver(scene.session, press);
+}
+
+} // namespace
+} // namespace tessaly::killed
+
+int main(int argc, char** argv) {
+    try {
+        return tessaly::killed::play(argc, argv);
+    } catch (const std::exception& problem) {
+        tessaly::killed::say("told", problem.what());
+        return 1;
+    }
 }

@@ -42,7 +42,8 @@ inline bool isStored(const Game& game, Database& book) {
 ///     found 123        told FILE: ...        does 456        kept 456
 ///
 /// `press` gives the game one of its keys.
-inline void playForEver(Session& session, const std::function<void(std::mt19937&)>& press) {
+[[noreturn]] inline void playForEver(Session& session,
+                                     const std::function<void(std::mt19937&)>& press) {
     Game& game = session.game;
     say("found", stateOf(game));
     Database book;

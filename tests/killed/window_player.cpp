@@ -12,8 +12,10 @@
 #include <QApplication>
 #include <QTest>
 
-int main(int argc, char** argv) {
-    using namespace tessaly;
+namespace tessaly::killed {
+namespace {
+
+int play(int argc, char** argv) {
     if (argc != 3)
         return 2;
     const QApplication application(argc, argv);
@@ -23,9 +25,9 @@ int main(int argc, char** argv) {
     ScriptedFileDialogs fileDialogs;
     session.ProgramFolder = std::filesystem::path(argv[1]) / "";
     if (const LoadedSession loaded = loadSession(session); !loaded.outcome.ok())
-        killed::say("told", loaded.outcome.problem);
+        say("told", loaded.outcome.problem);
     if (const Outcome book = openPlayBook(session); !book.ok())
-        killed::say("told", book.problem);
+        say("told", book.problem);
     Form1 window(session, prompts, fileDialogs.dialog(), printers);
     window.show();
     window.files().load(argv[2]);
@@ -44,7 +46,19 @@ int main(int argc, char** argv) {
                             Qt::ControlModifier);
         QApplication::processEvents();
         if (!prompts.shown.empty())
-            killed::say("told", prompts.told());
+            say("told", prompts.told());
     };
-    killed::playForEver(session, press);
+    playForEver(session, press);
+}
+
+} // namespace
+} // namespace tessaly::killed
+
+int main(int argc, char** argv) {
+    try {
+        return tessaly::killed::play(argc, argv);
+    } catch (const std::exception& problem) {
+        tessaly::killed::say("told", problem.what());
+        return 1;
+    }
 }

@@ -3,6 +3,7 @@
 #include "core/board/tables.h"
 #include "core/play/assists.h"
 
+#include <algorithm>
 #include <charconv>
 #include <sstream>
 #include <utility>
@@ -164,8 +165,9 @@ void Game::undoStep(HexagonSet& changedHexagons) {
         while (isGrouped(records.back()) && undoList.size() > beneath &&
                isGrouped(undoList.newest()))
             records.push_back(undoRecord(changedHexagons));
-        for (auto record = records.rbegin(); record != records.rend(); ++record)
-            taken.append("\n").append(*record);
+        std::reverse(records.begin(), records.end());
+        for (const std::string& record : records)
+            taken.append("\n").append(record);
     }
     redoSteps.push(std::move(taken));
 }

@@ -226,7 +226,7 @@ void Form1::showPuzzle(const CurrentPuzzle& puzzle) {
     else
         m_status->showFileText(u"Create a New Puzzle"_s);
     m_board->showPuzzle();
-    showPlay();
+    Form1::showPlay();
     if (isInFile)
         m_announcer->say(tr("Puzzle %1 of %2").arg(puzzle.PuzNum).arg(puzzle.PuzCount));
 }
