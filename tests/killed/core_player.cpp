@@ -9,9 +9,7 @@
 namespace tessaly::killed {
 namespace {
 
-int play(int argc, char** argv) {
-    if (argc != 3)
-        return 2;
+int play(char** argv) {
     SessionScene scene;
     scene.session.ProgramFolder = std::filesystem::path(argv[1]) / "";
     if (const Outcome book = openPlayBook(scene.session); !book.ok())
@@ -44,10 +42,6 @@ int play(int argc, char** argv) {
 } // namespace tessaly::killed
 
 int main(int argc, char** argv) {
-    try {
-        return tessaly::killed::play(argc, argv);
-    } catch (const std::exception& problem) {
-        tessaly::killed::say("told", problem.what());
-        return 1;
-    }
+    return argc == 3 ? tessaly::killed::sayingWhatFails([&] { return tessaly::killed::play(argv); })
+                     : 2;
 }

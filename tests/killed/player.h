@@ -58,4 +58,13 @@ inline bool isStored(const Game& game, Database& book) {
         press(chance);
 }
 
+inline int sayingWhatFails(const std::function<int()>& play) {
+    try {
+        return play();
+    } catch (const std::exception& problem) {
+        say("told", problem.what());
+        return 1;
+    }
+}
+
 } // namespace tessaly::killed

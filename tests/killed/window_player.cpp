@@ -16,8 +16,6 @@ namespace tessaly::killed {
 namespace {
 
 int play(int argc, char** argv) {
-    if (argc != 3)
-        return 2;
     const QApplication application(argc, argv);
     Session session;
     ScriptedPrompts prompts;
@@ -55,10 +53,7 @@ int play(int argc, char** argv) {
 } // namespace tessaly::killed
 
 int main(int argc, char** argv) {
-    try {
-        return tessaly::killed::play(argc, argv);
-    } catch (const std::exception& problem) {
-        tessaly::killed::say("told", problem.what());
-        return 1;
-    }
+    return argc == 3
+               ? tessaly::killed::sayingWhatFails([&] { return tessaly::killed::play(argc, argv); })
+               : 2;
 }

@@ -168,21 +168,8 @@ TEST_F(FileFaultsTest, TwoThatMakeOneFileWithoutLocksBothStandInIt) {
     EXPECT_EQ(m_folder.names().size(), 1u);
 }
 
-TEST_F(FileFaultsTest, WithoutLocksWhoWritesIsSeenInTheFolderUntilHeHasDied) {
+TEST_F(FileFaultsTest, WithoutLocksWhoHasDiedKeepsNobodyOut) {
     const auto noLocks = failing("flock", ENOLCK, 0, 1000);
-    const LockWait notAtAll = [](const auto&, const auto& attempt) { return attempt(); };
-    const auto write = [&](const ContentSink& sink) {
-        EXPECT_EQ(replaceFile(file, "other", notAtAll).problem,
-                  told("is being written by another program"));
-        return sink.write("ours");
-    };
-    for (const std::string before : {"", "old"}) {
-        removed();
-        if (!before.empty())
-            put(file, before);
-        EXPECT_EQ(problemWhile(noLocks, [&] { return replaceFile(file, write); }), "");
-        EXPECT_EQ(contentOf(file), "ours");
-    }
     const pid_t child = startChild([&] {
         const FileCalls calls(noLocks);
         LockedFile locked;
