@@ -170,6 +170,7 @@ TEST_F(FileFaultsTest, TwoThatMakeOneFileWithoutLocksBothStandInIt) {
 
 TEST_F(FileFaultsTest, WithoutLocksWhoHasDiedKeepsNobodyOut) {
     const auto noLocks = failing("flock", ENOLCK, 0, 1000);
+    put(file, "old");
     const pid_t child = startChild([&] {
         const FileCalls calls(noLocks);
         LockedFile locked;

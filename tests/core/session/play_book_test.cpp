@@ -149,19 +149,6 @@ TEST_F(PlayBookTest, SolvedPuzzlesAreKnownAndCountedOncePerPlay) {
     EXPECT_FALSE(Table(path, records[0]).game.wasSolved);
 }
 
-TEST_F(PlayBookTest, TheLastPuzzleAndSettingsAreFoundAgain) {
-    PlayBook book(path);
-    EXPECT_TRUE(book.open().ok() && !book.last() && book.setting("a").empty());
-    for (const LastPuzzle& puzzle :
-         {LastPuzzle{"/a b/line\nfeed \xff.txt", 12, "E07"}, LastPuzzle{"", 0, "H19"}}) {
-        EXPECT_TRUE(book.rememberLast(puzzle).ok());
-        const LastPuzzle found = book.last().value_or(LastPuzzle());
-        EXPECT_EQ(found.path, puzzle.path);
-        EXPECT_EQ(found.record, puzzle.record);
-        EXPECT_EQ(found.number, puzzle.number);
-    }
-}
-
 TEST_F(PlayBookTest, WhatIsNoPlayInABookIsNotPutOnTheBoard) {
     for (const char* wrong :
          {"UPDATE puzzle SET position = 'x'", "UPDATE puzzle SET position = position || ','",
