@@ -32,6 +32,10 @@ std::string thisHost() {
     return ::gethostname(name.data(), name.size() - 1) == 0 ? name.data() : "";
 }
 
+std::string thisProcess() {
+    return thisHost() + ':' + std::to_string(::getpid());
+}
+
 /// Where a link leads; empty when there is none.
 std::string readLink(const FileDescriptor& folder, const std::string& link) {
     std::array<char, PATH_MAX> target{};
@@ -56,16 +60,21 @@ bool isStale(const FileDescriptor& folder, const std::string& link, const std::s
             status.st_mtime + LongestWork < std::time(nullptr));
 }
 
-/// Another instance may take a stale link away at the same moment and leave its own, which is put
-/// back then.
+/// Only one instance at a time takes a stale link away: another one could take the lock between
+/// the look and the deed, and would lose it.
 void takeAway(const FileDescriptor& folder, const std::string& link, const std::string& writer) {
-    const std::string aside = link + '-' + std::to_string(::getpid());
-    if (::renameat(folder.get(), link.c_str(), folder.get(), aside.c_str()) != 0)
+    const std::string taking = link + "-stale";
+    const auto remove = [&](const std::string& name) {
+        retried([&] { return ::unlinkat(folder.get(), name.c_str(), 0); });
+    };
+    if (::symlinkat(thisProcess().c_str(), folder.get(), taking.c_str()) != 0) {
+        if (isDeadHere(readLink(folder, taking)))
+            remove(taking);
         return;
-    if (readLink(folder, aside) != writer)
-        retried(
-            [&] { return ::linkat(folder.get(), aside.c_str(), folder.get(), link.c_str(), 0); });
-    ::unlinkat(folder.get(), aside.c_str(), 0);
+    }
+    if (readLink(folder, link) == writer)
+        remove(link);
+    remove(taking);
 }
 
 } // namespace
@@ -73,7 +82,7 @@ void takeAway(const FileDescriptor& folder, const std::string& link, const std::
 LockAnswer LockFile::take(const FileDescriptor& folder, const std::string& name) {
     release();
     const std::string link = linkNameFor(name);
-    const std::string self = thisHost() + ':' + std::to_string(::getpid());
+    const std::string self = thisProcess();
     if (retried([&] { return ::symlinkat(self.c_str(), folder.get(), link.c_str()); }) == 0) {
         m_folder = &folder;
         m_link = link;

@@ -200,8 +200,8 @@ TEST_F(FileFaultsTest, ALockLinkOfAnotherMachineCountsUntilItIsOld) {
         {"elsewhere:1", 1000, failing("", 0), false},
         {"elsewhere:1", 1000, failing("fstatat", EIO), true},
         {"elsewhere:1", 1000, failing("readlinkat", EIO), true},
-        {"elsewhere:1", 1000, failing("renameat", EIO), true},
-        {"elsewhere:1", 1000, meanwhile("renameat", another), true},
+        {"elsewhere:1", 1000, failing("symlinkat", EIO, 1), true},
+        {"elsewhere:1", 1000, meanwhile("readlinkat", another, 1), true},
         {host + "x", 0, failing("", 0), true},
         {host + "0", 0, failing("", 0), true},
     };
