@@ -9,6 +9,8 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include <array>
+
 namespace tessaly {
 namespace {
 
@@ -31,24 +33,20 @@ QColor veil(const QColor& colour, double strength) {
     return thin;
 }
 
-QPainterPath triangleOf(CellId cell) {
+/// The closed path through points of the board.
+template <std::size_t Count>
+QPainterPath pathThrough(const std::array<Point, Count>& points) {
     QPolygonF polygon;
-    for (Point corner : cellTriangle(cell))
-        polygon << toQt(corner);
+    for (Point point : points)
+        polygon << toQt(point);
     QPainterPath path;
     path.addPolygon(polygon);
     path.closeSubpath();
     return path;
 }
 
-QPainterPath outlineOf(int hexagon) {
-    QPolygonF polygon;
-    for (Point corner : hexagonCorners(hexagon))
-        polygon << toQt(corner);
-    QPainterPath path;
-    path.addPolygon(polygon);
-    path.closeSubpath();
-    return path;
+QPainterPath triangleOf(CellId cell) {
+    return pathThrough(cellTriangle(cell));
 }
 
 QPainterPath outlineOfCorner(int xcell) {
@@ -158,7 +156,7 @@ void BoardOverlay::paintHint(QPainter& painter) const {
     painter.setPen(outline);
     painter.setBrush(Qt::NoBrush);
     if (m_hint.hexagon != 0 && !m_hint.cell)
-        painter.drawPath(outlineOf(m_hint.hexagon));
+        painter.drawPath(pathThrough(hexagonCorners(m_hint.hexagon)));
     if (m_hint.xcell != 0)
         painter.drawPath(outlineOfCorner(m_hint.xcell));
     if (m_hint.cell)
