@@ -21,7 +21,7 @@ inline void say(std::string_view what, const std::string& about) {
 inline std::string stateOf(const Game& game) {
     std::string text = positionText(game);
     for (const TextStack* stack :
-         {static_cast<const TextStack*>(&game.undoList), &game.markSteps, &game.redoSteps})
+         {static_cast<const TextStack*>(&game.undoList), &game.wideSteps, &game.redoSteps})
         for (std::size_t age = 0; age <= stack->size(); ++age)
             text += age < stack->size() ? "\n" + stack->text(age) : ";";
     return std::to_string(std::hash<std::string>()(text));
@@ -33,7 +33,7 @@ inline bool isStored(const Game& game, Database& book) {
     Statement position(book, "SELECT position FROM puzzle");
     return position.next() && position.text(0) == positionText(game) &&
            game.undoList.stored() == game.undoList.size() &&
-           game.markSteps.stored() == game.markSteps.size() &&
+           game.wideSteps.stored() == game.wideSteps.size() &&
            game.redoSteps.stored() == game.redoSteps.size();
 }
 

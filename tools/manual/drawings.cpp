@@ -132,6 +132,7 @@ std::vector<Drawing> drawButtons() {
         {u"pairs", Picture::SetPairs},
         {u"singles", Picture::SetSingles},
         {u"eraser", Picture::Eraser},
+        {u"pencil", Picture::Pencil},
         {u"copy-sides", Picture::CopySides},
         {u"candidate", Picture::SingleCandidate},
         {u"close", Picture::Close},

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <bitset>
 #include <cstddef>
 
 /// The words that all of Tessaly speaks: hexagon, side, cell, grid.
@@ -54,6 +55,9 @@ struct CellId {
     constexpr explicit operator bool() const { return hexagon != 0; }
     friend constexpr bool operator==(CellId, CellId) = default;
 };
+
+/// Hexagons by number, such as those to draw again.
+using HexagonSet = std::bitset<HexagonCount + 1>;
 
 /// One value for each cell, addressed [hexagon 1..19][position 1..6] or by CellId.
 /// Row and column 0 exist, hold nothing, and keep the numbers of the puzzle free of "minus one".

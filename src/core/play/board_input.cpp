@@ -76,14 +76,23 @@ void BoardInput::enter(int number) {
 }
 
 void BoardInput::place(CellId cell, const std::string& entry) {
-    const std::string before = m_game.board.CellNum[cell];
-    m_game.place(cell, entry);
-    showEntry(cell, before);
+    showEntry(m_game.place(cell, entry));
 }
 
-void BoardInput::showEntry(CellId cell, const std::string& before) {
-    if (m_game.board.CellNum[cell] != before)
-        m_display.DrawHexagon(cell.hexagon);
+void BoardInput::turnMark(int number) {
+    if (!m_busy.isBusy() && selection() && number != 0)
+        showEntry(m_game.turnMark(selection(), NumText(number).front()));
+}
+
+void BoardInput::enterItem(CellId cell, int number) {
+    if (makesMarks() && number != 0)
+        showEntry(m_game.turnMark(cell, NumText(number).front()));
+    else
+        place(cell, number == 0 ? "" : NumText(number));
+}
+
+void BoardInput::showEntry(const HexagonSet& changed) {
+    m_display.DrawHexagons(changed);
     hidePopup();
     m_display.focusBoard();
 }
@@ -133,7 +142,7 @@ void BoardInput::Picture2_MouseUp(PointerButton button) {
         return;
     }
     if (button != PointerButton::Right && m_paletteItem != NoPaletteItem)
-        enter(m_paletteItem == PaletteEraser ? 0 : m_paletteItem + 1);
+        enterItem(selection(), m_paletteItem == PaletteEraser ? 0 : m_paletteItem + 1);
 }
 
 void BoardInput::Picture2_KeyDown(int& keyCode) {
@@ -148,12 +157,12 @@ void BoardInput::Picture2_KeyPress(int& characterCode) {
     const CellId cell = selection();
     if (!cell)
         return;
-    const std::string before = m_game.board.CellNum[cell];
+    HexagonSet changed;
     if (isClearCode(code))
-        m_game.place(cell, "");
+        changed = m_game.place(cell, "");
     else if (code >= key::FirstDigit && code <= key::LastDigit)
-        m_game.typeDigit(cell, static_cast<char>(code));
-    showEntry(cell, before);
+        changed = m_game.typeDigit(cell, static_cast<char>(code));
+    showEntry(changed);
 }
 
 void BoardInput::digt_MouseUp(int item, PointerButton button) {
@@ -178,7 +187,7 @@ void BoardInput::Num16_Click(int button) {
             place(single.cell, single.number);
         return;
     default:
-        place(target, button == PopupEraser ? "" : NumText(button + 1));
+        enterItem(target, button == PopupEraser ? 0 : button + 1);
     }
 }
 

@@ -49,6 +49,10 @@ public:
     void readHexagon();
     /// Puts a number into the selected cell in the place of all that stands there; 0 empties it.
     void enter(int number);
+    /// Makes a pencil mark in the selected cell, or takes one that is there.
+    void turnMark(int number);
+    /// Whether digits are pencil marks now.
+    bool makesMarks() const { return m_game.switches.makeMarks; }
     /// Opens the pop-up at the selected cell, as a right press there would.
     void openPopupAtSelection();
 
@@ -73,9 +77,10 @@ private:
     void openPopup(Point corner);
     void hidePopup();
     void place(CellId cell, const std::string& entry);
-    /// Draws a cell's hexagon, unless the cell holds what it held before. The pop-up has been
-    /// answered, by whatever way.
-    void showEntry(CellId cell, const std::string& before);
+    /// Enters what a button stands for: a number or its mark, or 0, which empties the cell.
+    void enterItem(CellId cell, int number);
+    /// Draws what an entry has changed. The pop-up has been answered, by whatever way.
+    void showEntry(const HexagonSet& changed);
 
     Game& m_game;
     const BusyState& m_busy;

@@ -1,6 +1,7 @@
 #include "core/play/cell_description.h"
 
 #include "core/board/tables.h"
+#include "core/play/pencil_marks.h"
 
 #include <array>
 
@@ -42,7 +43,7 @@ std::string entryInWords(const Board& board, CellId cell) {
     if (entry.empty())
         return "empty";
     if (!isPlaced(entry))
-        return "marks " + apart(entry);
+        return "marks " + apart(digitsOf(entry));
     return (board.FixedCell[cell] ? "given " : "") + entry;
 }
 

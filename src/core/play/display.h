@@ -35,11 +35,16 @@ public:
 
     virtual void DrawHexagon(int hexagon) = 0;
     virtual void DrawBoard() = 0;
+    void DrawHexagons(const HexagonSet& hexagons) {
+        for (int hexagon = 1; hexagon <= HexagonCount; ++hexagon)
+            if (hexagons.test(static_cast<std::size_t>(hexagon)))
+                DrawHexagon(hexagon);
+    }
     /// Writes the solution over every cell that is no given; drawing the board takes it away again.
     virtual void DrawSolution(Colour colour) = 0;
-    /// Draws a hexagon as another board has it, until the hexagon is drawn again.
     /// Marks on the board what a hint speaks of; an empty one takes that away.
     virtual void showHint(const Hint& hint) = 0;
+    /// Draws a hexagon as another board has it, until the hexagon is drawn again.
     virtual void DrawPeek(const Board& other, int hexagon) = 0;
     virtual void focusBoard() = 0;
 

@@ -2,6 +2,7 @@
 
 #include "core/board/tables.h"
 #include "core/play/assists.h"
+#include "core/play/pencil_marks.h"
 
 #include <algorithm>
 #include <charconv>
@@ -12,8 +13,8 @@
 namespace tessaly {
 namespace {
 
-/// The step that is about to change the marks.
-std::string markStep(const Play& play) {
+/// The step that is about to change many cells.
+std::string wideStep(const Play& play) {
     return std::to_string(play.undoList.size()) + " " + positionText(play);
 }
 
@@ -44,6 +45,7 @@ void Game::takeAway() {
 }
 
 void Game::forgetWhatWas() {
+    m_typedWithEffects = {};
     redoSteps.clear();
     forgetReset();
 }
@@ -69,21 +71,54 @@ void Game::pushGrouped(CellId cell) {
     undoList.push(cell, true, board.CellNum[cell]);
 }
 
-void Game::place(CellId cell, const std::string& entry) {
-    PushUndo(cell.hexagon, cell.position);
-    board.CellNum[cell] = entry;
-    told();
+void Game::pushWideStep() {
+    forgetWhatWas();
+    wideSteps.push(wideStep(*this));
 }
 
-void Game::typeDigit(CellId cell, char digit) {
-    std::string& entry = board.CellNum[cell];
-    if (entry.size() >= LongestEntry || entry.find(digit) != std::string::npos)
-        return;
-    if (entry.empty())
-        PushUndo(cell.hexagon, cell.position);
-    forgetWhatWas();
-    entry += digit;
+HexagonSet Game::place(CellId cell, const std::string& entry) {
+    std::vector<CellChange> changes = effectsOf(board, switches, cell, entry);
+    changes.empty() ? PushUndo(cell.hexagon, cell.position) : pushWideStep();
+    changes.push_back({cell, entry});
+    HexagonSet changedHexagons;
+    for (const CellChange& change : changes) {
+        TouchedCell[change.cell] = true;
+        if (std::exchange(board.CellNum[change.cell], change.entry) != change.entry)
+            changedHexagons.set(static_cast<std::size_t>(change.cell.hexagon));
+    }
     told();
+    return changedHexagons;
+}
+
+HexagonSet Game::typeDigit(CellId cell, char digit) {
+    const std::string digits = digitsOf(board.CellNum[cell]);
+    const std::string typed(1, digit);
+    if (digits.empty() || marksOf(typed) == board.CellNum[cell]) {
+        const HexagonSet changedHexagons = place(cell, typed);
+        if (undoList.size() == recordsBeneathWideStep())
+            m_typedWithEffects = cell;
+        return changedHexagons;
+    }
+    if (digits.size() >= MostMarks || digits.find(digit) != std::string::npos)
+        return {};
+    HexagonSet changedHexagons;
+    if (m_typedWithEffects == cell) {
+        takeBackWideStep();
+        PushUndo(cell.hexagon, cell.position);
+        changedHexagons.set();
+    }
+    forgetWhatWas();
+    board.CellNum[cell] = digits + digit;
+    changedHexagons.set(static_cast<std::size_t>(cell.hexagon));
+    told();
+    return changedHexagons;
+}
+
+HexagonSet Game::turnMark(CellId cell, char digit) {
+    PushUndo(cell.hexagon, cell.position);
+    board.CellNum[cell] = withMarkTurned(board.CellNum[cell], digit);
+    told();
+    return HexagonSet().set(static_cast<std::size_t>(cell.hexagon));
 }
 
 void Game::CopyAcrossSides(int& count) {
@@ -120,23 +155,21 @@ int Game::setSingles() {
 }
 
 void Game::fillMarks() {
-    forgetWhatWas();
-    markSteps.push(markStep(*this));
+    pushWideStep();
     fillPencilMarks(board, TouchedCell);
     told();
 }
 
 void Game::clearMarks() {
-    forgetWhatWas();
-    markSteps.push(markStep(*this));
+    pushWideStep();
     clearPencilMarks(board);
     told();
 }
 
-std::size_t Game::recordsBeneathMarks() const {
+std::size_t Game::recordsBeneathWideStep() const {
     std::size_t records = 0;
-    if (!markSteps.empty()) {
-        const std::string& step = markSteps.newest();
+    if (!wideSteps.empty()) {
+        const std::string& step = wideSteps.newest();
         std::from_chars(step.data(), step.data() + step.size(), records);
     }
     return records;
@@ -152,12 +185,16 @@ std::string Game::undoRecord(HexagonSet& changedHexagons) {
     return text;
 }
 
+void Game::takeBackWideStep() {
+    const std::string step = wideSteps.pop();
+    readPosition(std::string_view(step).substr(step.find(' ') + 1), *this);
+}
+
 void Game::undoStep(HexagonSet& changedHexagons) {
     std::string taken = positionText(*this);
-    const std::size_t beneath = recordsBeneathMarks();
+    const std::size_t beneath = recordsBeneathWideStep();
     if (undoList.size() == beneath) {
-        const std::string step = markSteps.pop();
-        readPosition(std::string_view(step).substr(step.find(' ') + 1), *this);
+        takeBackWideStep();
         changedHexagons.set();
     } else {
         std::vector<std::string> records{undoRecord(changedHexagons)};
@@ -174,6 +211,7 @@ void Game::undoStep(HexagonSet& changedHexagons) {
 
 HexagonSet Game::undo() {
     HexagonSet changedHexagons;
+    m_typedWithEffects = {};
     if (!canUndo())
         return changedHexagons;
     if (m_beforeReset) {
@@ -193,7 +231,7 @@ void Game::redo() {
     std::string position;
     std::getline(step, position);
     if (step.eof())
-        markSteps.push(markStep(*this));
+        wideSteps.push(wideStep(*this));
     for (std::string record; std::getline(step, record);)
         undoList.push(record);
     readPosition(position, *this);
@@ -203,7 +241,7 @@ void Game::redo() {
 void Game::reset() {
     Play before = *this;
     for (TextStack* stack :
-         {static_cast<TextStack*>(&before.undoList), &before.markSteps, &before.redoSteps})
+         {static_cast<TextStack*>(&before.undoList), &before.wideSteps, &before.redoSteps})
         stack->setStored(0); // what is stored now goes
     board.ResetToGivens();
     startPuzzle();

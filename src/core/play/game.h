@@ -1,16 +1,13 @@
 #pragma once
 
+#include "core/play/entry_effects.h"
 #include "core/play/play.h"
 
-#include <bitset>
 #include <functional>
 #include <optional>
 #include <string>
 
 namespace tessaly {
-
-/// Hexagons by number: what a change touched, and so what must be drawn again.
-using HexagonSet = std::bitset<HexagonCount + 1>;
 
 /// The decimal text of a number: "3" for 3.
 std::string NumText(int number);
@@ -19,6 +16,7 @@ std::string NumText(int number);
 /// pushed before the entry is written; a new change forgets what could be done again.
 class Game : public Play {
 public:
+    PlaySwitches switches;
     /// Called after every change of the play; may be empty.
     std::function<void()> changed;
 
@@ -39,13 +37,18 @@ public:
     /// Remembers the cell's entry before a change; nothing for a cell below hexagon 1, position 1.
     void PushUndo(int hexagon, int position);
 
-    /// Replaces the entry by a number, or by nothing ("").
-    void place(CellId cell, const std::string& entry);
+    // Entries, and what goes with them by the switches. They return what to draw again.
 
-    /// Appends a typed digit "0".."6": the first is a number, further ones make pencil marks. A
-    /// digit that is there already, or a seventh, is ignored. Only a digit into an empty cell can
-    /// be undone.
-    void typeDigit(CellId cell, char digit);
+    /// Replaces the entry by a number, or by nothing ("").
+    HexagonSet place(CellId cell, const std::string& entry);
+
+    /// Appends a typed digit "0".."6": the first is a number, further ones make pencil marks, and
+    /// so what went with the number just now is taken back. A digit that is there already, or a
+    /// seventh, is ignored, but a lone mark becomes a number. Only the first can be undone.
+    HexagonSet typeDigit(CellId cell, char digit);
+
+    /// Makes a pencil mark, or takes one that is there.
+    HexagonSet turnMark(CellId cell, char digit);
 
     /// Copies placed numbers across sides into every cell that holds none, as one undo group,
     /// hexagon by hexagon, so that an early copy feeds later ones. Adds the number of copies to
@@ -60,11 +63,11 @@ public:
     void fillMarks();
     void clearMarks();
 
-    bool canUndo() const { return !undoList.empty() || !markSteps.empty() || m_beforeReset; }
+    bool canUndo() const { return !undoList.empty() || !wideSteps.empty() || m_beforeReset; }
     bool canRedo() const { return !redoSteps.empty(); }
 
-    /// Takes back the newest change, or a whole run of grouped ones, or a step that changed all
-    /// marks; returns what to draw again.
+    /// Takes back the newest change, or a whole run of grouped ones, or a step that changed many
+    /// cells; returns what to draw again.
     HexagonSet undo();
 
     /// Does again what was taken back last, as one step.
@@ -81,17 +84,22 @@ public:
 
 private:
     void pushGrouped(CellId cell);
+    /// Remembers the whole position before a change.
+    void pushWideStep();
+    void takeBackWideStep();
     /// What could be done again, or brought back, no longer can.
     void forgetWhatWas();
     /// Something has changed: ends the play when all is solved, and tells.
     void told();
     void undoStep(HexagonSet& changedHexagons);
-    /// How many undo records lie beneath the newest step that changed the marks.
-    std::size_t recordsBeneathMarks() const;
+    /// How many undo records lie beneath the newest step that changed many cells.
+    std::size_t recordsBeneathWideStep() const;
     /// Takes the newest undo record back; its text.
     std::string undoRecord(HexagonSet& changedHexagons);
 
     std::optional<Play> m_beforeReset;
+    /// The cell whose number was typed last, if other cells changed with it.
+    CellId m_typedWithEffects;
 };
 
 } // namespace tessaly

@@ -46,7 +46,7 @@ bool breaksARule(const Board& board, CellId cell) {
     return standsTwice(board, cell) || differsAcross(board, cell);
 }
 
-Highlights highlightsOf(const Board& board, const ViewSwitches& switches, CellId looked,
+Highlights highlightsOf(const Board& board, const PlaySwitches& switches, CellId looked,
                         char digit) {
     Highlights found;
     for (CellId cell : {looked, looked ? SideLink[looked] : CellId{}})

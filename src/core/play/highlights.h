@@ -1,32 +1,11 @@
 #pragma once
 
 #include "core/board/board.h"
+#include "core/play/play_switches.h"
 
-#include <array>
-#include <string_view>
 #include <vector>
 
 namespace tessaly {
-
-/// What the player wants to be shown about the board while playing.
-struct ViewSwitches {
-    bool showBrokenRules = true;
-    bool showEqualNumbers = true;
-    bool fadeImpossibleMarks = false;
-
-    friend bool operator==(const ViewSwitches&, const ViewSwitches&) = default;
-};
-
-/// A switch, and the name under which it is remembered.
-struct ViewSwitch {
-    std::string_view setting;
-    bool ViewSwitches::*value;
-};
-inline constexpr std::array AllViewSwitches{
-    ViewSwitch{"showBrokenRules", &ViewSwitches::showBrokenRules},
-    ViewSwitch{"showEqualNumbers", &ViewSwitches::showEqualNumbers},
-    ViewSwitch{"fadeImpossibleMarks", &ViewSwitches::fadeImpossibleMarks},
-};
 
 /// What stands out on the board. Nothing of it needs the solution, and the blank hexagon is never
 /// looked at.
@@ -50,7 +29,7 @@ struct Highlights {
 };
 
 /// What stands out while the player looks at a cell, or at none, and for a digit, or for none (0).
-Highlights highlightsOf(const Board& board, const ViewSwitches& switches, CellId looked,
+Highlights highlightsOf(const Board& board, const PlaySwitches& switches, CellId looked,
                         char digit = 0);
 
 /// Whether a cell's number breaks a rule: it stands twice in its hexagon, or another one is across

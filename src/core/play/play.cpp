@@ -1,5 +1,7 @@
 #include "core/play/play.h"
 
+#include "core/play/pencil_marks.h"
+
 #include <algorithm>
 #include <charconv>
 #include <sstream>
@@ -9,11 +11,6 @@ namespace {
 
 constexpr char TouchedMark = '!';
 constexpr char CellEnd = ',';
-
-bool isEntry(std::string_view text) {
-    return text.size() <= Play::LongestEntry &&
-           text.find_first_not_of("0123456") == std::string_view::npos;
-}
 
 /// Takes the text of one cell off the front of a position.
 bool readCell(std::string_view& text, CellId cell, Play& play) {
@@ -62,7 +59,7 @@ bool Play::isBegun() const {
     const bool entered = std::any_of(AllCells.begin(), AllCells.end(), [this](CellId cell) {
         return !board.FixedCell[cell] && !board.CellNum[cell].empty();
     });
-    return entered || !undoList.empty() || !markSteps.empty() || !redoSteps.empty();
+    return entered || !undoList.empty() || !wideSteps.empty() || !redoSteps.empty();
 }
 
 std::string positionText(const Play& play) {
@@ -92,7 +89,7 @@ bool isSound(const Play& play) {
     Play scratch;
     scratch.board = play.board;
     std::size_t beneath = 0;
-    const auto isMarkStep = [&](const std::string& text) {
+    const auto isWideStep = [&](const std::string& text) {
         const std::size_t before = beneath;
         const char* end = text.data() + text.size();
         const auto [blank, error] = std::from_chars(text.data(), end, beneath);
@@ -100,7 +97,7 @@ bool isSound(const Play& play) {
                beneath <= play.undoList.size() && readPosition({blank + 1, end}, scratch);
     };
     return allOf(play.undoList, [&](const auto& text) { return isUndoRecord(text, play); }) &&
-           allOf(play.markSteps, isMarkStep) &&
+           allOf(play.wideSteps, isWideStep) &&
            allOf(play.redoSteps, [&](const auto& text) { return isRedoStep(text, scratch); });
 }
 

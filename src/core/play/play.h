@@ -12,17 +12,15 @@ namespace tessaly {
 
 /// A puzzle and all that the player did with it. A plain value.
 struct Play {
-    static constexpr std::size_t LongestEntry = 6;
-
     Board board;
     /// Whether an undo record was pushed for the cell since the puzzle was loaded.
     Grid<bool> TouchedCell;
     UndoList undoList;
-    /// Steps that changed the marks of all cells leave no undo records. Each is a text beside them:
-    /// how many undo records lie beneath it, a blank, and the position before it.
-    TextStack markSteps;
+    /// Steps that changed many cells at once leave no undo records. Each is a text beside them: how
+    /// many undo records lie beneath it, a blank, and the position before it.
+    TextStack wideSteps;
     /// What was taken back, step by step: the position before that, and on lines of their own the
-    /// undo records of the step, the oldest first; none for a step that changed the marks.
+    /// undo records of the step, the oldest first; none for a step that changed many cells.
     TextStack redoSteps;
 
     /// How often the solution was looked at.

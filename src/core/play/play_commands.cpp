@@ -31,10 +31,7 @@ void PlayCommands::cmdundo() {
     if (!m_game.canUndo())
         return;
     m_display.showMessage("");
-    const HexagonSet changed = m_game.undo();
-    for (int hexagon = 1; hexagon <= HexagonCount; ++hexagon)
-        if (changed.test(static_cast<std::size_t>(hexagon)))
-            m_display.DrawHexagon(hexagon);
+    m_display.DrawHexagons(m_game.undo());
     m_display.focusBoard();
 }
 
@@ -91,8 +88,7 @@ void PlayCommands::cmdhint() {
     if (m_guide.entersNext(m_game.board)) {
         const Step& step = m_guide.step();
         m_game.takeHint();
-        m_game.place(step.cell, NumText(step.digit));
-        m_display.DrawHexagon(step.cell.hexagon);
+        m_display.DrawHexagons(m_game.place(step.cell, NumText(step.digit)));
         m_display.showMessage(NumText(step.digit) + " entered");
     } else {
         const Hint hint = m_guide.next(m_game.board);

@@ -2,6 +2,7 @@
 
 #include "core/board/tables.h"
 #include "core/play/assists.h"
+#include "core/play/pencil_marks.h"
 #include "core/solver/deduction.h"
 #include "core/solver/library_tools.h"
 #include "core/solver/packed_rules.h"
@@ -71,11 +72,6 @@ CellId cellOfCode(std::string_view code) {
     const CellId cell{10 * (code[0] - '0') + code[1] - '0', code[2] - '0'};
     const bool isCell = isHexagon(cell.hexagon) && cell.position >= 1 && cell.position <= CellCount;
     return isCell ? cell : CellId{};
-}
-
-bool isEntry(std::string_view text) {
-    return text.size() <= Game::LongestEntry &&
-           text.find_first_not_of("123456") == std::string_view::npos;
 }
 
 /// The codes of what is wrong: an empty cell's own, and position 0 for a hexagon with a number
@@ -183,12 +179,11 @@ void DeveloperCommands::setManualValue() {
     const std::string code = answer.substr(0, answer.find(' '));
     const std::string entry = Without(answer.substr(code.size()), " ");
     const CellId cell = cellOfCode(code);
-    if (!cell || !isEntry(entry)) {
+    if (!cell || !isEntry(entry) || entry.find('0') != std::string::npos) {
         m_prompts.message("No cell and entry: " + answer, "vbok+vbcritical");
         return;
     }
-    m_session.game.place(cell, entry);
-    m_display.DrawHexagon(cell.hexagon);
+    m_display.DrawHexagons(m_session.game.place(cell, entry));
 }
 
 void DeveloperCommands::message(const std::string& text) {

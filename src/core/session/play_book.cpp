@@ -35,7 +35,7 @@ constexpr std::string_view LastSetting = "puzzle";
 
 /// The stacks of a play by the numbers that they have in the book.
 std::array<TextStack*, 3> stacksOf(Play& play) {
-    return {&play.undoList, &play.markSteps, &play.redoSteps};
+    return {&play.undoList, &play.wideSteps, &play.redoSteps};
 }
 
 /// A name that no file has yet.

@@ -7,7 +7,6 @@
 #include "core/play/busy.h"
 #include "core/play/display.h"
 #include "core/play/game.h"
-#include "core/play/highlights.h"
 #include "core/session/play_book.h"
 
 #include <algorithm>
@@ -53,7 +52,6 @@ struct Session {
     std::filesystem::path ProgramFolder;
     ArrangementTable arrangements;
     Appearance appearance;
-    ViewSwitches view;
 
     PuzzleStore files;
     RecentFiles recentFiles;

@@ -18,11 +18,12 @@ namespace {
 
 /// The files' names in the order of the pictures.
 constexpr std::array FileNames{
-    "",           "load",      "previous", "next",      "create",   "undo",        "redo",
-    "reset",      "hint",      "solution", "marks",     "pairs",    "singles",     "eraser",
-    "copy-sides", "candidate", "close",    "save",      "delete",   "print",       "view",
-    "replace",    "add",       "begun",    "solved",    "question", "exclamation", "information",
-    "error",      "critical",  "happy",    "trash-can", "printer",  "light",       "tessaly",
+    "",         "load",   "previous",  "next",        "create",      "undo",
+    "redo",     "reset",  "hint",      "solution",    "marks",       "pairs",
+    "singles",  "eraser", "pencil",    "copy-sides",  "candidate",   "close",
+    "save",     "delete", "print",     "view",        "replace",     "add",
+    "begun",    "solved", "question",  "exclamation", "information", "error",
+    "critical", "happy",  "trash-can", "printer",     "light",       "tessaly",
 };
 static_assert(FileNames.size() == static_cast<std::size_t>(Picture::Product) + 1);
 

@@ -27,6 +27,7 @@ enum class Picture {
     SetPairs,
     SetSingles,
     Eraser,
+    Pencil,
     CopySides,
     SingleCandidate,
     Close,

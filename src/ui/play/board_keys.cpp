@@ -7,7 +7,7 @@
 namespace tessaly {
 namespace {
 
-/// Ctrl+H is a backspace to a terminal, and Ctrl+1 may come as a digit; neither is one to a player.
+/// Ctrl+H is a backspace to a terminal, but not to a player.
 bool isPartOfAShortcut(const QKeyEvent& event) {
     return (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
 }
@@ -85,6 +85,17 @@ bool readsOrClicks(BoardInput& input, const QKeyEvent& event) {
 bool asksForMenu(const QKeyEvent& event) {
     return event.key() == Qt::Key_Menu ||
            (event.key() == Qt::Key_F10 && event.modifiers() == Qt::ShiftModifier);
+}
+
+bool turnsMark(BoardInput& input, const QKeyEvent& event) {
+    const Qt::KeyboardModifiers held =
+        event.modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier);
+    if (event.key() < Qt::Key_0 || event.key() > Qt::Key_6 ||
+        !(held == Qt::ControlModifier || (held == Qt::NoModifier && input.makesMarks())))
+        return false;
+    if (!event.isAutoRepeat())
+        input.turnMark(event.key() - Qt::Key_0);
+    return true;
 }
 
 void pressKey(BoardInput& input, const QKeyEvent& event) {

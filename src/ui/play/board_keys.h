@@ -21,6 +21,10 @@ bool moveSelection(BoardInput& input, const QKeyEvent& event);
 /// so.
 bool readsOrClicks(BoardInput& input, const QKeyEvent& event);
 
+/// Makes or takes the pencil mark of a digit that is pressed with Ctrl, or while digits are marks.
+/// Whether it was one.
+bool turnsMark(BoardInput& input, const QKeyEvent& event);
+
 /// Whether the key asks for the menu of the selected cell.
 bool asksForMenu(const QKeyEvent& event);
 

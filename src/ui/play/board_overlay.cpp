@@ -59,7 +59,7 @@ QPainterPath outlineOfCorner(int xcell) {
 } // namespace
 
 BoardOverlay::BoardOverlay(const Board& board, const Appearance& appearance,
-                           const ViewSwitches& switches, QWidget* parent)
+                           const PlaySwitches& switches, QWidget* parent)
     : QWidget(parent)
     , m_board(board)
     , m_appearance(appearance)

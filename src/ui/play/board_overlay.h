@@ -19,7 +19,7 @@ class BoardOverlay : public QWidget {
 
 public:
     /// All must outlive the overlay.
-    BoardOverlay(const Board& board, const Appearance& appearance, const ViewSwitches& switches,
+    BoardOverlay(const Board& board, const Appearance& appearance, const PlaySwitches& switches,
                  QWidget* parent);
 
     /// Where the board's picture lies, from board units to this widget's logical pixels.
@@ -40,7 +40,7 @@ private:
 
     const Board& m_board;
     const Appearance& m_appearance;
-    const ViewSwitches& m_switches;
+    const PlaySwitches& m_switches;
     QTransform m_boardToWidget;
     CellId m_looked;
     char m_digit = 0;

@@ -76,7 +76,7 @@ void SelectionMarker::paintEvent(QPaintEvent*) {
     painter.drawRoundedRect(frame, frame.width() / 4, frame.width() / 4);
 }
 
-BoardView::BoardView(const Board& board, const Appearance& appearance, const ViewSwitches& switches,
+BoardView::BoardView(const Board& board, const Appearance& appearance, const PlaySwitches& switches,
                      QWidget* parent)
     : QWidget(parent)
     , m_board(board)
@@ -394,7 +394,8 @@ void BoardView::keyPressEvent(QKeyEvent* event) {
     }
     if (asksForMenu(*event))
         enterPopup();
-    else if (!moveSelection(*m_input, *event) && !readsOrClicks(*m_input, *event))
+    else if (!moveSelection(*m_input, *event) && !readsOrClicks(*m_input, *event) &&
+             !turnsMark(*m_input, *event))
         pressKey(*m_input, *event);
 }
 

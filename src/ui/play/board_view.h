@@ -42,7 +42,7 @@ class BoardView : public QWidget {
     Q_OBJECT
 
 public:
-    BoardView(const Board& board, const Appearance& appearance, const ViewSwitches& switches,
+    BoardView(const Board& board, const Appearance& appearance, const PlaySwitches& switches,
               QWidget* parent = nullptr);
 
     /// Whom the events go to: call before the view is shown.
@@ -121,7 +121,7 @@ private:
 
     const Board& m_board;
     const Appearance& m_appearance;
-    const ViewSwitches& m_switches;
+    const PlaySwitches& m_switches;
     BoardInput* m_input = nullptr;
     BoardSurface m_surface;
     BoardOverlay m_overlay;

@@ -14,7 +14,7 @@ constexpr int SmallestButton = 24;
 constexpr int LargestButton = 64;
 constexpr int UsualButton = 48;
 constexpr int AssistCount = 3;
-constexpr int ButtonCount = PalettePanel::ItemCount + AssistCount;
+constexpr int ButtonCount = PalettePanel::ItemCount + 1 + AssistCount;
 /// All lengths in eighths of a button's side: a button, the space between two, the wider space
 /// between the palette and the assists.
 constexpr int ButtonPart = 8;
@@ -36,6 +36,8 @@ PalettePanel::PalettePanel(const Appearance& appearance, QWidget* parent)
     , m_appearance(appearance) {
     for (int index = 0; index < ItemCount; ++index)
         m_items[static_cast<std::size_t>(index)] = makeItem(index);
+    cmdpencil =
+        makeAssist(Picture::Pencil, tr("Make pencil marks instead of numbers"), u"cmdpencil"_s);
     cmdallpencil = makeAssist(Picture::PencilMarks,
                               u"Display All Pencilmarks; rightclick to clear"_s, u"cmdallpencil"_s);
     cmdsetpairs =
@@ -97,6 +99,7 @@ void PalettePanel::placeButtons() {
     };
     for (BoxControl* item : m_items)
         place(item);
+    place(cmdpencil);
     top += side * GroupSpacePart / ButtonPart - space;
     for (BoxControl* assist : {cmdallpencil, cmdsetpairs, cmdset1s})
         place(assist);
@@ -107,13 +110,21 @@ void PalettePanel::showPalette(int pressedItem) {
     applyAppearance();
 }
 
+void PalettePanel::showPencil(bool on) {
+    m_pencilOn = on;
+    applyAppearance();
+}
+
 void PalettePanel::applyAppearance() {
-    for (std::size_t i = 0; i < m_items.size(); ++i) {
-        const bool pressed = static_cast<int>(i) == m_pressedItem;
-        const Colour face = m_appearance.SchemeColours[pressed ? slot::Button : slot::Background];
-        m_items[i]->setFaceColour(toQColor(face));
-        m_items[i]->setLatched(pressed);
-    }
+    for (std::size_t i = 0; i < m_items.size(); ++i)
+        showPressed(*m_items[i], static_cast<int>(i) == m_pressedItem);
+    showPressed(*cmdpencil, m_pencilOn);
+}
+
+void PalettePanel::showPressed(BoxControl& button, bool pressed) {
+    const Colour face = m_appearance.SchemeColours[pressed ? slot::Button : slot::Background];
+    button.setFaceColour(toQColor(face));
+    button.setLatched(pressed);
 }
 
 } // namespace tessaly

@@ -13,8 +13,8 @@ class BoxControl;
 enum class Picture;
 
 /// The palette beside the board (`digt`): the numbers 1 to 6 and the eraser, of which at most one
-/// is pressed; beneath it the three assists. The buttons are squares, as large as the height
-/// allows.
+/// is pressed, and the pencil; beneath it the three assists. The buttons are squares, as large as
+/// the height allows.
 class PalettePanel : public QWidget {
     Q_OBJECT
 
@@ -25,8 +25,11 @@ public:
 
     /// Draws one item pressed, or none (-1).
     void showPalette(int pressedItem);
+    /// Draws the pencil pressed while entries are marks.
+    void showPencil(bool on);
     void applyAppearance();
 
+    BoxControl* cmdpencil;
     BoxControl* cmdallpencil;
     BoxControl* cmdsetpairs;
     BoxControl* cmdset1s;
@@ -47,10 +50,12 @@ private:
     BoxControl* makeItem(int index);
     BoxControl* makeAssist(Picture picture, const QString& toolTip, const QString& name);
     void placeButtons();
+    void showPressed(BoxControl& button, bool pressed);
 
     const Appearance& m_appearance;
     std::array<BoxControl*, ItemCount> m_items{};
     int m_pressedItem = BoardInput::NoPaletteItem;
+    bool m_pencilOn = false;
 };
 
 } // namespace tessaly

@@ -121,13 +121,17 @@ void MainMenu::buildPlayMenu(QMenu& menu) {
     mnusetpairs = addCommand(menu, u"Fill P&aired Cells"_s, u"mnusetpairs"_s);
     mnuset1s = addCommand(menu, u"&Set Singles"_s, u"mnuset1s"_s);
     mnuhint = addCommand(menu, u"&Hint"_s, u"mnuhint"_s);
+    QAction* makeMarks = addSwitch(menu, u"&Make Pencilmarks"_s, u"mnumakemarks"_s);
     menu.addSeparator();
     mnunextunsolved = addCommand(menu, u"&Next Unsolved"_s, u"mnunextunsolved"_s);
     mnustatistics = addCommand(menu, u"S&tatistics"_s, u"mnustatistics"_s);
     menu.addSeparator();
-    viewSwitches = {addSwitch(menu, u"Show &Broken Rules"_s, u"mnubroken"_s),
-                    addSwitch(menu, u"Show E&qual Numbers"_s, u"mnuequal"_s),
-                    addSwitch(menu, u"Fa&de Impossible Marks"_s, u"mnufade"_s)};
+    switches = {addSwitch(menu, u"Show &Broken Rules"_s, u"mnubroken"_s),
+                addSwitch(menu, u"Show E&qual Numbers"_s, u"mnuequal"_s),
+                addSwitch(menu, u"Fa&de Impossible Marks"_s, u"mnufade"_s),
+                addSwitch(menu, u"Fill Both Sides of a Pair"_s, u"mnufillboth"_s),
+                addSwitch(menu, u"Stri&ke Marks"_s, u"mnustrike"_s),
+                makeMarks};
     mnushowtime = addSwitch(menu, u"Show T&ime"_s, u"mnushowtime"_s);
     menu.addSeparator();
     mnuforgetpuzzle = addCommand(menu, u"&Forget this Puzzle's Play"_s, u"mnuforgetpuzzle"_s);

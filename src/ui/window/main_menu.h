@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/play/highlights.h"
+#include "core/play/play_switches.h"
 
 #include <QAction>
 #include <QMenu>
@@ -66,7 +66,8 @@ public:
     QAction* mnusetpairs;
     QAction* mnuset1s;
     QAction* mnuhint;
-    std::array<QAction*, AllViewSwitches.size()> viewSwitches{};
+    /// In the order of `AllPlaySwitches`.
+    std::array<QAction*, AllPlaySwitches.size()> switches{};
     QAction* mnunextunsolved;
     QAction* mnustatistics;
     QAction* mnushowtime;

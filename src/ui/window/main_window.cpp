@@ -90,7 +90,7 @@ Form1::Form1(Session& session, Prompts& prompts, const FileDialog& fileDialog, P
     , m_worn(session.appearance)
     , m_menu(*menuBar())
     , m_tools(new ToolRow)
-    , m_board(new BoardView(session.game.board, m_worn, session.view))
+    , m_board(new BoardView(session.game.board, m_worn, session.game.switches))
     , m_palette(new PalettePanel(m_worn))
     , m_status(new StatusLine)
     , m_announcer(new Announcer(this))

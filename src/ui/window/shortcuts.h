@@ -47,6 +47,7 @@ inline constexpr std::array Shortcuts{
     Shortcut{"mnusetpairs", "F7"},
     Shortcut{"mnuset1s", "F8"},
     Shortcut{"mnuhint", "F4"},
+    Shortcut{"mnumakemarks", "M"},
     Shortcut{"mnunextunsolved", "Ctrl+PgDown"},
     Shortcut{"mnustatistics", "Ctrl+T"},
     Shortcut{"mnushowtime", "Ctrl+Shift+T"},
@@ -73,6 +74,7 @@ inline constexpr std::array SharedShortcuts{
     Shortcut{"cmdsetpairs", "F7"},
     Shortcut{"cmdset1s", "F8"},
     Shortcut{"cmdhint", "F4"},
+    Shortcut{"cmdpencil", "M"},
 };
 
 /// Gives every command of the window its keys. An edit box gets the focus by its keys.

@@ -80,8 +80,8 @@ void WindowCommands::remember(QAction* item, const std::string& setting) {
     });
 }
 
-void WindowCommands::connectSwitch(QAction& item, const ViewSwitch& which, BoardView& board) {
-    bool& value = m_session.view.*which.value;
+void WindowCommands::connectSwitch(QAction& item, const PlaySwitch& which, BoardView& board) {
+    bool& value = m_session.game.switches.*which.value;
     item.setChecked(value);
     QObject::connect(&item, &QAction::toggled, &board, [&value, &board](bool on) {
         value = on;
@@ -159,7 +159,7 @@ void WindowCommands::connectPalette(PalettePanel& palette) {
 void WindowCommands::connectPlay(const WindowRegions& regions) {
     const MainMenu& menu = regions.menu;
     const ToolRow& tools = regions.tools;
-    const PalettePanel& palette = regions.palette;
+    PalettePanel& palette = regions.palette;
     const auto onBoth = [this](QAction* item, BoxControl* button, auto command) {
         onChoice(item, command);
         onClick(button, command);
@@ -174,8 +174,12 @@ void WindowCommands::connectPlay(const WindowRegions& regions) {
     onBoth(menu.mnusetpairs, palette.cmdsetpairs, [this] { play.cmdsetpairs(); });
     onBoth(menu.mnuset1s, palette.cmdset1s, [this] { play.cmdset1s(); });
     onBoth(menu.mnuhint, tools.cmdhint, [this] { play.cmdhint(); });
-    for (std::size_t i = 0; i < AllViewSwitches.size(); ++i)
-        connectSwitch(*menu.viewSwitches[i], AllViewSwitches[i], regions.board);
+    QAction* makeMarks = menu.switches.back();
+    QObject::connect(makeMarks, &QAction::toggled, &palette,
+                     [&palette](bool on) { palette.showPencil(on); });
+    QObject::connect(palette.cmdpencil, &BoxControl::clicked, makeMarks, &QAction::toggle);
+    for (std::size_t i = 0; i < AllPlaySwitches.size(); ++i)
+        connectSwitch(*menu.switches[i], AllPlaySwitches[i], regions.board);
     onChoice(menu.mnunextunsolved, [this] { m_playBook.mnunextunsolved(); });
     onChoice(menu.mnuforgetpuzzle, [this] { m_playBook.mnuforgetpuzzle(); });
     onChoice(menu.mnuforgetfile, [this] { m_playBook.mnuforgetfile(); });

@@ -71,7 +71,7 @@ private:
     void connectTools(ToolRow& tools, BoardView& board);
     void connectPalette(PalettePanel& palette);
     void connectPlay(const WindowRegions& regions);
-    void connectSwitch(QAction& item, const ViewSwitch& which, BoardView& board);
+    void connectSwitch(QAction& item, const PlaySwitch& which, BoardView& board);
     void connectDeveloperRow(const DeveloperRow& row);
     void connectCreation(const MainMenu& menu, const ToolRow& tools, DeveloperRow* developerRow);
 

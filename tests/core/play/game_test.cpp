@@ -56,20 +56,69 @@ TEST_F(GameTest, CopyAcrossSidesFeedsLaterCellsAndIsUndoneAsOne) {
     EXPECT_FALSE(TouchedCell[1][6]);
 }
 
-TEST_F(GameTest, AGroupedRunIsUndoneDownToTheSingleRecordBelow) {
-    place(Cell, "1");
-    for (int hexagon = 1; hexagon <= 3; ++hexagon)
-        board.CellNum[hexagon] = {"", "1", "2", "3", "4", "5", ""};
-    EXPECT_EQ(setSingles(), 3);
-    EXPECT_EQ(board.CellNum[1][6], "6");
-    EXPECT_FALSE(TouchedCell[1][6]) << "this assist touches nothing";
-    int count = 0;
-    CopyAcrossSides(count);
-    EXPECT_GT(count, 0);
-    const HexagonSet drawn = undo();
-    EXPECT_TRUE(drawn.test(1) && drawn.test(2) && drawn.test(3)) << "both form one run";
-    EXPECT_EQ(board.CellNum[1][6], "");
-    EXPECT_EQ(undoList.text(0), "0703") << "what was there before stays";
+TEST_F(GameTest, MarksAreMadeTakenAndTypedOn) {
+    const auto turned = [this](const std::string& entry, char digit) {
+        board.CellNum[Cell] = entry;
+        turnMark(Cell, digit);
+        const std::string after = board.CellNum[Cell];
+        undo();
+        EXPECT_EQ(board.CellNum[Cell], entry);
+        return after;
+    };
+    for (const auto& [entry, digit, expected] : {std::tuple("", '4', " 4"),
+                                                 {" 4", '4', ""},
+                                                 {" 4", '5', "45"},
+                                                 {"45", '4', " 5"},
+                                                 {"3", '3', " 3"},
+                                                 {"3", '5', "35"},
+                                                 {"654321", '3', "65421"},
+                                                 {"012345", '6', "012345"}})
+        EXPECT_EQ(turned(entry, digit), expected) << entry << " and " << digit;
+    for (const auto& [digits, expected] : {std::pair("4", "4"), {"45", "45"}, {"54", "45"}}) {
+        board.CellNum[Cell] = " 4";
+        type(Cell, digits);
+        EXPECT_EQ(board.CellNum[Cell], expected) << "typed " << digits;
+    }
+}
+
+TEST_F(GameTest, AnEntryTakesAlongWhatIsSwitchedOnAndOneUndoTakesAllBack) {
+    const CellId cell{2, 3};
+    const auto seen = [&] {
+        std::string text;
+        for (CellId shown : {cell, CellId{1, 6}, CellId{2, 5}, CellId{1, 2}, CellId{3, 1}})
+            text += board.CellNum[shown] + "|";
+        return text;
+    };
+    const std::string before = "|12|34|13|13|";
+    for (const auto& [fill, strike, typed, expected] :
+         {std::tuple(false, false, "3", "3|12|34|13|13|"),
+          {true, false, "3", "3|3|34|13|13|"},
+          {false, true, "3", "3|12| 4| 1|13|"},
+          {true, true, "3", "3|3| 4| 1|13|"},
+          {true, true, "35", "35|12|34|13|13|"},
+          {true, true, "0", "0|12|34|13|13|"}}) {
+        switches = {.fillBothSides = fill, .strikeMarks = strike};
+        board.CellNum[cell] = "";
+        board.CellNum[1] = {"", "", "13", "", "", "", "12"};
+        board.CellNum[{2, 5}] = "34";
+        board.CellNum[{3, 1}] = "13";
+        type(cell, typed);
+        EXPECT_EQ(seen(), expected) << typed;
+        undo();
+        EXPECT_EQ(seen(), before);
+        redo();
+        EXPECT_EQ(seen(), expected);
+    }
+    switches.strikeMarks = false;
+    board.FixedCell[{2, 5}] = true; // a given
+    for (const auto& [entry, expected] :
+         {std::pair("4", "4|4|34|13|13|"), {"", "||34|13|13|"}, {"6", "6|6|34|13|13|"}}) {
+        place(cell, entry);
+        EXPECT_EQ(seen(), expected);
+    }
+    board.CellNum[{1, 6}] = "5";
+    place(cell, "");
+    EXPECT_EQ(seen(), "|5|34|13|13|") << "another number stays";
 }
 
 TEST_F(GameTest, WhateverIsTakenBackCanBeDoneAgainStepByStep) {

@@ -254,14 +254,17 @@ TEST_F(PlayCommandsTest, AssistsCountWhatTheyDidAndUndoDrawsIt) {
     EXPECT_EQ(said(&PlayCommands::cmdset1s), "None Set");
     EXPECT_EQ(said(&PlayCommands::cmdsetpairs), "None Fixed");
     EXPECT_TRUE(display.boardsDrawn == 0 && display.drawn.empty());
+    game.place({19, 5}, "");
     game.board.CellNum[1] = {"", "1", "2", "3", "4", "", "6"};
     EXPECT_EQ(said(&PlayCommands::cmdset1s), " 1 Cells Set");
+    EXPECT_FALSE(game.TouchedCell[1][5]) << "this assist touches nothing";
     game.board.CellNum[1] = {"", "", "", "", "", "5", ""};
     EXPECT_EQ(said(&PlayCommands::cmdsetpairs), " 1 Cells Fixed");
     EXPECT_EQ(display.boardsDrawn, 2);
     EXPECT_EQ(said(&PlayCommands::cmdundo), "");
     EXPECT_EQ(display.drawn, (std::vector<int>{1, 5})) << "both made one run";
     EXPECT_EQ(game.board, empty);
+    EXPECT_EQ(game.undoList.text(0), "1905") << "what was there before stays";
 }
 
 TEST_F(PlayCommandsTest, WhatTakesEntriesAwayAsksFirst) {

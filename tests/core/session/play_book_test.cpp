@@ -37,7 +37,7 @@ struct Table {
     std::string found() const {
         std::string text = positionText(game);
         for (const TextStack* stack :
-             {static_cast<const TextStack*>(&game.undoList), &game.markSteps, &game.redoSteps})
+             {static_cast<const TextStack*>(&game.undoList), &game.wideSteps, &game.redoSteps})
             for (std::size_t age = 0; age < stack->size(); ++age)
                 text += "\n" + stack->text(age);
         return text + (game.isFinished ? " finished" : "") + (game.wasSolved ? " solved" : "");
@@ -70,16 +70,19 @@ TEST_F(PlayBookTest, EveryChangeIsFoundByAnotherWindowAtOnce) {
     Game& game = window.game;
     int count = 0;
     CellId cell;
+    int turn = 0;
+    game.switches.fillBothSides = game.switches.strikeMarks = true;
     const auto type = [&] {
         if (game.isSelectable(cell))
-            game.typeDigit(cell, static_cast<char>('0' + chance() % 7));
+            turn % 2 == 0 ? game.typeDigit(cell, static_cast<char>('0' + chance() % 7))
+                          : game.turnMark(cell, static_cast<char>('1' + chance() % 6));
     };
     const auto undo = [&] { game.undo(); };
     const auto redo = [&] { game.redo(); };
     const std::function<void()> moves[] = {
         [&] { game.fillMarks(); }, [&] { game.clearMarks(); }, [&] { game.CopyAcrossSides(count); },
         [&] { game.setSingles(); }, [&] { chance() % 8 == 0 ? game.reset() : game.takeHint(); }};
-    for (int turn = 0; turn < 400; ++turn) {
+    for (; turn < 400; ++turn) {
         cell = AllCells[chance() % AllCells.size()];
         const std::size_t move = chance() % 16;
         move < 5 ? moves[move]() : move < 8 ? redo() : move < 11 ? undo() : type();

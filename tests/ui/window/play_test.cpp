@@ -77,6 +77,32 @@ TEST_F(Play, TheAssistsAnswerToTheirButtons) {
     EXPECT_EQ(play.board, fresh);
 }
 
+TEST_F(Play, ThePencilTurnsEveryWayToEnterIntoAWayToMark) {
+    const CellId cell = lastSelectable(play);
+    const auto mark = [&](bool byPencil) {
+        game.press(byPencil ? Qt::Key_1 : Qt::CTRL | Qt::Key_1);
+        if (byPencil) {
+            game.click(u"digt_2"_s);
+            QTest::mouseClick(&game.board(), Qt::LeftButton, {}, game.pointOf(cell));
+            game.click(u"digt_2"_s);
+            QTest::mouseClick(&game.board(), Qt::RightButton, {}, game.pointOf(cell));
+            game.click(u"Num16_4"_s);
+        }
+    };
+    auto& pencil = game.find<BoxControl>(u"cmdpencil"_s);
+    game.pointAt(cell);
+    mark(false);
+    EXPECT_EQ(play.board.CellNum[cell], " 1");
+    game.press(Qt::Key_M);
+    EXPECT_TRUE(pencil.isLatched());
+    mark(true);
+    EXPECT_EQ(play.board.CellNum[cell], "35");
+    game.click(u"cmdpencil"_s);
+    EXPECT_FALSE(pencil.isLatched() || game.find<QAction>(u"mnumakemarks"_s).isChecked());
+    game.press(Qt::Key_2);
+    EXPECT_EQ(play.board.CellNum[cell], "352") << "typed on";
+}
+
 TEST_F(Play, TheBoardIsFramedForTheKeyboardOnly) {
     game.find(u"cmdload"_s).setFocus();
     const QImage before = game.picture();
