@@ -92,6 +92,7 @@ struct RecordingDisplay : Display {
         puzzle = shown.PuzNum > 0 ? shown : CurrentPuzzle();
     }
     void showPlay() override { ++playsShown; }
+    void showSolved(CellId last) override { solved = last; }
     void showDifficulty(DifficultyChoice shown) override { difficulty = shown; }
     void showSaveTarget(const std::filesystem::path& path) override { saveTarget = path; }
     void showRecentFiles(const std::vector<std::filesystem::path>& paths) override {
@@ -134,6 +135,7 @@ struct RecordingDisplay : Display {
 
     CurrentPuzzle puzzle;
     int playsShown = 0;
+    CellId solved;
     /// What is to be done after a while.
     std::function<void()> later;
     DifficultyChoice difficulty;

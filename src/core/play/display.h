@@ -61,6 +61,8 @@ public:
     virtual void showPuzzle(const CurrentPuzzle& puzzle) = 0;
     /// The play has changed: what can be taken back, how far the puzzle is.
     virtual void showPlay() = 0;
+    /// The board has come out right with a number in this cell, or with none in particular.
+    virtual void showSolved(CellId last) = 0;
     /// What the difficulty label shows.
     virtual void showDifficulty(DifficultyChoice difficulty) = 0;
     /// The file that "Save to" offers; empty for none.

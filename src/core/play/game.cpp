@@ -50,11 +50,14 @@ void Game::forgetWhatWas() {
     forgetReset();
 }
 
-void Game::told() {
-    if (!isFinished && isSolved(board))
+void Game::told(CellId last) {
+    const bool comesOut = !isFinished && isSolved(board);
+    if (comesOut)
         isFinished = wasSolved = true;
     if (changed)
         changed();
+    if (comesOut && solved)
+        solved(last);
 }
 
 void Game::PushUndo(int hexagon, int position) {
@@ -86,7 +89,7 @@ HexagonSet Game::place(CellId cell, const std::string& entry) {
         if (std::exchange(board.CellNum[change.cell], change.entry) != change.entry)
             changedHexagons.set(static_cast<std::size_t>(change.cell.hexagon));
     }
-    told();
+    told(cell);
     return changedHexagons;
 }
 
@@ -110,19 +113,20 @@ HexagonSet Game::typeDigit(CellId cell, char digit) {
     forgetWhatWas();
     board.CellNum[cell] = digits + digit;
     changedHexagons.set(static_cast<std::size_t>(cell.hexagon));
-    told();
+    told(cell);
     return changedHexagons;
 }
 
 HexagonSet Game::turnMark(CellId cell, char digit) {
     PushUndo(cell.hexagon, cell.position);
     board.CellNum[cell] = withMarkTurned(board.CellNum[cell], digit);
-    told();
+    told(cell);
     return HexagonSet().set(static_cast<std::size_t>(cell.hexagon));
 }
 
 void Game::CopyAcrossSides(int& count) {
     int copied = 0;
+    CellId last;
     for (CellId cell : AllCells) {
         const CellId partner = SideLink[cell];
         if (cell.hexagon == board.SkipHex || !partner || partner.hexagon == board.BlankHex)
@@ -132,25 +136,28 @@ void Game::CopyAcrossSides(int& count) {
         pushGrouped(cell);
         board.CellNum[cell] = board.CellNum[partner];
         TouchedCell[cell] = true;
+        last = cell;
         ++copied;
     }
     count += copied;
     if (copied > 0)
-        told();
+        told(last);
 }
 
 int Game::setSingles() {
     int count = 0;
+    CellId last;
     for (int hexagon = 1; hexagon <= HexagonCount; ++hexagon) {
         const Single single = SingleCandidate(board, hexagon);
         if (!single.cell)
             continue;
         pushGrouped(single.cell);
         board.CellNum[single.cell] = single.number;
+        last = single.cell;
         ++count;
     }
     if (count > 0)
-        told();
+        told(last);
     return count;
 }
 

@@ -19,6 +19,9 @@ public:
     PlaySwitches switches;
     /// Called after every change of the play; may be empty.
     std::function<void()> changed;
+    /// Called after that when the board has come out right, with the cell that was entered last, or
+    /// none; may be empty.
+    std::function<void(CellId)> solved;
 
     /// Whether there is a puzzle on the board: every cell of one has a solution.
     bool hasPuzzle() const { return !board.SolNum[AllCells.front()].empty(); }
@@ -90,7 +93,7 @@ private:
     /// What could be done again, or brought back, no longer can.
     void forgetWhatWas();
     /// Something has changed: ends the play when all is solved, and tells.
-    void told();
+    void told(CellId last = {});
     void undoStep(HexagonSet& changedHexagons);
     /// How many undo records lie beneath the newest step that changed many cells.
     std::size_t recordsBeneathWideStep() const;

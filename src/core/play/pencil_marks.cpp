@@ -23,8 +23,7 @@ std::string marksOf(const std::string& digits) {
 
 bool isEntry(std::string_view text) {
     const std::string digits = digitsOf(text);
-    return digits.size() <= MostMarks &&
-           digits.find_first_not_of("0123456") == std::string::npos &&
+    return digits.size() <= MostMarks && digits.find_first_not_of("0123456") == std::string::npos &&
            (digits.size() == text.size() || digits.size() == 1);
 }
 

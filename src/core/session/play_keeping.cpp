@@ -9,10 +9,15 @@ PlayKeeping::PlayKeeping(Session& session, Display& display, Prompts& prompts)
     , m_display(display)
     , m_prompts(prompts) {
     m_session.game.changed = [this] { keep(); };
+    // When the command that did it has drawn and said what it has to.
+    m_session.game.solved = [this](CellId last) {
+        m_display.afterwards({}, [this, last] { m_display.showSolved(last); });
+    };
 }
 
 PlayKeeping::~PlayKeeping() {
     m_session.game.changed = {};
+    m_session.game.solved = {};
 }
 
 void PlayKeeping::tell(const Outcome& outcome) {

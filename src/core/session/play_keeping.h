@@ -12,7 +12,8 @@
 namespace tessaly {
 
 /// Sees to it that what the player does is kept: every change of the game goes into the book, if
-/// there is one, before anything else happens, and with it the time that was played.
+/// there is one, before anything else happens, and with it the time that was played. That the board
+/// has come out right is shown after all else.
 class PlayKeeping {
 public:
     /// The session must outlive it. As long as it lives the game tells it of every change.

@@ -87,6 +87,11 @@ bool asksForMenu(const QKeyEvent& event) {
            (event.key() == Qt::Key_F10 && event.modifiers() == Qt::ShiftModifier);
 }
 
+bool isEnter(const QKeyEvent& event) {
+    return (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) &&
+           !event.isAutoRepeat() && !isPartOfAShortcut(event);
+}
+
 bool turnsMark(BoardInput& input, const QKeyEvent& event) {
     const Qt::KeyboardModifiers held =
         event.modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier);

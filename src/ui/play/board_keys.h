@@ -21,6 +21,9 @@ bool moveSelection(BoardInput& input, const QKeyEvent& event);
 /// so.
 bool readsOrClicks(BoardInput& input, const QKeyEvent& event);
 
+/// Whether it is Enter, pressed anew.
+bool isEnter(const QKeyEvent& event);
+
 /// Makes or takes the pencil mark of a digit that is pressed with Ctrl, or while digits are marks.
 /// Whether it was one.
 bool turnsMark(BoardInput& input, const QKeyEvent& event);

@@ -1,5 +1,6 @@
 #include "ui/play/board_view.h"
 
+#include "core/play/assists.h"
 #include "core/play/board_geometry.h"
 #include "core/play/board_style.h"
 #include "core/play/cell_description.h"
@@ -83,6 +84,7 @@ BoardView::BoardView(const Board& board, const Appearance& appearance, const Pla
     , m_appearance(appearance)
     , m_switches(switches)
     , m_overlay(board, appearance, switches, this)
+    , m_wave(appearance, this)
     , m_marker(this)
     , m_popup(this)
     , m_told(board.CellNum) {
@@ -159,6 +161,7 @@ void BoardView::tellChanges() {
 void BoardView::showPuzzle() {
     takeChanges();
     m_overlay.showHint({});
+    m_wave.stop();
     DrawBoard();
 }
 
@@ -296,6 +299,8 @@ void BoardView::updateSurface() {
 void BoardView::placeChildren() {
     m_overlay.setGeometry(rect());
     m_overlay.setTransform(boardToWidget());
+    m_wave.setGeometry(rect());
+    m_wave.setTransform(boardToWidget());
     for (HexagonTagWidget* tag : m_tags)
         if (tag != nullptr)
             tag->place(onWidget(tagRectangle(tag->hexagon())));
@@ -394,6 +399,8 @@ void BoardView::keyPressEvent(QKeyEvent* event) {
     }
     if (asksForMenu(*event))
         enterPopup();
+    else if (isEnter(*event) && isSolved(m_board))
+        Q_EMIT nextAsked();
     else if (!moveSelection(*m_input, *event) && !readsOrClicks(*m_input, *event) &&
              !turnsMark(*m_input, *event))
         pressKey(*m_input, *event);

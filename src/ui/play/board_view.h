@@ -7,6 +7,7 @@
 #include "ui/play/board_overlay.h"
 #include "ui/play/hexagon_tag_widget.h"
 #include "ui/play/number_popup.h"
+#include "ui/play/solved_wave.h"
 
 #include <QTimer>
 #include <QWidget>
@@ -55,6 +56,8 @@ public:
     /// Marks what a hint speaks of, until the board changes or another one comes; an empty one
     /// takes that away.
     void showHint(const Hint& hint) { m_overlay.showHint(hint); }
+    /// Lights the board up from the cell whose number made it right.
+    void showSolved(CellId last) { m_wave.start(last.hexagon); }
     /// The digit that the palette enters, or 0: it is looked for on the board.
     void showPaletteDigit(char digit);
     /// The switches about what stands out have changed.
@@ -87,6 +90,8 @@ public:
 
 Q_SIGNALS:
     void entriesChanged(const std::string& inWords);
+    /// Enter was pressed on a board that is solved.
+    void nextAsked();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -125,6 +130,7 @@ private:
     BoardInput* m_input = nullptr;
     BoardSurface m_surface;
     BoardOverlay m_overlay;
+    SolvedWave m_wave;
     CellId m_hovered;
     char m_paletteDigit = 0;
     /// A pointer that rests on a number looks for it; one that passes by does not.

@@ -249,6 +249,16 @@ void Form1::showTime() {
     m_status->showTime(playTimeText(m_session.game.seconds));
 }
 
+void Form1::showSolved(CellId last) {
+    std::string text = "Solved";
+    if (m_seconds->isActive())
+        text += " in " + playTimeText(m_session.game.seconds).toStdString();
+    if (m_session.puzzle.PuzNum > 0)
+        text += " (Enter goes on)";
+    m_board->showSolved(last);
+    showMessage(text);
+}
+
 void Form1::showDifficulty(DifficultyChoice difficulty) {
     m_tools->showDifficulty(difficulty);
     announce(nameOf(difficulty));

@@ -41,6 +41,7 @@ public:
     void showPalette(int pressedItem) override;
     void showPuzzle(const CurrentPuzzle& puzzle) override;
     void showPlay() override;
+    void showSolved(CellId last) override;
     void showDifficulty(DifficultyChoice difficulty) override;
     void showSaveTarget(const std::filesystem::path& path) override;
     void showRecentFiles(const std::vector<std::filesystem::path>& paths) override;

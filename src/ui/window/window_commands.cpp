@@ -180,7 +180,10 @@ void WindowCommands::connectPlay(const WindowRegions& regions) {
     QObject::connect(palette.cmdpencil, &BoxControl::clicked, makeMarks, &QAction::toggle);
     for (std::size_t i = 0; i < AllPlaySwitches.size(); ++i)
         connectSwitch(*menu.switches[i], AllPlaySwitches[i], regions.board);
-    onChoice(menu.mnunextunsolved, [this] { m_playBook.mnunextunsolved(); });
+    const auto nextUnsolved = [this] { m_playBook.mnunextunsolved(); };
+    onChoice(menu.mnunextunsolved, nextUnsolved);
+    QObject::connect(&regions.board, &BoardView::nextAsked, &regions.board,
+                     guarded(*this, nextUnsolved));
     onChoice(menu.mnuforgetpuzzle, [this] { m_playBook.mnuforgetpuzzle(); });
     onChoice(menu.mnuforgetfile, [this] { m_playBook.mnuforgetfile(); });
     remember(menu.mnushowtime, "showTime");

@@ -103,4 +103,29 @@ TEST_F(PlayRecord, TimesAreShownWhenTheyAreAskedFor) {
     EXPECT_EQ(mark(), u"Solved"_s);
 }
 
+TEST_F(PlayRecord, TheLastNumberSaysThatAllIsSolvedAndEnterGoesOn) {
+    const CellId last = lastSelectable(play());
+    QWidget& wave = game.find(u"SolvedWave"_s);
+    for (const bool shown : {false, true}) {
+        game.find<QAction>(u"mnushowtime"_s).setChecked(shown);
+        play().isFinished = true; // nothing is said of what comes next
+        solve();
+        play().place(last, "");
+        play().isFinished = false;
+        game.window->showMessage("");
+        game.pointAt(last);
+        game.press(static_cast<Qt::Key>(play().board.SolNum[last].front()));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return game.message().startsWith(u"Solved"_s); }));
+        EXPECT_EQ(game.message().contains(u" in 0:00 "_s), shown) << game.message().toStdString();
+        EXPECT_TRUE(wave.isVisible());
+        const QImage lit = game.picture();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !wave.isVisible(); }, 1000));
+        EXPECT_NE(game.picture(), lit);
+    }
+    game.press(Qt::Key_Return);
+    EXPECT_EQ(game.number(), u"2"_s);
+    game.press(Qt::Key_Return);
+    EXPECT_EQ(game.number(), u"2"_s) << "this one is not solved";
+}
+
 } // namespace tessaly::play_record_test
