@@ -2,9 +2,12 @@
 
 #include "cli/console.h"
 #include "core/base/command_line.h"
+#include "core/solver/rating.h"
 
 #include <filesystem>
 #include <functional>
+#include <optional>
+#include <string>
 #include <vector>
 
 namespace tessaly {
@@ -21,6 +24,9 @@ Option puzzleFile(std::filesystem::path& target);
 Option puzzleFiles(std::vector<std::filesystem::path>& targets);
 /// The option "--output", where "-" stands for standard output as its absence does: an empty path.
 Option outputFile(std::string description, std::filesystem::path& target);
+
+/// The option "--stars", "3" or "4-5".
+Option starsOption(std::string description, std::optional<StarRange>& target);
 
 /// Makes puzzles, to standard output or appended to a file.
 Subcommand createCommand();

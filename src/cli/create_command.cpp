@@ -97,21 +97,6 @@ int create(const CreateOptions& options, const Console& console) {
     return options.day ? createOfDay(options, console) : createMany(options, console);
 }
 
-/// "3" or "4-5".
-Option starsOption(std::optional<StarRange>& target) {
-    const auto take = [&target](const std::string& given) -> std::string {
-        const auto isStar = [](char c) { return c >= '1' && c <= '0' + MostStars; };
-        const bool isRange = given.size() == 3 && given[1] == '-';
-        if ((given.size() != 1 && !isRange) || !isStar(given.front()) || !isStar(given.back()) ||
-            given.front() > given.back())
-            return given + " is neither one of 1 to 5 nor two of them like 4-5";
-        target = StarRange{given.front() - '0', given.back() - '0'};
-        return {};
-    };
-    return {namesIn("--stars"), "A-B",
-            "Only puzzles of so many stars, 1 to 5, of their difficulty: 3, or 4-5", take};
-}
-
 Option dayOption(std::optional<std::chrono::year_month_day>& target) {
     const auto take = [&target](const std::string& given) -> std::string {
         target = readDay(given);
@@ -125,32 +110,35 @@ Option dayOption(std::optional<std::chrono::year_month_day>& target) {
 
 Subcommand createCommand() {
     const auto options = std::make_shared<CreateOptions>();
-    return {{.name = "create",
-             .description = "Make new puzzles, no two alike",
-             .footer = "Example: tessaly-cli create --difficulty easy --count 500 --seed 1 "
-                       "--output easy.txt\n\n"
-                       "Parts of a series that several machines make, joined in order, are what "
-                       "one machine makes: parallel --keep-order -S one,two tessaly-cli create "
-                       "--difficulty hard --seed 7 --first {} --count 1000 ::: 1 1001 2001 > "
-                       "hard.txt",
-             .options = {required(choice("--difficulty", "easy|hard|random",
-                                         "How hard the puzzles are to be", options->difficulty)),
-                         number("--count,-n", "N",
-                                "How many puzzles to make, at most " + std::to_string(MaxCount),
-                                options->count, std::int64_t{1}, MaxCount),
-                         number("--seed,-s", "S",
-                                "A whole number; makes the same puzzles whenever it is given",
-                                options->seed, std::uint64_t{0}),
-                         number("--first", "I",
-                                "The number of the first puzzle among those of the seed (by "
-                                "default 1)",
-                                options->first, std::int64_t{1}),
-                         starsOption(options->stars), dayOption(options->day),
-                         number("--jobs,-j", "J",
-                                "How many threads to work with (by default all processors)",
-                                options->jobs, 1, MaxJobs),
-                         outputFile("A puzzle file to append to", options->output)}},
-            [options](const Console& console) { return create(*options, console); }};
+    return {
+        {.name = "create",
+         .description = "Make new puzzles, no two alike",
+         .footer = "Example: tessaly-cli create --difficulty easy --count 500 --seed 1 "
+                   "--output easy.txt\n\n"
+                   "Parts of a series that several machines make, joined in order, are what "
+                   "one machine makes: parallel --keep-order -S one,two tessaly-cli create "
+                   "--difficulty hard --seed 7 --first {} --count 1000 ::: 1 1001 2001 > "
+                   "hard.txt",
+         .options =
+             {required(choice("--difficulty", "easy|hard|random", "How hard the puzzles are to be",
+                              options->difficulty)),
+              number("--count,-n", "N",
+                     "How many puzzles to make, at most " + std::to_string(MaxCount),
+                     options->count, std::int64_t{1}, MaxCount),
+              number("--seed,-s", "S",
+                     "A whole number; makes the same puzzles whenever it is given", options->seed,
+                     std::uint64_t{0}),
+              number("--first", "I",
+                     "The number of the first puzzle among those of the seed (by "
+                     "default 1)",
+                     options->first, std::int64_t{1}),
+              starsOption("Only puzzles of so many stars, 1 to 5, of their difficulty: 3, or 4-5",
+                          options->stars),
+              dayOption(options->day),
+              number("--jobs,-j", "J", "How many threads to work with (by default all processors)",
+                     options->jobs, 1, MaxJobs),
+              outputFile("A puzzle file to append to", options->output)}},
+        [options](const Console& console) { return create(*options, console); }};
 }
 
 } // namespace tessaly

@@ -1,32 +1,54 @@
 #include "core/output/booklet.h"
 
-#include "core/board/puzzle_store.h"
-
 #include <algorithm>
-#include <optional>
 
 namespace tessaly {
+namespace {
 
-int Booklet::pagesOf(BookletPart part) const {
-    return (m_puzzles + part.boardsPerPage - 1) / part.boardsPerPage;
+PageContent contentOf(const PageDesign& design, bool solutions, int boards) {
+    return {.hasTitle = !design.title.empty(),
+            .hasNameLine = design.nameAndDate,
+            .solutions = solutions,
+            .places = std::min(solutions ? design.solutionsPerPage : design.puzzlePlaces(), boards),
+            .solutionsAtFoot = !solutions && design.solutions == SolutionsAt::Foot};
 }
 
-int Booklet::pageCount() const {
-    int count = 0;
-    for (const BookletPart& part : m_parts)
-        count += pagesOf(part);
-    return count;
+/// Adds pages of one kind for the puzzles from `first` to before `end`.
+void addPages(const PageLayout& layout, bool solutions, int first, int end,
+              std::vector<BookletPage>& pages) {
+    for (; first < end; first += layout.places())
+        pages.push_back({solutions, first, std::min(layout.places(), end - first), layout});
 }
 
-BookletPage Booklet::page(int number) const {
-    for (const BookletPart& part : m_parts) {
-        if (number < pagesOf(part)) {
-            const int first = number * part.boardsPerPage;
-            return {part, first, std::min(part.boardsPerPage, m_puzzles - first)};
+} // namespace
+
+Outcome layOutBooklet(const PageDesign& design, PaperSize paper, int puzzles,
+                      std::vector<BookletPage>& pages) {
+    pages.clear();
+    const bool hasPuzzles = design.solutions != SolutionsAt::Only;
+    const bool isAfterEach = design.solutions == SolutionsAt::After;
+    const bool hasSolutionPages =
+        isAfterEach || design.solutions == SolutionsAt::End || !hasPuzzles;
+    const PageLayout puzzlePage(paper, contentOf(design, false, puzzles));
+    const int together = isAfterEach ? puzzlePage.places() : puzzles;
+    const PageLayout solutionPage(paper, contentOf(design, true, together));
+    if ((hasPuzzles && puzzlePage.places() == 0) ||
+        (hasSolutionPages && solutionPage.places() == 0))
+        return Outcome::failed(hasPuzzles ? "the paper is too small to write in a puzzle"
+                                          : "the paper is too small to read a solution");
+    if (hasPuzzles)
+        addPages(puzzlePage, false, 0, puzzles, pages);
+    if (isAfterEach) {
+        std::vector<BookletPage> both;
+        for (const BookletPage& page : pages) {
+            both.push_back(page);
+            addPages(solutionPage, true, page.first, page.first + page.count, both);
         }
-        number -= pagesOf(part);
+        pages = std::move(both);
+    } else if (hasSolutionPages) {
+        addPages(solutionPage, true, 0, puzzles, pages);
     }
-    return {};
+    return Outcome::done();
 }
 
 std::vector<int> pagesOfCopies(const std::vector<int>& pages, const Copies& copies) {
@@ -45,40 +67,6 @@ std::vector<int> pagesOfCopies(const std::vector<int>& pages, const Copies& copi
         all.insert(all.end(), pages.begin(), pages.end());
     }
     return all;
-}
-
-PrintJob jobOf(const PrintRange& range, PuzzleStore& files) {
-    std::vector<BookletPart> parts{{false, range.puzzlesPerPage}};
-    if (range.solutions)
-        parts.push_back({true, SolutionsPerPage});
-    const auto boardOf = [&files, path = range.path,
-                          first = std::optional<FileState>()](int number, Board& board) mutable {
-        const PuzzleRead read = files.ReadPuzzle(path, number, board);
-        board.ResetToGivens();
-        if (!first)
-            first = files.lastRead();
-        // The solutions would be those of other puzzles.
-        if (*first != files.lastRead())
-            return Outcome::failed(path.native() + ": changed while it was printed");
-        return read.ok() ? Outcome::done() : Outcome::failed(read.reason);
-    };
-    const std::string name = range.path.filename().native();
-    return {Booklet(range.to - range.from + 1, parts), range.from, boardOf,
-            name + ", " + std::to_string(range.from) + " to " + std::to_string(range.to)};
-}
-
-PrintJob jobOf(const Board& board, int number, bool puzzle, bool solution) {
-    std::vector<BookletPart> parts;
-    if (puzzle)
-        parts.push_back({false, 1});
-    if (solution)
-        parts.push_back({true, 1});
-    const auto boardOf = [board](int, Board& copy) {
-        copy = board;
-        return Outcome::done();
-    };
-    return {Booklet(1, parts), number, boardOf,
-            (puzzle ? "Puz# " : "Sol# ") + std::to_string(number)};
 }
 
 } // namespace tessaly

@@ -71,8 +71,9 @@ Colour markerColour(const Appearance& appearance) {
     return seenOn(appearance.HexaFillColour, appearance.SchemeColours[slot::Red]);
 }
 
-BoardStyle paperStyle(const Appearance& appearance) {
+BoardStyle paperStyle(const Appearance& appearance, bool large) {
     constexpr double WidestBorder = 10;
+    constexpr double Wider = 2;
     return {
         .border = Black,
         .line = Black,
@@ -80,8 +81,10 @@ BoardStyle paperStyle(const Appearance& appearance) {
         .solid = Black,
         .fixedNumber = Black,
         .userNumber = Black,
-        .borderWidth = std::min<double>(appearance.PrintLineWidth, WidestBorder),
-        .lineWidth = 0.6,
+        .borderWidth =
+            std::min<double>(appearance.PrintLineWidth * (large ? Wider : 1), WidestBorder),
+        .lineWidth = large ? 1.5 : 0.6,
+        .numberScale = large ? 1.35 : 1,
         .onPaper = true,
     };
 }

@@ -50,6 +50,8 @@ struct BoardStyle {
     /// In board units.
     double borderWidth;
     double lineWidth = 1;
+    /// How much larger numbers are than usual.
+    double numberScale = 1;
     /// On paper what lies under the cells is not painted, and the blank hexagon is hatched, for a
     /// solid one would take much ink.
     bool onPaper = false;
@@ -65,7 +67,8 @@ BoardStyle boardStyle(const Appearance& appearance);
 Colour solutionColour(const Appearance& appearance);
 Colour markerColour(const Appearance& appearance);
 
-/// Black on white paper, with borders of `PrintLineWidth`, as far as they leave room for a board.
-BoardStyle paperStyle(const Appearance& appearance);
+/// Black on white paper, with borders of `PrintLineWidth`, as far as they leave room for a board;
+/// for eyes that see less, with larger numbers and wider lines.
+BoardStyle paperStyle(const Appearance& appearance, bool large = false);
 
 } // namespace tessaly

@@ -77,8 +77,8 @@ BoardRenderer::BoardRenderer(QPainter& painter, const Board& board, const BoardS
     , m_digits(digits)
     , m_face(font)
     , m_boldFace(font, true)
-    , m_numerals(m_face, {}, Fit::Exact)
-    , m_boldNumerals(m_boldFace, {}, Fit::Exact)
+    , m_numerals(m_face, {}, Fit::Exact, style.numberScale)
+    , m_boldNumerals(m_boldFace, {}, Fit::Exact, style.numberScale)
     , m_givens(m_boldFace, m_boldNumerals.numberSize())
     , m_numbers(m_face, m_numerals.numberSize())
     , m_marks(m_face, m_numerals.markSize()) {}

@@ -67,10 +67,10 @@ QRawFont DigitFace::font(double size) const {
     return font;
 }
 
-Numerals::Numerals(const DigitFace& face, Scale scale, Fit fit)
+Numerals::Numerals(const DigitFace& face, Scale scale, Fit fit, double enlarged)
     : m_face(&face)
     , m_fit(fit)
-    , m_number(sized(NumberSize, 22, 18, scale))
+    , m_number(sized(NumberSize * enlarged, 22 * enlarged, 18 * enlarged, scale))
     , m_mark(sized(MarkSize, 7.5, 8.5, scale)) {
     constexpr double BetweenRows = 2.75;
     m_rowPitch = m_mark.height + std::max(fitted(BetweenRows * scale.y), 1.0);

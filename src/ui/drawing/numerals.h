@@ -67,7 +67,8 @@ enum class Fit { Exact, ToPixels };
 /// cell. All coordinates are target units.
 class Numerals {
 public:
-    Numerals(const DigitFace& face, Scale scale, Fit fit);
+    /// Numbers, not marks, are `enlarged` times as large as usual.
+    Numerals(const DigitFace& face, Scale scale, Fit fit, double enlarged = 1);
 
     /// A number; its pen is at the middle of its baseline.
     QPainterPath number(int digit) const;

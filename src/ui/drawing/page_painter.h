@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/output/page_layout.h"
+#include "core/output/print_job.h"
 #include "ui/drawing/board_renderer.h"
 
 #include <QFont>
@@ -22,27 +22,38 @@ struct PageText {
 /// Where along a line of text its given point lies.
 enum class TextAnchor { Left, Middle, Right };
 
-/// Draws a text with its baseline at `point`, in the painter's pen, condensed as far as need be to
-/// be no wider than `widest`.
+/// Draws a text with its baseline at `point`, in the painter's pen, so that it is no wider than
+/// `widest`: somewhat condensed if need be, and cut in the middle where that is not enough.
 void drawText(QPainter& painter, QPointF point, const QString& text, const PageText& style,
               TextAnchor anchor, double widest);
 
-/// Draws what stands on the pages of a booklet. The painter's unit is the point and its origin the
-/// sheet's upper left corner.
+/// Draws the pages of a job. The painter's unit is the point and its origin the sheet's upper left
+/// corner.
 class PagePainter {
 public:
-    /// The painter must outlive this object.
-    PagePainter(QPainter& painter, const Appearance& appearance);
+    /// The painter and the job must outlive this object.
+    PagePainter(QPainter& painter, const Appearance& appearance, const PrintJob& job);
 
-    /// Draws a board, or its solution, into `area`, which has the proportions of `BoardExtent`. Its
-    /// caption stands in the corners that the board leaves empty.
-    void drawBoard(const Board& board, int number, bool solution, const Rect& area);
-
-    /// The product, where it is found, and the page's number, from 1.
-    void drawFooter(const Rect& area, int page, int pageCount);
+    /// Draws one of `pageCount` pages; `number` is from 1.
+    void draw(const BookletPage& page, int number, int pageCount);
 
 private:
+    void drawTitle(const Rect& area);
+    void drawNameLine(const Rect& area);
+    void drawFoot(const BookletPage& page);
+    void drawFooter(const Rect& area, const QString& files, int number, int pageCount);
+    /// Draws a puzzle, from 0, or its solution, into `area`, which has the proportions of
+    /// `BoardExtent`.
+    void drawBoard(int index, bool solution, const Rect& area);
+    void drawHexagonNumbers();
+    void drawMarkGrid();
+    /// The captions stand in the corners that the board leaves empty.
+    void drawCaptions(const PrintedPuzzle& puzzle, bool solution, const Rect& area);
+    void drawStars(int stars, QPointF right, double size);
+
     QPainter& m_painter;
+    const PrintJob& m_job;
+    bool m_namesFiles;
     QString m_family;
     Board m_board;
     BoardRenderer m_renderer;

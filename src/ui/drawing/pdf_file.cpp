@@ -1,14 +1,16 @@
 #include "ui/drawing/pdf_file.h"
 
-#include "core/base/product.h"
 #include "core/files/file_access.h"
 #include "ui/drawing/page_painter.h"
+#include "ui/drawing/pdf_document.h"
 
+#include <QBuffer>
 #include <QPageLayout>
 #include <QPagedPaintDevice>
 #include <QPainter>
 #include <QPdfWriter>
 
+#include <map>
 #include <numeric>
 
 namespace tessaly {
@@ -16,67 +18,102 @@ namespace {
 
 constexpr double PointsPerInch = 72;
 
-Outcome paintPage(PagePainter& painter, const PrintJob& job, int pageNumber, PaperSize paper) {
-    if (pageNumber == EmptyPage)
-        return Outcome::done();
-    const BookletPage page = job.booklet.page(pageNumber);
-    const PageLayout layout(paper, page.part.boardsPerPage);
-    Board board;
-    for (int place = 0; place < page.count; ++place) {
-        const int number = job.firstNumber + page.first + place;
-        if (Outcome read = job.boardOf(number, board); !read.ok())
-            return read;
-        painter.drawBoard(board, number, page.part.solutions, layout.boardArea(place));
-    }
-    painter.drawFooter(layout.footer(), pageNumber + 1, job.booklet.pageCount());
-    return Outcome::done();
-}
+using Pages = std::vector<BookletPage>;
 
-std::vector<int> pagesOf(const PrintJob& job) {
-    std::vector<int> pages = job.pages;
-    if (pages.empty()) {
-        pages.resize(static_cast<std::size_t>(job.booklet.pageCount()));
-        std::iota(pages.begin(), pages.end(), 0);
+std::vector<int> orderOf(const PrintJob& job, const Pages& pages) {
+    std::vector<int> order = job.pages;
+    if (order.empty()) {
+        order.resize(pages.size());
+        std::iota(order.begin(), order.end(), 0);
     }
-    return pages;
+    return order;
 }
 
 PrintResult paintPages(QPagedPaintDevice& device, QPainter& painter, const PrintJob& job,
-                       const Appearance& appearance, const GoOn& goOn) {
-    painter.scale(device.logicalDpiX() / PointsPerInch, device.logicalDpiY() / PointsPerInch);
-    PagePainter pages(painter, appearance);
+                       const Pages& pages, const Appearance& appearance, const GoOn& goOn) {
+    scaleToPoints(painter);
+    PagePainter pagePainter(painter, appearance, job);
+    const std::vector<int> order = orderOf(job, pages);
     int done = 0;
-    for (const int page : pagesOf(job)) {
-        if (!goOn(done))
+    for (const int page : order) {
+        if (!goOn(done, static_cast<int>(order.size())))
             return {{}, true};
         if (done > 0 && !device.newPage())
             return {Outcome::failed("A new page cannot be begun."), false};
-        if (Outcome painted = paintPage(pages, job, page, paperOf(device)); !painted.ok())
-            return {painted, false};
+        if (page != EmptyPage)
+            pagePainter.draw(pages.at(static_cast<std::size_t>(page)), page + 1,
+                             static_cast<int>(pages.size()));
         ++done;
     }
     return {};
 }
 
 /// Paints a booklet onto paper, on the whole sheet.
-PrintResult paintBooklet(QPagedPaintDevice& device, const PrintJob& job,
+PrintResult paintBooklet(QPagedPaintDevice& device, const PrintJob& job, const Pages& pages,
                          const Appearance& appearance, const GoOn& goOn) {
     QPainter painter;
     if (!painter.begin(&device))
         return {Outcome::failed("The printer cannot be used."), false};
-    PrintResult result = paintPages(device, painter, job, appearance, goOn);
+    PrintResult result = paintPages(device, painter, job, pages, appearance, goOn);
     if (!painter.end() && result.isComplete())
         return {Outcome::failed("The pages cannot be finished."), false};
     return result;
 }
 
-void setUp(QPdfWriter& writer, PaperSize paper, const std::string& title) {
+void setUp(QPdfWriter& writer, PaperSize paper) {
     const QPageSize size(QSizeF(paper.width, paper.height), QPageSize::Point, {},
                          QPageSize::FuzzyMatch);
     writer.setPageLayout(QPageLayout(size, QPageLayout::Portrait, {}));
-    writer.setTitle(QString::fromStdString(title));
-    writer.setCreator(QString::fromLatin1(Product::Name) + u' ' +
-                      QString::fromLatin1(Product::Version));
+}
+
+/// Where puzzles, or their solutions, stand on the pages of a document, by their place in the job.
+/// Of copies it is the first one.
+std::map<int, PdfPlace> placesOf(const PrintJob& job, const Pages& pages, bool solutions) {
+    std::map<int, PdfPlace> places;
+    int painted = 0;
+    for (const int number : orderOf(job, pages)) {
+        if (number != EmptyPage) {
+            const BookletPage& page = pages.at(static_cast<std::size_t>(number));
+            for (int place = 0; place < page.count && page.solutions == solutions; ++place)
+                places.insert({page.first + place, {painted, page.boardArea(place)}});
+        }
+        ++painted;
+    }
+    return places;
+}
+
+void addBookmarks(const PrintJob& job, const std::map<int, PdfPlace>& places, const char* heading,
+                  const std::string& caption, PdfExtras& extras) {
+    if (places.empty())
+        return;
+    PdfBookmark part{heading, places.begin()->second};
+    const bool namesFiles = job.hasManyFiles();
+    for (const auto& [index, place] : places) {
+        const PrintedPuzzle& puzzle = job.puzzle(index);
+        part.children.push_back({caption + std::to_string(puzzle.number) +
+                                     (namesFiles ? ", " + puzzle.file : std::string()),
+                                 place});
+    }
+    extras.bookmarks.push_back(std::move(part));
+}
+
+/// From each puzzle's caption to its solution, and back.
+PdfExtras extrasOf(const PrintJob& job, const Pages& pages) {
+    PdfExtras extras{job.title};
+    const auto puzzles = placesOf(job, pages, false);
+    const auto solutions = placesOf(job, pages, true);
+    addBookmarks(job, puzzles, "Puzzles", "Puz# ", extras);
+    addBookmarks(job, solutions, "Solutions", "Sol# ", extras);
+    for (const auto& [index, puzzle] : puzzles) {
+        const auto solution = solutions.find(index);
+        if (solution == solutions.end())
+            continue;
+        const PdfPlace caption{puzzle.page, captionArea(puzzle.area)};
+        const PdfPlace answer{solution->second.page, captionArea(solution->second.area)};
+        extras.links.push_back({caption, solution->second});
+        extras.links.push_back({answer, puzzle});
+    }
+    return extras;
 }
 
 } // namespace
@@ -107,24 +144,32 @@ Outcome SinkDevice::finish() {
     return m_outcome;
 }
 
-PaperSize paperOf(const QPagedPaintDevice& device) {
-    const QRectF sheet = device.pageLayout().fullRectPoints();
-    return {sheet.width(), sheet.height()};
+void scaleToPoints(QPainter& painter) {
+    const QPaintDevice& device = *painter.device();
+    painter.scale(device.logicalDpiX() / PointsPerInch, device.logicalDpiY() / PointsPerInch);
 }
 
 PrintResult writePdf(const std::filesystem::path& path, PaperSize paper, const PrintJob& job,
                      const Appearance& appearance, const GoOn& goOn, const LockWait& wait) {
+    Pages pages;
+    if (Outcome fits = layOutBooklet(job.design, paper, job.puzzleCount(), pages); !fits.ok())
+        return {fits, false};
     PrintResult result;
     const auto write = [&](const ContentSink& sink) {
-        SinkDevice device(sink);
+        QByteArray painted;
         {
-            QPdfWriter writer(&device);
-            setUp(writer, paper, job.title);
-            result = paintBooklet(writer, job, appearance, goOn);
+            QBuffer buffer(&painted);
+            buffer.open(QIODevice::WriteOnly);
+            QPdfWriter writer(&buffer);
+            setUp(writer, paper);
+            result = paintBooklet(writer, job, pages, appearance, goOn);
         }
         if (result.stopped)
             return Outcome::failed("stopped");
-        return result.outcome.ok() ? device.finish() : result.outcome;
+        return result.outcome.ok()
+                   ? finishPdf({painted.constData(), static_cast<std::size_t>(painted.size())},
+                               extrasOf(job, pages), sink)
+                   : result.outcome;
     };
     const Outcome written = replaceFile(path, write, wait);
     if (!result.stopped)

@@ -2,8 +2,7 @@
 
 #include "core/files/file_descriptor.h"
 #include "core/options/appearance.h"
-#include "core/output/booklet.h"
-#include "core/output/page_layout.h"
+#include "core/output/print_job.h"
 
 #include <QByteArray>
 #include <QIODevice>
@@ -11,7 +10,7 @@
 #include <filesystem>
 #include <functional>
 
-class QPagedPaintDevice;
+class QPainter;
 
 namespace tessaly {
 
@@ -37,9 +36,9 @@ private:
     Outcome m_outcome;
 };
 
-/// Called before each page is painted with the number of those before it; when it answers false the
-/// printing ends.
-using GoOn = std::function<bool(int page)>;
+/// Called before each page is painted with the number of those before it and of all; when it
+/// answers false the printing ends.
+using GoOn = std::function<bool(int page, int pageCount)>;
 
 /// How painting ended. When it was stopped nothing is wrong, but not all pages are there.
 struct PrintResult {
@@ -49,10 +48,10 @@ struct PrintResult {
     bool isComplete() const { return outcome.ok() && !stopped; }
 };
 
-/// The whole sheet that a device prints on.
-PaperSize paperOf(const QPagedPaintDevice& device);
+/// Lets the painter of a page count in points.
+void scaleToPoints(QPainter& painter);
 
-/// Writes a booklet into a PDF file, with its fonts in it. The file is there, whole, when the
+/// Writes a job's pages into a PDF file, with its fonts in it. The file is there, whole, when the
 /// result is complete; otherwise the path holds what it held before.
 PrintResult writePdf(const std::filesystem::path& path, PaperSize paper, const PrintJob& job,
                      const Appearance& appearance, const GoOn& goOn, const LockWait& wait = {});

@@ -23,8 +23,7 @@ OutputFileQuestion pdfQuestion() {
             {u".pdf"_s}};
 }
 
-std::string pagesText(const PrintJob& job) {
-    const int pages = job.booklet.pageCount();
+std::string pagesText(int pages) {
     return std::to_string(pages) + (pages == 1 ? " page" : " pages");
 }
 
@@ -53,8 +52,10 @@ void PrintCommands::printShown(bool puzzle, bool solution) {
         return;
     }
     const WhileSet running(m_session.busy.commandRunning);
-    const PrintJob job = jobOf(m_session.game.board, m_session.puzzle.PuzNum, puzzle, solution);
-    const PrintQuestion question{QString::fromStdString(job.title), job.booklet.pageCount(),
+    const PrintJob job = jobOf(m_session.game.board, m_session.puzzle.PuzPath.filename(),
+                               m_session.puzzle.PuzNum, puzzle, solution);
+    const int pageCount = puzzle && solution ? 2 : 1;
+    const PrintQuestion question{QString::fromStdString(job.title), pageCount,
                                  m_printer.value_or(QString())};
     if (const auto target = m_printers.setUp(question, m_window.window))
         carryOut(job, *target, "Printed");
@@ -74,17 +75,24 @@ void PrintCommands::printMultiple() {
             return;
     }
     target.paper = target.file.empty() ? m_printers.paperOf(target.printer) : customaryPaper();
-    const PrintJob job = jobOf(order->range, m_files);
+    std::vector<PrintJob> jobs;
+    if (const Outcome made = makeJobs(order->request, jobs); !made.ok()) {
+        tell(made, {});
+        return;
+    }
+    std::vector<BookletPage> pages;
+    const Outcome fits =
+        layOutBooklet(order->request.design, target.paper, jobs.front().puzzleCount(), pages);
     const std::string name =
         target.file.empty() ? target.printer.toStdString() : target.file.native();
-    carryOut(job, target, pagesText(job) + " printed to " + name);
+    carryOut(jobs.front(), target,
+             pagesText(static_cast<int>(pages.size())) + " printed to " + name);
 }
 
 void PrintCommands::carryOut(PrintJob job, const PrintTarget& target, const std::string& success) {
     m_closing = false;
     job.pages = target.pages;
-    m_window.progress.begin(u"Printing "_s + QString::fromStdString(job.title),
-                            job.booklet.pageCount());
+    m_window.progress.begin(u"Printing "_s + QString::fromStdString(job.title));
     const PrintResult result = print(job, target);
     m_window.progress.end();
     if (m_closing)
@@ -117,7 +125,9 @@ PrintResult PrintCommands::print(const PrintJob& job, const PrintTarget& target)
 
 PrintResult PrintCommands::write(const std::filesystem::path& pdf, PaperSize paper,
                                  const PrintJob& job) {
-    const auto goOn = [this](int page) { return m_window.progress.goOn(page); };
+    const auto goOn = [this](int page, int pageCount) {
+        return m_window.progress.goOn(page, pageCount);
+    };
     return writePdf(pdf, paper, job, m_session.appearance, goOn, m_window.display.waiting());
 }
 

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "core/base/prompts.h"
-#include "core/board/puzzle_store.h"
-#include "core/output/page_layout.h"
+#include "core/output/print_job.h"
 #include "core/play/display.h"
 #include "ui/drawing/pdf_file.h"
 #include "ui/output/print_dialog.h"
@@ -52,7 +51,6 @@ private:
     Session& m_session;
     Printers& m_printers;
     PrintWindow m_window;
-    PuzzleStore m_files;
     /// The program's printer once one was chosen; empty for a PDF file.
     std::optional<QString> m_printer;
     bool m_closing = false;

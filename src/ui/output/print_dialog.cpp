@@ -107,7 +107,7 @@ void Form5::makePageFrame() {
     for (std::size_t i = 0; i < m_perPage.size(); ++i) {
         const QString count = QString::number(PuzzlesPerPage[i]);
         m_perPage[i] = named(u"perPage_"_s + count, new OptionDot(count, frame));
-        m_perPage[i]->setChecked(PuzzlesPerPage[i] == PrintRange::UsualPuzzlesPerPage);
+        m_perPage[i]->setChecked(PuzzlesPerPage[i] == PageDesign::UsualPuzzlesPerPage);
         row->addWidget(m_perPage[i]);
     }
     row->addStretch();
@@ -185,13 +185,13 @@ void Form5::acceptRange() {
 
 PrintOrder Form5::order() const {
     PrintOrder order;
-    order.range.path = m_path;
-    order.range.from = numberIn(*m_from);
-    order.range.to = numberIn(*m_to);
+    order.request.files = {m_path};
+    order.request.selection.numbers = NumberList({numberIn(*m_from), numberIn(*m_to)});
     for (std::size_t i = 0; i < m_perPage.size(); ++i)
         if (m_perPage[i]->isChecked())
-            order.range.puzzlesPerPage = PuzzlesPerPage[i];
-    order.range.solutions = m_solutions->isChecked();
+            order.request.design.puzzlesPerPage = PuzzlesPerPage[i];
+    if (!m_solutions->isChecked())
+        order.request.design.solutions = SolutionsAt::None;
     const bool toPdf = m_printer->currentIndex() == m_printer->count() - 1;
     order.printer = toPdf ? QString() : m_printer->currentText();
     return order;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/options/appearance.h"
-#include "core/output/booklet.h"
+#include "core/output/print_job.h"
 #include "ui/controls/file_name_picker.h"
 
 #include <QDialog>
@@ -26,7 +26,7 @@ class Prompts;
 
 /// What is to be printed, and where.
 struct PrintOrder {
-    PrintRange range;
+    PrintRequest request;
     /// The device name; empty for a PDF file.
     QString printer;
 };

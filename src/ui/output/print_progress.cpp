@@ -41,19 +41,20 @@ PrintProgress::PrintProgress(const Appearance& appearance, QWidget* parent)
     connect(cancel, &BoxControl::clicked, this, &PrintProgress::reject);
 }
 
-void PrintProgress::begin(const QString& title, int pageCount) {
+void PrintProgress::begin(const QString& title) {
     setPalette(schemePalette(m_appearance));
     m_title->setText(fontMetrics().elidedText(title, Qt::ElideMiddle, Width - 2 * dialog::Margin));
-    m_bar->setRange(0, pageCount);
+    m_bar->setRange(0, 0);
     m_bar->setValue(0);
     m_stopped = false;
     m_running.start();
     m_lastYield = 0;
 }
 
-bool PrintProgress::goOn(int page) {
+bool PrintProgress::goOn(int page, int pageCount) {
     const qint64 now = m_running.elapsed();
     if (now - m_lastYield >= BetweenYields) {
+        m_bar->setRange(0, pageCount);
         m_bar->setValue(page);
         if (now >= ShortPrint && !isVisible() && !m_stopped)
             show();

@@ -19,10 +19,10 @@ public:
     /// `appearance` must outlive the window.
     explicit PrintProgress(const Appearance& appearance, QWidget* parent = nullptr);
 
-    void begin(const QString& title, int pageCount);
+    void begin(const QString& title);
     /// Shows that the page `page`, from 0, comes next, and lets the windows live now and then;
     /// whether to go on.
-    bool goOn(int page);
+    bool goOn(int page, int pageCount);
     void end();
     /// Ends the print as soon as it notices.
     void stop() { m_stopped = true; }

@@ -9,11 +9,13 @@ namespace tessaly::pdf_file_test {
 
 using namespace Qt::StringLiterals;
 
-Outcome sample(int number, Board& board) {
-    static const auto Hard = sampleRecords("hard.txt");
-    static const auto Easy = sampleRecords("easy.txt");
-    board = boardOf((number % 2 == 0 ? Hard : Easy).at(static_cast<std::size_t>(number)));
-    return Outcome::done();
+std::vector<PrintedPuzzle> samples(int first, int count) {
+    const auto hard = sampleRecords("hard.txt"), easy = sampleRecords("easy.txt");
+    std::vector<PrintedPuzzle> puzzles;
+    for (int number = first; number < first + count; ++number)
+        puzzles.push_back({"some.txt", number, 0,
+                           (number % 2 == 0 ? hard : easy).at(static_cast<std::size_t>(number))});
+    return puzzles;
 }
 
 struct PdfFile : testing::Test {
@@ -53,10 +55,12 @@ TEST_F(PdfFile, HoldsEveryNumberCaptionAndFooterOnEitherPaper) {
     for (const auto& [paper, perPage] : {std::pair{0, 1}, {1, 2}, {0, 4}, {1, 6}}) {
         SCOPED_TRACE(testing::Message() << paper << ", " << perPage << " a page");
         const PaperSize size = NamedPapers.at(static_cast<std::size_t>(paper)).size;
-        const Booklet booklet(Count, {{false, perPage}, {true, SolutionsPerPage}});
+        PrintJob job{samples(First, Count), {.puzzlesPerPage = perPage}, "Sample"};
+        std::vector<BookletPage> pages;
+        ASSERT_TRUE(layOutBooklet(job.design, size, Count, pages).ok());
         appearance.NumberFont = perPage == 4 ? "no such font" : "Liberation Sans";
-        const PrintJob job{booklet, First, sample, "Sample"};
-        ASSERT_TRUE(writePdf(path, size, job, appearance, [](int) { return true; }).isComplete());
+        const auto goOn = [](int, int) { return true; };
+        ASSERT_EQ(writePdf(path, size, job, appearance, goOn).outcome.problem, "");
         const PdfDocument pdf(path);
         ASSERT_EQ(pdf.pageCount(), (Count + perPage - 1) / perPage + 1);
         EXPECT_TRUE(
@@ -66,25 +70,24 @@ TEST_F(PdfFile, HoldsEveryNumberCaptionAndFooterOnEitherPaper) {
         for (const QString& line : pdf.fonts())
             EXPECT_TRUE(line.contains(u" yes "_s)) << "it holds " << line.toStdString();
         for (int number = 1; number <= pdf.pageCount(); ++number) {
-            const BookletPage page = booklet.page(number - 1);
-            const PageLayout layout(size, page.part.boardsPerPage);
+            const BookletPage& page = pages.at(static_cast<std::size_t>(number - 1));
             turnTo(number);
-            EXPECT_EQ(textIn(toQt(layout.footer())),
-                      u"Tessaly %1 / %2 tessaly.example"_s.arg(number).arg(pdf.pageCount()));
+            EXPECT_EQ(textIn(toQt(page.layout.footer())),
+                      u"some.txt %1 / %2 Tessaly \u00B7 tessaly.example"_s.arg(number).arg(
+                          pdf.pageCount()));
             for (int place = 0; place < page.count; ++place) {
-                Board board;
-                const Rect area = layout.boardArea(place);
-                const int puzzle = First + page.first + place;
-                ASSERT_TRUE(sample(puzzle, board).ok());
+                const Rect area = page.boardArea(place);
+                const Board board = job.board(page.first + place);
                 for (CellId cell : AllCells) {
                     const bool shown = !board.isBlank(cell.hexagon) &&
-                                       (page.part.solutions || !board.CellNum[cell].empty());
+                                       (page.solutions || !board.CellNum[cell].empty());
                     EXPECT_EQ(textAt(area, cell), shown ? board.SolNum[cell] : std::string());
                 }
                 // In the corners that the board leaves empty.
                 QRectF corner(area.left, area.top, 0.33 * area.width(), 0.09 * area.height());
-                EXPECT_EQ(textIn(corner),
-                          (page.part.solutions ? u"Sol# %1"_s : u"Puz# %1"_s).arg(puzzle));
+                EXPECT_EQ(
+                    textIn(corner),
+                    (page.solutions ? u"Sol# %1"_s : u"Puz# %1"_s).arg(First + page.first + place));
                 corner.moveRight(area.right);
                 EXPECT_EQ(textIn(corner), QString::fromUtf8(board.DifName()));
             }

@@ -45,4 +45,17 @@ Option outputFile(std::string description, std::filesystem::path& target) {
     return option;
 }
 
+Option starsOption(std::string description, std::optional<StarRange>& target) {
+    const auto take = [&target](const std::string& given) -> std::string {
+        const auto isStar = [](char c) { return c >= '1' && c <= '0' + MostStars; };
+        const bool isRange = given.size() == 3 && given[1] == '-';
+        if ((given.size() != 1 && !isRange) || !isStar(given.front()) || !isStar(given.back()) ||
+            given.front() > given.back())
+            return given + " is neither one of 1 to 5 nor two of them like 4-5";
+        target = StarRange{given.front() - '0', given.back() - '0'};
+        return {};
+    };
+    return {namesIn("--stars"), "A-B", std::move(description), take};
+}
+
 } // namespace tessaly
