@@ -63,8 +63,7 @@ void NumberList::add(NumberRange range) {
     const auto endsBefore = [](const NumberRange& each, int first) {
         return each.last < first - 1;
     };
-    const auto begin =
-        std::lower_bound(m_ranges.begin(), m_ranges.end(), range.first, endsBefore);
+    const auto begin = std::lower_bound(m_ranges.begin(), m_ranges.end(), range.first, endsBefore);
     auto end = begin;
     for (; end != m_ranges.end() && end->first - 1 <= range.last; ++end) {
         range.first = std::min(range.first, end->first);

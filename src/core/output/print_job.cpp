@@ -26,8 +26,8 @@ std::string titleOf(const std::vector<PrintedPuzzle>& puzzles) {
         return one.number < other.number;
     };
     const auto [first, last] = std::minmax_element(puzzles.begin(), puzzles.end(), byNumber);
-    return namesOf(puzzles.begin(), puzzles.end()) + ", " + std::to_string(first->number) +
-           " to " + std::to_string(last->number);
+    return namesOf(puzzles.begin(), puzzles.end()) + ", " + std::to_string(first->number) + " to " +
+           std::to_string(last->number);
 }
 
 } // namespace

@@ -41,9 +41,9 @@ struct PrintRequest {
     PageDesign design = {};
 };
 
-/// Reads the puzzles of a request (see `selectPuzzles`) and makes the jobs of printing them: one, or
-/// two where the solutions have a file of their own. Their title is that of the design, or tells the
-/// files and the numbers.
+/// Reads the puzzles of a request (see `selectPuzzles`) and makes the jobs of printing them: one,
+/// or two where the solutions have a file of their own. Their title is that of the design, or tells
+/// the files and the numbers.
 Outcome makeJobs(const PrintRequest& request, std::vector<PrintJob>& jobs,
                  const GoOnReading& goOn = {});
 

@@ -143,9 +143,7 @@ private:
         m_pdf.getTrailer().replaceKey("/Info", info);
     }
 
-    QPDFPageObjectHelper& page(int number) {
-        return m_pages.at(static_cast<std::size_t>(number));
-    }
+    QPDFPageObjectHelper& page(int number) { return m_pages.at(static_cast<std::size_t>(number)); }
     /// The document's y runs up.
     double heightOf(int number) {
         return page(number).getMediaBox().getArrayItem(3).getNumericValue();
