@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/board/board.h"
+#include "core/session/program_folder.h"
 
 #include <string>
 #include <string_view>
@@ -10,7 +11,7 @@
 namespace tessaly::manual {
 
 /// Two of the puzzles that the game is shipped with, an easy and a hard one, and their numbers.
-inline constexpr int FirstNumber = 108;
+inline constexpr int FirstNumber = ManualPuzzle;
 inline constexpr std::string_view FirstPuzzle =
     "E1500UVT213VQ35422VU413ST216U5Q32464SRQ56146253216435T6325Q2"
     "4561345QV3225S614V32145S546QRVQUSTR13TVU26125TS342UQ6546RQS";

@@ -157,12 +157,15 @@ void BoardInput::Picture2_KeyPress(int& characterCode) {
     const CellId cell = selection();
     if (!cell)
         return;
+    const bool wasNumber = isPlaced(m_game.board.CellNum[cell]);
     HexagonSet changed;
     if (isClearCode(code))
         changed = m_game.place(cell, "");
     else if (code >= key::FirstDigit && code <= key::LastDigit)
         changed = m_game.typeDigit(cell, static_cast<char>(code));
     showEntry(changed);
+    if (wasNumber && m_game.board.CellNum[cell].size() == 2 && marksTyped)
+        marksTyped();
 }
 
 void BoardInput::digt_MouseUp(int item, PointerButton button) {

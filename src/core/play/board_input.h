@@ -5,6 +5,7 @@
 #include "core/play/game.h"
 #include "core/play/play_commands.h"
 
+#include <functional>
 #include <optional>
 
 namespace tessaly {
@@ -24,6 +25,9 @@ public:
     enum PopupButton { PopupEraser = 6, PopupSideCopy, PopupClose, PopupSingle };
 
     BoardInput(Game& game, const BusyState& busy, PlayCommands& commands, Display& display);
+
+    /// Called when a second digit has turned a number into pencil marks; may be empty.
+    std::function<void()> marksTyped;
 
     void Picture2_MouseMove(Point point);
     void Picture2_MouseDown(PointerButton button, Point point);

@@ -16,6 +16,8 @@ inline constexpr const char* ConfigurationFile = "tessaly.cfg";
 inline constexpr const char* WindowPlaceFile = "window.cfg";
 inline constexpr const char* EasyLibraryFile = "puzzles/easy.txt";
 inline constexpr const char* HardLibraryFile = "puzzles/hard.txt";
+/// The puzzle of the easy library that the manual solves step by step.
+inline constexpr int ManualPuzzle = 108;
 
 /// Makes `folder`, which does not exist or is empty, with a copy of every data file that `share`
 /// has. All or nothing: the folder is filled under another name, and whatever interrupts that, the

@@ -60,6 +60,7 @@ MainMenu::MainMenu(QMenuBar& bar) {
     buildSaveMenu(*addMenu(bar, u"&Save"_s, u"mnusavey"_s));
     buildPrintMenu(*addMenu(bar, u"&Print"_s, u"mnuprintxx"_s));
     buildPlayMenu(*addMenu(bar, u"P&lay"_s, u"mnuplay"_s));
+    buildHelpMenu(*addMenu(bar, u"&Help"_s, u"mnuhelps"_s));
     showRecentFiles({});
     showCurrentFile({});
 }
@@ -136,6 +137,13 @@ void MainMenu::buildPlayMenu(QMenu& menu) {
     menu.addSeparator();
     mnuforgetpuzzle = addCommand(menu, u"&Forget this Puzzle's Play"_s, u"mnuforgetpuzzle"_s);
     mnuforgetfile = addCommand(menu, u"F&orget All Play of this File"_s, u"mnuforgetfile"_s);
+    addCancel(menu);
+}
+
+/// What stands in "File" too, where everybody looks for it.
+void MainMenu::buildHelpMenu(QMenu& menu) {
+    menu.addAction(mnuhelp);
+    menu.addAction(mnuabout);
     addCancel(menu);
 }
 

@@ -80,6 +80,7 @@ private:
     void buildSaveMenu(QMenu& menu);
     void buildPrintMenu(QMenu& menu);
     void buildPlayMenu(QMenu& menu);
+    void buildHelpMenu(QMenu& menu);
 };
 
 } // namespace tessaly

@@ -14,6 +14,7 @@
 #include "ui/drawing/qt_values.h"
 #include "ui/help/about_box.h"
 #include "ui/help/help_window.h"
+#include "ui/help/rules_strip.h"
 #include "ui/options/options_dialog.h"
 #include "ui/play/board_view.h"
 #include "ui/play/palette_panel.h"
@@ -95,6 +96,8 @@ Form1::Form1(Session& session, Prompts& prompts, const FileDialog& fileDialog, P
     , m_status(new StatusLine)
     , m_announcer(new Announcer(this))
     , m_developerRow(session.developer ? new DeveloperRow : nullptr)
+    , m_toldOfRules(session, "toldOfRules")
+    , m_rules(session.book && !m_toldOfRules.isTold() ? new RulesStrip(m_worn) : nullptr)
     , m_picker(new FNDialog(fileDialog, prompts, this))
     , m_options(new Form2x(session.appearance, session.ProgramFolder, prompts, this, waiting()))
     , m_help(new Form4(session.appearance, this))
@@ -116,6 +119,8 @@ Form1::Form1(Session& session, Prompts& prompts, const FileDialog& fileDialog, P
     connectFileDrop();
     giveShortcuts(*this);
     connectHelp();
+    if (m_rules != nullptr)
+        connectRules();
     Form1::showPuzzle(session.puzzle);
     applyAppearance();
     resizeOnScreen(*this, FirstSize);
@@ -130,6 +135,8 @@ QWidget* Form1::arrangeRegions() {
     rows->addWidget(m_tools);
     if (m_developerRow != nullptr)
         rows->addWidget(m_developerRow);
+    if (m_rules != nullptr)
+        rows->addWidget(m_rules);
     rows->addWidget(new PlayArea(m_board, m_palette), 1);
     rows->addWidget(m_status);
     return centre;
@@ -328,6 +335,8 @@ bool Form1::waitFor(const std::filesystem::path& path, const std::function<bool(
 void Form1::closeEvent(QCloseEvent* event) {
     m_commands.stop();
     m_commands.keeping.leave();
+    if (m_rules != nullptr)
+        m_commands.keeping.tell(m_toldOfRules.remember());
     rememberWindowPlace(*this, m_session.ProgramFolder);
     QMainWindow::closeEvent(event);
 }
@@ -364,6 +373,24 @@ void Form1::connectHelp() {
         m_help->show();
     });
     connect(m_menu.mnuabout, &QAction::triggered, m_about, &QDialog::show);
+}
+
+void Form1::connectRules() {
+    connect(m_rules, &RulesStrip::closeAsked, this, &Form1::closeRules);
+    connect(m_rules, &RulesStrip::showMeAsked, this, [this] {
+        if (m_commands.refuses())
+            return;
+        m_commands.files.load(m_session.ProgramFolder / EasyLibraryFile, ManualPuzzle);
+        showMessage("Point at a triangle and press 1 to 6; the bulb (F4) says what comes next");
+        m_board->setFocus();
+    });
+    announce(RulesStrip::inWords().toStdString());
+}
+
+void Form1::closeRules() {
+    m_rules->hide();
+    m_commands.keeping.tell(m_toldOfRules.remember());
+    m_board->setFocus();
 }
 
 void Form1::connectPlay() {

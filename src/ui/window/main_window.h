@@ -13,6 +13,7 @@ class AboutForm;
 class Announcer;
 class Form2x;
 class Form4;
+class RulesStrip;
 class StatisticsForm;
 
 /// The main window: its regions, the commands that their controls give, and its other windows. What
@@ -64,6 +65,8 @@ private:
     void connectOptions();
     void connectFileDrop();
     void connectHelp();
+    void connectRules();
+    void closeRules();
     void connectPlay();
     void showTime();
     /// What makes no sense now shows so and cannot be chosen.
@@ -85,6 +88,9 @@ private:
     Announcer* m_announcer;
     /// None unless it is asked for.
     DeveloperRow* m_developerRow;
+    ToldOnce m_toldOfRules;
+    /// None but at the first start, nor where nothing is kept.
+    RulesStrip* m_rules;
     FNDialog* m_picker; // gf1
     Form2x* m_options;
     Form4* m_help;

@@ -40,6 +40,7 @@ WindowCommands::WindowCommands(Session& session, const CommandWindow& window)
     , m_printDialog(session.appearance, window.printers, window.fileDialog, window.prompts,
                     session.ProgramFolder, window.widget)
     , m_printProgress(session.appearance, window.widget)
+    , m_toldOfMarks(session, "toldOfMarks")
     , m_playBook(session, keeping, files, window.display, window.prompts)
     , m_creation(session, files, window.display, Chance(Chance::freshSeed()))
     , m_multipleCreation(session, files, window.display, window.prompts, m_creationDialog,
@@ -102,6 +103,12 @@ void WindowCommands::onAlternateClick(BoxControl* button, Command command) {
 
 void WindowCommands::connectTo(const WindowRegions& regions) {
     regions.board.setInput(input);
+    input.marksTyped = [this] {
+        if (m_toldOfMarks.isTold())
+            return;
+        m_display.showMessage("A second digit makes pencil marks");
+        keeping.tell(m_toldOfMarks.remember());
+    };
     connectMenu(regions.menu);
     connectTools(regions.tools, regions.board);
     connectPalette(regions.palette);

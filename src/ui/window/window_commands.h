@@ -5,6 +5,7 @@
 #include "core/session/maintenance_commands.h"
 #include "core/session/multiple_creation.h"
 #include "core/session/play_book_commands.h"
+#include "core/session/told_once.h"
 #include "ui/output/export_commands.h"
 #include "ui/output/print_commands.h"
 #include "ui/output/print_progress.h"
@@ -93,6 +94,7 @@ private:
     Form5 m_printDialog;
     PrintProgress m_printProgress;
 
+    ToldOnce m_toldOfMarks;
     PlayBookCommands m_playBook;
     CreationCommands m_creation;
     MultipleCreation m_multipleCreation;

@@ -96,8 +96,9 @@ TEST_F(Accessibility, ThePlayIsHeardAndEachChangeOnce) {
     game.click(u"cmdundo"_s);
     QCoreApplication::processEvents();
     EXPECT_EQ(heard.join(u'/').toStdString(),
-              "Puzzle 1 of 40/2, breaks a rule/marks 2 5/Not done yet .../" + cellInWords(cell) +
-                  ", empty");
+              "Puzzle 1 of 40/2, breaks a rule/marks 2 5. A second digit makes pencil marks/"
+              "Not done yet .../" +
+                  cellInWords(cell) + ", empty");
     listen(false);
     QAccessible::installUpdateHandler(before);
 }

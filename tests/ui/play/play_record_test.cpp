@@ -103,6 +103,27 @@ TEST_F(PlayRecord, TimesAreShownWhenTheyAreAskedFor) {
     EXPECT_EQ(mark(), u"Solved"_s);
 }
 
+TEST_F(PlayRecord, TheFirstStartTellsTheRulesAndThatDigitsMakeMarks) {
+    std::filesystem::create_directory(game.folder.path() + "puzzles");
+    std::filesystem::copy_file(TESSALY_DATA "/puzzles/easy.txt",
+                               game.folder.path() + "puzzles/easy.txt");
+    EXPECT_TRUE(game.find(u"RulesStrip"_s).isVisible());
+    game.click(u"cmdshowme"_s);
+    EXPECT_EQ(game.number(), u"108"_s);
+    game.click(u"cmdcloserules"_s);
+    EXPECT_FALSE(game.find(u"RulesStrip"_s).isVisible());
+    for (const bool first : {true, false}) {
+        game.press(first ? Qt::Key_Home : Qt::Key_End);
+        game.press(Qt::Key_3);
+        EXPECT_FALSE(game.message().contains(u"pencil"_s));
+        game.press(Qt::Key_5);
+        EXPECT_EQ(game.message() == u"A second digit makes pencil marks"_s, first);
+        game.window->showMessage("");
+    }
+    game.restart();
+    EXPECT_EQ(game.window->findChild<QWidget*>(u"RulesStrip"_s), nullptr);
+}
+
 TEST_F(PlayRecord, TheLastNumberSaysThatAllIsSolvedAndEnterGoesOn) {
     const CellId last = lastSelectable(play());
     QWidget& wave = game.find(u"SolvedWave"_s);
