@@ -3,7 +3,7 @@
 namespace tessaly {
 namespace {
 
-std::string quoted(const std::string& text) {
+std::string quotedForFish(const std::string& text) {
     std::string result = "'";
     for (char c : text)
         result += c == '\'' || c == '\\' ? std::string("\\") + c : std::string(1, c);
@@ -35,7 +35,7 @@ std::string line(const std::string& program, const std::string& condition,
     case ValueKind::None:
         break;
     }
-    return text + " -d " + quoted(option.description) + "\n";
+    return text + " -d " + quotedForFish(option.description) + "\n";
 }
 
 } // namespace
@@ -49,7 +49,7 @@ std::string fishCompletion(const CommandText& program) {
         text += line(program.name, hasCommands ? " -n __fish_use_subcommand" : "", option);
     for (const CommandText& command : program.subcommands)
         text += "complete -c " + program.name + " -n __fish_use_subcommand -a " + command.name +
-                " -d " + quoted(command.description) + "\n";
+                " -d " + quotedForFish(command.description) + "\n";
     for (const CommandText& command : program.subcommands)
         for (const OptionText& option : command.options)
             text += line(program.name, " -n '__fish_seen_subcommand_from " + command.name + "'",

@@ -4,7 +4,7 @@ namespace tessaly {
 namespace {
 
 /// Between single quotes of the shell, where brackets and colons mean something to _arguments.
-std::string quoted(const std::string& text) {
+std::string quotedForZsh(const std::string& text) {
     std::string result;
     for (char c : text) {
         if (c == '[' || c == ']' || c == ':')
@@ -20,7 +20,7 @@ std::string action(const OptionText& option) {
     case ValueKind::Choice:
         for (const std::string& choice : option.choices)
             choices += (choices.empty() ? "" : " ") + choice;
-        return ":" + quoted(option.description) + ":(" + choices + ")";
+        return ":" + quotedForZsh(option.description) + ":(" + choices + ")";
     case ValueKind::File:
         return ":" + option.value + ":_files";
     case ValueKind::Folder:
@@ -43,7 +43,7 @@ std::string arguments(const CommandText& command, const std::string& indent) {
                 .append("'")
                 .append(name)
                 .append("[")
-                .append(quoted(option.description))
+                .append(quotedForZsh(option.description))
                 .append("]")
                 .append(action(option))
                 .append("'");
@@ -63,7 +63,7 @@ std::string zshCompletion(const CommandText& program) {
             " \\\n    '1: :->command' \\\n    '*:: :->arguments'\n\ncase $state in\ncommand)\n"
             "    local -a commands\n    commands=(\n";
     for (const CommandText& command : program.subcommands)
-        text += "        '" + command.name + ":" + quoted(command.description) + "'\n";
+        text += "        '" + command.name + ":" + quotedForZsh(command.description) + "'\n";
     text += "    )\n    _describe command commands\n    ;;\narguments)\n    case $line[1] in\n";
     for (const CommandText& command : program.subcommands)
         text += "    " + command.name + ")\n" + arguments(command, "        ") + "\n        ;;\n";

@@ -23,8 +23,6 @@ namespace {
 
 using namespace tessaly;
 
-constexpr const char* Critical = "vbok+vbcritical";
-
 /// Says on standard error what a message box would say, and waits for nobody.
 class PrintedPrompts : public Prompts {
 public:
@@ -98,7 +96,7 @@ int run(const GameOptions& options) {
         window.show();
     for (const std::string& notice : {loaded.notice, book.problem})
         if (!notice.empty())
-            prompts.message(notice, Critical);
+            prompts.message(notice, style::Critical);
     const auto open = [&] { openPuzzle(options, session.last, window.files()); };
     if (!toPicture) {
         // Within the event loop, which ends when the window is closed while a large file is read.
@@ -108,7 +106,7 @@ int run(const GameOptions& options) {
     open();
     const Outcome written = writeScreenshot(window, options.screenshot);
     if (!written.ok())
-        prompts.message(written.problem, Critical);
+        prompts.message(written.problem, style::Critical);
     return printed.saidAnything() ? EXIT_FAILURE : EXIT_SUCCESS;
 }
 

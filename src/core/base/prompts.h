@@ -19,6 +19,12 @@ inline constexpr int Yes = 6;
 inline constexpr int No = 7;
 } // namespace answer
 
+/// The styles of the message boxes that only tell something.
+namespace style {
+inline constexpr std::string_view Critical = "vbok+vbcritical";
+inline constexpr std::string_view Information = "vbok+vbinformation";
+} // namespace style
+
 /// Whom a command asks when it needs a word from the player.
 class Prompts {
 public:

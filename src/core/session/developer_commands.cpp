@@ -180,7 +180,7 @@ void DeveloperCommands::setManualValue() {
     const std::string entry = Without(answer.substr(code.size()), " ");
     const CellId cell = cellOfCode(code);
     if (!cell || !isEntry(entry) || entry.find('0') != std::string::npos) {
-        m_prompts.message("No cell and entry: " + answer, "vbok+vbcritical");
+        m_prompts.message("No cell and entry: " + answer, style::Critical);
         return;
     }
     m_display.DrawHexagons(m_session.game.place(cell, entry));

@@ -60,7 +60,7 @@ bool MaintenanceCommands::run(std::string_view input, std::string_view output, c
     if (m_stopped)
         return false;
     if (!outcome.ok())
-        m_prompts.message(outcome.problem, "vbok+vbcritical");
+        m_prompts.message(outcome.problem, style::Critical);
     return outcome.ok();
 }
 

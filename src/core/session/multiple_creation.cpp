@@ -146,7 +146,7 @@ void MultipleCreation::report(const CreationOrder& order, int made, const Outcom
     const std::string count = std::to_string(made);
     m_display.showMessage(count + " Puzles Created");
     if (!outcome.ok())
-        m_prompts.message(outcome.problem, "vbok+vbcritical");
+        m_prompts.message(outcome.problem, style::Critical);
     if (!outcome.ok() && made == 0)
         return;
     m_prompts.message(count + " Puzzles added to file:\r\n" + order.path.native(),

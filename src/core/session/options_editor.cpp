@@ -10,8 +10,6 @@
 namespace tessaly {
 namespace {
 
-constexpr const char* Critical = "vbok+vbcritical";
-constexpr const char* Information = "vbok+vbinformation";
 constexpr const char* YesOrRatherNo = "vbYesNo+vbquestion+vbdefaultbutton2";
 
 std::optional<std::size_t> indexOf(const std::vector<std::string>& names, const std::string& name) {
@@ -232,13 +230,13 @@ std::string OptionsEditor::confirmedEntry(const std::string& ifNone, const std::
 void OptionsEditor::report(const Outcome& outcome, const std::string& done) {
     m_showList();
     if (outcome.ok())
-        m_prompts.message(done, Information);
+        m_prompts.message(done, style::Information);
     else
         tell(outcome.problem);
 }
 
 void OptionsEditor::tell(const std::string& problem) {
-    m_prompts.message(problem, Critical);
+    m_prompts.message(problem, style::Critical);
 }
 
 } // namespace tessaly

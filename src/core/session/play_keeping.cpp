@@ -22,7 +22,7 @@ PlayKeeping::~PlayKeeping() {
 
 void PlayKeeping::tell(const Outcome& outcome) {
     if (!outcome.ok())
-        m_prompts.message(outcome.problem, "vbok+vbcritical");
+        m_prompts.message(outcome.problem, style::Critical);
 }
 
 void PlayKeeping::keep() {

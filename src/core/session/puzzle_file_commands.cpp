@@ -11,8 +11,6 @@
 namespace tessaly {
 namespace {
 
-constexpr std::string_view Information = "vbok+vbinformation";
-constexpr std::string_view Critical = "vbok+vbcritical";
 constexpr std::string_view FileProblem = "vbcritical+vbok";
 
 /// A file whose first lines are no records is not searched through to its end.
@@ -49,7 +47,7 @@ PuzzleFileCommands::PuzzleFileCommands(Session& session, PlayKeeping& keeping, B
 }
 
 void PuzzleFileCommands::tellCritical(const std::string& text) {
-    m_prompts.message(text, Critical);
+    m_prompts.message(text, style::Critical);
 }
 
 PuzzleRead PuzzleFileCommands::show(const std::filesystem::path& path, int number) {
@@ -187,7 +185,7 @@ bool PuzzleFileCommands::appendTo(const std::filesystem::path& path) {
     }
     const PuzzleRead shown = ReadPuzzle(path, number);
     m_prompts.message("Puzzle#" + std::to_string(number) + " added to file " + path.native(),
-                      Information);
+                      style::Information);
     if (!shown.ok())
         tellCritical(shown.reason);
     return true;

@@ -38,7 +38,7 @@ LoadedSession startSession(Session& session, const ProgramFolderSources& sources
     while (isRestored(sources.shareFolder, session, prompts, loaded))
         loaded = loadSession(session, firstScheme);
     if (!loaded.outcome.ok())
-        prompts.message(loaded.outcome.problem, "vbok+vbcritical");
+        prompts.message(loaded.outcome.problem, style::Critical);
     return loaded;
 }
 

@@ -11,7 +11,7 @@ namespace {
 
 constexpr int BoxSide = 16;
 constexpr int Inset = 3;
-constexpr int Gap = 8;
+constexpr int MarkGap = 8;
 /// What a pointer or a finger can meet.
 constexpr int LeastHeight = 24;
 
@@ -41,7 +41,7 @@ void drawChosen(QPainter& painter, ChoiceMark mark, const QRectF& place, const Q
 
 QSize choiceSize(const QAbstractButton& button) {
     const QSize caption = button.fontMetrics().size(Qt::TextShowMnemonic, button.text());
-    return {BoxSide + Gap + caption.width() + 2 * Inset,
+    return {BoxSide + MarkGap + caption.width() + 2 * Inset,
             std::max(LeastHeight, caption.height() + 2 * Inset)};
 }
 
@@ -63,7 +63,7 @@ void drawChoice(QAbstractButton& button, ChoiceMark mark) {
     if (button.isChecked())
         drawChosen(painter, mark, place, colour);
     painter.setPen(colour);
-    painter.drawText(button.rect().adjusted(Inset + BoxSide + Gap, 0, 0, 0),
+    painter.drawText(button.rect().adjusted(Inset + BoxSide + MarkGap, 0, 0, 0),
                      Qt::AlignVCenter | Qt::TextShowMnemonic, button.text());
 }
 

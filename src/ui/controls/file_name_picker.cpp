@@ -160,7 +160,7 @@ std::filesystem::path FNDialog::accepted(const QString& path) {
         problem = u"The name of this file is not valid UTF-8 text, so it cannot be used:\r\n"_s;
     else
         return exact;
-    m_prompts.message(problem.append(full).toStdString(), "vbok+vbcritical");
+    m_prompts.message(problem.append(full).toStdString(), style::Critical);
     return {};
 }
 

@@ -25,8 +25,8 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr int IconSize = 48;
-constexpr int Margin = 28;
+constexpr int MessageIconSize = 48;
+constexpr int MessageMargin = 28;
 constexpr int LeastWidth = 320;
 /// About this many letters stand in a line of a message.
 constexpr int LettersInLine = 64;
@@ -248,11 +248,11 @@ MsgForm::MsgForm(const Appearance& appearance, QWidget* parent)
     setObjectName(u"MsgForm"_s);
     setWindowTitle(QGuiApplication::applicationDisplayName());
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(Margin, Margin, Margin, Margin - 4);
-    layout->setSpacing(Margin);
+    layout->setContentsMargins(MessageMargin, MessageMargin, MessageMargin, MessageMargin - 4);
+    layout->setSpacing(MessageMargin);
     layout->setSizeConstraint(QLayout::SetFixedSize);
     layout->addWidget(makeMessage(), 1, Qt::AlignCenter);
-    layout->addSpacerItem(new QSpacerItem(LeastWidth - 2 * Margin, 0));
+    layout->addSpacerItem(new QSpacerItem(LeastWidth - 2 * MessageMargin, 0));
     m_buttonRow = new QHBoxLayout;
     m_buttonRow->setSpacing(12);
     m_buttonRow->setAlignment(Qt::AlignHCenter);
@@ -266,7 +266,7 @@ QWidget* MsgForm::makeMessage() {
     layout->setSpacing(20);
     for (const IconWord& entry : IconWords) {
         auto* icon = named(u"icons_%1"_s.arg(entry.number),
-                           new PictureView(entry.picture, IconSize, message));
+                           new PictureView(entry.picture, MessageIconSize, message));
         layout->addWidget(icon, 0, Qt::AlignTop);
         m_icons << icon;
     }

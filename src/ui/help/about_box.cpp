@@ -16,9 +16,9 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr int Margin = 24;
-constexpr int Spacing = 16;
-constexpr int IconSize = 64;
+constexpr int AboutMargin = 24;
+constexpr int AboutSpacing = 16;
+constexpr int AboutIconSize = 64;
 constexpr int TextWidth = 320;
 
 QString aboutText() {
@@ -62,9 +62,9 @@ AboutForm::AboutForm(const Appearance& appearance, QWidget* parent)
 }
 
 void AboutForm::arrange() {
-    auto* icon = new PictureView(Picture::Product, IconSize, this);
+    auto* icon = new PictureView(Picture::Product, AboutIconSize, this);
     icon->setObjectName(u"Image1"_s);
-    m_version->setMargin(Spacing / 4);
+    m_version->setMargin(AboutSpacing / 4);
     m_version->setAlignment(Qt::AlignCenter);
     m_text->setReadOnly(true);
     m_text->setFrameShape(QFrame::NoFrame);
@@ -72,7 +72,8 @@ void AboutForm::arrange() {
     m_text->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_text->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     const QSize text = m_text->fontMetrics().size(0, m_text->toPlainText());
-    m_text->setFixedSize(std::max(TextWidth, text.width() + Spacing), text.height() + Spacing);
+    m_text->setFixedSize(std::max(TextWidth, text.width() + AboutSpacing),
+                         text.height() + AboutSpacing);
     m_ok->setMinimumSize(dialog::ButtonSize);
 
     auto* left = new QVBoxLayout;
@@ -80,12 +81,12 @@ void AboutForm::arrange() {
     left->addWidget(m_version);
     left->addStretch();
     auto* top = new QHBoxLayout;
-    top->setSpacing(Margin);
+    top->setSpacing(AboutMargin);
     top->addLayout(left);
     top->addWidget(m_text);
     auto* rows = new QVBoxLayout(this);
-    rows->setContentsMargins(Margin, Margin, Margin, Margin);
-    rows->setSpacing(Spacing);
+    rows->setContentsMargins(AboutMargin, AboutMargin, AboutMargin, AboutMargin);
+    rows->setSpacing(AboutSpacing);
     rows->setSizeConstraint(QLayout::SetFixedSize);
     rows->addLayout(top);
     rows->addWidget(m_ok, 0, Qt::AlignHCenter);

@@ -40,8 +40,8 @@ constexpr QSize LeastSize(360, 240);
 // The browser leaves 120 twips of the window's width and 480 of its height, at 15 twips a pixel.
 constexpr int BesideBrowser = 120 / 15;
 constexpr int BeneathBrowser = 480 / 15;
-constexpr int Margin = BesideBrowser / 2;
-constexpr QSize ButtonSize(96, 28);
+constexpr int HelpMargin = BesideBrowser / 2;
+constexpr QSize HelpButtonSize(96, 28);
 constexpr std::size_t ButtonColourSlot = slot::Button;
 
 } // namespace
@@ -88,7 +88,7 @@ Form4::Form4(const Appearance& appearance, QWidget* parent)
     setModal(true);
     setMinimumSize(LeastSize);
     m_browser->setObjectName(u"WebBrowser1"_s);
-    m_browser->move(Margin, Margin);
+    m_browser->move(HelpMargin, HelpMargin);
     connect(m_back, &BoxControl::clicked, this, [this] {
         if (isAtAnchor())
             m_browser->backward();
@@ -105,7 +105,7 @@ Form4::Form4(const Appearance& appearance, QWidget* parent)
 BoxControl* Form4::addButton(const QString& caption, const QString& name) {
     auto* button = new BoxControl(caption, this);
     button->setObjectName(name);
-    button->resize(ButtonSize);
+    button->resize(HelpButtonSize);
     return button;
 }
 
@@ -130,10 +130,10 @@ void Form4::activate() {
 void Form4::resizeEvent(QResizeEvent* event) {
     QDialog::resizeEvent(event);
     m_browser->resize(width() - BesideBrowser, height() - BeneathBrowser - m_browser->y());
-    const int top = height() - (BeneathBrowser + ButtonSize.height()) / 2;
-    m_back->move(Margin, top);
-    m_forward->move(m_back->geometry().right() + 1 + Margin, top);
-    m_exit->move(width() - Margin - ButtonSize.width(), top);
+    const int top = height() - (BeneathBrowser + HelpButtonSize.height()) / 2;
+    m_back->move(HelpMargin, top);
+    m_forward->move(m_back->geometry().right() + 1 + HelpMargin, top);
+    m_exit->move(width() - HelpMargin - HelpButtonSize.width(), top);
 }
 
 bool Form4::isAtAnchor() const {

@@ -21,9 +21,9 @@ using namespace Qt::StringLiterals;
 namespace surface = colour_surface;
 
 /// Four rows of boxes as high as these look well; lower ones than the smallest are hard to hit.
-constexpr QSize UsualSize(surface::Width, surface::Height / 5);
-constexpr QSize SmallestSize(surface::Width, surface::Height / 8);
-constexpr int Spacing = 12;
+constexpr QSize UsualStrip(surface::Width, surface::Height / 5);
+constexpr QSize SmallestStrip(surface::Width, surface::Height / 8);
+constexpr int PickerSpacing = 12;
 constexpr int PartWidth = 32;
 constexpr int PartHeight = 14;
 constexpr int SampleHeight = 24;
@@ -116,11 +116,11 @@ ColourSurfaceView::ColourSurfaceView(QWidget* parent)
 }
 
 QSize ColourSurfaceView::sizeHint() const {
-    return UsualSize;
+    return UsualStrip;
 }
 
 QSize ColourSurfaceView::minimumSizeHint() const {
-    return SmallestSize;
+    return SmallestStrip;
 }
 
 void ColourSurfaceView::setRampColour(Colour colour) {
@@ -224,11 +224,11 @@ ColPik::ColPik(QWidget* parent)
     m_surface->setObjectName(u"surface"_s);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(Spacing);
+    row->setSpacing(PickerSpacing);
     row->addWidget(m_surface);
     auto* side = new QVBoxLayout;
     auto* bars = new QHBoxLayout;
-    bars->setSpacing(Spacing / 2);
+    bars->setSpacing(PickerSpacing / 2);
     addPart(0, u"Red"_s, tr("Red"), *bars);
     addPart(1, u"Green"_s, tr("Green"), *bars);
     addPart(2, u"Blue"_s, tr("Blue"), *bars);

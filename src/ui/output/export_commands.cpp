@@ -57,7 +57,7 @@ void ExportCommands::mnucapwin() {
     if (written.ok())
         m_window.prompts.message(path.native(), "vbok");
     else
-        m_window.prompts.message(written.problem, "vbok+vbcritical");
+        m_window.prompts.message(written.problem, style::Critical);
 }
 
 void CopyPictureToClipboard(const QImage& picture, const QString& text) {

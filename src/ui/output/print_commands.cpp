@@ -43,12 +43,12 @@ void PrintCommands::tell(const Outcome& outcome, const std::string& success) {
     if (outcome.ok())
         m_window.display.showMessage(success);
     else
-        m_window.prompts.message(outcome.problem, "vbok+vbcritical");
+        m_window.prompts.message(outcome.problem, style::Critical);
 }
 
 void PrintCommands::printShown(bool puzzle, bool solution) {
     if (m_session.puzzle.PuzNum == 0 || !m_session.game.hasPuzzle()) {
-        m_window.prompts.message("There is no puzzle to print", "vbok+vbinformation");
+        m_window.prompts.message("There is no puzzle to print", style::Information);
         return;
     }
     const WhileSet running(m_session.busy.commandRunning);

@@ -160,7 +160,7 @@ void Form5::chooseFile() {
         return;
     int count = 0;
     if (const Outcome counted = PuzzleStore().CountLines(chosen, count); !counted.ok()) {
-        m_prompts.message(counted.problem, "vbok+vbcritical");
+        m_prompts.message(counted.problem, style::Critical);
         return;
     }
     m_path = chosen;
@@ -174,7 +174,7 @@ void Form5::acceptRange() {
     const int from = numberIn(*m_from);
     const int to = numberIn(*m_to);
     if (!(from >= 1 && to <= m_count)) {
-        m_prompts.message("Invalid from or to puzzle number", "vbok+vbcritical");
+        m_prompts.message("Invalid from or to puzzle number", style::Critical);
     } else if (to >= from) {
         m_tag = u"Y"_s;
         accept();

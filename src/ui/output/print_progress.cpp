@@ -15,7 +15,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr int Width = 380;
+constexpr int PrintProgressWidth = 380;
 /// In milliseconds.
 constexpr qint64 ShortPrint = 400;
 constexpr qint64 BetweenYields = 25;
@@ -37,13 +37,13 @@ PrintProgress::PrintProgress(const Appearance& appearance, QWidget* parent)
     rows->addWidget(m_title);
     rows->addWidget(m_bar);
     rows->addLayout(makeButtonRow({cancel}));
-    setFixedWidth(Width);
+    setFixedWidth(PrintProgressWidth);
     connect(cancel, &BoxControl::clicked, this, &PrintProgress::reject);
 }
 
 void PrintProgress::begin(const QString& title) {
     setPalette(schemePalette(m_appearance));
-    m_title->setText(fontMetrics().elidedText(title, Qt::ElideMiddle, Width - 2 * dialog::Margin));
+    m_title->setText(fontMetrics().elidedText(title, Qt::ElideMiddle, PrintProgressWidth - 2 * dialog::Margin));
     m_bar->setRange(0, 0);
     m_bar->setValue(0);
     m_stopped = false;

@@ -30,7 +30,7 @@ constexpr double SmallestScale = 0.6;
 constexpr int FocusInset = 3;
 constexpr double FocusThickness = 2;
 /// Between the board and the palette.
-constexpr int Spacing = 12;
+constexpr int BesidePalette = 12;
 constexpr std::chrono::milliseconds RestTime{350};
 
 PointerButton pointerButton(Qt::MouseButton button) {
@@ -45,7 +45,8 @@ PointerButton pointerButton(Qt::MouseButton button) {
 }
 
 QSize sideBySide(QSize board, QSize palette) {
-    return {board.width() + Spacing + palette.width(), std::max(board.height(), palette.height())};
+    return {board.width() + BesidePalette + palette.width(),
+            std::max(board.height(), palette.height())};
 }
 
 } // namespace
@@ -427,10 +428,10 @@ void PlayArea::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
     const int side = PalettePanel::widthForHeight(height());
     const int widestBoard = static_cast<int>(std::ceil(height() * PictureWidth / PictureHeight));
-    const int boardWidth = std::min(width() - Spacing - side, widestBoard);
-    const int left = (width() - boardWidth - Spacing - side) / 2;
+    const int boardWidth = std::min(width() - BesidePalette - side, widestBoard);
+    const int left = (width() - boardWidth - BesidePalette - side) / 2;
     m_board->setGeometry(left, 0, boardWidth, height());
-    m_palette->setGeometry(left + boardWidth + Spacing, 0, side, height());
+    m_palette->setGeometry(left + boardWidth + BesidePalette, 0, side, height());
 }
 
 } // namespace tessaly

@@ -15,9 +15,9 @@ namespace {
 using namespace Qt::StringLiterals;
 
 constexpr std::chrono::seconds OpenTime{6};
-constexpr int ButtonSize = 34;
-constexpr int Margin = 4;
-constexpr int Spacing = 3;
+constexpr int PopupButtonSize = 34;
+constexpr int PopupMargin = 4;
+constexpr int PopupSpacing = 3;
 constexpr int Columns = 5;
 
 /// The buttons as they stand in the panel: the numbers left, the pictured ones right.
@@ -55,8 +55,8 @@ NumberPopup::NumberPopup(QWidget* parent)
     setCursor(Qt::ArrowCursor);
     setAttribute(Qt::WA_NoMousePropagation); // a press between the buttons is none on the board
     auto* grid = new QGridLayout(this);
-    grid->setContentsMargins(Margin, Margin, Margin, Margin);
-    grid->setSpacing(Spacing);
+    grid->setContentsMargins(PopupMargin, PopupMargin, PopupMargin, PopupMargin);
+    grid->setSpacing(PopupSpacing);
     for (int row = 0; row < static_cast<int>(Places.size()); ++row)
         for (int column = 0; column < Columns; ++column) {
             const int index =
@@ -72,7 +72,7 @@ NumberPopup::NumberPopup(QWidget* parent)
 
 void NumberPopup::addButton(int index, BoxControl* button, int row, int column) {
     button->setObjectName(u"Num16_%1"_s.arg(index));
-    button->setFixedSize(ButtonSize, ButtonSize);
+    button->setFixedSize(PopupButtonSize, PopupButtonSize);
     connect(button, &BoxControl::clicked, this, [this, index] { Q_EMIT clicked(index); });
     static_cast<QGridLayout*>(layout())->addWidget(button, row, column);
     m_buttons[static_cast<std::size_t>(index)] = button;

@@ -97,7 +97,7 @@ void StatisticsForm::empty() {
                           "vbyesno+vbquestion+vbdefaultbutton2") != answer::Yes)
         return;
     if (const Outcome emptied = m_session.book->emptyStatistics(); !emptied.ok())
-        m_prompts.message(emptied.problem, "vbok+vbcritical");
+        m_prompts.message(emptied.problem, style::Critical);
     fill();
     m_ok->setFocus();
 }

@@ -413,7 +413,7 @@ void Form1::ApplyScheme() {
     applyAppearance();
     m_options->showSchemeInForce();
     if (!loaded.ok())
-        m_prompts.message(loaded.problem, "vbok+vbcritical");
+        m_prompts.message(loaded.problem, style::Critical);
 }
 
 void Form1::cmdexit() {
@@ -421,7 +421,7 @@ void Form1::cmdexit() {
         return;
     const WhileSet saving(m_session.busy.commandRunning);
     if (const Outcome saved = SavecfgFile(m_session, waiting()); !saved.ok())
-        m_prompts.message(saved.problem, "vbok+vbcritical");
+        m_prompts.message(saved.problem, style::Critical);
     QApplication::closeAllWindows();
     QApplication::quit();
 }

@@ -19,7 +19,7 @@ using dialog::ButtonSize;
 using dialog::Spacing;
 
 constexpr const char* DefaultFile = "multipuzfile.txt";
-constexpr int Width = 420;
+constexpr int CreationDialogWidth = 420;
 
 } // namespace
 
@@ -37,7 +37,7 @@ Form3::Form3(const Appearance& appearance, const FileDialog& fileDialog, Prompts
     rows->addWidget(makeFileFrame(fileDialog));
     rows->addStretch();
     rows->addLayout(makeButtons());
-    setMinimumWidth(Width);
+    setMinimumWidth(CreationDialogWidth);
     showFile(m_programFolder / DefaultFile);
 }
 

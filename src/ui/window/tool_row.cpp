@@ -17,10 +17,10 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr int ButtonSize = 40;
-constexpr int PictureSize = 24;
-constexpr int MarkSize = 20;
-constexpr int Spacing = 6;
+constexpr int ToolSize = 40;
+constexpr int ToolPictureSize = 24;
+constexpr int ToolMarkSize = 20;
+constexpr int ToolSpacing = 6;
 constexpr int GroupSpacing = 14;
 /// Room for the numbers of a library of a million puzzles; a larger one makes its own.
 constexpr QLatin1String UsualNumber("1000000");
@@ -35,7 +35,7 @@ ToolRow::ToolRow(QWidget* parent)
     : QWidget(parent)
     , m_row(new QHBoxLayout(this)) {
     m_row->setContentsMargins(0, 0, 0, 0);
-    m_row->setSpacing(Spacing);
+    m_row->setSpacing(ToolSpacing);
     cmdload = addButton(Picture::Load, u"Load a Puzzle File"_s, u"cmdload"_s);
     cmdarrow[0] = addButton(Picture::Previous, u"Previous Puzzle"_s, u"cmdarrow_0"_s);
     addNumberBox();
@@ -59,8 +59,8 @@ ToolRow::ToolRow(QWidget* parent)
 BoxControl* ToolRow::addButton(Picture picture, const QString& toolTip, const QString& name) {
     auto* button = new BoxControl(picture, toolTip, this);
     button->setObjectName(name);
-    button->setFixedSize(ButtonSize, ButtonSize);
-    button->setIconSize({PictureSize, PictureSize});
+    button->setFixedSize(ToolSize, ToolSize);
+    button->setIconSize({ToolPictureSize, ToolPictureSize});
     m_row->addWidget(button);
     return button;
 }
@@ -78,7 +78,7 @@ void ToolRow::addNumberBox() {
     m_puzNumNow->setAcceptDrops(false); // a file that is dropped there is for the window
     m_puzNumNow->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_puzNumNow->setMaxLength(MostDigits);
-    m_puzNumNow->setFixedHeight(ButtonSize);
+    m_puzNumNow->setFixedHeight(ToolSize);
     connect(m_puzNumNow, &QLineEdit::returnPressed, this,
             [this] { Q_EMIT numberEntered(m_puzNumNow->text().trimmed().toInt()); });
     // Whatever was typed, the box names the puzzle that is shown.
@@ -89,7 +89,7 @@ void ToolRow::addNumberBox() {
     m_puzNumber->setTextFormat(Qt::PlainText);
     m_row->addWidget(m_puzNumNow);
     m_row->addWidget(m_puzNumber);
-    m_mark = new PictureView(Picture::None, MarkSize, this);
+    m_mark = new PictureView(Picture::None, ToolMarkSize, this);
     m_mark->setObjectName(u"PlayMark"_s);
     m_row->addWidget(m_mark);
 }
@@ -98,7 +98,7 @@ BoxControl* ToolRow::addDifficultyLabel() {
     auto* label = new BoxControl(this);
     label->setObjectName(u"DifLab"_s);
     label->setToolTip(u"Difficulty Level"_s);
-    label->setFixedSize(fontMetrics().horizontalAdvance(u"Random"_s) + 4 * Spacing, ButtonSize);
+    label->setFixedSize(fontMetrics().horizontalAdvance(u"Random"_s) + 4 * ToolSpacing, ToolSize);
     m_row->addWidget(label);
     return label;
 }
@@ -106,7 +106,7 @@ BoxControl* ToolRow::addDifficultyLabel() {
 void ToolRow::showPuzzleNumber(int number, int count) {
     m_shownNumber = count > 0 ? QString::number(number) : QString();
     m_puzNumNow->setText(m_shownNumber);
-    m_puzNumNow->setFixedWidth(2 * Spacing +
+    m_puzNumNow->setFixedWidth(2 * ToolSpacing +
                                std::max(fontMetrics().horizontalAdvance(UsualNumber),
                                         fontMetrics().horizontalAdvance(QString::number(count))));
     m_puzNumber->setText(count > 0 ? u" of %1"_s.arg(count) : QString());
