@@ -1,5 +1,6 @@
 #include "ui/options/colour_picker.h"
 
+#include "ui/controls/dialog_parts.h"
 #include "ui/controls/painted_list.h"
 #include "ui/drawing/qt_values.h"
 
@@ -23,7 +24,6 @@ namespace surface = colour_surface;
 /// Four rows of boxes as high as these look well; lower ones than the smallest are hard to hit.
 constexpr QSize UsualStrip(surface::Width, surface::Height / 5);
 constexpr QSize SmallestStrip(surface::Width, surface::Height / 8);
-constexpr int PickerSpacing = 12;
 constexpr int PartWidth = 32;
 constexpr int PartHeight = 14;
 constexpr int SampleHeight = 24;
@@ -224,11 +224,11 @@ ColPik::ColPik(QWidget* parent)
     m_surface->setObjectName(u"surface"_s);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(PickerSpacing);
+    row->setSpacing(dialog::Spacing);
     row->addWidget(m_surface);
     auto* side = new QVBoxLayout;
     auto* bars = new QHBoxLayout;
-    bars->setSpacing(PickerSpacing / 2);
+    bars->setSpacing(dialog::Spacing / 2);
     addPart(0, u"Red"_s, tr("Red"), *bars);
     addPart(1, u"Green"_s, tr("Green"), *bars);
     addPart(2, u"Blue"_s, tr("Blue"), *bars);

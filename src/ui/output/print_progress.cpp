@@ -43,7 +43,8 @@ PrintProgress::PrintProgress(const Appearance& appearance, QWidget* parent)
 
 void PrintProgress::begin(const QString& title) {
     setPalette(schemePalette(m_appearance));
-    m_title->setText(fontMetrics().elidedText(title, Qt::ElideMiddle, PrintProgressWidth - 2 * dialog::Margin));
+    m_title->setText(
+        fontMetrics().elidedText(title, Qt::ElideMiddle, PrintProgressWidth - 2 * dialog::Margin));
     m_bar->setRange(0, 0);
     m_bar->setValue(0);
     m_stopped = false;

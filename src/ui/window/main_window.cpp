@@ -38,8 +38,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr int Margin = 12;
-constexpr int Spacing = 12;
+constexpr int WindowMargin = 12;
 constexpr QSize FirstSize(850, 690);
 
 /// The largest content of "window.cfg" that is looked at, in bytes.
@@ -130,8 +129,8 @@ Form1::Form1(Session& session, Prompts& prompts, const FileDialog& fileDialog, P
 QWidget* Form1::arrangeRegions() {
     auto* centre = new QWidget;
     auto* rows = new QVBoxLayout(centre);
-    rows->setContentsMargins(Margin, Margin, Margin, Margin);
-    rows->setSpacing(Spacing);
+    rows->setContentsMargins(WindowMargin, WindowMargin, WindowMargin, WindowMargin);
+    rows->setSpacing(dialog::Spacing);
     rows->addWidget(m_tools);
     if (m_developerRow != nullptr)
         rows->addWidget(m_developerRow);

@@ -12,7 +12,6 @@ namespace {
 using namespace Qt::StringLiterals;
 
 constexpr int LineHeight = 34;
-constexpr int StatusSpacing = 12;
 
 ElidedLabel* makeLabel(const QString& name, QWidget* parent) {
     auto* label = new ElidedLabel(parent);
@@ -39,7 +38,7 @@ StatusLine::StatusLine(QWidget* parent)
     setFixedHeight(LineHeight);
     auto* line = new QHBoxLayout(this);
     line->setContentsMargins(0, 0, 0, 0);
-    line->setSpacing(StatusSpacing);
+    line->setSpacing(dialog::Spacing);
     line->addWidget(m_fileName, 2);
     line->addWidget(m_message, 3);
     line->addWidget(m_time);
