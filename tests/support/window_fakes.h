@@ -58,7 +58,9 @@ public:
 
     QStringList names() const override { return installed; }
     QString defaultName() const override { return usual; }
-    PaperSize paperOf(const QString&) const override { return paper; }
+    PrinterOffer offerOf(const QString&) const override {
+        return {{{QStringLiteral("Own"), paper}}, 0, true};
+    }
     Outcome print(const QString& name, const std::filesystem::path& pdf, const QString& title,
                   const SheetSettings& sheets) override {
         printed.push_back({name, title, contentOf(pdf), sheets.options()});

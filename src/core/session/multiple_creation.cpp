@@ -51,17 +51,19 @@ bool MultipleCreation::confirmed(const CreationOrder& order) {
 
 void MultipleCreation::carryOut(const CreationOrder& order) {
     int made = 0;
-    Outcome outcome;
-    {
-        const WhileSet creating(m_session.busy.creating);
-        m_display.beginProgress(order.path);
-        outcome = createAll(order, made);
-        m_display.endProgress();
-    }
-    if (m_stopped)
-        return;
-    showPuzzleAgain();
-    report(order, made, outcome);
+    const Outcome outcome = create(order, made);
+    if (!m_stopped)
+        report(order, made, outcome);
+}
+
+Outcome MultipleCreation::create(const CreationOrder& order, int& made) {
+    const WhileSet creating(m_session.busy.creating);
+    m_display.beginProgress(order.path);
+    Outcome outcome = createAll(order, made);
+    m_display.endProgress();
+    if (!m_stopped)
+        showPuzzleAgain();
+    return outcome;
 }
 
 Outcome MultipleCreation::createAll(const CreationOrder& order, int& made) {

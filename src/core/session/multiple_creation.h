@@ -37,6 +37,8 @@ public:
 
     /// Asks for an order, then for a confirmation, and carries it out.
     void run();
+    /// Carries out an order at once; `made` counts the puzzles that are at the end of the file.
+    Outcome create(const CreationOrder& order, int& made);
     /// Ends a run that is under way as soon as it notices; what is in the file stays.
     void stop() { m_stopped = true; }
 

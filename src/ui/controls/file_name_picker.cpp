@@ -99,6 +99,8 @@ QString askPlatform(const FileQuestion& question, QWidget* owner) {
     dialog.setOption(QFileDialog::HideNameFilterDetails);
     if (!question.patterns.isEmpty())
         dialog.setNameFilter(filterOf(question));
+    if (!question.name.isEmpty())
+        dialog.selectFile(question.name);
     if (dialog.exec() != QDialog::Accepted)
         return {};
     return dialog.selectedFiles().value(0);
@@ -142,8 +144,12 @@ FileQuestion FNDialog::question(bool saving) const {
         folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     if (!folder.endsWith(QDir::separator()))
         folder += QDir::separator();
-    return {m_title, folder, m_fileTypesName % u" ("_s % m_fileTypes % QChar(u')'),
-            patternsIn(m_fileTypes), saving};
+    return {m_title,
+            folder,
+            m_fileTypesName % u" ("_s % m_fileTypes % QChar(u')'),
+            patternsIn(m_fileTypes),
+            saving,
+            saving ? m_suggestion : QString()};
 }
 
 std::filesystem::path FNDialog::accepted(const QString& path) {
@@ -177,6 +183,7 @@ std::filesystem::path choosePuzzleFile(FNDialog& picker, const std::filesystem::
     picker.setFileTypes(u"*.txt;*.dat;*.tessaly"_s);
     picker.setFileTypesName(u"Tessaly Files"_s);
     picker.setDefaultDir(pathText(folder));
+    picker.setSuggestion({});
     return picker.GetFileName(use == FileUse::Save ? u"SAVE"_s : u"OPEN"_s);
 }
 
@@ -186,6 +193,7 @@ std::filesystem::path chooseOutputFile(const OutputFileQuestion& question, FNDia
     picker.setFileTypes(question.types);
     picker.setFileTypesName(question.typesName);
     picker.setDefaultDir(question.folder);
+    picker.setSuggestion(question.name);
     std::filesystem::path path = picker.GetFileName(u"SAVE"_s);
     if (path.empty())
         return {};

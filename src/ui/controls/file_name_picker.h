@@ -24,6 +24,8 @@ struct FileQuestion {
     QStringList patterns;
     /// Whether the file is to be written.
     bool saving = false;
+    /// The name that is offered; empty for none.
+    QString name = {};
 };
 
 /// Asks for a file's name: the answer is the full path, or nothing when the user thought better of
@@ -67,6 +69,9 @@ public:
     QString defaultDir() const { return m_defaultDir; }
     void setDefaultDir(const QString& folder) { m_defaultDir = folder; }
 
+    /// The name that is offered for a file to save to. None at first.
+    void setSuggestion(const QString& name) { m_suggestion = name; }
+
     QString title() const { return m_title; }
     void setTitle(const QString& title);
 
@@ -98,6 +103,7 @@ private:
     QString m_fileTypes;
     QString m_fileTypesName;
     QString m_defaultDir;
+    QString m_suggestion;
     QString m_title;
 };
 
@@ -116,6 +122,8 @@ struct OutputFileQuestion {
     QString folder;
     /// What the name may end in. Behind another one the first of them is put.
     QStringList extensions;
+    /// The name that is offered; empty for none.
+    QString name = {};
 };
 
 /// Asks for a file to write to, and once more when there is something in it already. Empty when the

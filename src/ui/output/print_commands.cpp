@@ -1,13 +1,12 @@
 #include "ui/output/print_commands.h"
 
+#include "core/board/puzzle_store.h"
 #include "core/session/session.h"
-#include "ui/controls/file_name_picker.h"
 #include "ui/drawing/pdf_file.h"
 #include "ui/drawing/qt_values.h"
 #include "ui/output/print_progress.h"
 #include "ui/output/printers.h"
 
-#include <QStandardPaths>
 #include <QTemporaryDir>
 
 namespace tessaly {
@@ -15,15 +14,17 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-OutputFileQuestion pdfQuestion() {
-    return {u"Select a PDF file to print to"_s,
-            u"*.pdf"_s,
-            u"PDF Files"_s,
-            QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
-            {u".pdf"_s}};
+/// How many pages jobs have on a paper; 0 when it is too small, which printing tells.
+std::size_t pageCountOf(const std::vector<PrintJob>& jobs, PaperSize paper) {
+    std::size_t count = 0;
+    std::vector<BookletPage> pages;
+    for (const PrintJob& job : jobs)
+        if (layOutBooklet(job.design, paper, job.puzzleCount(), pages).ok())
+            count += pages.size();
+    return count;
 }
 
-std::string pagesText(int pages) {
+std::string pagesText(std::size_t pages) {
     return std::to_string(pages) + (pages == 1 ? " page" : " pages");
 }
 
@@ -58,42 +59,61 @@ void PrintCommands::printShown(bool puzzle, bool solution) {
     const PrintQuestion question{QString::fromStdString(job.title), pageCount,
                                  m_printer.value_or(QString())};
     if (const auto target = m_printers.setUp(question, m_window.window))
-        carryOut(job, *target, "Printed");
+        carryOut({job}, *target, "Printed");
 }
 
 void PrintCommands::printMultiple() {
     const WhileSet running(m_session.busy.commandRunning);
-    const auto order =
-        m_window.dialog.choose({m_session.puzzle.PuzPath, m_session.puzzle.PuzCount, m_printer});
+    const CurrentPuzzle& puzzle = m_session.puzzle;
+    auto order =
+        m_window.dialog.choose({puzzle.PuzPath, puzzle.PuzNum, puzzle.PuzCount, m_printer});
     if (!order)
         return;
-    m_printer = order->printer;
-    PrintTarget target{order->printer, {}, {}};
-    if (order->printer.isEmpty()) {
-        target.file = chooseOutputFile(pdfQuestion(), m_window.picker, m_window.prompts);
-        if (target.file.empty())
-            return;
-    }
-    target.paper = target.file.empty() ? m_printers.paperOf(target.printer) : customaryPaper();
+    m_printer = order->target.printer;
+    m_closing = false;
+    if (order->creation && !create(*order))
+        return;
     std::vector<PrintJob> jobs;
     if (const Outcome made = makeJobs(order->request, jobs); !made.ok()) {
         tell(made, {});
         return;
     }
-    std::vector<BookletPage> pages;
-    const Outcome fits =
-        layOutBooklet(order->request.design, target.paper, jobs.front().puzzleCount(), pages);
+    const PrintTarget& target = order->target;
     const std::string name =
         target.file.empty() ? target.printer.toStdString() : target.file.native();
-    carryOut(jobs.front(), target,
-             pagesText(static_cast<int>(pages.size())) + " printed to " + name);
+    carryOut(jobs, target, pagesText(pageCountOf(jobs, target.paper)) + " printed to " + name);
 }
 
-void PrintCommands::carryOut(PrintJob job, const PrintTarget& target, const std::string& success) {
+bool PrintCommands::create(PrintOrder& order) {
+    const CreationOrder& wanted = *order.creation;
+    if (!m_window.files.accepts(wanted.path))
+        return false;
+    int made = 0;
+    int count = 0;
+    Outcome outcome = m_window.creation.create(wanted, made);
+    if (outcome.ok())
+        outcome = PuzzleStore().CountLines(wanted.path, count);
+    if (m_closing)
+        return false;
+    if (!outcome.ok() || made < wanted.count)
+        tell(outcome, "Nothing was printed");
+    order.request.selection.numbers = NumberList({count - made + 1, count});
+    return outcome.ok() && made == wanted.count;
+}
+
+void PrintCommands::carryOut(std::vector<PrintJob> jobs, const PrintTarget& target,
+                             const std::string& success) {
     m_closing = false;
-    job.pages = target.pages;
-    m_window.progress.begin(u"Printing "_s + QString::fromStdString(job.title));
-    const PrintResult result = print(job, target);
+    PrintResult result;
+    PrintTarget each = target;
+    for (PrintJob& job : jobs) {
+        job.pages = target.pages;
+        m_window.progress.begin(u"Printing "_s + QString::fromStdString(job.title));
+        if (result.isComplete())
+            result = print(job, each);
+        if (!target.file.empty())
+            each.file = solutionsFileOf(target.file);
+    }
     m_window.progress.end();
     if (m_closing)
         return;

@@ -12,7 +12,6 @@ class QWidget;
 
 namespace tessaly {
 
-class FNDialog;
 class PrintProgress;
 class Printers;
 struct PrintTarget;
@@ -23,9 +22,11 @@ struct PrintWindow {
     QWidget* window;
     Display& display;
     Prompts& prompts;
-    FNDialog& picker;
     Form5& dialog;
     PrintProgress& progress;
+    /// Whether new puzzles go to a file, and the making of them.
+    PuzzleFileCommands& files;
+    MultipleCreation& creation;
 };
 
 /// The items of the "Print" menu (`mnuprintx`).
@@ -36,14 +37,19 @@ public:
     /// Prints the puzzle shown, as it stands on the board, its solution, or both, as the user sets
     /// it up in the platform's dialog.
     void printShown(bool puzzle, bool solution);
-    /// Prints some puzzles of a file and their solutions.
+    /// Prints some puzzles of a file, or new ones, and their solutions, as the user sets it up in
+    /// the dialog.
     void printMultiple();
     /// Ends a print that is under way; nothing of it is printed.
     void stop();
 
 private:
-    /// Prints a job, whatever kind of target; tells `success` or what went wrong.
-    void carryOut(PrintJob job, const PrintTarget& target, const std::string& success);
+    /// Makes the puzzles that are to be printed, and asks for them instead of others; false when
+    /// that failed, which was told.
+    bool create(PrintOrder& order);
+    /// Prints jobs, whatever kind of target; tells `success` or what went wrong.
+    void carryOut(std::vector<PrintJob> jobs, const PrintTarget& target,
+                  const std::string& success);
     PrintResult print(const PrintJob& job, const PrintTarget& target);
     PrintResult write(const std::filesystem::path& pdf, PaperSize paper, const PrintJob& job);
     void tell(const Outcome& outcome, const std::string& success);

@@ -1,19 +1,25 @@
 #include "ui/output/print_dialog.h"
 
 #include "core/base/prompts.h"
-#include "core/base/text.h"
 #include "core/board/puzzle_store.h"
 #include "ui/controls/box_control.h"
-#include "ui/controls/choice_mark.h"
 #include "ui/controls/dialog_parts.h"
 #include "ui/drawing/qt_values.h"
-#include "ui/output/printers.h"
+#include "ui/output/new_puzzles_tab.h"
+#include "ui/output/page_tabs.h"
+#include "ui/output/paper_tab.h"
+#include "ui/output/print_preview.h"
+#include "ui/output/selection_tab.h"
 
+#include <QAbstractSpinBox>
 #include <QComboBox>
+#include <QFileInfo>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QStandardPaths>
+#include <QTabWidget>
 #include <QVBoxLayout>
 
 namespace tessaly {
@@ -23,11 +29,20 @@ using namespace Qt::StringLiterals;
 using dialog::ButtonSize;
 using dialog::Spacing;
 
-constexpr int Width = 440;
-constexpr int NumberWidth = 96;
+constexpr int ChoiceWidth = 430;
+constexpr int PreviewWidth = 300;
+constexpr int Height = 452;
 
-int numberIn(const QLineEdit& box) {
-    return leadingWholeNumber(box.text().toStdString());
+/// Of a longer file the puzzle shown is suggested instead of all.
+constexpr int ShortFile = 50;
+
+/// Beside the puzzle file, where that can be.
+OutputFileQuestion pdfQuestion(const std::filesystem::path& puzzles) {
+    QString folder = pathText(puzzles.parent_path());
+    if (folder.isEmpty() || !QFileInfo(folder).isWritable())
+        folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return {u"Select a PDF file to print to"_s,  u"*.pdf"_s, u"PDF Files"_s, folder, {u".pdf"_s},
+            pathText(puzzles.stem()) + u".pdf"_s};
 }
 
 } // namespace
@@ -40,38 +55,45 @@ Form5::Form5(const Appearance& appearance, Printers& printers, const FileDialog&
     , m_prompts(prompts)
     , m_programFolder(std::move(programFolder))
     , m_tag(u"X"_s) {
+    constexpr int Pause = 150; // in milliseconds, between a change and what it leads to
     setObjectName(u"Form5"_s);
     setWindowTitle(u"Print Puzzles From File"_s);
-    QVBoxLayout* rows = addRows(*this);
-    makePrinterFrame();
-    makeFileFrame(fileDialog);
-    makeRangeFrame();
-    makePageFrame();
-    rows->addStretch();
-    rows->addLayout(makeButtons());
-    setMinimumWidth(Width);
+    auto* choices = new QVBoxLayout;
+    choices->setSpacing(Spacing / 2);
+    auto* columns = new QHBoxLayout(this);
+    columns->setContentsMargins(dialog::Margin, Spacing, dialog::Margin, Spacing);
+    columns->setSpacing(dialog::Margin);
+    columns->addLayout(choices);
+    makePrinterFrame(*choices);
+    makeFileFrame(*choices, fileDialog);
+    makeTabs(*choices);
+    makeButtons(*choices);
+    m_changed.setSingleShot(true);
+    m_changed.setInterval(Pause);
+    connect(&m_changed, &QTimer::timeout, this, &Form5::showPages);
 }
 
-QGroupBox* Form5::addFrame(const QString& title, const QString& name) {
+QGroupBox* Form5::addFrame(QVBoxLayout& rows, const QString& title, const QString& name) {
     auto* frame = named(name, new QGroupBox(title, this));
     auto* row = new QHBoxLayout(frame);
     row->setSpacing(Spacing);
-    layout()->addWidget(frame);
+    rows.addWidget(frame);
     return frame;
 }
 
-void Form5::makePrinterFrame() {
-    auto* frame = addFrame(u"Printer"_s, u"Frame5"_s);
+void Form5::makePrinterFrame(QVBoxLayout& rows) {
+    auto* frame = addFrame(rows, u"Printer"_s, u"Frame5"_s);
     m_printer = named(u"Combo1"_s, new QComboBox(frame));
     m_printer->setToolTip(u"Select a printer for output"_s);
     m_printer->setAccessibleName(frame->title());
     m_printer->setMinimumHeight(ButtonSize.height());
     m_printer->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     frame->layout()->addWidget(m_printer);
+    connect(m_printer, &QComboBox::currentIndexChanged, this, &Form5::offerPaper);
 }
 
-void Form5::makeFileFrame(const FileDialog& fileDialog) {
-    auto* frame = addFrame(u"Puzzles File"_s, u"InFileFrame"_s);
+void Form5::makeFileFrame(QVBoxLayout& rows, const FileDialog& fileDialog) {
+    auto* frame = addFrame(rows, u"Puzzles File"_s, u"InFileFrame"_s);
     m_file = named(u"FileNow"_s, new QLineEdit(frame));
     m_file->setReadOnly(true);
     m_file->setAccessibleName(frame->title());
@@ -82,47 +104,39 @@ void Form5::makeFileFrame(const FileDialog& fileDialog) {
     connect(m_picker, &FNDialog::clicked, this, &Form5::chooseFile);
 }
 
-void Form5::makeRangeFrame() {
-    auto* frame = addFrame(u"Number of Puzzles"_s, u"Frame1"_s);
-    auto* row = static_cast<QHBoxLayout*>(frame->layout());
-    m_from = named(u"Text1"_s, new QLineEdit(frame));
-    m_to = named(u"Text2"_s, new QLineEdit(frame));
-    auto* from = named(u"Label1"_s, new QLabel(u"From"_s, frame));
-    auto* to = named(u"Label2"_s, new QLabel(u"To"_s, frame));
-    for (const auto& [label, box] : {std::pair(from, m_from), std::pair(to, m_to)}) {
-        label->setBuddy(box);
-        box->setAccessibleName(label->text());
-        box->setFixedSize(NumberWidth, ButtonSize.height());
-        row->addWidget(label);
-        row->addWidget(box);
-        row->addSpacing(Spacing);
-        connect(box, &QLineEdit::returnPressed, this, &Form5::acceptRange);
-    }
-    row->addStretch();
+void Form5::makeTabs(QVBoxLayout& rows) {
+    auto* tabs = named(u"tabs"_s, new QTabWidget(this));
+    m_selection = new SelectionTab;
+    m_pages = new PageTab;
+    m_solutions = new SolutionTab;
+    m_paper = new PaperTab;
+    m_newPuzzles = new NewPuzzlesTab;
+    tabs->addTab(m_selection, tr("Puzzles"));
+    tabs->addTab(m_pages, tr("Pages"));
+    tabs->addTab(m_solutions, tr("Solutions"));
+    tabs->addTab(m_paper, tr("Paper"));
+    tabs->addTab(m_newPuzzles, tr("New Puzzles"));
+    tabs->setFixedWidth(ChoiceWidth);
+    rows.addWidget(tabs, 1);
+    const auto change = [this] { m_changed.start(); };
+    connect(m_selection, &SelectionTab::changed, this, change);
+    connect(m_pages, &PageTab::changed, this, change);
+    connect(m_solutions, &SolutionTab::changed, this, change);
+    connect(m_paper, &PaperTab::changed, this, change);
+    connect(m_selection, &SelectionTab::confirmed, this, &Form5::acceptRange);
+    connect(m_newPuzzles, &NewPuzzlesTab::confirmed, this, &Form5::acceptNewPuzzles);
 }
 
-void Form5::makePageFrame() {
-    auto* frame = addFrame(tr("Puzzles per Page"), u"pageFrame"_s);
-    auto* row = static_cast<QHBoxLayout*>(frame->layout());
-    for (std::size_t i = 0; i < m_perPage.size(); ++i) {
-        const QString count = QString::number(PuzzlesPerPage[i]);
-        m_perPage[i] = named(u"perPage_"_s + count, new OptionDot(count, frame));
-        m_perPage[i]->setChecked(PuzzlesPerPage[i] == PageDesign::UsualPuzzlesPerPage);
-        row->addWidget(m_perPage[i]);
-    }
-    row->addStretch();
-    m_solutions = named(u"withSolutions"_s, new TickBox(tr("Solutions at the end"), frame));
-    m_solutions->setChecked(true);
-    row->addWidget(m_solutions);
-}
-
-QHBoxLayout* Form5::makeButtons() {
+void Form5::makeButtons(QVBoxLayout& rows) {
     // Children of the form itself: the file-name picker has a button of the same name.
     auto* print = named(u"Command1"_s, new BoxControl(u"Print"_s, this));
     auto* exit = named(u"Command2"_s, new BoxControl(u"Exit"_s, this));
     connect(print, &BoxControl::clicked, this, &Form5::acceptRange);
     connect(exit, &BoxControl::clicked, this, &QDialog::reject);
-    return makeButtonRow({print, exit});
+    m_pageCount = named(u"pageCount"_s, new ElidedLabel(this));
+    QHBoxLayout* row = makeButtonRow({print, exit});
+    row->insertWidget(0, m_pageCount, 1);
+    rows.addLayout(row);
 }
 
 /// Frames and labels lie on the background; what can be set is in the buttons' colour.
@@ -132,24 +146,48 @@ void Form5::paint() {
     const QColor field = palette.color(QPalette::Button);
     palette.setColor(QPalette::Base, field);
     palette.setColor(QPalette::Text, readableOn(field));
-    for (QWidget* box : {static_cast<QWidget*>(m_printer), static_cast<QWidget*>(m_file),
-                         static_cast<QWidget*>(m_from), static_cast<QWidget*>(m_to)})
-        box->setPalette(palette);
+    palette.setColor(QPalette::PlaceholderText, fadedOn(field));
+    for (const auto role : {QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, fadedOn(field));
+    const auto inButtonsColour = [&palette](const auto& fields) {
+        for (QWidget* each : fields)
+            each->setPalette(palette);
+    };
+    inButtonsColour(findChildren<QComboBox*>());
+    inButtonsColour(findChildren<QLineEdit*>());
+    inButtonsColour(findChildren<QAbstractSpinBox*>());
 }
 
 void Form5::load(const PrintSuggestion& suggestion) {
-    m_printer->clear();
-    m_printer->addItems(m_printers.names());
-    m_printer->addItem(QString::fromLatin1(PrintToPdf));
-    const QString current = suggestion.printer.value_or(m_printers.defaultName());
-    const int index = current.isEmpty() ? -1 : m_printer->findText(current, Qt::MatchExactly);
-    m_printer->setCurrentIndex(index >= 0 ? index : m_printer->count() - 1);
+    listPrinters(suggestion.printer.value_or(m_printers.defaultName()));
     m_path = suggestion.path;
     m_count = suggestion.count;
     m_file->setText(pathText(m_path));
     m_file->setToolTip(u"Puzzles to be printed are stored in this file"_s);
-    m_from->setText(u"1"_s);
-    m_to->setText(QString::number(m_count));
+    const bool isShort = m_count <= ShortFile;
+    m_selection->setRange(isShort ? 1 : suggestion.number, isShort ? m_count : suggestion.number);
+}
+
+void Form5::listPrinters(const QString& current) {
+    const QSignalBlocker quiet(m_printer);
+    m_printer->clear();
+    m_printer->addItems(m_printers.names());
+    m_printer->addItem(QString::fromLatin1(PrintToPdf));
+    const int index = current.isEmpty() ? -1 : m_printer->findText(current, Qt::MatchExactly);
+    m_printer->setCurrentIndex(index >= 0 ? index : m_printer->count() - 1);
+    offerPaper();
+}
+
+bool Form5::isToPdf() const {
+    return m_printer->currentIndex() == m_printer->count() - 1;
+}
+
+QString Form5::printer() const {
+    return isToPdf() ? QString() : m_printer->currentText();
+}
+
+void Form5::offerPaper() {
+    m_paper->offer(isToPdf() ? customaryPapers() : m_printers.offerOf(printer()), isToPdf());
 }
 
 void Form5::chooseFile() {
@@ -167,46 +205,133 @@ void Form5::chooseFile() {
     m_count = count;
     m_file->setText(pathText(chosen));
     m_file->setToolTip(plainToolTip(pathText(chosen)));
-    m_to->setText(QString::number(count));
+    m_selection->setLast(count);
+    m_changed.start();
+}
+
+Outcome Form5::readRequest(PrintRequest& request) const {
+    request.files = {m_path};
+    m_pages->addTo(request.design);
+    m_solutions->addTo(request.design);
+    return m_selection->read(request.selection);
+}
+
+/// Shows how many pages it would be now, and how they would look.
+void Form5::showPages() {
+    PrintRequest request;
+    std::vector<PrintJob> jobs;
+    std::vector<BookletPage> pages;
+    std::size_t pageCount = 0;
+    Outcome outcome = readRequest(request);
+    if (outcome.ok())
+        outcome = makeJobs(request, jobs);
+    for (auto job = jobs.rbegin(); outcome.ok() && job != jobs.rend(); ++job) {
+        outcome = layOutBooklet(job->design, m_paper->paper(), job->puzzleCount(), pages);
+        pageCount += pages.size();
+    }
+    m_pageCount->setText(!outcome.ok()    ? QString::fromStdString(outcome.problem)
+                         : pageCount == 1 ? tr("1 page")
+                                          : tr("%1 pages").arg(pageCount));
+    m_pageCount->setToolTip(plainToolTip(m_pageCount->text()));
+    if (outcome.ok())
+        m_preview->showJob(std::move(jobs.front()), m_paper->paper(), std::move(pages));
+    else
+        m_preview->clear();
 }
 
 void Form5::acceptRange() {
-    const int from = numberIn(*m_from);
-    const int to = numberIn(*m_to);
-    if (!(from >= 1 && to <= m_count)) {
+    const int from = m_selection->from();
+    const int to = m_selection->to();
+    if (!m_selection->hasList() && !(from >= 1 && to <= m_count)) {
         m_prompts.message("Invalid from or to puzzle number", style::Critical);
-    } else if (to >= from) {
-        m_tag = u"Y"_s;
-        accept();
-    } else {
-        m_prompts.message("Invalid from or to puzzle number", "vbcritical+vbok");
+        return;
     }
+    if (!m_selection->hasList() && to < from) {
+        m_prompts.message("Invalid from or to puzzle number", "vbcritical+vbok");
+        return;
+    }
+    PrintOrder order;
+    std::vector<PrintJob> jobs;
+    Outcome outcome = readRequest(order.request);
+    if (outcome.ok())
+        outcome = makeJobs(order.request, jobs);
+    if (outcome.ok())
+        finish(std::move(order), jobs.front().puzzleCount());
+    else
+        m_prompts.message(outcome.problem, style::Critical);
 }
 
-PrintOrder Form5::order() const {
+void Form5::acceptNewPuzzles() {
+    const int count = m_newPuzzles->count();
+    if (count < 1) {
+        m_prompts.message("Incorrect number of puzzles", "vbcritical+vbok");
+        return;
+    }
     PrintOrder order;
     order.request.files = {m_path};
-    order.request.selection.numbers = NumberList({numberIn(*m_from), numberIn(*m_to)});
-    for (std::size_t i = 0; i < m_perPage.size(); ++i)
-        if (m_perPage[i]->isChecked())
-            order.request.design.puzzlesPerPage = PuzzlesPerPage[i];
-    if (!m_solutions->isChecked())
-        order.request.design.solutions = SolutionsAt::None;
-    const bool toPdf = m_printer->currentIndex() == m_printer->count() - 1;
-    order.printer = toPdf ? QString() : m_printer->currentText();
-    return order;
+    m_pages->addTo(order.request.design);
+    m_solutions->addTo(order.request.design);
+    order.creation = CreationOrder{m_path, m_newPuzzles->difficulty(), count};
+    finish(std::move(order), count);
+}
+
+/// Closes the dialog if the pages can be made and have somewhere to go.
+void Form5::finish(PrintOrder order, int puzzles) {
+    order.target.paper = m_paper->paper();
+    order.target.sheets = m_paper->sheets();
+    order.target.printer = printer();
+    Outcome fits = checkTitle(order.request.design.title);
+    std::vector<BookletPage> pages;
+    for (const PageDesign& design : documentsOf(order.request.design))
+        if (fits.ok())
+            fits = layOutBooklet(design, order.target.paper, puzzles, pages);
+    if (!fits.ok()) {
+        m_prompts.message(fits.problem, style::Critical);
+        return;
+    }
+    if (!hasPrinter())
+        return;
+    if (isToPdf()) {
+        order.target.file = choosePdf();
+        if (order.target.file.empty())
+            return;
+    }
+    m_order = std::move(order);
+    m_tag = u"Y"_s;
+    accept();
+}
+
+/// Printers come and go while the dialog is open.
+bool Form5::hasPrinter() {
+    if (isToPdf() || m_printers.names().contains(printer()))
+        return true;
+    m_prompts.message(printer().toStdString() + ": this printer is not there any more",
+                      style::Critical);
+    listPrinters({});
+    return false;
+}
+
+std::filesystem::path Form5::choosePdf() {
+    return chooseOutputFile(pdfQuestion(m_path), *m_picker, m_prompts);
 }
 
 std::optional<PrintOrder> Form5::choose(const PrintSuggestion& suggestion) {
-    paint();
+    if (m_preview == nullptr) {
+        m_preview = new PrintPreview(m_appearance, this);
+        m_preview->setMinimumWidth(PreviewWidth);
+        static_cast<QHBoxLayout*>(layout())->addWidget(m_preview, 1);
+        resizeOnScreen(*this, {ChoiceWidth + PreviewWidth + 3 * dialog::Margin, Height});
+    }
     load(suggestion);
-    m_from->setFocus();
-    m_from->selectAll();
+    paint();
+    showPages();
+    m_selection->focusFirst();
     m_tag = u"X"_s;
     exec();
+    m_changed.stop();
     if (m_tag != u"Y"_s)
         return {};
-    return order();
+    return m_order;
 }
 
 } // namespace tessaly

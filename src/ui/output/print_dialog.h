@@ -2,45 +2,54 @@
 
 #include "core/options/appearance.h"
 #include "core/output/print_job.h"
+#include "core/session/multiple_creation.h"
 #include "ui/controls/file_name_picker.h"
+#include "ui/output/printers.h"
 
 #include <QDialog>
 #include <QString>
+#include <QTimer>
 
-#include <array>
 #include <filesystem>
 #include <optional>
 #include <string>
 
-class QCheckBox;
 class QComboBox;
 class QGroupBox;
-class QHBoxLayout;
+class QLabel;
 class QLineEdit;
-class QRadioButton;
+class QVBoxLayout;
 
 namespace tessaly {
 
-class Printers;
+class NewPuzzlesTab;
+class PageTab;
+class PaperTab;
+class PrintPreview;
 class Prompts;
+class SelectionTab;
+class SolutionTab;
 
 /// What is to be printed, and where.
 struct PrintOrder {
     PrintRequest request;
-    /// The device name; empty for a PDF file.
-    QString printer;
+    /// New puzzles that are to be made first, and printed instead of those selected.
+    std::optional<CreationOrder> creation;
+    PrintTarget target;
 };
 
 /// What the dialog starts with.
 struct PrintSuggestion {
     std::filesystem::path path;
+    /// The puzzle shown, and how many its file holds.
+    int number = 1;
     int count = 0;
     /// The printer that the program uses: a device name, empty for a PDF file, or none yet.
     std::optional<QString> printer;
 };
 
 /// The dialog "Print Puzzles From File". Its property "tag" is "Y" after it was closed in order to
-/// print, else "X".
+/// print, else "X". It stays open as long as something is wrong with what it asks for.
 class Form5 : public QDialog {
     Q_OBJECT
     Q_PROPERTY(QString tag MEMBER m_tag)
@@ -57,17 +66,27 @@ public:
     std::optional<PrintOrder> choose(const PrintSuggestion& suggestion);
 
 private:
-    QGroupBox* addFrame(const QString& title, const QString& name);
-    void makePrinterFrame();
-    void makeFileFrame(const FileDialog& fileDialog);
-    void makeRangeFrame();
-    void makePageFrame();
-    QHBoxLayout* makeButtons();
+    QGroupBox* addFrame(QVBoxLayout& rows, const QString& title, const QString& name);
+    void makePrinterFrame(QVBoxLayout& rows);
+    void makeFileFrame(QVBoxLayout& rows, const FileDialog& fileDialog);
+    void makeTabs(QVBoxLayout& rows);
+    void makeButtons(QVBoxLayout& rows);
     void paint();
     void load(const PrintSuggestion& suggestion);
+    void listPrinters(const QString& current);
     void chooseFile();
+    void offerPaper();
+    void showPages();
+
+    bool isToPdf() const;
+    /// Empty for a PDF file.
+    QString printer() const;
+    Outcome readRequest(PrintRequest& request) const;
     void acceptRange();
-    PrintOrder order() const;
+    void acceptNewPuzzles();
+    void finish(PrintOrder order, int puzzles);
+    bool hasPrinter();
+    std::filesystem::path choosePdf();
 
     const Appearance& m_appearance;
     Printers& m_printers;
@@ -76,14 +95,21 @@ private:
     QString m_tag;
     std::filesystem::path m_path;
     int m_count = 0;
+    PrintOrder m_order;
+    /// Runs while what is printed has changed and is not shown yet.
+    QTimer m_changed;
 
     QComboBox* m_printer = nullptr; // Combo1
     QLineEdit* m_file = nullptr;    // FileNow
     FNDialog* m_picker = nullptr;   // gf1
-    QLineEdit* m_from = nullptr;    // Text1
-    QLineEdit* m_to = nullptr;      // Text2
-    std::array<QRadioButton*, PuzzlesPerPage.size()> m_perPage{};
-    QCheckBox* m_solutions = nullptr;
+    SelectionTab* m_selection = nullptr;
+    PageTab* m_pages = nullptr;
+    SolutionTab* m_solutions = nullptr;
+    PaperTab* m_paper = nullptr;
+    NewPuzzlesTab* m_newPuzzles = nullptr;
+    QLabel* m_pageCount = nullptr;
+    /// Made when the dialog is first shown: it asks the system for its printers.
+    PrintPreview* m_preview = nullptr;
 };
 
 } // namespace tessaly

@@ -11,6 +11,10 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <clocale>
+#include <cstdint>
+#include <langinfo.h>
+#include <string_view>
 
 namespace tessaly {
 namespace {
@@ -27,6 +31,19 @@ bool waitForEnd(QProcess& program) {
     QObject::connect(&program, &QProcess::finished, &loop, [&loop] { loop.exit(0); });
     QObject::connect(&program, &QProcess::errorOccurred, &loop, [&loop] { loop.exit(1); });
     return program.state() == QProcess::NotRunning || loop.exec() == 0;
+}
+
+/// What the locale says of paper; where it says nothing, people who measure in inches use Letter.
+bool usesLetterPaper() {
+#ifdef __GLIBC__
+    const std::string_view locale = std::setlocale(LC_PAPER, nullptr);
+    if (locale != "C" && locale != "POSIX" && locale != "C.UTF-8") {
+        // The library answers with a number, in millimetres, where a pointer is declared.
+        constexpr std::uintptr_t WidthOfLetter = 216;
+        return reinterpret_cast<std::uintptr_t>(::nl_langinfo(_NL_PAPER_WIDTH)) == WidthOfLetter;
+    }
+#endif
+    return QLocale::system().measurementSystem() == QLocale::ImperialUSSystem;
 }
 
 QString sidesOf(QPrinter::DuplexMode mode) {
@@ -84,12 +101,28 @@ QString SystemPrinters::defaultName() const {
     return QPrinterInfo::defaultPrinterName();
 }
 
-PaperSize SystemPrinters::paperOf(const QString& name) const {
-    const QPageSize size = QPrinterInfo::printerInfo(name).defaultPageSize();
-    if (!size.isValid())
-        return customaryPaper();
-    const QSizeF points = size.size(QPageSize::Point);
-    return {points.width(), points.height()};
+PrinterOffer SystemPrinters::offerOf(const QString& name) const {
+    const QPrinterInfo printer = QPrinterInfo::printerInfo(name);
+    PrinterOffer offer;
+    const auto add = [&offer](const QPageSize& paper) {
+        const QSizeF points = paper.size(QPageSize::Point);
+        offer.papers.push_back({paper.name(), {points.width(), points.height()}, paper.key()});
+    };
+    const QList<QPageSize> sizes = printer.supportedPageSizes();
+    std::for_each(sizes.begin(), sizes.end(), add);
+    const QPageSize usual = printer.defaultPageSize();
+    if (const qsizetype place = sizes.indexOf(usual); place >= 0) {
+        offer.usual = static_cast<std::size_t>(place);
+    } else if (usual.isValid()) {
+        offer.usual = offer.papers.size();
+        add(usual);
+    }
+    if (offer.papers.empty())
+        offer = customaryPapers();
+    const auto sides = printer.supportedDuplexModes();
+    offer.isTwoSided =
+        sides.contains(QPrinter::DuplexLongSide) || sides.contains(QPrinter::DuplexShortSide);
+    return offer;
 }
 
 // Qt prints without ever telling whether that worked, and cannot take back what it has begun; the
@@ -140,11 +173,15 @@ PrintTarget targetOf(const QPrinter& printer, int pageCount) {
     return target;
 }
 
-PaperSize customaryPaper() {
-    constexpr std::size_t A4 = 0;
+PrinterOffer customaryPapers() {
     constexpr std::size_t Letter = 1;
-    const bool inches = QLocale::system().measurementSystem() == QLocale::ImperialUSSystem;
-    return NamedPapers[inches ? Letter : A4].size;
+    static_assert(NamedPapers[Letter].name == "letter");
+    PrinterOffer offer;
+    for (const NamedPaper& paper : NamedPapers)
+        offer.papers.push_back({QString::fromUtf8(paper.shown), paper.size});
+    if (usesLetterPaper())
+        offer.usual = Letter;
+    return offer;
 }
 
 } // namespace tessaly

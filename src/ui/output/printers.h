@@ -2,7 +2,7 @@
 
 #include "core/base/outcome.h"
 #include "core/output/booklet.h"
-#include "core/output/page_layout.h"
+#include "core/output/paper.h"
 
 #include <QStringList>
 
@@ -25,6 +25,22 @@ struct SheetSettings {
 
     /// The same as options of the system's print command.
     QStringList options() const;
+};
+
+/// A paper that a printer can take.
+struct PrinterPaper {
+    QString name;
+    PaperSize size;
+    /// As in `SheetSettings`.
+    QString media = {};
+};
+
+/// What can be chosen of a printer.
+struct PrinterOffer {
+    std::vector<PrinterPaper> papers;
+    /// The place of the paper that lies in it.
+    std::size_t usual = 0;
+    bool isTwoSided = false;
 };
 
 /// Where and how something is printed.
@@ -56,8 +72,7 @@ public:
     virtual QStringList names() const = 0;
     /// The printer that is used when nobody chooses one; empty when there is none.
     virtual QString defaultName() const = 0;
-    /// The paper that lies in a printer.
-    virtual PaperSize paperOf(const QString& name) const = 0;
+    virtual PrinterOffer offerOf(const QString& name) const = 0;
 
     /// Hands a PDF file over to a printer.
     virtual Outcome print(const QString& name, const std::filesystem::path& pdf,
@@ -71,7 +86,7 @@ class SystemPrinters : public Printers {
 public:
     QStringList names() const override;
     QString defaultName() const override;
-    PaperSize paperOf(const QString& name) const override;
+    PrinterOffer offerOf(const QString& name) const override;
     Outcome print(const QString& name, const std::filesystem::path& pdf, const QString& title,
                   const SheetSettings& sheets) override;
     std::optional<PrintTarget> setUp(const PrintQuestion& question, QWidget* owner) override;
@@ -80,7 +95,8 @@ public:
 /// What was set up for a document of `pageCount` pages.
 PrintTarget targetOf(const QPrinter& printer, int pageCount);
 
-/// The paper that people use in this part of the world: A4 or Letter.
-PaperSize customaryPaper();
+/// The papers for a PDF file; the usual one is what people use in this part of the world, A4 or
+/// Letter.
+PrinterOffer customaryPapers();
 
 } // namespace tessaly

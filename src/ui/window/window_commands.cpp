@@ -49,8 +49,8 @@ WindowCommands::WindowCommands(Session& session, const CommandWindow& window)
     , m_maintenance(session, window.display, window.prompts, Chance(Chance::freshSeed()))
     , m_pictures(session, {window.widget, window.display, window.prompts, window.picker})
     , m_print(session, window.printers,
-              {window.widget, window.display, window.prompts, window.picker, m_printDialog,
-               m_printProgress}) {}
+              {window.widget, window.display, window.prompts, m_printDialog, m_printProgress, files,
+               m_multipleCreation}) {}
 
 bool WindowCommands::refuses(std::string_view refusal) {
     if (!m_session.busy.refuses(m_prompts, refusal))

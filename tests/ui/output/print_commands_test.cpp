@@ -5,8 +5,10 @@
 #include "ui/game_window.h"
 
 #include <QComboBox>
+#include <QDoubleSpinBox>
 #include <QPrinter>
 #include <QProgressBar>
+#include <QTabWidget>
 
 namespace tessaly::print_commands_test {
 
@@ -149,7 +151,7 @@ TEST_F(Printing, TheDialogTakesAnotherFileAndRemembersThePrinter) {
         EXPECT_TRUE(file.toolTip().contains(u"&lt;b&gt;other.txt")) << "as it is";
         find<QComboBox>(form, u"Combo1"_s).setCurrentText(u"Laser"_s);
         find<QAbstractButton>(form, u"perPage_1"_s).click();
-        find<QAbstractButton>(form, u"withSolutions"_s).click();
+        find<QComboBox>(form, u"solutions"_s).setCurrentIndex(0);
     });
     EXPECT_EQ(game.printers.printed.back().title, u"<b>other.txt, 1 to 2");
     EXPECT_EQ(lastPrinted().pageCount(), 2);
@@ -161,6 +163,95 @@ TEST_F(Printing, TheDialogTakesAnotherFileAndRemembersThePrinter) {
     inDialog([](QDialog&) {});
     EXPECT_EQ(game.message().toStdString(), "40 pages printed to " + pdf);
     EXPECT_EQ(PdfDocument(pdf).pageCount(), 40);
+    EXPECT_EQ(game.fileDialogs.asked.back().name, u"easy.pdf"_s);
+}
+
+/// What is wrong is told, and the dialog stays.
+TEST_F(Printing, TheDialogStaysUntilAllIsRightAndTellsWhatItWouldPrint) {
+    const auto set = [](const QDialog& form, const QString& box, const QString& text) {
+        find<QLineEdit>(form, box).setText(text);
+    };
+    put(pdf, "old");
+    for (int i = 0; i < 2; ++i)
+        game.fileDialogs.add(QString::fromStdString(pdf));
+    inDialog([&](QDialog& form) {
+        auto& printer = find<QComboBox>(form, u"Combo1"_s);
+        auto& pages = find<QLabel>(form, u"pageCount"_s);
+        const auto refused = [&] {
+            game.prompts.shown.clear();
+            press(form);
+            EXPECT_TRUE(form.isVisible() && game.printers.printed.empty());
+            return game.lastPrompt().text;
+        };
+        EXPECT_EQ(pages.text(), u"14 pages"_s);
+        printer.setCurrentText(u"Laser"_s);
+        for (const auto& [list, problem] :
+             {std::pair{u"3,x"_s, "\"x\" is neither a number nor two like 20-24"},
+              {u"3,41"_s, "there is no puzzle 41 among its 40"}}) {
+            set(form, u"puzzleList"_s, list);
+            EXPECT_TRUE(refused().ends_with(problem));
+            EXPECT_TRUE(QTest::qWaitFor(
+                [&] { return pages.text().endsWith(QString::fromLatin1(problem)); }));
+        }
+        set(form, u"puzzleList"_s, u"7, 3"_s);
+        set(form, u"title"_s, u"a\u0001b"_s);
+        EXPECT_EQ(refused(), "the title holds a control character");
+        set(form, u"title"_s, u"Monday"_s);
+        game.printers.installed.removeFirst();
+        EXPECT_EQ(refused(), "Laser: this printer is not there any more");
+        EXPECT_EQ(printer.currentText(), u"Print to PDF"_s);
+        auto& paper = find<QComboBox>(form, u"paper"_s);
+        paper.setCurrentIndex(paper.count() - 1);
+        find<QDoubleSpinBox>(form, u"paperWidth"_s).setValue(40);
+        EXPECT_EQ(refused(), "the paper is too small to write in a puzzle");
+        paper.setCurrentText(u"A5"_s);
+        game.prompts.answers = {answer::No};
+        EXPECT_EQ(refused(), "OverWrite file: " + pdf + " ?");
+        find<QAbstractButton>(form, u"orientation_Landscape"_s).click();
+        find<QComboBox>(form, u"solutions"_s).setCurrentIndex(int(SolutionsAt::OwnFile));
+        game.prompts.answers = {answer::Yes};
+    });
+    EXPECT_EQ(game.message().toStdString(), "2 pages printed to " + pdf);
+    const PdfDocument solutions(game.folder.path() + "out-solutions.pdf");
+    EXPECT_TRUE(solutions.info(u"Page size"_s).startsWith(u"595 x 420"_s));
+    EXPECT_EQ(PdfDocument(pdf).info(u"Title"_s), u"Monday"_s);
+    EXPECT_EQ(solutions.info(u"Title"_s), u"Monday, solutions"_s);
+}
+
+TEST_F(Printing, ALongFileIsPrintedFromThePuzzleShownOnAndAPrinterHearsHowToPrint) {
+    const std::string forty = contentOf(puzzles);
+    std::ofstream(puzzles, std::ios::app) << forty;
+    game.window->files().load(puzzles, 60);
+    inDialog([&](QDialog& form) {
+        EXPECT_EQ(find<QLineEdit>(form, u"Text1"_s).text(), u"60"_s);
+        find<QSpinBox>(form, u"copies"_s).setValue(3);
+        find<QComboBox>(form, u"sides"_s).setCurrentIndex(2);
+        find<QTabWidget>(form, u"tabs"_s).setCurrentIndex(1);
+        find(form, u"tabs"_s).setFocus();
+        QTest::keyClick(&find(form, u"tabs"_s), Qt::Key_Tab);
+        EXPECT_EQ(form.focusWidget()->objectName(), u"perPage_4"_s) << "the chosen one";
+    });
+    EXPECT_EQ(game.printers.printed.back().title, u"easy.txt, 60 to 60");
+    EXPECT_EQ(game.printers.printed.back().options.join(u' '),
+              u"-n 3 -o collate=true -o sides=two-sided-long-edge"_s);
+}
+
+TEST_F(Printing, NewPuzzlesAreKeptInTheFileAndPrinted) {
+    inDialog([&](QDialog& form) {
+        const auto create = [&](const QString& count) {
+            find<QLineEdit>(form, u"newCount"_s).setText(count);
+            QTest::mouseClick(&find(form, u"createAndPrint"_s), Qt::LeftButton);
+        };
+        find<QTabWidget>(form, u"tabs"_s).setCurrentIndex(4);
+        create(u"0"_s);
+        EXPECT_EQ(game.lastPrompt().text, "Incorrect number of puzzles");
+        find<QAbstractButton>(form, u"newDifficulty_Hard"_s).click();
+        create(u"3"_s);
+    });
+    EXPECT_EQ(game.printers.printed.back().title, u"easy.txt, 41 to 43");
+    EXPECT_EQ(recordsOf(puzzles).size(), 43U);
+    EXPECT_EQ(recordsOf(puzzles).back().front(), 'H');
+    EXPECT_EQ(game.message(), u"2 pages printed to Kitchen"_s);
 }
 
 TEST(SystemPrinters, TellTheProgramThatPrintsWhatTheDialogSetAndHearItsAnswer) {
