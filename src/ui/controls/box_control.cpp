@@ -47,11 +47,18 @@ void drawContents(QPainter& painter, const QRectF& area, const BoxControl& butto
     const QSizeF picture = pictureSize(button);
     const double captionLeft = picture.width() + gapIn(button);
     QRectF used(0, 0, captionLeft + captionSize(button).width(), area.height());
+    const bool hasRoom = used.width() + 2 * PaddingBesidePicture <= area.width();
+    if (!hasRoom && picture.width() > 0)
+        used.setWidth(picture.width());
     used.moveCenter(area.center());
+    if (hasRoom && button.isLeftAligned())
+        used.moveLeft(area.left() + PaddingBesideCaption);
 
     QRectF place(used.topLeft(), picture);
     place.moveTop(std::round(area.center().y() - picture.height() / 2));
     drawPicture(painter, place, button.picture(), button.textColour());
+    if (!hasRoom && picture.width() > 0)
+        return;
     painter.setPen(button.textColour());
     painter.drawText(used.adjusted(captionLeft, 0, 0, 0), Qt::AlignCenter | Qt::TextShowMnemonic,
                      button.text());
@@ -63,8 +70,6 @@ struct BoxFace {
     /// What lies around the button.
     QColor ground;
     bool sunk = false;
-    /// Stays down until it is let up again, and says so by a line around it.
-    bool latched = false;
     bool hovered = false;
     bool focused = false;
     bool enabled = true;
@@ -113,30 +118,29 @@ QColor faceShade(const BoxFace& face) {
     return face.enabled ? blended(face.colour, readableOn(face.colour), shade) : face.ground;
 }
 
-/// The line that says where the button is: seen on the ground and on the face, stronger while the
-/// pointer is over it, weaker while it cannot be used.
+/// The line that says where the button is: seen on the ground and, if it has one, on the face.
 QColor outlineColour(const BoxFace& face) {
     constexpr double LeastContrast = 3; // of WCAG 2, for the outline of a control
-    if (!face.enabled)
-        return standingOut(face.ground, LeastContrast / 2);
-    if (face.sunk || face.hovered)
-        return readableOn(face.ground);
     const QColor line = standingOut(face.ground, LeastContrast);
     const bool seenOnFace = contrastRatio(toColour(line), toColour(face.colour)) >= LeastContrast;
-    return seenOnFace ? line : standingOut(face.colour, LeastContrast);
+    return seenOnFace || !face.enabled ? line : standingOut(face.colour, LeastContrast);
 }
 
-void drawRing(QPainter& painter, const QRectF& area, const QColor& colour, double inset) {
-    const double width = 2 * borderWidth(painter);
+/// A line of so many pixels of the border; a broken one is for what cannot be used.
+void drawRing(QPainter& painter, const QRectF& area, const QColor& colour, double inset,
+              int pixels = 2, Qt::PenStyle style = Qt::SolidLine) {
+    const double width = pixels * borderWidth(painter);
     inset += width / 2;
-    painter.setPen(QPen(colour, width));
+    painter.setPen(QPen(colour, width, style));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(area.adjusted(inset, inset, -inset, -inset), CornerRadius - inset / 2,
                             CornerRadius - inset / 2);
 }
 
 /// Draws the face in its outline, with a border that is lit from the upper left between the two;
-/// each is one pixel thick, on whole pixels of the device. What cannot be used is flat.
+/// each is one pixel thick, on whole pixels of the device. Each state has a line of its own, for
+/// shades alone are not seen on every colour: a thick one under the pointer, a thicker one while it
+/// is down, an inner one with the focus. What cannot be used is flat in a broken line.
 void drawFace(QPainter& painter, const QRectF& area, const BoxFace& face) {
     const QRectF outer = onPixels(painter, area);
     const double border = borderWidth(painter);
@@ -150,13 +154,17 @@ void drawFace(QPainter& painter, const QRectF& area, const BoxFace& face) {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    fill(0, outlineColour(face));
-    fill(1, face.enabled ? borderBrush(outer, face.colour, face.sunk) : QBrush(shade));
-    fill(2, shade);
-    if (face.latched)
-        drawRing(painter, outer, readableOn(shade), 0);
+    if (face.enabled) {
+        fill(0, outlineColour(face));
+        fill(1, borderBrush(outer, face.colour, face.sunk));
+        fill(2, shade);
+    } else {
+        drawRing(painter, outer, outlineColour(face), 0, 1, Qt::DashLine);
+    }
+    if (face.enabled && (face.sunk || face.hovered))
+        drawRing(painter, outer, readableOn(shade), 0, face.sunk ? 3 : 2);
     if (face.focused)
-        drawRing(painter, outer, readableOn(shade), 3 * border);
+        drawRing(painter, outer, readableOn(shade), 4 * border);
     painter.restore();
 }
 
@@ -406,7 +414,6 @@ void BoxControl::paintEvent(QPaintEvent*) {
              {.colour = faceColour(),
               .ground = groundColour(),
               .sunk = sunk,
-              .latched = isLatched(),
               .hovered = underMouse(),
               .focused = hasFocus(),
               .enabled = isEnabled()});

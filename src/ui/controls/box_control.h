@@ -25,7 +25,8 @@ public:
     BoxControl(Picture picture, const QString& toolTip, QWidget* parent);
 
     Picture picture() const { return m_picture; }
-    /// The picture stands left of the caption, or alone in the middle; its size is iconSize().
+    /// The picture stands left of the caption, or alone in the middle where there is no room for
+    /// that; its size is iconSize().
     void setPicture(Picture picture);
 
     QColor faceColour() const;
@@ -35,6 +36,11 @@ public:
     QColor textColour() const;
     /// An invalid colour gives black or white, whichever reads better on the face, as at first.
     void setTextColour(const QColor& colour);
+
+    /// Whether picture and caption stand at the left instead of in the middle, so that those of
+    /// several buttons stand beneath each other.
+    bool isLeftAligned() const { return m_isLeftAligned; }
+    void setLeftAligned(bool leftAligned) { m_isLeftAligned = leftAligned; }
 
     bool isLatched() const { return isChecked(); }
     /// A latched button stays down until it is let up again; clicks alone change nothing of it.
@@ -91,6 +97,7 @@ private:
     QString m_nameFromToolTip;
     QList<QKeySequence> m_shownKeys;
     bool m_isHeld = false;
+    bool m_isLeftAligned = false;
     bool m_alternateDown = false;
 };
 

@@ -19,10 +19,11 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr int Inset = 8;
+constexpr int StripInset = 8;
 constexpr double DrawingHeight = 64;
+constexpr int StripButtonHeight = 44;
 constexpr float TintStrength = 0.3F;
-constexpr double Corner = 6;
+constexpr double StripCorner = 6;
 constexpr double OutlineContrast = 3;
 
 QString firstRule() {
@@ -33,7 +34,7 @@ QString secondRule() {
     return RulesStrip::tr("Two triangles that share a side hold the same number.");
 }
 
-QRectF boundsOf(const std::vector<int>& hexagons) {
+QRectF boundsOfHexagons(const std::vector<int>& hexagons) {
     constexpr double Border = 2;
     QRectF bounds;
     for (int hexagon : hexagons)
@@ -53,7 +54,7 @@ RulePicture::RulePicture(const Appearance& appearance, std::vector<int> hexagons
     : QWidget(parent)
     , m_appearance(appearance)
     , m_hexagons(std::move(hexagons)) {
-    const QRectF bounds = boundsOf(m_hexagons);
+    const QRectF bounds = boundsOfHexagons(m_hexagons);
     setFixedSize((bounds.size() * (DrawingHeight / bounds.height())).toSize());
 }
 
@@ -66,7 +67,7 @@ void RulePicture::enter(CellId cell, int number, bool tinted) {
 void RulePicture::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QRectF bounds = boundsOf(m_hexagons);
+    const QRectF bounds = boundsOfHexagons(m_hexagons);
     painter.scale(width() / bounds.width(), height() / bounds.height());
     painter.translate(-bounds.topLeft());
     BoardRenderer renderer(painter, m_board, m_appearance);
@@ -99,12 +100,15 @@ RulesStrip::RulesStrip(const Appearance& appearance, QWidget* parent)
     auto* close = named(u"cmdcloserules"_s, new BoxControl(Picture::Close, tr("Close"), this));
     connect(showMe, &BoxControl::clicked, this, &RulesStrip::showMeAsked);
     connect(close, &BoxControl::clicked, this, &RulesStrip::closeAsked);
+    for (BoxControl* button : {showMe, close})
+        button->setMinimumHeight(StripButtonHeight);
+    setFixedHeight(static_cast<int>(DrawingHeight) + 2 * StripInset);
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(Inset, Inset, Inset, Inset);
-    row->setSpacing(Inset);
+    row->setContentsMargins(StripInset, StripInset, StripInset, StripInset);
+    row->setSpacing(StripInset);
     row->addWidget(hexagon);
     row->addWidget(makeSentence(firstRule(), this), 1);
-    row->addSpacing(Inset);
+    row->addSpacing(StripInset);
     row->addWidget(side);
     row->addWidget(makeSentence(secondRule(), this), 1);
     row->addWidget(showMe);
@@ -119,7 +123,8 @@ void RulesStrip::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(standingOut(palette().color(QPalette::Window), OutlineContrast));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), Corner, Corner);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), StripCorner,
+                            StripCorner);
 }
 
 } // namespace tessaly

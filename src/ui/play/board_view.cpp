@@ -8,7 +8,6 @@
 #include "ui/drawing/qt_values.h"
 #include "ui/play/board_accessible.h"
 #include "ui/play/board_keys.h"
-#include "ui/play/palette_panel.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -29,8 +28,6 @@ constexpr double SmallestScale = 0.6;
 /// How far the frame of the focus reaches into the view.
 constexpr int FocusInset = 3;
 constexpr double FocusThickness = 2;
-/// Between the board and the palette.
-constexpr int BesidePalette = 12;
 constexpr std::chrono::milliseconds RestTime{350};
 
 PointerButton pointerButton(Qt::MouseButton button) {
@@ -42,11 +39,6 @@ PointerButton pointerButton(Qt::MouseButton button) {
     default:
         return PointerButton::Other;
     }
-}
-
-QSize sideBySide(QSize board, QSize palette) {
-    return {board.width() + BesidePalette + palette.width(),
-            std::max(board.height(), palette.height())};
 }
 
 } // namespace
@@ -405,33 +397,6 @@ void BoardView::keyPressEvent(QKeyEvent* event) {
     else if (!moveSelection(*m_input, *event) && !readsOrClicks(*m_input, *event) &&
              !turnsMark(*m_input, *event))
         pressKey(*m_input, *event);
-}
-
-PlayArea::PlayArea(BoardView* board, PalettePanel* palette, QWidget* parent)
-    : QWidget(parent)
-    , m_board(board)
-    , m_palette(palette) {
-    board->setParent(this);
-    palette->setParent(this);
-    QWidget::setTabOrder(board, palette);
-}
-
-QSize PlayArea::sizeHint() const {
-    return sideBySide(m_board->sizeHint(), m_palette->sizeHint());
-}
-
-QSize PlayArea::minimumSizeHint() const {
-    return sideBySide(m_board->minimumSize(), m_palette->minimumSizeHint());
-}
-
-void PlayArea::resizeEvent(QResizeEvent* event) {
-    QWidget::resizeEvent(event);
-    const int side = PalettePanel::widthForHeight(height());
-    const int widestBoard = static_cast<int>(std::ceil(height() * PictureWidth / PictureHeight));
-    const int boardWidth = std::min(width() - BesidePalette - side, widestBoard);
-    const int left = (width() - boardWidth - BesidePalette - side) / 2;
-    m_board->setGeometry(left, 0, boardWidth, height());
-    m_palette->setGeometry(left + boardWidth + BesidePalette, 0, side, height());
 }
 
 } // namespace tessaly

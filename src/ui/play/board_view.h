@@ -17,8 +17,6 @@
 
 namespace tessaly {
 
-class PalettePanel;
-
 /// The marker around the number of the selected cell (`Shape1`). The pointer goes through it.
 class SelectionMarker : public QWidget {
     Q_OBJECT
@@ -144,25 +142,6 @@ private:
     bool m_usedByKeys = false;
     /// The entries as a screen reader knows them.
     Grid<std::string> m_told;
-};
-
-/// The middle of the main window: the board and, close at its right whatever the window's shape,
-/// the palette. Takes both as its children.
-class PlayArea : public QWidget {
-    Q_OBJECT
-
-public:
-    PlayArea(BoardView* board, PalettePanel* palette, QWidget* parent = nullptr);
-
-    QSize sizeHint() const override;
-    QSize minimumSizeHint() const override;
-
-protected:
-    void resizeEvent(QResizeEvent* event) override;
-
-private:
-    BoardView* m_board;
-    PalettePanel* m_palette;
 };
 
 } // namespace tessaly

@@ -15,7 +15,7 @@ namespace {
 using namespace Qt::StringLiterals;
 
 constexpr std::chrono::seconds OpenTime{6};
-constexpr int PopupButtonSize = 34;
+constexpr int PopupButtonSize = 44;
 constexpr int PopupMargin = 4;
 constexpr int PopupSpacing = 3;
 constexpr int Columns = 5;

@@ -1,6 +1,7 @@
 #include "ui/play/palette_panel.h"
 
 #include "ui/controls/box_control.h"
+#include "ui/controls/button_grid.h"
 #include "ui/drawing/qt_values.h"
 
 #include <algorithm>
@@ -10,24 +11,9 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr int SmallestButton = 24;
-constexpr int LargestButton = 64;
-constexpr int UsualButton = 48;
-constexpr int AssistCount = 3;
-constexpr int ButtonCount = PalettePanel::ItemCount + 1 + AssistCount;
-/// All lengths in eighths of a button's side: a button, the space between two, the wider space
-/// between the palette and the assists.
-constexpr int ButtonPart = 8;
-constexpr int SpacePart = 1;
-constexpr int GroupSpacePart = 3;
-constexpr int AllParts = ButtonCount * ButtonPart + (ButtonCount - 2) * SpacePart + GroupSpacePart;
-/// Sizes of what stands on a button, in parts of the button's.
-constexpr double PicturePart = 0.6;
+constexpr int NumbersInARow = 3;
+/// How high a number stands on its button, in parts of the button's side.
 constexpr double DigitPart = 0.46;
-
-int heightOf(int button) {
-    return button * AllParts / ButtonPart;
-}
 
 } // namespace
 
@@ -36,14 +22,8 @@ PalettePanel::PalettePanel(const Appearance& appearance, QWidget* parent)
     , m_appearance(appearance) {
     for (int index = 0; index < ItemCount; ++index)
         m_items[static_cast<std::size_t>(index)] = makeItem(index);
-    cmdpencil =
-        makeAssist(Picture::Pencil, tr("Make pencil marks instead of numbers"), u"cmdpencil"_s);
-    cmdallpencil = makeAssist(Picture::PencilMarks,
-                              u"Display All Pencilmarks; rightclick to clear"_s, u"cmdallpencil"_s);
-    cmdsetpairs =
-        makeAssist(Picture::SetPairs, u"Fill ALL Single Value Paired Cells"_s, u"cmdsetpairs"_s);
-    cmdset1s =
-        makeAssist(Picture::SetSingles, u"Set ALL empty cell to a unique single"_s, u"cmdset1s"_s);
+    cmdpencil = new BoxControl(Picture::Pencil, tr("Make pencil marks instead of numbers"), this);
+    cmdpencil->setObjectName(u"cmdpencil"_s);
     applyAppearance();
 }
 
@@ -61,48 +41,21 @@ BoxControl* PalettePanel::makeItem(int index) {
     return item;
 }
 
-BoxControl* PalettePanel::makeAssist(Picture picture, const QString& toolTip, const QString& name) {
-    auto* button = new BoxControl(picture, toolTip, this);
-    button->setObjectName(name);
-    return button;
-}
-
-int PalettePanel::widthForHeight(int height) {
-    return std::clamp(height * ButtonPart / AllParts, SmallestButton, LargestButton);
-}
-
-QSize PalettePanel::sizeHint() const {
-    return {UsualButton, heightOf(UsualButton)};
-}
-
-QSize PalettePanel::minimumSizeHint() const {
-    return {SmallestButton, heightOf(SmallestButton)};
-}
-
+/// The numbers stand left in two rows, the eraser and beneath it the pencil at their right.
 void PalettePanel::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
-    placeButtons();
-}
-
-void PalettePanel::placeButtons() {
-    const int side = widthForHeight(height());
-    const int space = side * SpacePart / ButtonPart;
-    int top = (height() - heightOf(side)) / 2;
-    const auto place = [side, space, &top](BoxControl* button) {
-        button->setGeometry(0, top, side, side);
-        const int picture = static_cast<int>(side * PicturePart);
-        button->setIconSize({picture, picture});
-        QFont font = button->font();
-        font.setPixelSize(static_cast<int>(side * DigitPart));
-        button->setFont(font);
-        top += side + space;
-    };
-    for (BoxControl* item : m_items)
-        place(item);
-    place(cmdpencil);
-    top += side * GroupSpacePart / ButtonPart - space;
-    for (BoxControl* assist : {cmdallpencil, cmdsetpairs, cmdset1s})
-        place(assist);
+    const ButtonGrid grid = ButtonGrid::across(width(), Columns);
+    QFont digits = font();
+    digits.setPixelSize(std::max(1, static_cast<int>(grid.side * DigitPart)));
+    for (int index = 0; index < BoardInput::PaletteEraser; ++index) {
+        BoxControl* item = m_items[static_cast<std::size_t>(index)];
+        item->setGeometry(grid.place(index % NumbersInARow, index / NumbersInARow));
+        item->setFont(digits);
+    }
+    m_items[BoardInput::PaletteEraser]->setGeometry(grid.place(NumbersInARow, 0));
+    cmdpencil->setGeometry(grid.place(NumbersInARow, 1));
+    for (BoxControl* pictured : {m_items[BoardInput::PaletteEraser], cmdpencil})
+        pictured->setIconSize(grid.pictureSize());
 }
 
 void PalettePanel::showPalette(int pressedItem) {

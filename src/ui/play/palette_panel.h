@@ -10,16 +10,15 @@
 namespace tessaly {
 
 class BoxControl;
-enum class Picture;
 
 /// The palette beside the board (`digt`): the numbers 1 to 6 and the eraser, of which at most one
-/// is pressed, and the pencil; beneath it the three assists. The buttons are squares, as large as
-/// the height allows.
+/// is pressed, and the pencil, in two rows of four squares that fill its width.
 class PalettePanel : public QWidget {
     Q_OBJECT
 
 public:
     static constexpr int ItemCount = 7;
+    static constexpr int Columns = 4;
 
     explicit PalettePanel(const Appearance& appearance, QWidget* parent = nullptr);
 
@@ -30,15 +29,6 @@ public:
     void applyAppearance();
 
     BoxControl* cmdpencil;
-    BoxControl* cmdallpencil;
-    BoxControl* cmdsetpairs;
-    BoxControl* cmdset1s;
-
-    QSize sizeHint() const override;
-    QSize minimumSizeHint() const override;
-
-    /// How wide the palette is at a height: one button.
-    static int widthForHeight(int height);
 
 Q_SIGNALS:
     void itemReleased(int item, PointerButton button);
@@ -48,8 +38,6 @@ protected:
 
 private:
     BoxControl* makeItem(int index);
-    BoxControl* makeAssist(Picture picture, const QString& toolTip, const QString& name);
-    void placeButtons();
     void showPressed(BoxControl& button, bool pressed);
 
     const Appearance& m_appearance;

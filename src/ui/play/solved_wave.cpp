@@ -18,10 +18,10 @@ namespace {
 constexpr int WholeTime = 900; // milliseconds
 /// The part of that time for which one hexagon is lit.
 constexpr double LitPart = 0.4;
-constexpr double Strength = 0.55;
+constexpr double LightStrength = 0.55;
 constexpr int MiddleHexagon = 10;
 
-double distance(int from, int to) {
+double distanceBetween(int from, int to) {
     const Point a = hexagonCentre(from);
     const Point b = hexagonCentre(to);
     return std::hypot(a.x - b.x, a.y - b.y);
@@ -30,7 +30,7 @@ double distance(int from, int to) {
 double farthest(int from) {
     double most = 0;
     for (int hexagon = 1; hexagon <= HexagonCount; ++hexagon)
-        most = std::max(most, distance(from, hexagon));
+        most = std::max(most, distanceBetween(from, hexagon));
     return most;
 }
 
@@ -77,8 +77,9 @@ void SolvedWave::paintEvent(QPaintEvent*) {
     const double progress = m_progress.currentValue().toDouble();
     const double farthestAway = farthest(m_from);
     for (int hexagon = 1; hexagon <= HexagonCount; ++hexagon) {
-        const double begin = (1 - LitPart) * distance(m_from, hexagon) / farthestAway;
-        light.setAlphaF(static_cast<float>(Strength * brightness((progress - begin) / LitPart)));
+        const double begin = (1 - LitPart) * distanceBetween(m_from, hexagon) / farthestAway;
+        light.setAlphaF(
+            static_cast<float>(LightStrength * brightness((progress - begin) / LitPart)));
         QPolygonF outline;
         for (Point corner : hexagonCorners(hexagon))
             outline << toQt(corner);

@@ -18,12 +18,14 @@
 #include "ui/options/options_dialog.h"
 #include "ui/play/board_view.h"
 #include "ui/play/palette_panel.h"
+#include "ui/play/side_panel.h"
 #include "ui/play/statistics_form.h"
 #include "ui/window/developer_row.h"
 #include "ui/window/file_drop.h"
 #include "ui/window/shortcuts.h"
 #include "ui/window/status_line.h"
 #include "ui/window/tool_row.h"
+#include "ui/window/window_body.h"
 
 #include <QApplication>
 #include <QLineEdit>
@@ -31,15 +33,13 @@
 #include <QShortcut>
 #include <QTimer>
 #include <QToolTip>
-#include <QVBoxLayout>
 
 namespace tessaly {
 namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr int WindowMargin = 12;
-constexpr QSize FirstSize(850, 690);
+constexpr QSize FirstSize(860, 680);
 
 /// The largest content of "window.cfg" that is looked at, in bytes.
 constexpr std::size_t LargestPlace = 4096;
@@ -91,7 +91,7 @@ Form1::Form1(Session& session, Prompts& prompts, const FileDialog& fileDialog, P
     , m_menu(*menuBar())
     , m_tools(new ToolRow)
     , m_board(new BoardView(session.game.board, m_worn, session.game.switches))
-    , m_palette(new PalettePanel(m_worn))
+    , m_side(new SidePanel(m_worn))
     , m_status(new StatusLine)
     , m_announcer(new Announcer(this))
     , m_developerRow(session.developer ? new DeveloperRow : nullptr)
@@ -111,7 +111,7 @@ Form1::Form1(Session& session, Prompts& prompts, const FileDialog& fileDialog, P
     m_picker->hide();
     setCentralWidget(arrangeRegions());
     connectPlay();
-    m_commands.connectTo({m_menu, *m_tools, *m_board, *m_palette, *m_status, m_developerRow});
+    m_commands.connectTo({m_menu, *m_tools, *m_board, *m_side, m_developerRow});
     connect(m_board, &BoardView::entriesChanged, this, &Form1::announce);
     connect(m_menu.cmdexit, &QAction::triggered, this, &Form1::cmdexit);
     connectOptions();
@@ -127,18 +127,11 @@ Form1::Form1(Session& session, Prompts& prompts, const FileDialog& fileDialog, P
 }
 
 QWidget* Form1::arrangeRegions() {
-    auto* centre = new QWidget;
-    auto* rows = new QVBoxLayout(centre);
-    rows->setContentsMargins(WindowMargin, WindowMargin, WindowMargin, WindowMargin);
-    rows->setSpacing(dialog::Spacing);
-    rows->addWidget(m_tools);
-    if (m_developerRow != nullptr)
-        rows->addWidget(m_developerRow);
-    if (m_rules != nullptr)
-        rows->addWidget(m_rules);
-    rows->addWidget(new PlayArea(m_board, m_palette), 1);
-    rows->addWidget(m_status);
-    return centre;
+    QList<QWidget*> rows{m_tools};
+    for (QWidget* row : QList<QWidget*>{m_developerRow, m_rules})
+        if (row != nullptr)
+            rows << row;
+    return new WindowBody(rows, m_board, m_side, m_status);
 }
 
 void Form1::applyAppearance() {
@@ -148,7 +141,7 @@ void Form1::applyAppearance() {
     QApplication::setPalette(palette); // of the toolkit's own dialogs as well
     QToolTip::setPalette(palette);
     SetMenuColour();
-    m_palette->applyAppearance();
+    m_side->palette->applyAppearance();
     m_board->applyAppearance();
 }
 
@@ -162,11 +155,11 @@ void Form1::offerCommands() {
     const QWidget* focused = QApplication::focusWidget();
     m_menu.offer(game, inFile, m_session.book != nullptr);
     m_tools->offerOthers(inFile);
-    m_tools->cmdundo->setEnabled(game.canUndo());
-    m_tools->cmdredo->setEnabled(game.canRedo());
+    m_side->cmdundo->setEnabled(game.canUndo());
+    m_side->cmdredo->setEnabled(game.canRedo());
     for (QWidget* control :
-         {m_tools->cmdhint, m_tools->cmdreset, m_tools->cmdshowsol, m_palette->cmdallpencil,
-          m_palette->cmdsetpairs, m_palette->cmdset1s, m_status->StatLab})
+         {m_side->cmdhint, m_side->cmdreset, m_side->cmdshowsol, m_side->cmdallpencil,
+          m_side->cmdsetpairs, m_side->cmdset1s, m_side->StatLab})
         control->setEnabled(game.hasPuzzle());
     if (focused != nullptr && focused->window() == this && !focused->isEnabled())
         m_board->setFocus(Qt::TabFocusReason);
@@ -218,7 +211,7 @@ void Form1::hidePopup() {
 }
 
 void Form1::showPalette(int pressedItem) {
-    m_palette->showPalette(pressedItem);
+    m_side->palette->showPalette(pressedItem);
     const bool isDigit = pressedItem >= 0 && pressedItem < BoardInput::PaletteEraser;
     m_board->showPaletteDigit(isDigit ? static_cast<char>('1' + pressedItem) : '\0');
 }
@@ -228,9 +221,9 @@ void Form1::showPuzzle(const CurrentPuzzle& puzzle) {
     m_tools->showPuzzleNumber(puzzle.PuzNum, isInFile ? puzzle.PuzCount : 0);
     m_tools->showDifficulty(m_session.difficulty);
     if (isInFile)
-        m_status->showFile(puzzle.PuzPath);
+        m_tools->showFile(puzzle.PuzPath);
     else
-        m_status->showFileText(u"Create a New Puzzle"_s);
+        m_tools->showFileText(u"Create a New Puzzle"_s);
     m_board->showPuzzle();
     Form1::showPlay();
     if (isInFile)
@@ -295,7 +288,7 @@ void Form1::showBusy(bool busy) {
 }
 
 void Form1::beginProgress(const std::filesystem::path& path) {
-    m_status->showFile(path);
+    m_tools->showFile(path);
     m_tools->showPuzzleNumber(0, 0);
     m_tools->progress->begin();
 }

@@ -15,6 +15,7 @@ class Form2x;
 class Form4;
 class RulesStrip;
 class StatisticsForm;
+class StatusLine;
 
 /// The main window: its regions, the commands that their controls give, and its other windows. What
 /// the commands show, it hands on to the region that shows it.
@@ -83,7 +84,7 @@ private:
     MainMenu m_menu;
     ToolRow* m_tools;
     BoardView* m_board;
-    PalettePanel* m_palette;
+    SidePanel* m_side;
     StatusLine* m_status;
     Announcer* m_announcer;
     /// None unless it is asked for.

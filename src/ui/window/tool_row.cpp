@@ -1,7 +1,9 @@
 #include "ui/window/tool_row.h"
 
 #include "ui/controls/box_control.h"
+#include "ui/controls/dialog_parts.h"
 #include "ui/controls/run_progress_bar.h"
+#include "ui/drawing/qt_values.h"
 
 #include <QHBoxLayout>
 #include <QHelpEvent>
@@ -17,11 +19,12 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr int ToolSize = 40;
+constexpr int ToolSize = 44;
 constexpr int ToolPictureSize = 24;
 constexpr int ToolMarkSize = 20;
 constexpr int ToolSpacing = 6;
 constexpr int GroupSpacing = 14;
+constexpr int WidestFileName = 200;
 /// Room for the numbers of a library of a million puzzles; a larger one makes its own.
 constexpr QLatin1String UsualNumber("1000000");
 constexpr int MostDigits = 10;
@@ -33,10 +36,12 @@ constexpr QLatin1String UsualCount(" of 1000");
 
 ToolRow::ToolRow(QWidget* parent)
     : QWidget(parent)
-    , m_row(new QHBoxLayout(this)) {
+    , m_row(new QHBoxLayout(this))
+    , m_fileName(new ElidedLabel(this)) {
     m_row->setContentsMargins(0, 0, 0, 0);
     m_row->setSpacing(ToolSpacing);
     cmdload = addButton(Picture::Load, u"Load a Puzzle File"_s, u"cmdload"_s);
+    addFileName();
     cmdarrow[0] = addButton(Picture::Previous, u"Previous Puzzle"_s, u"cmdarrow_0"_s);
     addNumberBox();
     cmdarrow[1] = addButton(Picture::Next, u"Next Puzzle"_s, u"cmdarrow_1"_s);
@@ -46,13 +51,6 @@ ToolRow::ToolRow(QWidget* parent)
     addGap();
     progress = new RunProgressBar(this);
     m_row->addWidget(progress, 1);
-    addGap();
-    cmdundo = addButton(Picture::Undo, u"Undo"_s, u"cmdundo"_s);
-    cmdredo = addButton(Picture::Redo, u"Redo"_s, u"cmdredo"_s);
-    cmdhint = addButton(Picture::Hint, u"Hint: where, why, what"_s, u"cmdhint"_s);
-    cmdreset = addButton(Picture::Reset, u"Reset Puzzle"_s, u"cmdreset"_s);
-    cmdshowsol = addButton(Picture::ShowSolution, u"Show Solution"_s, u"cmdshowsol"_s);
-    cmdshowsol->setHeld(true);
     showPuzzleNumber(0, 0);
 }
 
@@ -68,6 +66,24 @@ BoxControl* ToolRow::addButton(Picture picture, const QString& toolTip, const QS
 /// Sets the next group apart, as long as nothing else needs the room.
 void ToolRow::addGap() {
     m_row->addSpacerItem(new QSpacerItem(GroupSpacing, 0, QSizePolicy::Maximum));
+}
+
+/// As wide as the name, but not when there is no room for all of it.
+void ToolRow::addFileName() {
+    m_fileName->setObjectName(u"PuzFileName"_s);
+    m_fileName->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
+    m_fileName->setMaximumWidth(WidestFileName);
+    m_row->addWidget(m_fileName);
+}
+
+void ToolRow::showFile(const std::filesystem::path& path) {
+    m_fileName->setText(pathText(path.filename()));
+    m_fileName->setToolTip(plainToolTip(pathText(path)));
+}
+
+void ToolRow::showFileText(const QString& text) {
+    m_fileName->setText(text);
+    m_fileName->setToolTip({});
 }
 
 void ToolRow::addNumberBox() {

@@ -5,6 +5,7 @@
 #include <QWidget>
 
 #include <array>
+#include <filesystem>
 #include <functional>
 
 class QHBoxLayout;
@@ -14,17 +15,22 @@ class QLineEdit;
 namespace tessaly {
 
 class BoxControl;
+class ElidedLabel;
 class PictureView;
 class RunProgressBar;
 enum class Picture;
 
-/// The row of commands above the board.
+/// The row above the board: opening files and walking through them, and creating puzzles.
 class ToolRow : public QWidget {
     Q_OBJECT
 
 public:
     explicit ToolRow(QWidget* parent = nullptr);
 
+    /// Shows a file by its name, with its whole path as the tooltip.
+    void showFile(const std::filesystem::path& path);
+    /// Shows a text in the place of a file's name.
+    void showFileText(const QString& text);
     /// Shows which puzzle of how many is on the board; 0 of 0 clears both.
     void showPuzzleNumber(int number, int count);
     void showDifficulty(DifficultyChoice difficulty);
@@ -40,11 +46,6 @@ public:
     BoxControl* cmdcreate;
     BoxControl* DifLab;
     RunProgressBar* progress;
-    BoxControl* cmdundo;
-    BoxControl* cmdredo;
-    BoxControl* cmdhint;
-    BoxControl* cmdreset;
-    BoxControl* cmdshowsol;
 
 Q_SIGNALS:
     /// Enter was pressed in the box; `number` is 0 when what it holds is no number.
@@ -56,10 +57,12 @@ protected:
 private:
     BoxControl* addButton(Picture picture, const QString& toolTip, const QString& name);
     void addGap();
+    void addFileName();
     void addNumberBox();
     BoxControl* addDifficultyLabel();
 
     QHBoxLayout* m_row;
+    ElidedLabel* m_fileName;          // PuzFileName
     QLineEdit* m_puzNumNow = nullptr; // PuzNumNow
     QLabel* m_puzNumber = nullptr;    // puznumber
     PictureView* m_mark = nullptr;    // PlayMark

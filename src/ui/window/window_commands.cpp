@@ -4,9 +4,9 @@
 #include "ui/controls/box_control.h"
 #include "ui/play/board_view.h"
 #include "ui/play/palette_panel.h"
+#include "ui/play/side_panel.h"
 #include "ui/window/developer_row.h"
 #include "ui/window/main_menu.h"
-#include "ui/window/status_line.h"
 #include "ui/window/tool_row.h"
 
 namespace tessaly {
@@ -111,7 +111,7 @@ void WindowCommands::connectTo(const WindowRegions& regions) {
     };
     connectMenu(regions.menu);
     connectTools(regions.tools, regions.board);
-    connectPalette(regions.palette);
+    connectPalette(*regions.side.palette);
     connectPlay(regions);
     if (regions.developerRow != nullptr)
         connectDeveloperRow(*regions.developerRow);
@@ -148,10 +148,6 @@ void WindowCommands::connectTools(ToolRow& tools, BoardView& board) {
     });
     // It touches neither the board nor a file, so it need not wait.
     QObject::connect(tools.DifLab, &BoxControl::clicked, &tools, [this] { m_creation.DifLab(); });
-    QObject::connect(tools.cmdshowsol, &BoxControl::pressed, &tools,
-                     guarded(*this, [this] { play.cmdshowsolPressed(); }));
-    QObject::connect(tools.cmdshowsol, &BoxControl::released, &tools,
-                     [this] { play.cmdshowsolReleased(); });
 }
 
 void WindowCommands::connectPalette(PalettePanel& palette) {
@@ -165,26 +161,28 @@ void WindowCommands::connectPalette(PalettePanel& palette) {
 /// The menu "Play" and the buttons about the board do the same.
 void WindowCommands::connectPlay(const WindowRegions& regions) {
     const MainMenu& menu = regions.menu;
-    const ToolRow& tools = regions.tools;
-    PalettePanel& palette = regions.palette;
+    const SidePanel& side = regions.side;
     const auto onBoth = [this](QAction* item, BoxControl* button, auto command) {
         onChoice(item, command);
         onClick(button, command);
     };
-    onBoth(menu.mnuundo, tools.cmdundo, [this] { play.cmdundo(); });
-    onBoth(menu.mnuredo, tools.cmdredo, [this] { play.cmdredo(); });
-    onBoth(menu.mnucheck, regions.status.StatLab, [this] { play.StatLab(); });
-    onBoth(menu.mnureset, tools.cmdreset, [this] { play.cmdreset(); });
-    onBoth(menu.mnuallpencil, palette.cmdallpencil, [this] { play.cmdallpencil(); });
+    onBoth(menu.mnuundo, side.cmdundo, [this] { play.cmdundo(); });
+    onBoth(menu.mnuredo, side.cmdredo, [this] { play.cmdredo(); });
+    onBoth(menu.mnucheck, side.StatLab, [this] { play.StatLab(); });
+    onBoth(menu.mnureset, side.cmdreset, [this] { play.cmdreset(); });
+    onBoth(menu.mnuallpencil, side.cmdallpencil, [this] { play.cmdallpencil(); });
     onChoice(menu.mnuclearpencil, [this] { play.cmdallpencilClear(); });
-    onAlternateClick(palette.cmdallpencil, [this] { play.cmdallpencilClear(); });
-    onBoth(menu.mnusetpairs, palette.cmdsetpairs, [this] { play.cmdsetpairs(); });
-    onBoth(menu.mnuset1s, palette.cmdset1s, [this] { play.cmdset1s(); });
-    onBoth(menu.mnuhint, tools.cmdhint, [this] { play.cmdhint(); });
+    onAlternateClick(side.cmdallpencil, [this] { play.cmdallpencilClear(); });
+    onBoth(menu.mnusetpairs, side.cmdsetpairs, [this] { play.cmdsetpairs(); });
+    onBoth(menu.mnuset1s, side.cmdset1s, [this] { play.cmdset1s(); });
+    QObject::connect(side.cmdshowsol, &BoxControl::pressed, side.cmdshowsol,
+                     guarded(*this, [this] { play.cmdshowsolPressed(); }));
+    QObject::connect(side.cmdshowsol, &BoxControl::released, side.cmdshowsol,
+                     [this] { play.cmdshowsolReleased(); });
+    onBoth(menu.mnuhint, side.cmdhint, [this] { play.cmdhint(); });
     QAction* makeMarks = menu.switches.back();
-    QObject::connect(makeMarks, &QAction::toggled, &palette,
-                     [&palette](bool on) { palette.showPencil(on); });
-    QObject::connect(palette.cmdpencil, &BoxControl::clicked, makeMarks, &QAction::toggle);
+    QObject::connect(makeMarks, &QAction::toggled, side.palette, &PalettePanel::showPencil);
+    QObject::connect(side.palette->cmdpencil, &BoxControl::clicked, makeMarks, &QAction::toggle);
     for (std::size_t i = 0; i < AllPlaySwitches.size(); ++i)
         connectSwitch(*menu.switches[i], AllPlaySwitches[i], regions.board);
     const auto nextUnsolved = [this] { m_playBook.mnunextunsolved(); };

@@ -19,7 +19,7 @@ class BoardView;
 class DeveloperRow;
 class MainMenu;
 class PalettePanel;
-class StatusLine;
+class SidePanel;
 class ToolRow;
 
 /// The regions of the main window.
@@ -27,8 +27,7 @@ struct WindowRegions {
     const MainMenu& menu;
     ToolRow& tools;
     BoardView& board;
-    PalettePanel& palette;
-    StatusLine& status;
+    SidePanel& side;
     /// None unless it was asked for.
     DeveloperRow* developerRow;
 };

@@ -1,5 +1,6 @@
 #include "ui/controls/box_control.h"
 
+#include "core/options/scheme_library.h"
 #include "ui/drawing/qt_values.h"
 
 #include <gtest/gtest.h>
@@ -85,6 +86,47 @@ TEST_F(BoxControlTest, ItsTextReadsOnEveryFaceAlsoWhileDisabled) {
             EXPECT_GE(contrastRatio(toColour(m_button.textColour()), enabled ? face : ground),
                       enabled ? 4.5 : 3.0);
         }
+}
+
+/// A state is seen by some of its pixels, and an outline on the ground by all of them.
+TEST_F(BoxControlTest, EveryStateStandsOutInEverySchemeByThreeToOne) {
+    SchemeLibrary schemes(TESSALY_DATA "/");
+    ASSERT_TRUE(schemes.RefreshSchemeList().ok());
+    Appearance look;
+    const auto ratio = [](const QColor& a, const QColor& b) {
+        return contrastRatio(toColour(a), toColour(b));
+    };
+    const auto differs = [&](const QImage& a, const QImage& b) {
+        double most = 0;
+        for (int x = 0; x < a.width(); ++x)
+            most = std::max(most, ratio(a.pixelColor(x, 15), b.pixelColor(x, 15)));
+        return most;
+    };
+    m_button.setText({});
+    m_other.setFocus();
+    for (const std::string& scheme : schemes.names()) {
+        ASSERT_TRUE(schemes.LoadScheme(scheme + ".col", look).ok());
+        m_window.setPalette(schemePalette(look));
+        const QColor ground = m_window.palette().window().color();
+        for (const std::size_t slotNumber : {slot::Background, slot::Button}) {
+            SCOPED_TRACE(scheme + " " + std::to_string(slotNumber));
+            m_button.setFaceColour(toQColor(look.SchemeColours[slotNumber]));
+            const QImage plain = picture();
+            EXPECT_GE(ratio(plain.pixelColor(40, 0), ground), 3);
+            m_button.setEnabled(false);
+            EXPECT_GE(ratio(m_button.textColour(), ground), 3);
+            m_button.setEnabled(true);
+            m_button.setDown(true);
+            EXPECT_GE(differs(picture(), plain), 3) << "pressed";
+            m_button.setDown(false);
+            m_button.setAttribute(Qt::WA_UnderMouse);
+            EXPECT_GE(differs(picture(), plain), 3) << "under the pointer";
+            m_button.setAttribute(Qt::WA_UnderMouse, false);
+            m_button.setFocus();
+            EXPECT_GE(differs(picture(), plain), 3) << "focus";
+            m_other.setFocus();
+        }
+    }
 }
 
 TEST_F(BoxControlTest, MayBeDeletedByWhatItsClickDoes) {

@@ -118,10 +118,23 @@ TEST_F(MainWindow, ResizesFromTheSmallestToAnySize) {
     game.resize(game.window->minimumSizeHint());
     EXPECT_NEAR(game.board().boardToWidget().m11(), 0.6, 0.05);
     EXPECT_EQ(game.board().minimumSize(), QSize(304, 286)) << "whatever stands about it";
-    game.resize({1600, 1200});
-    EXPECT_GT(game.board().boardToWidget().m11(), 2.0);
-    const QPoint palette = game.find(u"digt_0"_s).mapToGlobal(QPoint());
-    EXPECT_LT(game.board().mapFromGlobal(palette).x(), game.board().width() + 40) << "beside it";
+    for (const auto& [size, side] :
+         {std::pair(QSize(900, 500), 44), {QSize(1920, 1080), 56}, {QSize(600, 1000), 44}}) {
+        game.resize(size);
+        const auto placeOf = [&](const QString& name) {
+            const QWidget& part = game.find(name);
+            return QRect(part.mapTo(game.window.get(), QPoint()), part.size());
+        };
+        const QRect board = placeOf(u"Picture2"_s);
+        for (const QString& name : {u"digt_0"_s, u"cmdpencil"_s, u"StatLab"_s, u"cmdset1s"_s}) {
+            EXPECT_GE(placeOf(name).height(), side) << name.toStdString();
+            EXPECT_TRUE(QRect({}, size).contains(placeOf(name)) &&
+                        placeOf(name).left() < board.right() + 5 * side);
+        }
+        EXPECT_LE(placeOf(u"MsgLab"_s).top(), board.bottom() + 30) << "close beneath it";
+        EXPECT_GE(placeOf(u"cmdload"_s).left(), board.left() - 120);
+    }
+    EXPECT_NEAR(game.board().boardToWidget().m11(), 0.76, 0.1) << "what the width has room for";
 }
 
 struct FileDropTest : testing::Test {
