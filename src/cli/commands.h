@@ -2,6 +2,7 @@
 
 #include "cli/console.h"
 #include "core/base/command_line.h"
+#include "core/output/number_list.h"
 #include "core/solver/rating.h"
 
 #include <filesystem>
@@ -24,6 +25,10 @@ Option puzzleFile(std::filesystem::path& target);
 Option puzzleFiles(std::vector<std::filesystem::path>& targets);
 /// The option "--output", where "-" stands for standard output as its absence does: an empty path.
 Option outputFile(std::string description, std::filesystem::path& target);
+
+/// An option that takes a list of puzzles.
+Option numberList(const std::string& names, std::string value, std::string description,
+                  std::optional<NumberList>& target);
 
 /// The option "--stars", "3" or "4-5".
 Option starsOption(std::string description, std::optional<StarRange>& target);

@@ -45,6 +45,14 @@ Option outputFile(std::string description, std::filesystem::path& target) {
     return option;
 }
 
+Option numberList(const std::string& names, std::string value, std::string description,
+                  std::optional<NumberList>& target) {
+    const auto take = [&target](const std::string& given) -> std::string {
+        return NumberList::read(given, target.emplace()).problem;
+    };
+    return {namesIn(names), std::move(value), std::move(description), take};
+}
+
 Option starsOption(std::string description, std::optional<StarRange>& target) {
     const auto take = [&target](const std::string& given) -> std::string {
         const auto isStar = [](char c) { return c >= '1' && c <= '0' + MostStars; };

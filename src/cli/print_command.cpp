@@ -131,14 +131,6 @@ int print(const PrintOptions& options, const Console& console) {
     return status;
 }
 
-Option puzzlesOption(std::optional<NumberList>& target) {
-    const auto take = [&target](const std::string& given) -> std::string {
-        return NumberList::read(given, target.emplace()).problem;
-    };
-    return {namesIn("--puzzles"), "LIST",
-            "Only these puzzles of each file: \"3, 7, 20-24\"; \"90-\" goes on to the last", take};
-}
-
 std::vector<Option> optionsOf(PrintOptions& options) {
     constexpr int WidestLine = 10;
     PageDesign& design = options.design;
@@ -146,7 +138,9 @@ std::vector<Option> optionsOf(PrintOptions& options) {
         puzzleFiles(options.files),
         number("--from", "A", "The first puzzle (by default 1)", options.from, 1),
         number("--to", "B", "The last puzzle (by default the file's last)", options.to, 1),
-        puzzlesOption(options.puzzles),
+        numberList("--puzzles", "LIST",
+                   "Only these puzzles of each file: \"3, 7, 20-24\"; \"90-\" goes on to the last",
+                   options.puzzles),
         choice("--difficulty", "easy|hard", "Only puzzles of that difficulty", options.difficulty),
         starsOption("Only puzzles of so many stars, 1 to 5: 3, or 4-5", options.stars),
         choice("--order", "file|stars",

@@ -40,6 +40,12 @@ public:
             .mid(2);
     }
 
+    /// The whole document in plain text, as it is written; what is wrong with it fails the test.
+    QString content() const {
+        run(QStringLiteral("qpdf"), {QStringLiteral("--check"), m_path});
+        return run(QStringLiteral("qpdf"), {QStringLiteral("--qdf"), m_path, QStringLiteral("-")});
+    }
+
     /// The words of a page, from 1.
     std::vector<Word> words(int page) const {
         static const QRegularExpression Box(QStringLiteral(

@@ -52,6 +52,8 @@ struct BoardStyle {
     double lineWidth = 1;
     /// How much larger numbers are than usual.
     double numberScale = 1;
+    /// Whether anything is painted under the cells.
+    bool isFilled = true;
     /// On paper what lies under the cells is not painted, and the blank hexagon is hatched, for a
     /// solid one would take much ink.
     bool onPaper = false;

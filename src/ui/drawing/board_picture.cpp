@@ -77,6 +77,8 @@ void drawCopyLabels(QPainter& painter, const Board& board) {
 
 void drawLabels(QPainter& painter, const BoardPicture& picture, const Appearance& appearance) {
     painter.setRenderHint(QPainter::Antialiasing);
+    if (!picture.hasLabels)
+        return;
     if (picture.look == BoardPicture::Look::Copy)
         drawCopyLabels(painter, picture.board);
     else
@@ -98,12 +100,28 @@ Appearance appearanceOf(const BoardPicture& picture) {
     appearance.FixedNumberColour = CopyLine;
     appearance.HexaFillColour = CopyBackground;
     appearance.SchemeColours[slot::Background] = CopyBackground;
-    if (contrastRatio(appearance.UserNumberColour, CopyBackground) < LeastContrast)
+    if (picture.isOneInk ||
+        contrastRatio(appearance.UserNumberColour, CopyBackground) < LeastContrast)
         appearance.UserNumberColour = CopyLine;
     return appearance;
 }
 
-QImage drawImage(const BoardPicture& picture, double scale) {
+namespace {
+
+QImage drawTransparent(const BoardPicture& picture, double scale) {
+    QImage image(static_cast<int>(std::lround(PictureWidth * scale)),
+                 static_cast<int>(std::lround(PictureHeight * scale)),
+                 QImage::Format_ARGB32_Premultiplied);
+    if (image.isNull()) // there is not enough memory
+        return {};
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.scale(scale, scale);
+    paintPicture(painter, picture);
+    return image;
+}
+
+QImage drawOpaque(const BoardPicture& picture, double scale) {
     const Appearance appearance = appearanceOf(picture);
     BoardSurface surface;
     surface.setSize({static_cast<int>(std::lround(PictureWidth * scale)),
@@ -121,6 +139,16 @@ QImage drawImage(const BoardPicture& picture, double scale) {
         painter.setTransform(surface.boardToDevice());
         drawLabels(painter, picture, appearance);
     }
+    if (picture.isOneInk)
+        image.convertTo(QImage::Format_Grayscale8);
+    return image;
+}
+
+} // namespace
+
+QImage drawImage(const BoardPicture& picture, double scale) {
+    QImage image =
+        picture.isTransparent ? drawTransparent(picture, scale) : drawOpaque(picture, scale);
     constexpr double DotsPerMeter = 96 / 0.0254;
     image.setDotsPerMeterX(static_cast<int>(std::lround(DotsPerMeter * scale)));
     image.setDotsPerMeterY(static_cast<int>(std::lround(DotsPerMeter * scale)));
@@ -129,9 +157,15 @@ QImage drawImage(const BoardPicture& picture, double scale) {
 
 void paintPicture(QPainter& painter, const BoardPicture& picture) {
     const Appearance appearance = appearanceOf(picture);
-    painter.fillRect(QRectF(0, 0, PictureWidth, PictureHeight),
-                     toQColor(appearance.SchemeColours[slot::Background]));
-    BoardRenderer renderer(painter, picture.board, appearance);
+    BoardStyle style = boardStyle(appearance);
+    style.isFilled = !picture.isTransparent;
+    if (style.isFilled)
+        painter.fillRect(QRectF(0, 0, PictureWidth, PictureHeight),
+                         toQColor(appearance.SchemeColours[slot::Background]));
+    Board board = picture.board;
+    if (picture.solution)
+        board.ResetToGivens(); // the numbers go where entries were
+    BoardRenderer renderer(painter, board, style, appearance.NumberFont, Digits::AsOutlines);
     renderer.DrawBoard();
     if (picture.solution)
         renderer.DrawSolution(solutionColour(picture));

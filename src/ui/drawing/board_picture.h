@@ -19,6 +19,13 @@ struct BoardPicture {
     const Appearance& appearance;
     bool solution = false;
     Look look = Look::Copy;
+    /// Whether the hexagons' numbers and, in a copy, the difficulty and the product's name are
+    /// drawn.
+    bool hasLabels = true;
+    /// Whether nothing is painted under the lines and numbers.
+    bool isTransparent = false;
+    /// Whether all is black.
+    bool isOneInk = false;
 };
 
 /// The colours and settings that a picture is drawn with. What the player has written keeps its

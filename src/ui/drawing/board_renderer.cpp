@@ -116,6 +116,8 @@ void BoardRenderer::fillHexagon(int hexagon) {
         drawHatching(hexagon);
         return;
     }
+    if (!m_style.isFilled && !m_board.isBlank(hexagon))
+        return;
     m_painter.setPen(Qt::NoPen);
     m_painter.setBrush(toQColor(m_board.isBlank(hexagon) ? m_style.solid : m_style.fill));
     m_painter.drawPolygon(outlineOf(hexagon));

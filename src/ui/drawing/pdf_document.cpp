@@ -59,7 +59,7 @@ public:
         const std::vector<double> mixed = numbers();
         if ((isFill || token.getValue() == "SCN") && mixed.size() == 3 && mixed[0] == mixed[1] &&
             mixed[1] == mixed[2])
-            write(QUtil::double_to_string(mixed[0]) + (isFill ? " g" : " G"));
+            write("\n" + QUtil::double_to_string(mixed[0]) + (isFill ? " g" : " G"));
         else
             for (const auto& each : m_operands)
                 writeToken(each);

@@ -3,7 +3,7 @@
 #include "core/base/product.h"
 #include "core/files/file_access.h"
 #include "core/play/board_geometry.h"
-#include "ui/drawing/pdf_file.h"
+#include "ui/drawing/pdf_document.h"
 #include "ui/drawing/qt_values.h"
 
 #include <QBuffer>
@@ -37,7 +37,8 @@ Outcome paintOn(QPaintDevice& device, const BoardPicture& picture, double dotsPe
     if (!painter.begin(&device))
         return Outcome::failed("the picture cannot be made");
     // A page is a whole number of points, and so a bit larger than the picture.
-    painter.fillRect(QRect(0, 0, device.width(), device.height()), groundOf(picture));
+    if (!picture.isTransparent)
+        painter.fillRect(QRect(0, 0, device.width(), device.height()), groundOf(picture));
     painter.scale(dotsPerUnit, dotsPerUnit);
     paintPicture(painter, picture);
     painter.end();
@@ -54,7 +55,7 @@ void setExactSize(QByteArray& svg, QSizeF size) {
     svg = text.toUtf8();
 }
 
-Outcome paintSvg(QIODevice& file, const BoardPicture& picture, double scale) {
+Outcome writeSvg(const ContentSink& sink, const BoardPicture& picture, double scale) {
     const QSizeF size(PictureWidth * scale, PictureHeight * scale);
     QByteArray text;
     QBuffer buffer(&text);
@@ -65,19 +66,26 @@ Outcome paintSvg(QIODevice& file, const BoardPicture& picture, double scale) {
     svg.setViewBox(QRectF(QPointF(), size));
     svg.setTitle(QString::fromLatin1(Product::Name));
     svg.setDescription({});
-    Outcome painted = paintOn(svg, picture, scale);
+    if (Outcome painted = paintOn(svg, picture, scale); !painted.ok())
+        return painted;
     setExactSize(text, size);
-    file.write(text);
-    return painted;
+    return sink.write({text.constData(), static_cast<std::size_t>(text.size())});
 }
 
-Outcome paintPdf(QIODevice& file, const BoardPicture& picture, double scale) {
-    QPdfWriter pdf(&file);
-    const QSizeF points = QSizeF(PictureWidth, PictureHeight) * PointsPerUnit * scale;
-    const QPageSize size(points, QPageSize::Point, {}, QPageSize::ExactMatch);
-    pdf.setPageLayout(QPageLayout(size, QPageLayout::Portrait, {}));
-    pdf.setTitle(QString::fromLatin1(Product::Name));
-    return paintOn(pdf, picture, scale * pdf.logicalDpiX() / 96);
+Outcome writePdf(const ContentSink& sink, const BoardPicture& picture, double scale) {
+    QByteArray painted;
+    QBuffer buffer(&painted);
+    buffer.open(QIODevice::WriteOnly);
+    {
+        QPdfWriter pdf(&buffer);
+        const QSizeF points = QSizeF(PictureWidth, PictureHeight) * PointsPerUnit * scale;
+        const QPageSize size(points, QPageSize::Point, {}, QPageSize::ExactMatch);
+        pdf.setPageLayout(QPageLayout(size, QPageLayout::Portrait, {}));
+        if (Outcome page = paintOn(pdf, picture, scale * pdf.logicalDpiX() / 96); !page.ok())
+            return page;
+    }
+    return finishPdf({painted.constData(), static_cast<std::size_t>(painted.size())},
+                     {.title = Product::Name, .oneInk = picture.isOneInk}, sink);
 }
 
 } // namespace
@@ -113,10 +121,7 @@ Outcome writePictureDocument(const std::filesystem::path& path, const BoardPictu
         return writePicture(path, drawImage(picture, scale), PictureFormat::Png);
     const bool isSvg = extension == QLatin1String(".svg");
     return replaceFile(path, [&](const ContentSink& sink) {
-        SinkDevice file(sink);
-        const Outcome painted =
-            isSvg ? paintSvg(file, picture, scale) : paintPdf(file, picture, scale);
-        return painted.ok() ? file.finish() : painted;
+        return isSvg ? writeSvg(sink, picture, scale) : writePdf(sink, picture, scale);
     });
 }
 

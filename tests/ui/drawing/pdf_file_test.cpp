@@ -95,4 +95,28 @@ TEST_F(PdfFile, HoldsEveryNumberCaptionAndFooterOnEitherPaper) {
     }
 }
 
+TEST_F(PdfFile, LeadsFromPuzzlesToSolutionsAndBackAndTellsWhatItIs) {
+    qputenv("SOURCE_DATE_EPOCH", "1700000000");
+    PrintJob job{samples(3, 2), {.puzzlesPerPage = 1}, "Sample \u2605"};
+    const auto goOn = [](int, int) { return true; };
+    const auto made = [&] {
+        EXPECT_EQ(writePdf(path, NamedPapers[0].size, job, appearance, goOn).outcome.problem, "");
+        return contentOf(path);
+    };
+    const std::string first = made();
+    EXPECT_EQ(made(), first) << "byte for byte";
+    qunsetenv("SOURCE_DATE_EPOCH");
+    const PdfDocument pdf(path);
+    const QString content = pdf.content();
+    EXPECT_EQ(content.count(u"/Subtype /Link"_s), 4);
+    for (const QString& bookmark : {u"Puzzles"_s, u"Solutions"_s, u"Puz# 3"_s, u"Sol# 4"_s})
+        EXPECT_TRUE(content.contains(u"/Title ("_s + bookmark + u')')) << bookmark.toStdString();
+    EXPECT_EQ(pdf.info(u"Title"_s), u"Sample \u2605"_s);
+    EXPECT_EQ(pdf.info(u"Author"_s), u"Tessaly"_s);
+    EXPECT_TRUE(pdf.info(u"CreationDate"_s).contains(u"Nov 14"_s));
+    job.pages = pagesOfCopies({1, 2}, {2, true, true});
+    made();
+    EXPECT_EQ(pdf.content().count(u"/Subtype /Link"_s), 2) << "of the pages that are there";
+}
+
 } // namespace tessaly::pdf_file_test

@@ -1,3 +1,5 @@
+#include "core/files/file_access.h"
+#include "core/play/board_geometry.h"
 #include "support/command_line.h"
 #include "support/pdf_document.h"
 #include "support/process.h"
@@ -32,7 +34,15 @@ TEST_F(DrawingCommands, RenderDrawsEveryKindOfPicture) {
     EXPECT_EQ(svg.viewBox().size(), QSize(1012, 952));
     const QImage night(make("render", "e.png", "--number 2 --scheme night"));
     EXPECT_LT(night.pixelColor(2, 470).lightness(), 100);
+    make("render", "p%03d.png", "--numbers 2,12-13 --plain --transparent");
+    const QImage clear(QString::fromStdString(folder / "p002.png"));
+    const Point inACell = hexagonCentre(10) + Point{0, HalfHeight - 4};
+    EXPECT_EQ(clear.pixelColor(QPointF(inACell.x, inACell.y).toPoint()).alpha(), 0);
+    EXPECT_TRUE(FileExists(folder / "p013.png") && !FileExists(folder / "p014.png"));
+    make("render", "d.pdf", "--number 2 --one-ink");
+    EXPECT_TRUE(PdfDocument(folder / "d.pdf").content().contains(u"0 g"));
     make("render", "d.pdf", "--number 2");
+    EXPECT_FALSE(PdfDocument(folder / "d.pdf").content().contains(u"\n0 g"));
     EXPECT_TRUE(PdfDocument(folder / "d.pdf").info(u"Page size"_s).startsWith(u"380 x 357"_s));
 }
 
@@ -74,7 +84,9 @@ TEST_F(DrawingCommands, WhatCannotBeDoneIsSaidOnOneLineAndLeavesNothing) {
              {"render " + broken + " --number 1 --output " + link, 2, link + " is the puzzle"},
              {"render " + broken + " --number 41" + Out, 1, broken + ": line 41: "},
              {"render " + Easy + " --number 1 --output /nowhere/o.png", 1, "No such file"},
-             {"render " + Easy + " --number 41" + Out, 1, "41: there is no"},
+             {"render " + Easy + " --number 41" + Out, 1, "no puzzle 41 among"},
+             {"render " + Easy + " --numbers 1-2" + Out, 2, "has no %d"},
+             {"render " + Easy + " --number 1 --one-ink --scheme night" + Out, 2, "--one-ink"},
              {"render " + Easy + " --number 1 --output x.gif", 2, "x.gif"},
              {"render " + Easy + " --number 1 --scheme no" + Out, 1, "no.col"},
              {"render " + Easy + Out, 2, "--number"}}) {
