@@ -21,6 +21,8 @@ class LockedFile;
 
 /// The puzzle file in the program's folder that puzzles without a file of their own go to.
 inline constexpr std::string_view TemporaryPuzzleFile = "temporarypuzfile.txt";
+/// Where those of the days live.
+inline constexpr std::string_view DayPuzzleFile = "today.txt";
 
 /// "FILE: line N: what is wrong".
 std::string lineProblem(const std::filesystem::path& path, int number, std::string_view problem);

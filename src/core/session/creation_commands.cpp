@@ -1,6 +1,8 @@
 #include "core/session/creation_commands.h"
 
+#include "core/board/puzzle_record.h"
 #include "core/solver/generator.h"
+#include "core/solver/puzzle_of_day.h"
 
 #include <string>
 
@@ -13,6 +15,20 @@ DifficultyChoice stepAfter(DifficultyChoice shown) {
     const auto next = static_cast<std::size_t>(*shown) + 1;
     return next < Difficulties.size() ? DifficultyChoice(Difficulties[next].difficulty)
                                       : std::nullopt;
+}
+
+std::string inBrackets(Difficulty difficulty) {
+    return " (" + std::string(nameOf(difficulty)) + ")";
+}
+
+/// The number of a record in a file; 0 when it is not there.
+int numberOf(std::string_view record, const std::filesystem::path& path) {
+    int number = 0;
+    const Outcome read = forEachRecord(path, [&](RecordLine line) {
+        number = line.text == record ? line.number : 0;
+        return number == 0;
+    });
+    return read.ok() ? number : 0;
 }
 
 } // namespace
@@ -33,17 +49,29 @@ void CreationCommands::DifLab() {
 void CreationCommands::cmdcreate() {
     const DifficultyChoice asked = m_session.difficulty;
     const Difficulty difficulty = drawDifficulty(asked, m_chance);
-    const std::string inBrackets = " (" + std::string(nameOf(difficulty)) + ")";
-    m_display.showMessage("Creating Puzzle" + inBrackets + " ...");
+    m_display.showMessage("Creating Puzzle" + inBrackets(difficulty) + " ...");
     {
         const WhileSet running(m_session.busy.commandRunning);
         create(difficulty);
         save();
     }
+    tellCreated(asked, "New Puzzle Created", difficulty);
+}
+
+void CreationCommands::mnutoday(std::chrono::year_month_day day) {
+    const DifficultyChoice asked = m_session.difficulty;
+    // Not those of the session, which are the player's own to change.
+    const SearchFill fill(allArrangements());
+    saveForDay(puzzleOfDay(day, asked, fill));
+    tellCreated(asked, "Today's Puzzle", m_session.game.board.difficulty);
+}
+
+void CreationCommands::tellCreated(DifficultyChoice asked, std::string_view what,
+                                   Difficulty difficulty) {
     // Showing the puzzle put its own difficulty on the label.
     m_session.difficulty = asked;
     m_display.showDifficulty(asked);
-    m_display.showMessage("New Puzzle Created" + inBrackets);
+    m_display.showMessage(std::string(what) + inBrackets(difficulty));
     m_display.focusBoard();
 }
 
@@ -60,7 +88,23 @@ void CreationCommands::save() {
     const std::filesystem::path current = m_session.puzzle.PuzPath;
     const std::filesystem::path path = current.empty() ? m_files.temporaryFile() : current;
     int number = 0;
-    Outcome saved = m_files.append(path, number);
+    const Outcome saved = m_files.append(path, number);
+    showWhereItStands(path, number, saved);
+}
+
+void CreationCommands::saveForDay(std::string_view record) {
+    const std::filesystem::path path = m_session.ProgramFolder / DayPuzzleFile;
+    int number = numberOf(record, path);
+    Outcome saved = Outcome::done();
+    if (number == 0)
+        saved = m_session.files.appendPuzzle(path, record, number);
+    if (!saved.ok() && readRecord(record, m_session.game.board).ok())
+        m_session.game.startPuzzle();
+    showWhereItStands(path, number, saved);
+}
+
+void CreationCommands::showWhereItStands(const std::filesystem::path& path, int number,
+                                         Outcome saved) {
     if (saved.ok())
         saved = {m_files.ReadPuzzle(path, number).reason};
     // A puzzle that cannot be saved can be played all the same.

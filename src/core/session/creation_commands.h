@@ -4,6 +4,8 @@
 #include "core/solver/chance.h"
 #include "core/solver/search_fill.h"
 
+#include <chrono>
+
 namespace tessaly {
 
 /// The commands that make new puzzles, by the names of the controls that start them.
@@ -16,10 +18,16 @@ public:
     /// Makes one puzzle of the difficulty that the label shows, appends it to the current puzzle
     /// file (to the temporary one when there is none), and shows it there.
     void cmdcreate();
+    /// Shows the puzzle of a day and of the difficulty that the label shows, the same for
+    /// everybody. "today.txt" keeps those that were asked for.
+    void mnutoday(std::chrono::year_month_day day);
 
 private:
     void create(Difficulty difficulty);
     void save();
+    void saveForDay(std::string_view record);
+    void showWhereItStands(const std::filesystem::path& path, int number, Outcome saved);
+    void tellCreated(DifficultyChoice asked, std::string_view what, Difficulty difficulty);
 
     Session& m_session;
     PuzzleFileCommands& m_files;

@@ -19,17 +19,18 @@ enum class Reason {
     Xcell,  ///< of the three pairs at a corner only this one can hold it
 };
 
-/// A reason in one word.
+/// A reason in one word, and said of the numbers that it places.
 struct ReasonEntry {
     Reason reason;
     std::string_view word;
+    std::string_view description;
 };
 inline constexpr std::array<ReasonEntry, 5> Reasons{{
-    {Reason::Across, "across"},
-    {Reason::Last, "last"},
-    {Reason::Place, "place"},
-    {Reason::Cell, "cell"},
-    {Reason::Xcell, "xcell"},
+    {Reason::Across, "across", "Numbers across a side"},
+    {Reason::Last, "last", "Last numbers of a hexagon"},
+    {Reason::Place, "place", "Numbers with one place left in a hexagon"},
+    {Reason::Cell, "cell", "Triangles with one number left"},
+    {Reason::Xcell, "xcell", "Pairs that alone can hold a number at a corner"},
 }};
 
 /// A number that follows from what stands on the board.

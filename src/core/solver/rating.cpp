@@ -51,4 +51,15 @@ std::optional<Rating> ratePuzzle(Board board) {
     return rating;
 }
 
+std::string inWords(const Rating& rating) {
+    std::string words = std::to_string(rating.stars)
+                            .append(" of ")
+                            .append(std::to_string(MostStars))
+                            .append(" stars");
+    for (const ReasonEntry& entry : Reasons)
+        if (const int steps = rating.steps[static_cast<std::size_t>(entry.reason)]; steps > 0)
+            words.append("\n").append(entry.description).append(": ").append(std::to_string(steps));
+    return words;
+}
+
 } // namespace tessaly

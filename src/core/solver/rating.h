@@ -5,6 +5,7 @@
 
 #include <array>
 #include <optional>
+#include <string>
 
 namespace tessaly {
 
@@ -22,6 +23,9 @@ struct Rating {
 
     friend bool operator==(const Rating&, const Rating&) = default;
 };
+
+/// "4 of 5 stars", and a line for each reason that is needed, with how often it is.
+std::string inWords(const Rating& rating);
 
 /// Rates a puzzle from its givens; nothing when the steps do not lead to its solution.
 std::optional<Rating> ratePuzzle(Board board);

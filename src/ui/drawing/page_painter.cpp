@@ -3,6 +3,7 @@
 #include "core/base/product.h"
 #include "core/board/tables.h"
 #include "ui/drawing/qt_values.h"
+#include "ui/drawing/star_drawing.h"
 
 #include <QFontMetricsF>
 #include <QGuiApplication>
@@ -12,8 +13,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
-#include <numbers>
 
 namespace tessaly {
 namespace {
@@ -53,18 +52,6 @@ QString captionOf(int number, bool solution) {
 }
 
 /// A star about `centre` with one tip up.
-QPolygonF starAbout(QPointF centre, double radius) {
-    constexpr int Tips = 5;
-    constexpr double Waist = 0.42;
-    QPolygonF star;
-    for (int i = 0; i < 2 * Tips; ++i) {
-        const double angle = std::numbers::pi * i / Tips;
-        const double distance = i % 2 == 0 ? radius : Waist * radius;
-        star << centre + distance * QPointF(std::sin(angle), -std::cos(angle));
-    }
-    return star;
-}
-
 /// The six places in a corner of a cell, beside its level side: one, and beside it towards the
 /// other sides two and three.
 std::array<Point, MarkPlaces> markCornerOf(CellId cell) {
@@ -245,16 +232,11 @@ void PagePainter::drawCaptions(const PrintedPuzzle& puzzle, bool solution, const
         drawText(m_painter, {area.left, baseline + SecondLine * size},
                  QString::fromStdString(puzzle.file), {m_family, 0.8 * size}, TextAnchor::Left,
                  narrow);
-    if (m_job.design.stars && puzzle.stars > 0)
-        drawStars(puzzle.stars, {area.right, baseline + 0.95 * size}, 0.8 * size);
-}
-
-void PagePainter::drawStars(int stars, QPointF right, double size) {
-    m_painter.setPen(QPen(Qt::black, 0.05 * size));
-    for (int star = 1; star <= MostStars; ++star) {
-        m_painter.setBrush(star <= stars ? QBrush(Qt::black) : QBrush(Qt::NoBrush));
-        m_painter.drawPolygon(
-            starAbout(right - QPointF((MostStars - star + 0.5) * size, 0), 0.46 * size));
+    if (m_job.design.stars && puzzle.stars > 0) {
+        const QSizeF extent(0.8 * size * MostStars, 0.8 * size);
+        m_painter.setPen(QPen(Qt::black, 0.05 * extent.height()));
+        drawStars(m_painter, puzzle.stars,
+                  {QPointF(area.right - extent.width(), baseline + 0.55 * size), extent});
     }
 }
 

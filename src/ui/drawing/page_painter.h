@@ -49,7 +49,6 @@ private:
     void drawMarkGrid();
     /// The captions stand in the corners that the board leaves empty.
     void drawCaptions(const PrintedPuzzle& puzzle, bool solution, const Rect& area);
-    void drawStars(int stars, QPointF right, double size);
 
     QPainter& m_painter;
     const PrintJob& m_job;

@@ -87,6 +87,7 @@ void MainMenu::buildFileMenu(QMenu& menu) {
 void MainMenu::buildCreateMenu(QMenu& menu) {
     createSingle = addItem(menu, u"&Single Puzzle"_s, u"mnucreaten"_s, 0);
     createMultiple = addItem(menu, u"&Multiple Puzzles"_s, u"mnucreaten"_s, 1);
+    mnutoday = addCommand(menu, u"&Today's Puzzle"_s, u"mnutoday"_s);
     addCancel(menu, u"mnucreaten"_s, 2);
 }
 

@@ -45,6 +45,7 @@ public:
 
     QAction* createSingle;   // mnucreaten, item 0
     QAction* createMultiple; // mnucreaten, item 1
+    QAction* mnutoday;
 
     QMenu* mnusavez;
     QAction* mnusavex;

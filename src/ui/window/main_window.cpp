@@ -23,6 +23,7 @@
 #include "ui/window/developer_row.h"
 #include "ui/window/file_drop.h"
 #include "ui/window/shortcuts.h"
+#include "ui/window/star_row.h"
 #include "ui/window/status_line.h"
 #include "ui/window/tool_row.h"
 #include "ui/window/window_body.h"
@@ -220,6 +221,8 @@ void Form1::showPuzzle(const CurrentPuzzle& puzzle) {
     const bool isInFile = puzzle.PuzNum > 0;
     m_tools->showPuzzleNumber(puzzle.PuzNum, isInFile ? puzzle.PuzCount : 0);
     m_tools->showDifficulty(m_session.difficulty);
+    const Game& game = m_session.game;
+    m_tools->stars->showRating(game.hasPuzzle() ? ratePuzzle(game.board) : std::nullopt);
     if (isInFile)
         m_tools->showFile(puzzle.PuzPath);
     else

@@ -25,6 +25,7 @@ inline constexpr std::array Shortcuts{
     Shortcut{"cmdexit", "Ctrl+Q"},
     Shortcut{"mnucreaten_0", "Ctrl+N"},
     Shortcut{"mnucreaten_1", "Ctrl+Shift+N"},
+    Shortcut{"mnutoday", "Ctrl+D"},
     Shortcut{"mnusavex", "Ctrl+Shift+S"},
     Shortcut{"mnusaveto", "Ctrl+S"},
     Shortcut{"mnucapwin", "Ctrl+E"},

@@ -4,6 +4,7 @@
 #include "ui/controls/dialog_parts.h"
 #include "ui/controls/run_progress_bar.h"
 #include "ui/drawing/qt_values.h"
+#include "ui/window/star_row.h"
 
 #include <QHBoxLayout>
 #include <QHelpEvent>
@@ -48,6 +49,8 @@ ToolRow::ToolRow(QWidget* parent)
     addGap();
     cmdcreate = addButton(Picture::Create, u"Create a New Puzzle"_s, u"cmdcreate"_s);
     DifLab = addDifficultyLabel();
+    stars = new StarRow(this);
+    m_row->addWidget(stars);
     addGap();
     progress = new RunProgressBar(this);
     m_row->addWidget(progress, 1);

@@ -18,6 +18,7 @@ class BoxControl;
 class ElidedLabel;
 class PictureView;
 class RunProgressBar;
+class StarRow;
 enum class Picture;
 
 /// The row above the board: opening files and walking through them, and creating puzzles.
@@ -45,6 +46,7 @@ public:
     std::array<BoxControl*, 2> cmdarrow;
     BoxControl* cmdcreate;
     BoxControl* DifLab;
+    StarRow* stars;
     RunProgressBar* progress;
 
 Q_SIGNALS:

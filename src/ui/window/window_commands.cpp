@@ -22,6 +22,12 @@ auto guarded(WindowCommands& commands, Command command,
     };
 }
 
+/// The day that the desktop's calendar shows.
+std::chrono::year_month_day today() {
+    const auto days = QDate(1970, 1, 1).daysTo(QDate::currentDate());
+    return std::chrono::sys_days(std::chrono::days(days));
+}
+
 } // namespace
 
 WindowCommands::WindowCommands(Session& session, const CommandWindow& window)
@@ -218,6 +224,7 @@ void WindowCommands::connectCreation(const MainMenu& menu, const ToolRow& tools,
     onClick(tools.cmdcreate, createOne);
     onChoice(menu.createSingle, createOne);
     onChoice(menu.createMultiple, [this] { m_multipleCreation.run(); });
+    onChoice(menu.mnutoday, [this] { m_creation.mnutoday(today()); });
 }
 
 } // namespace tessaly

@@ -66,6 +66,24 @@ TEST_F(CreationTest, WithoutAFileItGoesToTheTemporaryOneAndTheLabelKeepsRandom) 
     EXPECT_TRUE(session.game.hasPuzzle()) << "it is played all the same";
 }
 
+TEST_F(CreationTest, ADayHasOnePuzzleOfEachDifficultyWhichIsKeptOnce) {
+    using namespace std::chrono_literals;
+    std::vector<std::string> shown;
+    for (const auto& [day, difficulty, place] : {std::tuple(21d, Difficulty::Easy, "1/1"),
+                                                 {21d, Difficulty::Hard, "2/2"},
+                                                 {22d, Difficulty::Easy, "3/3"},
+                                                 {21d, Difficulty::Easy, "1/3"}}) {
+        session.difficulty = difficulty;
+        single->mnutoday(2026y / 11 / day);
+        const std::string name(nameOf(difficulty));
+        EXPECT_EQ(seen(), place + (" today.txt: Today's Puzzle (" + name) + ")");
+        EXPECT_EQ(session.game.board.DifName(), name);
+        shown.push_back(display.puzzle.record);
+    }
+    EXPECT_EQ(shown[0], shown[3]);
+    EXPECT_EQ(std::set(shown.begin(), shown.end()).size(), 3u);
+}
+
 TEST_F(CreationTest, ManyAreAskedForThenAppendedAndAllDiffer) {
     fileOf("out.txt", records[0] + "\r\n\r\n  "); // blank lines behind it
     files.load(out);

@@ -59,6 +59,12 @@ TEST_F(MainWindow, CreatesAPuzzleOfTheShownDifficulty) {
     game.click(u"DifLab"_s);
     game.choose(u"mnucreaten_0"_s);
     EXPECT_TRUE(shown().endsWith(u": 3 of 3 Random"_s)) << shown().toStdString();
+    game.click(u"DifLab"_s);
+    game.choose(u"mnutoday"_s);
+    EXPECT_EQ(game.message(), u"Today's Puzzle (Easy)"_s);
+    EXPECT_EQ(shown(), u"today.txt: 1 of 1 Easy"_s);
+    EXPECT_EQ(game.find<QWidget>(u"Stars"_s).toolTip().toStdString(),
+              inWords(*ratePuzzle(game.session.game.board)));
 }
 
 TEST_F(MainWindow, ExitAsksAndRemembersAndTheCloseBoxRemembersTheSizeOnly) {
