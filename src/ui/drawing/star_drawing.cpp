@@ -30,8 +30,8 @@ void drawStars(QPainter& painter, int stars, const QRectF& area) {
     const double place = area.width() / MostStars;
     for (int star = 0; star < MostStars; ++star) {
         painter.setBrush(star < stars ? QBrush(painter.pen().color()) : QBrush(Qt::NoBrush));
-        painter.drawPolygon(starAbout({area.left() + (star + 0.5) * place, area.center().y()},
-                                      Radius * place));
+        painter.drawPolygon(
+            starAbout({area.left() + (star + 0.5) * place, area.center().y()}, Radius * place));
     }
 }
 
