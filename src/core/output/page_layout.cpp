@@ -16,14 +16,16 @@ constexpr double GapDown = 12;
 constexpr double FootGap = 16;
 
 /// Where the first of `count` things begins that lie from `from` to `to`, and how far apart they
-/// begin. The space about them is the same everywhere, but for the margin before and behind.
+/// begin. The space about them is the same everywhere, as far as the margin before and behind and
+/// the least gap between them allow.
 struct Spread {
     double first;
     double pitch;
 };
-Spread spread(double from, double to, double margin, double size, int count) {
+Spread spread(double from, double to, double margin, double gap, double size, int count) {
     const double free = to - from + 2 * margin - count * size;
-    const double edge = std::max(margin, free / (count + 1));
+    const double beside = std::min(free / (count + 1), (free - (count - 1) * gap) / 2);
+    const double edge = std::max(margin, beside);
     const double between = count > 1 ? (free - 2 * edge) / (count - 1) : 0;
     return {from - margin + edge, size + between};
 }
@@ -66,8 +68,8 @@ Rect BoardGrid::boardArea(int place, int boards) const {
     const double width = BoardExtent.width() * m_scale;
     const double height = BoardExtent.height() * m_scale;
     const int columns = std::min(m_columns, boards);
-    const Spread across = spread(m_area.left, m_area.right, m_margin, width, columns);
-    const Spread down = spread(m_area.top, m_area.bottom, 0, height, m_rows);
+    const Spread across = spread(m_area.left, m_area.right, m_margin, GapAcross, width, columns);
+    const Spread down = spread(m_area.top, m_area.bottom, 0, GapDown, height, m_rows);
     const double left = across.first + place % columns * across.pitch;
     const double top = down.first + place / columns * down.pitch;
     return {left, top, left + width, top + height};

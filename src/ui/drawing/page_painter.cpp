@@ -51,25 +51,28 @@ QString captionOf(int number, bool solution) {
     return (solution ? u"Sol# "_s : u"Puz# "_s) + QString::number(number);
 }
 
-/// A star about `centre` with one tip up.
-/// The six places in a corner of a cell, beside its level side: one, and beside it towards the
-/// other sides two and three.
+/// The six places in a corner of a cell at its level side: one in the corner, and beside it towards
+/// the slanted side two and three. It is the outer corner, for in the middle is the hexagon's
+/// number.
 std::array<Point, MarkPlaces> markCornerOf(CellId cell) {
     constexpr double First = 0.085;
     constexpr double Step = 0.105;
-    auto [tip, left, right] = cellTriangle(cell);
-    if (left.y != right.y)
-        left.y == tip.y ? std::swap(right, tip) : std::swap(left, tip);
-    if (left.x > right.x)
-        std::swap(left, right);
+    const auto [centre, second, third] = cellTriangle(cell);
+    const Point left = second.x < third.x ? second : third;
+    const Point right = second.x < third.x ? third : second;
+    // The side opposite the centre is level in the middle cells, else one that leads there.
+    const bool isMiddle = left.y == right.y;
+    const Point corner = isMiddle || left.y == centre.y ? left : right;
+    const Point along = isMiddle ? right : centre;
+    const Point tip = isMiddle ? centre : corner == left ? right : left;
     std::array<Point, MarkPlaces> places;
     std::size_t place = 0;
     for (int row = 0; row < MarksInARow; ++row)
         for (int i = 0; i <= row; ++i) {
-            const double along = First + (row - i) * Step;
+            const double level = First + (row - i) * Step;
             const double up = First + i * Step;
-            places[place++] = {left.x + along * (right.x - left.x) + up * (tip.x - left.x),
-                               left.y + along * (right.y - left.y) + up * (tip.y - left.y)};
+            places[place++] = {corner.x + level * (along.x - corner.x) + up * (tip.x - corner.x),
+                               corner.y + level * (along.y - corner.y) + up * (tip.y - corner.y)};
         }
     return places;
 }
@@ -233,10 +236,10 @@ void PagePainter::drawCaptions(const PrintedPuzzle& puzzle, bool solution, const
                  QString::fromStdString(puzzle.file), {m_family, 0.8 * size}, TextAnchor::Left,
                  narrow);
     if (m_job.design.stars && puzzle.stars > 0) {
-        const QSizeF extent(0.8 * size * MostStars, 0.8 * size);
+        const QSizeF extent(0.62 * size * MostStars, 0.62 * size);
         m_painter.setPen(QPen(Qt::black, 0.05 * extent.height()));
         drawStars(m_painter, puzzle.stars,
-                  {QPointF(area.right - extent.width(), baseline + 0.55 * size), extent});
+                  {QPointF(area.right - extent.width(), baseline + 0.49 * size), extent});
     }
 }
 

@@ -1,5 +1,6 @@
 #include "ui/drawing/pdf_file.h"
 
+#include "core/base/run_progress.h"
 #include "core/files/file_access.h"
 #include "ui/drawing/page_painter.h"
 #include "ui/drawing/pdf_document.h"
@@ -10,6 +11,7 @@
 #include <QPainter>
 #include <QPdfWriter>
 
+#include <future>
 #include <map>
 #include <numeric>
 
@@ -116,6 +118,16 @@ PdfExtras extrasOf(const PrintJob& job, const Pages& pages) {
     return extras;
 }
 
+/// Completes a document on a thread of its own: thousands of pages take a while.
+Outcome finish(const QByteArray& painted, const PdfExtras& extras, const ContentSink& sink,
+               const std::function<void()>& meanwhile) {
+    const std::string_view bytes(painted.constData(), static_cast<std::size_t>(painted.size()));
+    auto finishing = std::async(std::launch::async, [&] { return finishPdf(bytes, extras, sink); });
+    while (finishing.wait_for(Turn) == std::future_status::timeout)
+        meanwhile();
+    return finishing.get();
+}
+
 } // namespace
 
 void scaleToPoints(QPainter& painter) {
@@ -138,12 +150,13 @@ PrintResult writePdf(const std::filesystem::path& path, PaperSize paper, const P
             setUp(writer, paper);
             result = paintBooklet(writer, job, pages, appearance, goOn);
         }
-        if (result.stopped)
-            return Outcome::failed("stopped");
-        return result.outcome.ok()
-                   ? finishPdf({painted.constData(), static_cast<std::size_t>(painted.size())},
-                               extrasOf(job, pages), sink)
-                   : result.outcome;
+        Outcome outcome = result.outcome;
+        if (result.isComplete())
+            outcome = finish(painted, extrasOf(job, pages), sink, [&] {
+                const auto all = static_cast<int>(pages.size());
+                result.stopped = result.stopped || !goOn(all, all);
+            });
+        return result.stopped ? Outcome::failed("stopped") : outcome;
     };
     const Outcome written = replaceFile(path, write, wait);
     if (!result.stopped)
