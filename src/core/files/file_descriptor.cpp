@@ -165,7 +165,9 @@ bool patiently(const std::function<bool()>& attempt) {
     for (auto waited = 0us; !attempt(); waited += pause) {
         if (waited > Patience)
             return false;
-        pause = std::min<std::chrono::microseconds>(2 * pause, 5ms);
+        // Seldom enough to cost nothing, often enough to find the moment between two writes of
+        // one who writes all the time.
+        pause = std::min<std::chrono::microseconds>(2 * pause, 1ms);
         std::this_thread::sleep_for(pause);
     }
     return true;
