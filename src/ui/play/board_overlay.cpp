@@ -10,6 +10,7 @@
 #include <QPainterPath>
 
 #include <array>
+#include <utility>
 
 namespace tessaly {
 namespace {
@@ -22,6 +23,7 @@ constexpr double FadedStrength = 0.72;
 
 // In board units.
 constexpr double OutlineWidth = 3;
+constexpr double OutlineRim = 2;
 constexpr double BrokenSideWidth = 4;
 constexpr double UnderlineWidth = 2;
 constexpr double UnderlineLength = 14;
@@ -90,8 +92,8 @@ void BoardOverlay::paintEvent(QPaintEvent*) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setTransform(m_boardToWidget, true);
     const Highlights found = highlightsOf(m_board, m_switches, m_looked, m_digit);
-    paintLooked(painter, found);
     paintImpossible(painter, found);
+    paintLooked(painter, found);
     paintBroken(painter, found);
     paintHint(painter);
 }
@@ -151,16 +153,19 @@ void BoardOverlay::paintHint(QPainter& painter) const {
     const QColor signal = toQColor(solutionColour(m_appearance));
     for (CellId cell : m_hint.proof)
         painter.fillPath(triangleOf(cell), veil(signal, ProofStrength));
-    QPen outline(signal, OutlineWidth);
-    outline.setJoinStyle(Qt::RoundJoin);
-    painter.setPen(outline);
-    painter.setBrush(Qt::NoBrush);
+    QPainterPath outline;
     if (m_hint.hexagon != 0 && !m_hint.cell)
-        painter.drawPath(pathThrough(hexagonCorners(m_hint.hexagon)));
+        outline.addPath(pathThrough(hexagonCorners(m_hint.hexagon)));
     if (m_hint.xcell != 0)
-        painter.drawPath(outlineOfCorner(m_hint.xcell));
+        outline.addPath(outlineOfCorner(m_hint.xcell));
     if (m_hint.cell)
-        painter.drawPath(triangleOf(m_hint.cell));
+        outline.addPath(triangleOf(m_hint.cell));
+    // With a rim in the colour of the hexagons, for its own may be as dark as the lines about it.
+    for (const auto& [colour, width] :
+         {std::pair(toQColor(m_appearance.HexaFillColour), OutlineWidth + 2 * OutlineRim),
+          {signal, OutlineWidth}})
+        painter.strokePath(outline,
+                           QPen(colour, width, Qt::SolidLine, Qt::SquareCap, Qt::RoundJoin));
 }
 
 } // namespace tessaly

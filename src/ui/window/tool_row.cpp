@@ -10,6 +10,7 @@
 #include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
 #include <QToolTip>
 
 #include <algorithm>
@@ -29,6 +30,24 @@ constexpr int WidestFileName = 200;
 /// Room for the numbers of a library of a million puzzles; a larger one makes its own.
 constexpr QLatin1String UsualNumber("1000000");
 constexpr int MostDigits = 10;
+
+/// An edit box whose frame is seen on every ground, as that of a button is.
+class FramedBox : public QLineEdit {
+public:
+    using QLineEdit::QLineEdit;
+
+protected:
+    void paintEvent(QPaintEvent* event) override {
+        constexpr double LeastContrast = 3; // of WCAG 2, for the outline of a control
+        constexpr double FrameCorner = 4;
+        QLineEdit::paintEvent(event);
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(standingOut(palette().color(QPalette::Window), LeastContrast));
+        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), FrameCorner,
+                                FrameCorner);
+    }
+};
 
 /// Room for this count even while there is none, so that the row rarely moves.
 constexpr QLatin1String UsualCount(" of 1000");
@@ -90,7 +109,7 @@ void ToolRow::showFileText(const QString& text) {
 }
 
 void ToolRow::addNumberBox() {
-    m_puzNumNow = new QLineEdit(this);
+    m_puzNumNow = new FramedBox(this);
     m_puzNumNow->setObjectName(u"PuzNumNow"_s);
     m_puzNumNow->setAccessibleName(tr("Puzzle number"));
     m_puzNumNow->setToolTip(tr("Puzzle number; Enter goes there"));

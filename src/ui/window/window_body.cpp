@@ -14,7 +14,7 @@ namespace tessaly {
 namespace {
 
 constexpr int BodyMargin = 10;
-constexpr int RowSpacing = 8;
+constexpr int BodySpacing = 8;
 /// Between the board's picture, which has a rim of its own, and the panel.
 constexpr int BesideBoard = 2;
 /// The most that the panel takes of the width.
@@ -39,7 +39,7 @@ int WindowBody::heightOfRows() const {
     int height = 0;
     for (const QWidget* row : m_rows)
         if (!row->isHidden())
-            height += row->sizeHint().height() + RowSpacing;
+            height += row->sizeHint().height() + BodySpacing;
     return height;
 }
 
@@ -48,7 +48,7 @@ QSize WindowBody::sizeAround(QSize middle) const {
     for (const QWidget* row : m_rows)
         if (!row->isHidden())
             width = std::max(width, row->minimumSizeHint().width());
-    return {width + 2 * BodyMargin, heightOfRows() + middle.height() + RowSpacing +
+    return {width + 2 * BodyMargin, heightOfRows() + middle.height() + BodySpacing +
                                         m_status->sizeHint().height() + 2 * BodyMargin};
 }
 
@@ -75,7 +75,8 @@ bool WindowBody::event(QEvent* event) {
 
 void WindowBody::arrange() {
     const QRect room = rect().adjusted(BodyMargin, BodyMargin, -BodyMargin, -BodyMargin);
-    const int highest = room.height() - heightOfRows() - RowSpacing - m_status->sizeHint().height();
+    const int highest =
+        room.height() - heightOfRows() - BodySpacing - m_status->sizeHint().height();
     const QSize panel =
         SidePanel::sizeWithin({static_cast<int>(room.width() * WidestPanel), highest});
     const int boardWidth =
@@ -94,8 +95,8 @@ void WindowBody::arrange() {
     int top = room.top();
     for (QWidget* row : m_rows)
         if (!row->isHidden())
-            top = placeRow(*row, top, middle) + RowSpacing;
-    placeRow(*m_status, middle.bottom() + 1 + RowSpacing, middle);
+            top = placeRow(*row, top, middle) + BodySpacing;
+    placeRow(*m_status, middle.bottom() + 1 + BodySpacing, middle);
 }
 
 int WindowBody::placeRow(QWidget& row, int top, const QRect& middle) const {
