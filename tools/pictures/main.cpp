@@ -156,7 +156,7 @@ void takePrinting(Pictures& pictures, const QString& scheme) {
     });
     game.find<QAction>(u"mnuprintx_4"_s).trigger();
     PrintProgress progress(game.session.appearance);
-    progress.begin(u"Printing easy.txt, 1 to 1000"_s, 334);
+    progress.begin(u"Printing easy.txt, 1 to 1000"_s);
     progress.findChild<QProgressBar*>()->setValue(120);
     progress.show();
     pictures.take(progress, u"print-progress-"_s + scheme);
