@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QListWidget>
 #include <QProgressBar>
+#include <QTabWidget>
 #include <QTextBrowser>
 #include <QTimer>
 
@@ -148,15 +149,22 @@ void takePrinting(Pictures& pictures, const QString& scheme) {
                     .LoadScheme(game.session.appearance.ActiveScheme, game.session.appearance)
                     .ok());
     game.printers.installed = {u"HP LaserJet Pro M404dn"_s, u"Kitchen"_s};
+    if (scheme == QLatin1String(DefaultScheme).chopped(4)) // else a PDF file
+        game.printers.usual = u"Kitchen"_s;
     game.window->files().load(game.folder.puzzles("easy.txt"));
     auto& form = game.find(u"Form5"_s);
     QTimer::singleShot(0, &form, [&] {
-        pictures.take(form, u"print-"_s + scheme);
+        auto& tabs = tessaly::find<QTabWidget>(form, u"tabs"_s);
+        for (int tab = 0; tab < tabs.count(); ++tab) {
+            tabs.setCurrentIndex(tab);
+            pictures.take(form, u"print-%1-%2"_s.arg(tab).arg(scheme));
+        }
         form.close();
     });
     game.find<QAction>(u"mnuprintx_4"_s).trigger();
     PrintProgress progress(game.session.appearance);
     progress.begin(u"Printing easy.txt, 1 to 1000"_s);
+    progress.findChild<QProgressBar*>()->setRange(0, 334);
     progress.findChild<QProgressBar*>()->setValue(120);
     progress.show();
     pictures.take(progress, u"print-progress-"_s + scheme);

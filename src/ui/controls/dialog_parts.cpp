@@ -33,6 +33,14 @@ QVBoxLayout* addRows(QDialog& dialog) {
     return rows;
 }
 
+QLabel* addNamed(QHBoxLayout& row, const QString& label, QWidget* field) {
+    auto* name = new QLabel(label);
+    name->setBuddy(field);
+    row.addWidget(name);
+    row.addWidget(field);
+    return name;
+}
+
 QHBoxLayout* makeButtonRow(std::initializer_list<BoxControl*> buttons) {
     auto* row = new QHBoxLayout;
     row->setSpacing(dialog::Spacing);

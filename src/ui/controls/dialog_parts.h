@@ -33,6 +33,12 @@ Widget* named(const QString& name, Widget* widget) {
 /// Lets the regions of a dialog stand beneath each other.
 QVBoxLayout* addRows(QDialog& dialog);
 
+/// How high boxes and lists are that stand among others in a row.
+inline constexpr int FieldHeight = dialog::ButtonSize.height() - 4;
+
+/// Adds a label and what it names to a row; the label.
+QLabel* addNamed(QHBoxLayout& row, const QString& label, QWidget* field);
+
 /// The last row of a dialog: its buttons, all of one size, at the right.
 QHBoxLayout* makeButtonRow(std::initializer_list<BoxControl*> buttons);
 

@@ -5,10 +5,8 @@
 #include "ui/controls/dot_row.h"
 
 #include <QComboBox>
-#include <QFormLayout>
 #include <QGridLayout>
 #include <QGroupBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QVBoxLayout>
 
@@ -47,8 +45,8 @@ PageTab::PageTab(QWidget* parent)
     auto* frame = named(u"pageFrame"_s, new QGroupBox(tr("Puzzles per Page"), this));
     auto* inFrame = new QVBoxLayout(frame);
     inFrame->addWidget(m_perPage);
-    auto* titleRow = new QFormLayout;
-    titleRow->addRow(tr("Title"), m_title);
+    auto* titleRow = new QHBoxLayout;
+    addNamed(*titleRow, tr("Title"), m_title);
     auto* ticks = new QGridLayout;
     ticks->addWidget(m_nameLine, 0, 0);
     ticks->addWidget(m_large, 1, 0);
@@ -63,7 +61,7 @@ PageTab::PageTab(QWidget* parent)
     rows->addStretch();
 
     m_perPage->choose(placeOf(PuzzlesPerPage, PageDesign::UsualPuzzlesPerPage));
-    m_title->setMinimumHeight(dialog::ButtonSize.height() - 4);
+    m_title->setMinimumHeight(FieldHeight);
     m_title->setAccessibleName(tr("Title"));
     connect(m_perPage, &DotRow::changed, this, &PageTab::changed);
     connect(m_title, &QLineEdit::textChanged, this, &PageTab::changed);
@@ -92,7 +90,7 @@ SolutionTab::SolutionTab(QWidget* parent)
                        tr("In a file of their own")});
     m_where->setCurrentIndex(static_cast<int>(SolutionsAt::End));
     m_where->setAccessibleName(tr("Solutions"));
-    m_where->setMinimumHeight(dialog::ButtonSize.height() - 4);
+    m_where->setMinimumHeight(FieldHeight);
     auto* frame = new QGroupBox(tr("Solutions per Page"), this);
     auto* inFrame = new QVBoxLayout(frame);
     inFrame->addWidget(m_perPage);

@@ -5,7 +5,6 @@
 
 #include <QComboBox>
 #include <QDoubleSpinBox>
-#include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QSignalBlocker>
@@ -16,8 +15,6 @@ namespace tessaly {
 namespace {
 
 using namespace Qt::StringLiterals;
-
-constexpr int FieldHeight = dialog::ButtonSize.height() - 4;
 
 QDoubleSpinBox* makeLength(const QString& name, const QString& accessible, double millimetres) {
     constexpr double Shortest = 20;
@@ -32,13 +29,13 @@ QDoubleSpinBox* makeLength(const QString& name, const QString& accessible, doubl
     return length;
 }
 
-/// Rows of named fields that can be hidden together.
+/// A row that can be hidden.
 template <class Fill>
-QWidget* makeRows(Fill fill) {
+QWidget* makeRow(Fill fill) {
     auto* group = new QWidget;
-    auto* form = new QFormLayout(group);
-    form->setContentsMargins(0, 0, 0, 0);
-    fill(*form);
+    auto* row = new QHBoxLayout(group);
+    row->setContentsMargins(0, 0, 0, 0);
+    fill(*row);
     return group;
 }
 
@@ -55,6 +52,9 @@ PaperTab::PaperTab(QWidget* parent)
     constexpr int MostCopies = 999;
     m_copies->setRange(1, MostCopies);
     m_copies->setMinimumHeight(FieldHeight);
+    m_paper->setAccessibleName(tr("Paper"));
+    m_copies->setAccessibleName(tr("Copies"));
+    m_sides->setAccessibleName(tr("Sides"));
     // In the order of `sheets`.
     m_sides->addItems({tr("As the printer is set"), tr("One side"),
                        tr("Both, turned at the long edge"), tr("Both, turned at the short edge")});
@@ -62,18 +62,23 @@ PaperTab::PaperTab(QWidget* parent)
         list->setMinimumHeight(FieldHeight);
         list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     }
-    auto* size = new QHBoxLayout;
-    size->addWidget(m_width);
-    size->addWidget(new QLabel(u"\u00D7"_s));
-    size->addWidget(m_height);
-    size->addStretch();
-    m_ownSize = makeRows([&](QFormLayout& form) { form.addRow(tr("Size"), size); });
-    m_ofPrinter = makeRows([this](QFormLayout& form) {
-        form.addRow(tr("Copies"), m_copies);
-        form.addRow(tr("Sides"), m_sides);
+    m_ownSize = makeRow([this](QHBoxLayout& row) {
+        addNamed(row, tr("Size"), m_width);
+        row.addWidget(new QLabel(u"\u00D7"_s));
+        row.addWidget(m_height);
+        row.addStretch();
     });
+    m_ofPrinter = makeRow([this](QHBoxLayout& row) {
+        addNamed(row, tr("Copies"), m_copies);
+        row.addSpacing(dialog::Spacing);
+        addNamed(row, tr("Sides"), m_sides);
+        row.setStretchFactor(m_sides, 1);
+    });
+    auto* paper = new QHBoxLayout;
+    addNamed(*paper, tr("Paper"), m_paper);
+    paper->setStretchFactor(m_paper, 1);
     auto* rows = new QVBoxLayout(this);
-    rows->addWidget(makeRows([this](QFormLayout& form) { form.addRow(tr("Paper"), m_paper); }));
+    rows->addLayout(paper);
     rows->addWidget(m_ownSize);
     rows->addWidget(m_orientation);
     rows->addWidget(m_ofPrinter);
@@ -88,6 +93,7 @@ PaperTab::PaperTab(QWidget* parent)
 
 void PaperTab::offer(const PrinterOffer& offer, bool isPdf) {
     m_offer = offer;
+    m_isPdf = isPdf;
     {
         const QSignalBlocker quiet(m_paper);
         m_paper->clear();
@@ -121,7 +127,7 @@ PaperSize PaperTab::paper() const {
 
 SheetSettings PaperTab::sheets() const {
     SheetSettings sheets;
-    if (m_ofPrinter->isHidden())
+    if (m_isPdf)
         return sheets;
     if (!isOwnSize())
         sheets.media = m_offer.papers.at(static_cast<std::size_t>(m_paper->currentIndex())).media;

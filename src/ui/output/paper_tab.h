@@ -35,13 +35,15 @@ private:
     void showOwnSize();
 
     PrinterOffer m_offer;
+    bool m_isPdf = false;
     QComboBox* m_paper;
     QDoubleSpinBox* m_width;
     QDoubleSpinBox* m_height;
-    QWidget* m_ownSize;
     DotRow* m_orientation;
     QSpinBox* m_copies;
     QComboBox* m_sides;
+    /// What is there only for paper of its own size, and for a printer.
+    QWidget* m_ownSize;
     QWidget* m_ofPrinter;
 };
 

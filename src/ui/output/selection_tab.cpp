@@ -23,19 +23,12 @@ int numberIn(const QLineEdit& box) {
     return leadingWholeNumber(box.text().toStdString());
 }
 
-/// A label and what it names, in a row.
-void addNamed(QHBoxLayout& row, QLabel* label, QWidget* field) {
-    label->setBuddy(field);
-    row.addWidget(label);
-    row.addWidget(field);
-}
-
 QComboBox* makeList(const QString& name, const QString& accessible, const QStringList& entries,
                     QWidget* parent) {
     auto* list = named(name, new QComboBox(parent));
     list->addItems(entries);
     list->setAccessibleName(accessible);
-    list->setMinimumHeight(dialog::ButtonSize.height() - 4);
+    list->setMinimumHeight(FieldHeight);
     return list;
 }
 
@@ -59,7 +52,7 @@ SelectionTab::SelectionTab(QWidget* parent)
 QLineEdit* SelectionTab::makeBox(const QString& name, const QString& accessible) {
     auto* box = named(name, new QLineEdit(this));
     box->setAccessibleName(accessible);
-    box->setMinimumHeight(dialog::ButtonSize.height() - 4);
+    box->setMinimumHeight(FieldHeight);
     connect(box, &QLineEdit::returnPressed, this, &SelectionTab::confirmed);
     connect(box, &QLineEdit::textChanged, this, &SelectionTab::changed);
     return box;
@@ -73,12 +66,12 @@ QWidget* SelectionTab::makeNumbersFrame() {
     m_to = makeBox(u"Text2"_s, u"To"_s);
     m_list = makeBox(u"puzzleList"_s, tr("or these"));
     m_list->setPlaceholderText(u"3, 7, 20-24"_s);
-    addNamed(*row, named(u"Label1"_s, new QLabel(u"From"_s, frame)), m_from);
-    addNamed(*row, named(u"Label2"_s, new QLabel(u"To"_s, frame)), m_to);
+    named(u"Label1"_s, addNamed(*row, u"From"_s, m_from));
+    named(u"Label2"_s, addNamed(*row, u"To"_s, m_to));
     for (QLineEdit* box : {m_from, m_to})
         box->setFixedWidth(NumberWidth);
     row->addSpacing(dialog::Spacing / 2);
-    addNamed(*row, new QLabel(tr("or these"), frame), m_list);
+    addNamed(*row, tr("or these"), m_list);
     row->setStretchFactor(m_list, 1);
     connect(m_list, &QLineEdit::textChanged, this, [this] {
         for (QLineEdit* box : {m_from, m_to})
@@ -101,12 +94,12 @@ QWidget* SelectionTab::makeFilterFrame() {
     m_order =
         makeList(u"order"_s, tr("Order"), {tr("As in the file"), tr("The easiest first")}, frame);
     auto* kinds = new QHBoxLayout;
-    addNamed(*kinds, new QLabel(tr("Difficulty"), frame), m_difficulty);
+    addNamed(*kinds, tr("Difficulty"), m_difficulty);
     kinds->addStretch();
-    addNamed(*kinds, new QLabel(tr("Stars"), frame), m_leastStars);
-    addNamed(*kinds, new QLabel(tr("to"), frame), m_mostStars);
+    addNamed(*kinds, tr("Stars"), m_leastStars);
+    addNamed(*kinds, tr("to"), m_mostStars);
     auto* order = new QHBoxLayout;
-    addNamed(*order, new QLabel(tr("Order"), frame), m_order);
+    addNamed(*order, tr("Order"), m_order);
     order->addStretch();
     rows->addLayout(kinds);
     rows->addLayout(order);
