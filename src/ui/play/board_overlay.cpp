@@ -24,9 +24,9 @@ constexpr double FadedStrength = 0.72;
 // In board units.
 constexpr double OutlineWidth = 3;
 constexpr double OutlineRim = 2;
-constexpr double BrokenSideWidth = 4;
-constexpr double UnderlineWidth = 2;
-constexpr double UnderlineLength = 14;
+constexpr double BrokenSideWidth = 5;
+constexpr double UnderlineWidth = 2.6;
+constexpr double UnderlineLength = 15;
 constexpr double UnderlineDrop = 12;
 
 QColor veil(const QColor& colour, double strength) {
@@ -131,7 +131,7 @@ void BoardOverlay::paintImpossible(QPainter& painter, const Highlights& found) c
 void BoardOverlay::paintBroken(QPainter& painter, const Highlights& found) const {
     const QColor signal = toQColor(markerColour(m_appearance));
     QPen side(signal, BrokenSideWidth, Qt::DashLine, Qt::FlatCap);
-    side.setDashPattern({1.2, 0.9});
+    side.setDashPattern({1.3, 0.9});
     for (CellId cell : found.differing) {
         const auto corners = cellTriangle(cell);
         painter.setPen(QPen(toQColor(m_appearance.HexaFillColour), BrokenSideWidth));

@@ -18,6 +18,7 @@ constexpr std::chrono::seconds OpenTime{6};
 constexpr int PopupButtonSize = 44;
 constexpr int PopupMargin = 4;
 constexpr int PopupSpacing = 3;
+constexpr int PopupDigitSize = 19;
 constexpr int Columns = 5;
 
 /// The buttons as they stand in the panel: the numbers left, the pictured ones right.
@@ -73,6 +74,9 @@ NumberPopup::NumberPopup(QWidget* parent)
 void NumberPopup::addButton(int index, BoxControl* button, int row, int column) {
     button->setObjectName(u"Num16_%1"_s.arg(index));
     button->setFixedSize(PopupButtonSize, PopupButtonSize);
+    QFont digits = button->font();
+    digits.setPixelSize(PopupDigitSize);
+    button->setFont(digits);
     connect(button, &BoxControl::clicked, this, [this, index] { Q_EMIT clicked(index); });
     static_cast<QGridLayout*>(layout())->addWidget(button, row, column);
     m_buttons[static_cast<std::size_t>(index)] = button;

@@ -17,8 +17,8 @@ constexpr int BodyMargin = 10;
 constexpr int BodySpacing = 8;
 /// Between the board's picture, which has a rim of its own, and the panel.
 constexpr int BesideBoard = 2;
-/// The most that the panel takes of the width.
-constexpr double WidestPanel = 0.36;
+/// The most that the panel takes of a width that has no room for the largest board beside it.
+constexpr double LargestPart = 0.36;
 
 QSize sideBySide(QSize board, QSize panel) {
     return {board.width() + BesideBoard + panel.width(), std::max(board.height(), panel.height())};
@@ -73,15 +73,19 @@ bool WindowBody::event(QEvent* event) {
     return QWidget::event(event);
 }
 
+/// What the board leaves, but the usual size where that is not too much.
+int WindowBody::widestPanel(int width, int widestBoard) const {
+    return std::max(width - BesideBoard - widestBoard,
+                    std::min(m_side->sizeHint().width(), static_cast<int>(width * LargestPart)));
+}
+
 void WindowBody::arrange() {
     const QRect room = rect().adjusted(BodyMargin, BodyMargin, -BodyMargin, -BodyMargin);
     const int highest =
         room.height() - heightOfRows() - BodySpacing - m_status->sizeHint().height();
-    const QSize panel =
-        SidePanel::sizeWithin({static_cast<int>(room.width() * WidestPanel), highest});
-    const int boardWidth =
-        std::min(static_cast<int>(std::ceil(highest * PictureWidth / PictureHeight)),
-                 room.width() - BesideBoard - panel.width());
+    const int widestBoard = static_cast<int>(std::ceil(highest * PictureWidth / PictureHeight));
+    const QSize panel = SidePanel::sizeWithin({widestPanel(room.width(), widestBoard), highest});
+    const int boardWidth = std::min(widestBoard, room.width() - BesideBoard - panel.width());
     const int boardHeight =
         std::min(static_cast<int>(std::ceil(boardWidth * PictureHeight / PictureWidth)), highest);
     const QSize both = sideBySide({boardWidth, boardHeight}, panel);

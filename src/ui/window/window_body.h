@@ -28,6 +28,7 @@ private:
     /// The size around a middle of that size.
     QSize sizeAround(QSize middle) const;
     int heightOfRows() const;
+    int widestPanel(int width, int widestBoard) const;
     void arrange();
     /// Places a row from `top` downwards, over board and panel; where it ends.
     int placeRow(QWidget& row, int top, const QRect& middle) const;
