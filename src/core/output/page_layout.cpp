@@ -70,8 +70,9 @@ Rect BoardGrid::boardArea(int place, int boards) const {
     const int columns = std::min(m_columns, boards);
     const Spread across = spread(m_area.left, m_area.right, m_margin, GapAcross, width, columns);
     const Spread down = spread(m_area.top, m_area.bottom, 0, GapDown, height, m_rows);
+    const int row = place / columns;
     const double left = across.first + place % columns * across.pitch;
-    const double top = down.first + place / columns * down.pitch;
+    const double top = down.first + row * down.pitch;
     return {left, top, left + width, top + height};
 }
 

@@ -20,7 +20,7 @@ public:
         , m_puzzles(puzzles) {}
 
     Outcome read(const GoOnReading& goOn) {
-        const Outcome read = forEachRecord(m_path, [&](RecordLine line) {
+        Outcome read = forEachRecord(m_path, [&](RecordLine line) {
             m_count = line.number;
             m_outcome = take(line);
             if (m_outcome.ok() && goOn && !goOn())

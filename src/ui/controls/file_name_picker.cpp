@@ -187,6 +187,12 @@ std::filesystem::path choosePuzzleFile(FNDialog& picker, const std::filesystem::
     return picker.GetFileName(use == FileUse::Save ? u"SAVE"_s : u"OPEN"_s);
 }
 
+bool mayReplace(const std::filesystem::path& path, Prompts& prompts) {
+    return !holdsSomething(path) ||
+           prompts.message("OverWrite file: " + path.native() + " ?",
+                           "vbyesno+vbquestion+vbdefaultbutton2") == answer::Yes;
+}
+
 std::filesystem::path chooseOutputFile(const OutputFileQuestion& question, FNDialog& picker,
                                        Prompts& prompts) {
     picker.setTitle(question.title);
@@ -202,10 +208,7 @@ std::filesystem::path chooseOutputFile(const OutputFileQuestion& question, FNDia
     };
     if (std::none_of(question.extensions.begin(), question.extensions.end(), endsIn))
         path += pathOf(question.extensions.front());
-    const bool wanted = !holdsSomething(path) ||
-                        prompts.message("OverWrite file: " + path.native() + " ?",
-                                        "vbyesno+vbquestion+vbdefaultbutton2") == answer::Yes;
-    return wanted ? path : std::filesystem::path();
+    return mayReplace(path, prompts) ? path : std::filesystem::path();
 }
 
 } // namespace tessaly

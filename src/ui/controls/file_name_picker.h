@@ -126,6 +126,9 @@ struct OutputFileQuestion {
     QString name = {};
 };
 
+/// Whether a file may be written to: always when there is nothing in it, else if the user says so.
+bool mayReplace(const std::filesystem::path& path, Prompts& prompts);
+
 /// Asks for a file to write to, and once more when there is something in it already. Empty when the
 /// user thinks better of it.
 std::filesystem::path chooseOutputFile(const OutputFileQuestion& question, FNDialog& picker,

@@ -18,33 +18,20 @@ namespace {
 
 using Object = QPDFObjectHandle;
 
-/// Hands what is written on to a file, and remembers how that went.
-class SinkPipeline : public Pipeline {
+/// Appends what is written to a text.
+class TextPipeline : public Pipeline {
 public:
-    explicit SinkPipeline(const ContentSink& sink)
-        : Pipeline("file", nullptr)
-        , m_sink(sink) {}
+    explicit TextPipeline(std::string& text)
+        : Pipeline("text", nullptr)
+        , m_text(text) {}
 
     void write(const unsigned char* bytes, std::size_t count) override {
-        m_held.append(reinterpret_cast<const char*>(bytes), count);
-        if (m_held.size() >= LargePiece)
-            pass();
+        m_text.append(reinterpret_cast<const char*>(bytes), count);
     }
-    void finish() override { pass(); }
-    const Outcome& outcome() const { return m_outcome; }
+    void finish() override {}
 
 private:
-    static constexpr std::size_t LargePiece = std::size_t{256} * 1024;
-
-    void pass() {
-        if (m_outcome.ok())
-            m_outcome = m_sink.write(m_held);
-        m_held.clear();
-    }
-
-    const ContentSink& m_sink;
-    std::string m_held;
-    Outcome m_outcome;
+    std::string& m_text;
 };
 
 /// Qt paints in colour spaces of its own naming: "/CSp cs 0 0 0 scn". This makes
@@ -119,15 +106,13 @@ public:
         m_pdf.getRoot().replaceKey("/PageMode", Object::newName("/UseOutlines"));
     }
 
-    Outcome write(const ContentSink& sink) {
-        SinkPipeline file(sink);
+    void write(std::string& finished) {
+        TextPipeline text(finished);
         QPDFWriter writer(m_pdf);
-        writer.setOutputPipeline(&file);
+        writer.setOutputPipeline(&text);
         writer.setObjectStreamMode(qpdf_o_generate);
         writer.setDeterministicID(true);
         writer.write();
-        file.finish();
-        return file.outcome();
     }
 
 private:
@@ -153,13 +138,13 @@ private:
     Object destination(const PdfPlace& place) {
         constexpr double Above = 6;
         return Object::newArray({page(place.page).getObjectHandle(), Object::newName("/XYZ"),
-                                 real(0), real(heightOf(place.page) - place.area.top + Above),
+                                 real(0), real(heightOf(place.page) - place.top + Above),
                                  Object::newNull()});
     }
 
     void addLink(const PdfLink& link) {
         const double height = heightOf(link.from.page);
-        const Rect& area = link.from.area;
+        const PdfPlace& area = link.from;
         Object annotation = Object::newDictionary();
         annotation.replaceKey("/Type", Object::newName("/Annot"));
         annotation.replaceKey("/Subtype", Object::newName("/Link"));
@@ -204,11 +189,12 @@ private:
 
 } // namespace
 
-Outcome finishPdf(std::string_view painted, const PdfExtras& extras, const ContentSink& sink) {
+Outcome finishPdf(std::string_view painted, const PdfExtras& extras, std::string& finished) {
     try {
         Document document(painted, extras);
         document.complete();
-        return document.write(sink);
+        document.write(finished);
+        return Outcome::done();
     } catch (const std::exception& problem) {
         return Outcome::failed(std::string("the PDF document cannot be made: ") + problem.what());
     }

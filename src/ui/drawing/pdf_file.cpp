@@ -68,6 +68,14 @@ void setUp(QPdfWriter& writer, PaperSize paper) {
     writer.setPageLayout(QPageLayout(size, QPageLayout::Portrait, {}));
 }
 
+PdfPlace placeOf(int page, const Rect& area) {
+    return {page, area.left, area.top, area.right, area.bottom};
+}
+
+PdfPlace captionOf(const PdfPlace& board) {
+    return placeOf(board.page, captionArea({board.left, board.top, board.right, board.bottom}));
+}
+
 /// Where puzzles, or their solutions, stand on the pages of a document, by their place in the job.
 /// Of copies it is the first one.
 std::map<int, PdfPlace> placesOf(const PrintJob& job, const Pages& pages, bool solutions) {
@@ -77,7 +85,7 @@ std::map<int, PdfPlace> placesOf(const PrintJob& job, const Pages& pages, bool s
         if (number != EmptyPage) {
             const BookletPage& page = pages.at(static_cast<std::size_t>(number));
             for (int place = 0; place < page.count && page.solutions == solutions; ++place)
-                places.insert({page.first + place, {painted, page.boardArea(place)}});
+                places.insert({page.first + place, placeOf(painted, page.boardArea(place))});
         }
         ++painted;
     }
@@ -88,20 +96,22 @@ void addBookmarks(const PrintJob& job, const std::map<int, PdfPlace>& places, co
                   const std::string& caption, PdfExtras& extras) {
     if (places.empty())
         return;
-    PdfBookmark part{heading, places.begin()->second};
+    PdfBookmark part{heading, places.begin()->second, {}};
     const bool namesFiles = job.hasManyFiles();
     for (const auto& [index, place] : places) {
         const PrintedPuzzle& puzzle = job.puzzle(index);
         part.children.push_back({caption + std::to_string(puzzle.number) +
                                      (namesFiles ? ", " + puzzle.file : std::string()),
-                                 place});
+                                 place,
+                                 {}});
     }
     extras.bookmarks.push_back(std::move(part));
 }
 
 /// From each puzzle's caption to its solution, and back.
 PdfExtras extrasOf(const PrintJob& job, const Pages& pages) {
-    PdfExtras extras{job.title};
+    PdfExtras extras;
+    extras.title = job.title;
     const auto puzzles = placesOf(job, pages, false);
     const auto solutions = placesOf(job, pages, true);
     addBookmarks(job, puzzles, "Puzzles", "Puz# ", extras);
@@ -110,19 +120,18 @@ PdfExtras extrasOf(const PrintJob& job, const Pages& pages) {
         const auto solution = solutions.find(index);
         if (solution == solutions.end())
             continue;
-        const PdfPlace caption{puzzle.page, captionArea(puzzle.area)};
-        const PdfPlace answer{solution->second.page, captionArea(solution->second.area)};
-        extras.links.push_back({caption, solution->second});
-        extras.links.push_back({answer, puzzle});
+        extras.links.push_back({captionOf(puzzle), solution->second});
+        extras.links.push_back({captionOf(solution->second), puzzle});
     }
     return extras;
 }
 
 /// Completes a document on a thread of its own: thousands of pages take a while.
-Outcome finish(const QByteArray& painted, const PdfExtras& extras, const ContentSink& sink,
+Outcome finish(const QByteArray& painted, const PdfExtras& extras, std::string& finished,
                const std::function<void()>& meanwhile) {
     const std::string_view bytes(painted.constData(), static_cast<std::size_t>(painted.size()));
-    auto finishing = std::async(std::launch::async, [&] { return finishPdf(bytes, extras, sink); });
+    auto finishing =
+        std::async(std::launch::async, [&] { return finishPdf(bytes, extras, finished); });
     while (finishing.wait_for(Turn) == std::future_status::timeout)
         meanwhile();
     return finishing.get();
@@ -150,13 +159,16 @@ PrintResult writePdf(const std::filesystem::path& path, PaperSize paper, const P
             setUp(writer, paper);
             result = paintBooklet(writer, job, pages, appearance, goOn);
         }
+        std::string finished;
         Outcome outcome = result.outcome;
         if (result.isComplete())
-            outcome = finish(painted, extrasOf(job, pages), sink, [&] {
+            outcome = finish(painted, extrasOf(job, pages), finished, [&] {
                 const auto all = static_cast<int>(pages.size());
                 result.stopped = result.stopped || !goOn(all, all);
             });
-        return result.stopped ? Outcome::failed("stopped") : outcome;
+        if (result.stopped)
+            return Outcome::failed("stopped");
+        return outcome.ok() ? sink.write(finished) : outcome;
     };
     const Outcome written = replaceFile(path, write, wait);
     if (!result.stopped)

@@ -84,8 +84,11 @@ Outcome writePdf(const ContentSink& sink, const BoardPicture& picture, double sc
         if (Outcome page = paintOn(pdf, picture, scale * pdf.logicalDpiX() / 96); !page.ok())
             return page;
     }
-    return finishPdf({painted.constData(), static_cast<std::size_t>(painted.size())},
-                     {.title = Product::Name, .oneInk = picture.isOneInk}, sink);
+    std::string finished;
+    const Outcome outcome =
+        finishPdf({painted.constData(), static_cast<std::size_t>(painted.size())},
+                  {Product::Name, {}, {}, picture.isOneInk}, finished);
+    return outcome.ok() ? sink.write(finished) : outcome;
 }
 
 } // namespace

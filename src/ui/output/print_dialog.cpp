@@ -210,6 +210,8 @@ void Form5::chooseFile() {
 }
 
 Outcome Form5::readRequest(PrintRequest& request) const {
+    if (m_path.empty())
+        return Outcome::failed("there is no puzzle file");
     request.files = {m_path};
     m_pages->addTo(request.design);
     m_solutions->addTo(request.design);
@@ -268,10 +270,12 @@ void Form5::acceptNewPuzzles() {
         return;
     }
     PrintOrder order;
-    order.request.files = {m_path};
+    const std::filesystem::path file =
+        m_path.empty() ? m_programFolder / TemporaryPuzzleFile : m_path;
+    order.request.files = {file};
     m_pages->addTo(order.request.design);
     m_solutions->addTo(order.request.design);
-    order.creation = CreationOrder{m_path, m_newPuzzles->difficulty(), count};
+    order.creation = CreationOrder{file, m_newPuzzles->difficulty(), count};
     finish(std::move(order), count);
 }
 
@@ -292,8 +296,11 @@ void Form5::finish(PrintOrder order, int puzzles) {
     if (!hasPrinter())
         return;
     if (isToPdf()) {
-        order.target.file = choosePdf();
-        if (order.target.file.empty())
+        order.target.file =
+            chooseOutputFile(pdfQuestion(order.request.files.front()), *m_picker, m_prompts);
+        const bool hasTwo = order.request.design.solutions == SolutionsAt::OwnFile;
+        if (order.target.file.empty() ||
+            (hasTwo && !mayReplace(solutionsFileOf(order.target.file), m_prompts)))
             return;
     }
     m_order = std::move(order);
@@ -309,10 +316,6 @@ bool Form5::hasPrinter() {
                       style::Critical);
     listPrinters({});
     return false;
-}
-
-std::filesystem::path Form5::choosePdf() {
-    return chooseOutputFile(pdfQuestion(m_path), *m_picker, m_prompts);
 }
 
 std::optional<PrintOrder> Form5::choose(const PrintSuggestion& suggestion) {

@@ -86,7 +86,6 @@ private:
     void acceptNewPuzzles();
     void finish(PrintOrder order, int puzzles);
     bool hasPrinter();
-    std::filesystem::path choosePdf();
 
     const Appearance& m_appearance;
     Printers& m_printers;

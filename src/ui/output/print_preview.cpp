@@ -27,7 +27,9 @@ PrintPreview::PrintPreview(const Appearance& appearance, QWidget* parent)
     m_printer.setFullPage(true);
     m_view = named(u"preview"_s, new QPrintPreviewWidget(&m_printer, this));
     m_view->setAccessibleName(tr("Preview of the page"));
-    m_view->setFocusPolicy(Qt::NoFocus);
+    // There is nothing to type in a picture.
+    for (auto* part : m_view->findChildren<QWidget*>())
+        part->setFocusPolicy(Qt::NoFocus);
     m_page->setAccessibleName(tr("Page shown"));
     m_page->setPrefix(tr("Page "));
     m_page->setMinimumHeight(dialog::ButtonSize.height());

@@ -209,7 +209,8 @@ TEST_F(Printing, TheDialogStaysUntilAllIsRightAndTellsWhatItWouldPrint) {
         EXPECT_EQ(refused(), "OverWrite file: " + pdf + " ?");
         find<QAbstractButton>(form, u"orientation_Landscape"_s).click();
         find<QComboBox>(form, u"solutions"_s).setCurrentIndex(int(SolutionsAt::OwnFile));
-        game.prompts.answers = {answer::Yes};
+        put(game.folder.path() + "out-solutions.pdf", "old");
+        game.prompts.answers = {answer::Yes, answer::Yes};
     });
     EXPECT_EQ(game.message().toStdString(), "2 pages printed to " + pdf);
     const PdfDocument solutions(game.folder.path() + "out-solutions.pdf");
