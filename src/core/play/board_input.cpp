@@ -81,12 +81,16 @@ void BoardInput::place(CellId cell, const std::string& entry) {
 
 void BoardInput::turnMark(int number) {
     if (!m_busy.isBusy() && selection() && number != 0)
-        showEntry(m_game.turnMark(selection(), NumText(number).front()));
+        turnMark(selection(), number);
+}
+
+void BoardInput::turnMark(CellId cell, int number) {
+    showEntry(m_game.turnMark(cell, NumText(number).front()));
 }
 
 void BoardInput::enterItem(CellId cell, int number) {
     if (makesMarks() && number != 0)
-        showEntry(m_game.turnMark(cell, NumText(number).front()));
+        turnMark(cell, number);
     else
         place(cell, number == 0 ? "" : NumText(number));
 }

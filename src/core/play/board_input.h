@@ -83,6 +83,7 @@ private:
     void place(CellId cell, const std::string& entry);
     /// Enters what a button stands for: a number or its mark, or 0, which empties the cell.
     void enterItem(CellId cell, int number);
+    void turnMark(CellId cell, int number);
     /// Draws what an entry has changed. The pop-up has been answered, by whatever way.
     void showEntry(const HexagonSet& changed);
 

@@ -379,7 +379,7 @@ void Form1::connectRules() {
         showMessage("Point at a triangle and press 1 to 6; the bulb (F4) says what comes next");
         m_board->setFocus();
     });
-    announce(RulesStrip::inWords().toStdString());
+    m_announcer->say(RulesStrip::inWords());
 }
 
 void Form1::closeRules() {

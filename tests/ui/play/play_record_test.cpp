@@ -3,9 +3,21 @@
 #include "ui/window/tool_row.h"
 
 #include <QHelpEvent>
+#include <QProxyStyle>
 #include <QToolTip>
 
 namespace tessaly::play_record_test {
+
+/// As of a desktop that wants no animation.
+class StillStyle : public QProxyStyle {
+public:
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* answer) const override {
+        return hint == SH_Widget_Animation_Duration
+                   ? 0
+                   : QProxyStyle::styleHint(hint, option, widget, answer);
+    }
+};
 
 struct PlayRecord : testing::Test {
     PlayRecord() {
@@ -143,6 +155,10 @@ TEST_F(PlayRecord, TheLastNumberSaysThatAllIsSolvedAndEnterGoesOn) {
         EXPECT_TRUE(QTest::qWaitFor([&] { return !wave.isVisible(); }, 1000));
         EXPECT_NE(game.picture(), lit);
     }
+    StillStyle still;
+    wave.setStyle(&still);
+    game.window->showSolved(last);
+    EXPECT_FALSE(wave.isVisible());
     game.press(Qt::Key_Return);
     EXPECT_EQ(game.number(), u"2"_s);
     game.press(Qt::Key_Return);
