@@ -14,7 +14,7 @@ constexpr int StarSize = 13;
 StarRow::StarRow(QWidget* parent)
     : QWidget(parent) {
     setObjectName(QStringLiteral("Stars"));
-    setFixedSize(sizeHint());
+    setFixedSize(StarRow::sizeHint());
 }
 
 void StarRow::showRating(const std::optional<Rating>& rating) {
