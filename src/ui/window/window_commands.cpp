@@ -9,6 +9,8 @@
 #include "ui/window/main_menu.h"
 #include "ui/window/tool_row.h"
 
+#include <QDate>
+
 namespace tessaly {
 namespace {
 
