@@ -84,7 +84,7 @@ BoardStyle paperStyle(const Appearance& appearance, bool large) {
         .borderWidth =
             std::min<double>(appearance.PrintLineWidth * (large ? Wider : 1), WidestBorder),
         .lineWidth = large ? 1.5 : 0.6,
-        .numberScale = large ? 1.35 : 1,
+        .numberScale = large ? 1.25 : 1,
         .onPaper = true,
     };
 }

@@ -222,7 +222,8 @@ void PagePainter::drawMarkGrid() {
 void PagePainter::drawCaptions(const PrintedPuzzle& puzzle, bool solution, const Rect& area) {
     constexpr double SecondLine = 1.35;
     const Rect first = captionArea(area);
-    const double size = std::clamp(27 * area.width() / BoardExtent.width(), 7.5, 13.0);
+    const double largest = m_job.design.large ? 18 : 13;
+    const double size = std::clamp(27 * area.width() / BoardExtent.width(), 7.5, largest);
     const double baseline = area.top + size * 0.74;
     // The board comes nearer there.
     const double narrow = 0.6 * first.width();
