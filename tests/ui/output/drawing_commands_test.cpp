@@ -65,6 +65,7 @@ TEST_F(DrawingCommands, WhatCannotBeDoneIsSaidOnOneLineAndLeavesNothing) {
     const std::string broken = folder / "broken.txt", link = folder / "link.pdf";
     put(broken, contentOf(Easy) + "no record\r\n");
     std::filesystem::create_symlink(broken, link);
+    const std::string onto = " --output " + link;
     const auto before = folder.names();
     for (const auto& [line, status, named] : std::vector<std::tuple<std::string, int, std::string>>{
              {"print " + Easy + " --to 41" + Out, 1, "no puzzle 41 among its 40"},
@@ -78,10 +79,10 @@ TEST_F(DrawingCommands, WhatCannotBeDoneIsSaidOnOneLineAndLeavesNothing) {
              {"print " + broken + Out, 1, broken + ": line 41: "},
              {"print /none" + Out, 1, "No such file"},
              {"print " + Easy + " --output /dev/null", 2, "/dev/null does not end in .pdf"},
-             {"print " + broken + " --output " + link, 2, link + " is the puzzle file"},
+             {"print " + broken + onto, 2, link + " is the puzzle file"},
              {"print " + Easy + " --per-page 3" + Out, 2, "--per-page"},
              {"print " + Easy + " --paper a9" + Out, 2, "--paper"},
-             {"render " + broken + " --number 1 --output " + link, 2, link + " is the puzzle"},
+             {"render " + broken + " --number 1" + onto, 2, link + " is the puzzle"},
              {"render " + broken + " --number 41" + Out, 1, broken + ": line 41: "},
              {"render " + Easy + " --number 1 --output /nowhere/o.png", 1, "No such file"},
              {"render " + Easy + " --number 41" + Out, 1, "no puzzle 41 among"},

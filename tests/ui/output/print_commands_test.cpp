@@ -191,7 +191,7 @@ TEST_F(Printing, TheDialogStaysUntilAllIsRightAndTellsWhatItWouldPrint) {
             set(form, u"puzzleList"_s, list);
             EXPECT_TRUE(refused().ends_with(problem));
             EXPECT_TRUE(QTest::qWaitFor(
-                [&] { return pages.text().endsWith(QString::fromLatin1(problem)); }));
+                [&, end = QString::fromLatin1(problem)] { return pages.text().endsWith(end); }));
         }
         set(form, u"puzzleList"_s, u"7, 3"_s);
         set(form, u"title"_s, u"a\u0001b"_s);
