@@ -60,7 +60,7 @@ TEST_F(GameTest, MarksAreMadeTakenAndTypedOn) {
     const auto turned = [this](const std::string& entry, char digit) {
         board.CellNum[Cell] = entry;
         turnMark(Cell, digit);
-        const std::string after = board.CellNum[Cell];
+        std::string after = board.CellNum[Cell];
         undo();
         EXPECT_EQ(board.CellNum[Cell], entry);
         return after;
