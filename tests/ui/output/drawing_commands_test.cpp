@@ -67,30 +67,31 @@ TEST_F(DrawingCommands, WhatCannotBeDoneIsSaidOnOneLineAndLeavesNothing) {
     std::filesystem::create_symlink(broken, link);
     const std::string onto = " --output " + link;
     const auto before = folder.names();
-    for (const auto& [line, status, named] : std::vector<std::tuple<std::string, int, std::string>>{
-             {"print " + Easy + " --to 41" + Out, 1, "no puzzle 41 among its 40"},
-             {"print " + Easy + " --from 9 --to 8" + Out, 2, "9 comes after"},
-             {"print " + Easy + " --puzzles 3,60" + Out, 1, "no puzzle 60 among its 40"},
-             {"print " + Easy + " --puzzles 3,x" + Out, 2, "\"x\" is neither"},
-             {"print " + Easy + " --puzzles 3 --to 4" + Out, 2, "--puzzles: the list"},
-             {"print " + Easy + " --difficulty hard" + Out, 1, "no such puzzle"},
-             {"print " + Easy + " --title a\x01 " + Out, 2, "control character"},
-             {"print " + Easy + " --font none" + Out, 1, "no font none"},
-             {"print " + broken + Out, 1, broken + ": line 41: "},
-             {"print /none" + Out, 1, "No such file"},
-             {"print " + Easy + " --output /dev/null", 2, "/dev/null does not end in .pdf"},
-             {"print " + broken + onto, 2, link + " is the puzzle file"},
-             {"print " + Easy + " --per-page 3" + Out, 2, "--per-page"},
-             {"print " + Easy + " --paper a9" + Out, 2, "--paper"},
-             {"render " + broken + " --number 1" + onto, 2, link + " is the puzzle"},
-             {"render " + broken + " --number 41" + Out, 1, broken + ": line 41: "},
-             {"render " + Easy + " --number 1 --output /nowhere/o.png", 1, "No such file"},
-             {"render " + Easy + " --number 41" + Out, 1, "no puzzle 41 among"},
-             {"render " + Easy + " --numbers 1-2" + Out, 2, "has no %d"},
-             {"render " + Easy + " --number 1 --one-ink --scheme night" + Out, 2, "--one-ink"},
-             {"render " + Easy + " --number 1 --output x.gif", 2, "x.gif"},
-             {"render " + Easy + " --number 1 --scheme no" + Out, 1, "no.col"},
-             {"render " + Easy + Out, 2, "--number"}}) {
+    const std::vector<std::tuple<std::string, int, std::string>> refused{
+        {"print " + Easy + " --to 41" + Out, 1, "no puzzle 41 among its 40"},
+        {"print " + Easy + " --from 9 --to 8" + Out, 2, "9 comes after"},
+        {"print " + Easy + " --puzzles 3,60" + Out, 1, "no puzzle 60 among its 40"},
+        {"print " + Easy + " --puzzles 3,x" + Out, 2, "\"x\" is neither"},
+        {"print " + Easy + " --puzzles 3 --to 4" + Out, 2, "--puzzles: the list"},
+        {"print " + Easy + " --difficulty hard" + Out, 1, "no such puzzle"},
+        {"print " + Easy + " --title a\x01 " + Out, 2, "control character"},
+        {"print " + Easy + " --font none" + Out, 1, "no font none"},
+        {"print " + broken + Out, 1, broken + ": line 41: "},
+        {"print /none" + Out, 1, "No such file"},
+        {"print " + Easy + " --output /dev/null", 2, "/dev/null does not end in .pdf"},
+        {"print " + broken + onto, 2, link + " is the puzzle file"},
+        {"print " + Easy + " --per-page 3" + Out, 2, "--per-page"},
+        {"print " + Easy + " --paper a9" + Out, 2, "--paper"},
+        {"render " + broken + " --number 1" + onto, 2, link + " is the puzzle"},
+        {"render " + broken + " --number 41" + Out, 1, broken + ": line 41: "},
+        {"render " + Easy + " --number 1 --output /nowhere/o.png", 1, "No such file"},
+        {"render " + Easy + " --number 41" + Out, 1, "no puzzle 41 among"},
+        {"render " + Easy + " --numbers 1-2" + Out, 2, "has no %d"},
+        {"render " + Easy + " --number 1 --one-ink --scheme night" + Out, 2, "--one-ink"},
+        {"render " + Easy + " --number 1 --output x.gif", 2, "x.gif"},
+        {"render " + Easy + " --number 1 --scheme no" + Out, 1, "no.col"},
+        {"render " + Easy + Out, 2, "--number"}};
+    for (const auto& [line, status, named] : refused) {
         expectRefused(line, status, named);
         EXPECT_EQ(folder.names(), before);
     }
