@@ -3,6 +3,7 @@
 #include "core/board/puzzle_record.h"
 #include "core/session/while_at_work.h"
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -67,11 +68,16 @@ void PlayBookCommands::mnuforgetfile() {
         !confirmed("Forget what you played in ALL puzzles of this file?"))
         return;
     Outcome forgotten;
+    m_display.beginProgress(shown.PuzPath);
     {
         const WhileAtWork atWork(m_session, m_display);
+        const RunClock clock;
         std::vector<std::string> records;
+        int done = 0;
         const auto forget = [&] {
+            done += static_cast<int>(records.size());
             forgotten = m_session.book->forget(std::exchange(records, {}));
+            m_display.showProgress(clock.progress(std::min(done, shown.PuzCount), shown.PuzCount));
             m_display.yield();
             return forgotten.ok();
         };
@@ -82,8 +88,11 @@ void PlayBookCommands::mnuforgetfile() {
         if (forgotten.ok() && forget())
             forgotten = std::move(read);
     }
-    m_keeping.tell(forgotten);
+    m_display.endProgress();
     showAgain();
+    if (forgotten.ok())
+        m_display.showMessage("What you played in this file is forgotten");
+    m_keeping.tell(forgotten);
 }
 
 /// The puzzle as it is when nothing was played.

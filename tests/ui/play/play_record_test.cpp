@@ -91,6 +91,7 @@ TEST_F(PlayRecord, AllPlayOfAFileIsForgottenAndOfNoOther) {
     EXPECT_TRUE(tells(u"2 of 40 solved"_s));
     game.prompts.answers = {answer::Yes};
     game.choose(u"mnuforgetfile"_s);
+    EXPECT_EQ(game.message(), u"What you played in this file is forgotten"_s);
     EXPECT_TRUE(tells(u"0 of 40 solved"_s) && mark().isEmpty());
     game.choose(u"oldfiles_0"_s);
     EXPECT_EQ(mark(), u"Solved"_s);
