@@ -1,6 +1,5 @@
 #include "ui/window/main_window.h"
 
-#include "core/files/file_access.h"
 #include "core/options/scheme_library.h"
 #include "core/play/cell_description.h"
 #include "core/session/configuration.h"
@@ -27,6 +26,7 @@
 #include "ui/window/status_line.h"
 #include "ui/window/tool_row.h"
 #include "ui/window/window_body.h"
+#include "ui/window/window_place.h"
 
 #include <QApplication>
 #include <QLineEdit>
@@ -41,28 +41,6 @@ namespace {
 using namespace Qt::StringLiterals;
 
 constexpr QSize FirstSize(860, 680);
-
-/// The largest content of "window.cfg" that is looked at, in bytes.
-constexpr std::size_t LargestPlace = 4096;
-
-// Where a window stood on the screen and how large it was, in the file "window.cfg" of the
-// program's folder. Nobody is told when it cannot be written or read: the window then opens where
-// the desktop puts it, in its own size, and never outside the screens that there are.
-
-void rememberWindowPlace(const QWidget& window, const std::filesystem::path& programFolder) {
-    const std::string content = window.saveGeometry().toBase64().toStdString() + "\r\n";
-    static_cast<void>(replaceFile(programFolder / WindowPlaceFile, content));
-}
-
-void restoreWindowPlace(QWidget& window, const std::filesystem::path& programFolder) {
-    std::string content;
-    if (!readSmallFile(programFolder / WindowPlaceFile, LargestPlace, content).ok())
-        return;
-    const auto place = QByteArray::fromBase64(QByteArray::fromStdString(content));
-    // Qt takes a place that was cut short for a window of no size.
-    if (place.size() == window.saveGeometry().size())
-        window.restoreGeometry(place);
-}
 
 /// Attempts something every now and then, as long as `goOn` says so, while the windows live.
 bool attemptInTurns(const std::function<bool()>& attempt, const std::function<bool()>& goOn) {
