@@ -86,7 +86,9 @@ void CreationCommands::create(Difficulty difficulty) {
 
 void CreationCommands::save() {
     const std::filesystem::path current = m_session.puzzle.PuzPath;
-    const std::filesystem::path path = current.empty() ? m_files.temporaryFile() : current;
+    const bool isForDays = current == m_session.ProgramFolder / DayPuzzleFile;
+    const std::filesystem::path path =
+        current.empty() || isForDays ? m_files.temporaryFile() : current;
     int number = 0;
     const Outcome saved = m_files.append(path, number);
     showWhereItStands(path, number, saved);

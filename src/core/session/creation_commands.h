@@ -16,7 +16,8 @@ public:
     /// Moves the difficulty label one step along Easy, Hard, Random.
     void DifLab();
     /// Makes one puzzle of the difficulty that the label shows, appends it to the current puzzle
-    /// file (to the temporary one when there is none), and shows it there.
+    /// file (to the temporary one when there is none, or it is that of the days), and shows it
+    /// there.
     void cmdcreate();
     /// Shows the puzzle of a day and of the difficulty that the label shows, the same for
     /// everybody. "today.txt" keeps those that were asked for.

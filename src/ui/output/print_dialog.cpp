@@ -133,7 +133,9 @@ void Form5::makeButtons(QVBoxLayout& rows) {
     auto* exit = named(u"Command2"_s, new BoxControl(u"Exit"_s, this));
     connect(print, &BoxControl::clicked, this, &Form5::acceptRange);
     connect(exit, &BoxControl::clicked, this, &QDialog::reject);
-    m_pageCount = named(u"pageCount"_s, new ElidedLabel(this));
+    m_pageCount = named(u"pageCount"_s, new QLabel(this));
+    m_pageCount->setTextFormat(Qt::PlainText);
+    m_pageCount->setWordWrap(true);
     QHBoxLayout* row = makeButtonRow({print, exit});
     row->insertWidget(0, m_pageCount, 1);
     rows.addLayout(row);
@@ -231,9 +233,12 @@ void Form5::showPages() {
         outcome = layOutBooklet(job->design, m_paper->paper(), job->puzzleCount(), pages);
         pageCount += pages.size();
     }
-    m_pageCount->setText(!outcome.ok()    ? QString::fromStdString(outcome.problem)
-                         : pageCount == 1 ? tr("1 page")
-                                          : tr("%1 pages").arg(pageCount));
+    // Without the folders, for which there is no room.
+    m_pageCount->setText(
+        !outcome.ok()
+            ? QString::fromStdString(outcome.problem).remove(pathText(m_path.parent_path()) + u'/')
+        : pageCount == 1 ? tr("1 page")
+                         : tr("%1 pages").arg(pageCount));
     m_pageCount->setToolTip(plainToolTip(m_pageCount->text()));
     if (outcome.ok())
         m_preview->showJob(std::move(jobs.front()), m_paper->paper(), std::move(pages));

@@ -82,6 +82,7 @@ TEST_F(CreationTest, ADayHasOnePuzzleOfEachDifficultyWhichIsKeptOnce) {
     }
     EXPECT_EQ(shown[0], shown[3]);
     EXPECT_EQ(std::set(shown.begin(), shown.end()).size(), 3u);
+    EXPECT_TRUE(created().starts_with("1/1 temporarypuzfile.txt: ")) << "the days stay as they are";
 }
 
 TEST_F(CreationTest, ManyAreAskedForThenAppendedAndAllDiffer) {
