@@ -358,11 +358,11 @@ void Form1::connectRules() {
         m_board->setFocus();
     });
     m_announcer->say(RulesStrip::inWords());
-    m_commands.keeping.tell(m_toldOfRules.remember());
 }
 
 void Form1::closeRules() {
     m_rules->hide();
+    m_commands.keeping.tell(m_toldOfRules.remember());
     m_board->setFocus();
 }
 
