@@ -226,7 +226,7 @@ void takePlayRecord(Pictures& pictures, const QString& scheme) {
     game.window->files().load(game.folder.puzzles("easy.txt"));
     Game& play = game.session.game;
     for (int puzzle = 1; puzzle <= 7; ++puzzle) {
-        play.seconds = 217 * puzzle;
+        play.seconds = std::int64_t{217} * puzzle;
         for (CellId cell : AllCells)
             if (play.isSelectable(cell))
                 play.place(cell, play.board.SolNum[cell]);

@@ -97,7 +97,7 @@ TEST_F(ConfigurationTest, EachValueFallsBackAlone) {
     };
     for (std::size_t i = 0; i < std::size(numbers); ++i)
         for (const std::string& wrong : std::get<2>(numbers[i]))
-            EXPECT_EQ(rewritten(lineWith(i, " " + wrong) + rest),
+            EXPECT_EQ(rewritten(lineWith(i, std::string(" ").append(wrong)) + rest),
                       lineWith(i, std::get<1>(numbers[i])) + rest)
                 << i << ": " << wrong;
     for (const std::string& none : {std::string(), std::string("\xEF\xBB\xBF\r\n\r\n  \n\n \t\n\n"),
