@@ -1,6 +1,7 @@
 #include "ui/controls/dialog_parts.h"
 
 #include "ui/controls/box_control.h"
+#include "ui/drawing/qt_values.h"
 
 #include <QCoreApplication>
 #include <QDialog>
@@ -56,6 +57,16 @@ void resizeOnScreen(QWidget& window, QSize wanted) {
     constexpr QSize RoomForFrame(16, 48); // which the desktop puts around it
     const QWidget* owner = window.parentWidget() != nullptr ? window.parentWidget() : &window;
     window.resize(wanted.boundedTo(owner->screen()->availableSize() - RoomForFrame));
+}
+
+void drawFrame(QWidget& widget) {
+    constexpr double LeastOutline = 3; // of WCAG 2, for the outline of a control
+    constexpr double FrameCorner = 4;
+    QPainter painter(&widget);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(standingOut(widget.palette().color(QPalette::Window), LeastOutline));
+    painter.drawRoundedRect(QRectF(widget.rect()).adjusted(0.5, 0.5, -0.5, -0.5), FrameCorner,
+                            FrameCorner);
 }
 
 QString plainToolTip(const QString& text) {

@@ -46,6 +46,9 @@ QHBoxLayout* makeButtonRow(std::initializer_list<BoxControl*> buttons);
 /// has room for it.
 void resizeOnScreen(QWidget& window, QSize wanted);
 
+/// Draws a rounded frame along the edge of a widget, which is seen on every ground.
+void drawFrame(QWidget& widget);
+
 /// A tooltip that shows a text from outside as it is, whatever markup it holds.
 QString plainToolTip(const QString& text);
 

@@ -23,8 +23,6 @@ constexpr int StripInset = 8;
 constexpr double DrawingHeight = 64;
 constexpr int StripButtonHeight = 44;
 constexpr float TintStrength = 0.3F;
-constexpr double StripCorner = 6;
-constexpr double OutlineContrast = 3;
 
 QString firstRule() {
     return RulesStrip::tr("Each hexagon holds each of the numbers 1 to 6 once.");
@@ -120,11 +118,7 @@ QString RulesStrip::inWords() {
 }
 
 void RulesStrip::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(standingOut(palette().color(QPalette::Window), OutlineContrast));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), StripCorner,
-                            StripCorner);
+    drawFrame(*this);
 }
 
 } // namespace tessaly

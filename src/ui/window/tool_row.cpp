@@ -10,7 +10,6 @@
 #include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPainter>
 #include <QToolTip>
 
 #include <algorithm>
@@ -38,14 +37,8 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override {
-        constexpr double LeastContrast = 3; // of WCAG 2, for the outline of a control
-        constexpr double FrameCorner = 4;
         QLineEdit::paintEvent(event);
-        QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(standingOut(palette().color(QPalette::Window), LeastContrast));
-        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), FrameCorner,
-                                FrameCorner);
+        drawFrame(*this);
     }
 };
 
